@@ -1,0 +1,20 @@
+#ifndef LIBRARY_HELPERS_FILEHELPER_H
+#define LIBRARY_HELPERS_FILEHELPER_H
+
+class QString;
+
+namespace Quillmont::Library::Helpers {
+
+/// Writes whole text files.
+class FileHelper
+{
+public:
+    /// Makes @p text the whole content of the file at @p path, in the encoding named @p encoding
+    /// (empty: UTF-8), making missing folders. All or nothing: on failure, an unknown encoding
+    /// included, the answer is false and the file is as it was.
+    static bool saveText(const QString &path, const QString &text, const QString &encoding);
+};
+
+} // namespace Quillmont::Library::Helpers
+
+#endif

@@ -1,0 +1,41 @@
+# How every target of this project is compiled. Nothing here reaches a project that links to them.
+add_library(orbwell-options INTERFACE)
+target_compile_features(orbwell-options INTERFACE cxx_std_17)
+target_compile_options(orbwell-options INTERFACE
+  -Wall -Wextra -Wpedantic
+  $<$<BOOL:${ORBWELL_WARNINGS_AS_ERRORS}>:-Werror>
+  # Qt's logging macros end in an empty variadic argument.
+  $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments>)
+target_compile_definitions(orbwell-options INTERFACE
+  QT_NO_CAST_FROM_ASCII
+  QT_NO_CAST_TO_ASCII
+  QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_URL_CAST_FROM_STRING
+  QT_NO_FOREACH
+  QT_NO_JAVA_STYLE_ITERATORS
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+  QT_STRICT_ITERATORS
+  QT_DISABLE_DEPRECATED_BEFORE=0x050f00)
+
+if(ORBWELL_SANITIZE)
+  set(sanitize -fsanitize=${ORBWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(orbwell-options INTERFACE ${sanitize})
+  target_link_options(orbwell-options INTERFACE ${sanitize})
+endif()
+
+if(ORBWELL_COVERAGE)
+  target_compile_options(orbwell-options INTERFACE --coverage)
+  target_link_options(orbwell-options INTERFACE --coverage)
+endif()
+
+if(ORBWELL_FUZZ)
+  target_compile_options(orbwell-options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# orbwell_add_library(NAME SOURCE...): a static library of this project, included from the root.
+function(orbwell_add_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:orbwell-options>)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+endfunction()

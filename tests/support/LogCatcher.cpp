@@ -1,0 +1,37 @@
+#include "tests/support/LogCatcher.h"
+
+#include <algorithm>
+
+namespace Tests {
+
+LogCatcher *LogCatcher::s_current = nullptr;
+
+LogCatcher::LogCatcher()
+{
+    Q_ASSERT(!s_current);
+    s_current = this;
+    m_before = qInstallMessageHandler(handle);
+}
+
+LogCatcher::~LogCatcher()
+{
+    qInstallMessageHandler(m_before);
+    s_current = nullptr;
+}
+
+bool LogCatcher::hasDebugLineWith(const QString &text) const
+{
+    return std::any_of(m_debugLines.cbegin(), m_debugLines.cend(), [&text](const QString &line) {
+        return line.contains(text);
+    });
+}
+
+void LogCatcher::handle(QtMsgType type, const QMessageLogContext &, const QString &line)
+{
+    if (type == QtDebugMsg)
+        s_current->m_debugLines.append(line);
+    else
+        s_current->m_warnings.append(line);
+}
+
+} // namespace Tests
