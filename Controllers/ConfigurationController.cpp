@@ -1,0 +1,64 @@
+#include "Controllers/ConfigurationController.h"
+
+#include "Controllers/UserDataRoot.h"
+
+#include <QMutex>
+#include <QSettings>
+
+namespace Quillmont::Utility::Controllers {
+
+ConfigurationController *ConfigurationController::m_instance = nullptr;
+
+ConfigurationController::ConfigurationController(QObject *parent)
+    : QObject(parent)
+    , settingsFilePath(userDataRoot() + QLatin1String("Quillmont/Vellum/.settings"))
+    , m_reserved(nullptr)
+{ }
+
+ConfigurationController *ConfigurationController::instance()
+{
+    static QMutex mutex;
+    if (!m_instance) {
+        const QMutexLocker lock(&mutex);
+        if (!m_instance)
+            m_instance = new ConfigurationController;
+    }
+    return m_instance;
+}
+
+QVariant ConfigurationController::getSettings(const QString &key) const
+{
+    return QSettings(settingsFilePath, QSettings::IniFormat).value(key);
+}
+
+QVariant ConfigurationController::getSettings(const QString &key,
+                                              const QVariant &defaultValue) const
+{
+    const QVariant value = getSettings(key);
+    return value.isNull() ? defaultValue : value;
+}
+
+void ConfigurationController::saveSettings(const QString &key, const QVariant &value) const
+{
+    QSettings(settingsFilePath, QSettings::IniFormat).setValue(key, value);
+}
+
+void ConfigurationController::removeSettings(const QString &key) const
+{
+    QSettings(settingsFilePath, QSettings::IniFormat).remove(key);
+}
+
+QString ConfigurationController::appDataPath()
+{
+    const QString path = userDataRoot() + QLatin1String("/Quillmont/Vellum/");
+    return QString(path).replace(QLatin1String("//"), QLatin1String("/"));
+}
+
+bool ConfigurationController::startWithWindows()
+{
+    return false;
+}
+
+void ConfigurationController::setStartWithWindows(bool) { }
+
+} // namespace Quillmont::Utility::Controllers

@@ -1,0 +1,66 @@
+#include "ViewControllers/ScanController.h"
+
+#include "Controllers/ConfigurationController.h"
+#include "Library/Helpers/FileHelper.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/ResultBox.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+// The maker's other programs look here for this one. They know it by one name on every system.
+void writeLauncherPath()
+{
+    const QString folder = ConfigurationController::appDataPath().replace(QLatin1String("Vellum"),
+                                                                          QLatin1String("Orbwell"));
+    const QString path = QDir::toNativeSeparators(QStringLiteral("%0.path").arg(folder));
+    const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
+                                                     + QLatin1String("/QuillmontOrbwell.exe"));
+    FileHelper::saveText(
+        path, QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\")), QString());
+}
+
+} // namespace
+
+void ScanController::autoInstall(QList<FlightSimulatorMapping *> mappings,
+                                 bool silent,
+                                 InstallationMode mode)
+{
+    QString installedNames;
+    for (auto *mapping : qAsConst(mappings)) {
+        if (!mapping->path.isEmpty() && !mapping->isAddonInstalled()) {
+            uninstall(mapping, true, false);
+            install(mapping, true, mode == ModeScanAndInstall);
+            installedNames += u' ' + mapping->scan->name;
+            saveInstallationInfo(mapping, false);
+        } else if (mapping->isAddonInstalled()) {
+            saveInstallationInfo(mapping, false);
+        }
+    }
+    if (!silent)
+        showInstalledNames(installedNames, !mappings.isEmpty());
+    writeLauncherPath();
+}
+
+void ScanController::showInstalledNames(const QString &names, bool anySimulator)
+{
+    QString text;
+    if (!names.isEmpty())
+        text = tr("Quillmont Orbwell have successfully installed Orbwell plugin to %0.").arg(names);
+    else if (anySimulator)
+        text = tr("Orbwell plugin is installed in all simulators.").arg(QString());
+    else
+        text = tr("There are no other simulator found for install Orbwell plugin.").arg(QString());
+    showInformation(tr("Quillmont Orbwell Settings"), text);
+}
+
+} // namespace Quillmont::Utility::ViewControllers

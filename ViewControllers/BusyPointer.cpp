@@ -1,0 +1,31 @@
+#include "ViewControllers/BusyPointer.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace Quillmont::Utility::ViewControllers {
+
+BusyPointer::BusyPointer()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+BusyPointer::~BusyPointer()
+{
+    QGuiApplication::restoreOverrideCursor();
+}
+
+BusyPointerPause::BusyPointerPause()
+    : m_depth(0)
+{
+    for (; QGuiApplication::overrideCursor(); ++m_depth)
+        QGuiApplication::restoreOverrideCursor();
+}
+
+BusyPointerPause::~BusyPointerPause()
+{
+    for (; m_depth > 0; --m_depth)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+} // namespace Quillmont::Utility::ViewControllers

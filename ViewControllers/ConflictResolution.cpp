@@ -1,0 +1,57 @@
+#include "ViewControllers/ScanController.h"
+
+#include "Library/Models/XmlInsertionModel.h"
+#include "Models/FlightSimConflict.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+using Group = QMap<QString, FlightSimulatorMapping *>; // by the folder that was found
+using Groups = QMap<QString, Group>; // by the conflict's name
+
+// Where two entries found one folder, the conflict of the one that comes second decides who
+// gives it up. The first keeps its place in the group even when it is the one that does.
+Groups groupByFolder(const QList<FlightSimulatorMapping *> &mappings)
+{
+    Groups groups;
+    for (auto *mapping : mappings) {
+        const auto *conflict = mapping->scan->conflict;
+        if (!conflict)
+            continue;
+        Group &group = groups[conflict->name];
+        auto *earlier = group.value(mapping->path);
+        if (!earlier)
+            group.insert(mapping->path, mapping);
+        else
+            (conflict->removeOnConflict ? mapping : earlier)->path.clear();
+    }
+    return groups;
+}
+
+void applySolution(const FlightSimulatorMapping *mapping)
+{
+    const auto *conflict = mapping->scan->conflict;
+    auto *config = mapping->scan->config;
+    if (config && !conflict->solution.isEmpty())
+        config->path = conflict->solution;
+}
+
+} // namespace
+
+void ScanController::sloveConflict(QList<FlightSimulatorMapping *> mappings)
+{
+    const Groups groups = groupByFolder(mappings);
+    for (const Group &group : groups) {
+        if (group.size() < 2)
+            continue;
+        for (const auto *mapping : group)
+            applySolution(mapping);
+    }
+}
+
+} // namespace Quillmont::Utility::ViewControllers

@@ -1,0 +1,124 @@
+#include "ViewControllers/ScanController.h"
+
+#include "Library/Helpers/FileHelper.h"
+#include "Library/Helpers/XmlHelper.h"
+#include "Library/Models/XmlInsertionModel.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/ResultBox.h"
+#include "ViewControllers/SimulatorFiles.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Library::Helpers::XmlHelper;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+// What a simulator without a configuration file gets: one that already loads the plugin.
+QString launchDocument()
+{
+    return QStringLiteral("<?xml version='1.0' encoding='Windows-1252'?>\r\n"
+                          "<SimBase.Document version=\"1.0\" Type=\"Launch\">\r\n"
+                          "    <Descr>Launch</Descr>\r\n"
+                          "    <Filename>dll.xml</Filename>\r\n"
+                          "    <Disabled>False</Disabled>\r\n"
+                          "    <Launch.ManualLoad>False</Launch.ManualLoad>\r\n"
+                          "    <Launch.Addon>\r\n"
+                          "        <Name>Quillmont Orbwell</Name>\r\n"
+                          "        <Disabled>False</Disabled>\r\n"
+                          "        <Path>GaugesQuillmontOrbwell_64.dll</Path>\r\n"
+                          "    </Launch.Addon>\r\n"
+                          "</SimBase.Document>\r\n");
+}
+
+} // namespace
+
+bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool rescan)
+{
+    if (mapping->path.isEmpty())
+        return false;
+
+    const BusyPointer busy;
+    m_errorMessage.clear();
+    const QString payload = QCoreApplication::applicationDirPath() + QLatin1String("/plugins/");
+    const auto &files = mapping->scan->files;
+    for (auto it = files.cbegin(); it != files.cend(); ++it) {
+        copyPluginFile(QDir::toNativeSeparators(payload + it.value()),
+                       pluginFile(mapping, it.key()),
+                       simulatorFolder(mapping));
+        if (mapping->scan->type == 0)
+            installToFlightSim(mapping);
+    }
+    saveInstallationInfo(mapping, false);
+    if (rescan)
+        startScan(true, false, ModeNone);
+
+    const bool succeeded = m_errorMessage.isEmpty();
+    if (!silent)
+        showInstallationResult(mapping->scan->name);
+    return succeeded;
+}
+
+void ScanController::copyPluginFile(const QString &source,
+                                    const QString &target,
+                                    const QString &folder)
+{
+    const QDir targetFolder = QFileInfo(target).dir();
+    if (!targetFolder.exists())
+        targetFolder.mkpath(targetFolder.absolutePath());
+    if (QFile::exists(target))
+        QFile::remove(target);
+    if (!QFile::copy(source, target)) {
+        m_errorMessage += tr("Unable to copy '%0' to '%1'. Please check if you have permission to "
+                             "folder '%2'.\r\n")
+                              .arg(source, target, folder);
+    }
+}
+
+void ScanController::showInstallationResult(const QString &simulatorName)
+{
+    if (m_errorMessage.isEmpty()) {
+        showInformation(tr("Installation complete"),
+                        tr("Quillmont Orbwell have successfully installed Orbwell plugin to %0.")
+                            .arg(simulatorName));
+        return;
+    }
+    showInformation(tr("Installation"),
+                    tr("Quillmont Orbwell was not able to install your Orbwell plugin to "
+                       "%0.\r\n\r\nPlease see the list below for details:\r\n\r\n%1")
+                        .arg(simulatorName, m_errorMessage));
+    m_errorMessage.clear();
+}
+
+void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
+{
+    if (mapping->scan->root >= 1)
+        return;
+    if (!mapping->scan->config) {
+        qDebug().noquote() << "no configuration entry to add for" << mapping->scan->name;
+        return;
+    }
+    qDebug("hit reg search...");
+
+    const QString file = QDir::toNativeSeparators(configurationFile(mapping));
+    if (QFile::exists(file))
+        backUp(file, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
+    else
+        FileHelper::saveText(file, launchDocument(), QStringLiteral("Windows-1252"));
+
+    auto *helper = new XmlHelper(this, file);
+    helper->insertValues(mapping->scan->config);
+}
+
+void ScanController::installToXPlane(FlightSimulatorMapping *) { }
+
+} // namespace Quillmont::Utility::ViewControllers

@@ -1,0 +1,106 @@
+#include "ViewControllers/ScanController.h"
+
+#include "Controllers/UserDataRoot.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using Quillmont::Utility::Controllers::userDataRoot;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+QString recordPath()
+{
+    return userDataRoot() + QLatin1String("/Quillmont/Orbwell/.mapping");
+}
+
+bool allExist(const QJsonArray &files)
+{
+    return std::all_of(files.begin(), files.end(), [](const QJsonValue &file) {
+        return QFile::exists(file.toString());
+    });
+}
+
+QJsonObject recordOf(const FlightSimulatorMapping *mapping)
+{
+    QJsonArray files;
+    const auto &installed = mapping->scan->files;
+    for (auto it = installed.keyBegin(); it != installed.keyEnd(); ++it)
+        files.append(QDir::toNativeSeparators(mapping->path + u'/' + *it));
+    return {{QStringLiteral("name"), mapping->scan->name},
+            {QStringLiteral("path"), mapping->path},
+            {QStringLiteral("files"), files}};
+}
+
+// Of several records with one name only the last goes.
+void removeLastRecord(QJsonArray &records, const QString &name)
+{
+    for (int i = records.size() - 1; i >= 0; --i) {
+        if (records.at(i).toObject().value(QLatin1String("name")) == QJsonValue(name)) {
+            records.removeAt(i);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+void ScanController::createMappingFile()
+{
+    const QString path = recordPath();
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (!folder.exists())
+        folder.mkpath(folder.absolutePath());
+
+    QFile file(path);
+    if (!file.exists())
+        file.open(QIODevice::WriteOnly);
+}
+
+void ScanController::getUserSimulatorMapping()
+{
+    // The doubled slash has always been in the reading path; the file is the same.
+    const QString text = readFile(userDataRoot() + QLatin1String("/Quillmont/Orbwell/")
+                                  + QLatin1String("/.mapping"));
+    const QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
+    for (const QJsonValue &element : records) {
+        const QJsonObject record = element.toObject();
+        if (!allExist(record.value(QLatin1String("files")).toArray()))
+            continue;
+        const QString name = record.value(QLatin1String("name")).toString();
+        const auto it = std::find_if(mappings.cbegin(), mappings.cend(), [&name](auto *mapping) {
+            return mapping->scan->name == name;
+        });
+        if (it == mappings.cend())
+            continue;
+        (*it)->path = record.value(QLatin1String("path")).toString();
+        (*it)->note = (*it)->path;
+    }
+}
+
+void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool uninstalled)
+{
+    const QString path = recordPath();
+    qDebug().noquote().nospace() << "mapping path: " << path;
+
+    const QString text = readFile(path);
+    QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
+    removeLastRecord(records, mapping->scan->name);
+    if (!uninstalled)
+        records.append(recordOf(mapping));
+    saveFile(path, QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented)));
+}
+
+} // namespace Quillmont::Utility::ViewControllers

@@ -1,0 +1,80 @@
+#include "ViewControllers/ScanController.h"
+
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "SimDetect/SimDetect.h"
+#include "ViewControllers/BusyPointer.h"
+#include "Views/ScannerView.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMultiMap>
+#include <QTextStream>
+
+using Quillmont::Utility::Models::FlightSimScan;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+QString ScanController::getJsonContent()
+{
+    QFile file(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
+                                        + QLatin1String("/flightsims.json")));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QTextStream(&file).readAll();
+}
+
+void ScanController::startScan(bool updateDefault, bool silent, InstallationMode mode)
+{
+    const BusyPointer busy;
+
+    const QString content = getJsonContent();
+    if (content.isEmpty())
+        return;
+    simPaths = SimDetect::GetAllSimPaths();
+
+    QList<FlightSimulatorMapping *> result;
+    const auto entries = catalogueEntries(content);
+    for (auto *entry : entries)
+        result.append(mappingFor(entry));
+    sloveConflict(result);
+
+    if (mode == ModeScanAndInstall || silent) {
+        mappings = result;
+        // The one command line run that reports what it installed is not silent here.
+        autoInstall(result, mode == ModeInstall ? false : silent, mode);
+    } else {
+        view->setScanResult(result, updateDefault, true);
+    }
+}
+
+// Simulators that are known to be here come first, each group in reverse catalogue order: a map
+// with several values a key hands the newest out first.
+QList<FlightSimScan *> ScanController::catalogueEntries(const QString &content)
+{
+    enum Group {
+        Detected,
+        Others
+    };
+
+    QMultiMap<int, FlightSimScan *> entries;
+    const QJsonArray catalogue = QJsonDocument::fromJson(content.toLocal8Bit()).array();
+    for (const QJsonValue &element : catalogue) {
+        auto *entry = new FlightSimScan(this, element.toObject());
+        entries.insert(simPaths.contains(entry->simcode) ? Detected : Others, entry);
+    }
+    return entries.values();
+}
+
+FlightSimulatorMapping *ScanController::mappingFor(FlightSimScan *entry)
+{
+    if (auto *found = scan(entry))
+        return found;
+    return new FlightSimulatorMapping(entry, simPaths.value(entry->simcode));
+}
+
+} // namespace Quillmont::Utility::ViewControllers

@@ -1,0 +1,47 @@
+#include "ViewControllers/SimulatorFiles.h"
+
+#include "Controllers/UserDataRoot.h"
+#include "Library/Models/XmlInsertionModel.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+
+using Quillmont::Utility::Controllers::userDataRoot;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+QString simulatorFolder(const FlightSimulatorMapping *mapping)
+{
+    const QString &path = mapping->path;
+    const bool ended = path.endsWith(u'\\') || path.endsWith(u'/');
+    return ended ? path : path + u'/';
+}
+
+QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destination)
+{
+    return QDir::toNativeSeparators(simulatorFolder(mapping)
+                                    + QString(destination).replace(u'\\', u'/'));
+}
+
+QString configurationFile(const FlightSimulatorMapping *mapping)
+{
+    return userDataRoot() + mapping->scan->config->path;
+}
+
+void backUp(const QString &file, const QString &suffix)
+{
+    if (!QFile::exists(file))
+        return;
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
+    const bool copied = QFile::copy(file, backup);
+    qDebug().noquote().nospace() << "file backups to '" << backup
+                                 << "'. Result: " << (copied ? "succeed" : "error");
+}
+
+} // namespace Quillmont::Utility::ViewControllers

@@ -1,0 +1,27 @@
+#ifndef VIEWCONTROLLERS_SIMULATORFILES_H
+#define VIEWCONTROLLERS_SIMULATORFILES_H
+
+#include <QString>
+
+namespace Quillmont::Utility::Models {
+class FlightSimulatorMapping;
+} // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::ViewControllers {
+
+/// The simulator's folder with a separator at its end.
+QString simulatorFolder(const Models::FlightSimulatorMapping *mapping);
+
+/// The native path of the plugin file that belongs at @p destination in the simulator.
+QString pluginFile(const Models::FlightSimulatorMapping *mapping, const QString &destination);
+
+/// The simulator's configuration file, "/"-separated; the entry must have a configuration.
+QString configurationFile(const Models::FlightSimulatorMapping *mapping);
+
+/// Copies @p file, if it exists, to a name beside it made of its own, @p suffix and the local
+/// time for "%0". The debug log says how it went; a failed backup stops nothing.
+void backUp(const QString &file, const QString &suffix);
+
+} // namespace Quillmont::Utility::ViewControllers
+
+#endif

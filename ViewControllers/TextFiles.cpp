@@ -1,0 +1,43 @@
+#include "ViewControllers/ScanController.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
+
+namespace Quillmont::Utility::ViewControllers {
+
+QString ScanController::readFile(const QString &path)
+{
+    const QString native = QDir::toNativeSeparators(path);
+    QFile file(native);
+    if (file.open(QIODevice::ReadOnly))
+        return QTextStream(&file).readAll();
+
+    // Says "empty" of a file that could not be opened: what support has been told to look for.
+    m_errorMessage += tr("The file '%0' is empty. Quillmont Orbwell installer was not able to "
+                         "change your configuration.")
+                          .arg(native);
+    return {};
+}
+
+void ScanController::saveFile(const QString &path, const QString &content)
+{
+    const QString native = QDir::toNativeSeparators(path);
+    const QDir folder = QFileInfo(native).absoluteDir();
+    if (!folder.exists())
+        folder.mkpath(folder.absolutePath());
+
+    QFile file(native);
+    if (file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
+        QTextStream(&file) << content;
+        return;
+    }
+    m_errorMessage += tr("Unable to write configuration to file '%0'. Please check if you have "
+                         "permission to that file.")
+                          .arg(native);
+}
+
+void ScanController::createRestrictedProcess(const QString &) { }
+
+} // namespace Quillmont::Utility::ViewControllers

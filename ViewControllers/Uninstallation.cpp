@@ -1,0 +1,115 @@
+#include "ViewControllers/ScanController.h"
+
+#include "Controllers/UserDataRoot.h"
+#include "Library/Helpers/XmlHelper.h"
+#include "Library/Models/XmlInsertionModel.h"
+#include "Models/FileOperation.h"
+#include "Models/FlightSimRemoval.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/ResultBox.h"
+#include "ViewControllers/SimulatorFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using Quillmont::Library::Helpers::XmlHelper;
+using Quillmont::Utility::Controllers::userDataRoot;
+using Quillmont::Utility::Models::FileOperation;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+// Only what the user can see counts: a folder that holds nothing but hidden files is left over
+// from us and goes with them.
+void removeIfEmpty(QDir folder)
+{
+    if (folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Unsorted).isEmpty())
+        folder.removeRecursively();
+}
+
+QString extraFile(const FlightSimulatorMapping *mapping, const FileOperation *operation)
+{
+    if (operation->root == QLatin1String("-1")) {
+        const QString &base = mapping->note.isNull() ? mapping->path : mapping->note;
+        // Joined by a backslash on every system, as the catalogues' authors expect it.
+        return QDir::toNativeSeparators(base + QDir::toNativeSeparators(u'\\' + operation->path));
+    }
+    const auto location = static_cast<QStandardPaths::StandardLocation>(operation->root.toInt());
+    return QDir::toNativeSeparators(userDataRoot(location) + operation->path);
+}
+
+} // namespace
+
+bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, bool rescan)
+{
+    if (mapping->path.isEmpty())
+        return false;
+
+    // Unlike install, this starts from the lines that are there: errors of a silent installation
+    // just before are shown here.
+    const BusyPointer busy;
+    const auto &files = mapping->scan->files;
+    for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
+        removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
+        if (mapping->scan->type == 0)
+            uninstallFromFlightSim(mapping);
+    }
+    saveInstallationInfo(mapping, true);
+    if (rescan)
+        startScan(true, silent, ModeNone);
+
+    if (!m_errorMessage.isEmpty()) {
+        showRemovalFailure(mapping->scan->name);
+        return false;
+    }
+    if (!silent) {
+        showInformation(tr("Uninstall"),
+                        tr("Quillmont Orbwell for %0 has been uninstalled successfully.")
+                            .arg(mapping->scan->name));
+    }
+    return true;
+}
+
+void ScanController::removePluginFile(const QString &target, const QString &simulatorName)
+{
+    if (QFile::exists(target) && !QFile::remove(target)) {
+        m_errorMessage += tr("Unable to remove file '%0' from %1. Please remove the file "
+                             "manually.\r\n")
+                              .arg(target, simulatorName);
+    }
+    removeIfEmpty(QFileInfo(target).dir());
+}
+
+void ScanController::showRemovalFailure(const QString &simulatorName)
+{
+    showInformation(tr("Uninstall"),
+                    tr("Quillmont Orbwell was not able to uninstall your Orbwell plugin from "
+                       "%0.\r\n\r\nPlease see the list below for details:\r\n\r\n%1")
+                        .arg(simulatorName, m_errorMessage));
+    m_errorMessage.clear();
+}
+
+void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
+{
+    if (!mapping->scan->config)
+        return;
+
+    const QString file = configurationFile(mapping);
+    backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
+    auto *helper = new XmlHelper(this, file);
+    helper->removeConfig(mapping->scan->config);
+
+    if (const auto *removal = mapping->scan->remove) {
+        for (const auto *operation : removal->files)
+            QFile::remove(extraFile(mapping, operation));
+    }
+}
+
+void ScanController::uninstallFromXPlane(FlightSimulatorMapping *) { }
+
+} // namespace Quillmont::Utility::ViewControllers

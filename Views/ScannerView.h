@@ -1,0 +1,46 @@
+#ifndef VIEWS_SCANNERVIEW_H
+#define VIEWS_SCANNERVIEW_H
+
+#include "Models/FlightSimulatorMapping.h"
+
+#include <QList>
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+namespace Quillmont::Utility::Views {
+
+/// The program's window: what it does in a sentence, a row for each simulator, two buttons.
+class ScannerView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ScannerView(QWidget *parent);
+
+    /// Replaces the rows by one for each of @p mappings, which stay their owner's. With
+    /// @p updateDefault folders that the user picked earlier come back into the mappings. With
+    /// neither flag a box says how many simulators have a folder.
+    void
+    setScanResult(QList<Models::FlightSimulatorMapping *> mappings, bool updateDefault, bool quiet);
+
+signals:
+    void scanRequested();
+    void install(Quillmont::Utility::Models::FlightSimulatorMapping *mappingToInstall);
+    void uninstall(Quillmont::Utility::Models::FlightSimulatorMapping *);
+
+private:
+    void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);
+    void showCount(int count);
+
+    QLabel *m_introduction;
+    QListWidget *m_list;
+    QPushButton *m_close;
+    QPushButton *m_scanAndInstall;
+};
+
+} // namespace Quillmont::Utility::Views
+
+#endif

@@ -1,0 +1,162 @@
+#include "Widgets/AddonListItem.h"
+
+#include "Controllers/ConfigurationController.h"
+#include "Models/FlightSimScan.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QToolButton>
+
+using Quillmont::Utility::Controllers::ConfigurationController;
+
+// The icons lie in a static library: nothing would register them by itself.
+static void registerArtwork()
+{
+    Q_INIT_RESOURCE(quillmontorbwellsetup);
+}
+Q_COREAPP_STARTUP_FUNCTION(registerArtwork)
+
+namespace Quillmont::Utility::Widgets {
+
+AddonListItem::AddonListItem(QWidget *parent,
+                             Models::FlightSimulatorMapping *mapping,
+                             bool updateDefault)
+    : QWidget(parent)
+    , m_mapping(mapping)
+    , m_icon(new QLabel(this))
+    , m_name(new QLabel(QStringLiteral("<b>%0</b>").arg(mapping->scan->name), this))
+    , m_path(new QLineEdit(this))
+    , m_browse(new QToolButton(this))
+    , m_action(new QToolButton(this))
+{
+    m_icon->setFixedSize(48, 48);
+    // A name longer than the row must not push the buttons out of it.
+    m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_name->setToolTip(m_name->text());
+
+    m_path->setPlaceholderText(tr("Path not set"));
+    m_path->setMinimumHeight(24);
+    m_path->setReadOnly(true);
+    applyMappedPath(updateDefault);
+
+    m_browse->setMinimumSize(24, 24);
+    m_browse->setText(tr("..."));
+    m_action->setMinimumSize(128, 24);
+
+    arrange();
+
+    connect(m_browse, &QToolButton::clicked, this, &AddonListItem::browsePath);
+    connect(
+        m_action,
+        &QToolButton::clicked,
+        m_action,
+        [this] { requestAction(); },
+        Qt::DirectConnection);
+    updateStatus();
+}
+
+void AddonListItem::arrange()
+{
+    auto *outer = new QHBoxLayout(this);
+    outer->addWidget(m_icon, 0);
+
+    auto *column = new QVBoxLayout;
+    outer->addLayout(column, 0);
+    column->addWidget(m_name, 0);
+
+    auto *pathLine = new QHBoxLayout;
+    column->addLayout(pathLine, 0);
+    pathLine->addWidget(m_path, 0);
+    pathLine->addWidget(m_browse, 2);
+    pathLine->addWidget(m_action, 2);
+}
+
+void AddonListItem::applyMappedPath(bool updateDefault)
+{
+    const QString mapped = getMappedPath();
+    if (!mapped.isEmpty()) {
+        if (updateDefault)
+            m_mapping->updateFlightSimPath(mapped);
+        else
+            removeSettings();
+    }
+    showPath(m_mapping->path);
+}
+
+void AddonListItem::requestAction()
+{
+    if (m_mapping->isAddonInstalled())
+        emit uninstall(m_mapping);
+    else
+        emit install(m_mapping);
+}
+
+void AddonListItem::browsePath()
+{
+    const QString chosen = QFileDialog::getExistingDirectory(
+        this,
+        tr("Open Directory"),
+        m_mapping->path,
+        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    if (chosen.isEmpty())
+        return;
+
+    if (QDir(chosen).exists()) {
+        m_mapping->updateFlightSimPath(QDir::toNativeSeparators(chosen));
+        showPath(m_mapping->path);
+    } else {
+        QMessageBox::critical(
+            nullptr, tr("Invalid path"), tr("This path is invalid"), QMessageBox::Ok);
+    }
+    // Also after a folder that was not taken: the row then keeps the one it had.
+    updateStatus();
+    savePath();
+}
+
+void AddonListItem::showPath(const QString &path)
+{
+    m_path->setText(path);
+    m_path->setCursorPosition(0);
+    m_path->setToolTip(path);
+}
+
+void AddonListItem::updateStatus()
+{
+    const bool installed = m_mapping->isAddonInstalled();
+    const bool exists = QFileInfo::exists(m_mapping->path);
+
+    const QString icon = !exists ? QStringLiteral("icon-minus-grey-44.png")
+        : installed              ? QStringLiteral("icon-check-green-44.png")
+                                 : QStringLiteral("icon-check-grey-44.png");
+    m_icon->setPixmap(QPixmap(QLatin1String(":/assets/Quillmont Orbwell/") + icon));
+    m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
+    m_action->setEnabled(exists);
+}
+
+QString AddonListItem::settingsKey() const
+{
+    return QLatin1String("flightsim/") + QString(m_mapping->scan->name).replace(u' ', u'_');
+}
+
+QString AddonListItem::getMappedPath()
+{
+    return ConfigurationController::instance()->getSettings(settingsKey(), QString()).toString();
+}
+
+void AddonListItem::savePath()
+{
+    ConfigurationController::instance()->saveSettings(settingsKey(), m_mapping->path);
+}
+
+void AddonListItem::removeSettings()
+{
+    ConfigurationController::instance()->removeSettings(settingsKey());
+}
+
+} // namespace Quillmont::Utility::Widgets

@@ -1,0 +1,57 @@
+#ifndef WIDGETS_ADDONLISTITEM_H
+#define WIDGETS_ADDONLISTITEM_H
+
+#include "Models/FlightSimulatorMapping.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QToolButton;
+
+namespace Quillmont::Utility::Widgets {
+
+/// One row of the simulator list: the state of the plugin in a simulator, the simulator's name
+/// and folder, and the button that installs or uninstalls. The row only asks for that work; the
+/// one thing it does itself is to keep a folder that the user picks.
+class AddonListItem : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// A row for @p mapping, which stays its owner's. With @p updateDefault a folder that the
+    /// user picked earlier replaces the mapping's; without, that choice is forgotten.
+    AddonListItem(QWidget *parent, Models::FlightSimulatorMapping *mapping, bool updateDefault);
+
+signals:
+    void install(Quillmont::Utility::Models::FlightSimulatorMapping *mapping);
+    void uninstall(Quillmont::Utility::Models::FlightSimulatorMapping *mapping);
+
+public slots:
+    /// Lets the user pick the simulator's folder, and keeps it for later runs.
+    void browsePath();
+
+private:
+    QString getMappedPath();
+    void savePath();
+    void removeSettings();
+    void updateStatus();
+
+    QString settingsKey() const;
+    void arrange();
+    void applyMappedPath(bool updateDefault);
+    void showPath(const QString &path);
+    void requestAction();
+
+    Models::FlightSimulatorMapping *m_mapping;
+    QLabel *m_icon;
+    QLabel *m_name;
+    QLineEdit *m_path;
+    QToolButton *m_browse;
+    QToolButton *m_action;
+};
+
+} // namespace Quillmont::Utility::Widgets
+
+#endif
