@@ -24,9 +24,10 @@ start_display() {
 stop_display() {
     local process
     for process in "${program:-}" "${display_server:-}"; do
-        [[ -n $process ]] && kill "$process" 2>/dev/null && wait "$process" 2>/dev/null
+        [[ -n $process ]] || continue
+        kill "$process" 2>/dev/null || true
+        wait "$process" 2>/dev/null || true
     done
-    true
 }
 
 # wait_until COMMAND...: until it succeeds, at most 20 seconds.
