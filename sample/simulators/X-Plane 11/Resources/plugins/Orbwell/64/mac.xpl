@@ -1,0 +1,3 @@
+This is a stand-in, not the Orbwell plugin. The maker's build puts the real
+X-Plane plugin for macOS
+here before the program is shipped. The simulator cannot load this file.

@@ -1,0 +1,1 @@
+This is a stand-in for another add-on's plugin.

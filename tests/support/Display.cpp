@@ -1,0 +1,54 @@
+#include "tests/support/Display.h"
+
+#include <QProcessEnvironment>
+#include <QStandardPaths>
+
+namespace Tests {
+
+Display::Display()
+{
+    const QString server = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
+    if (server.isEmpty()
+        || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
+        return;
+    // The server takes a free number by itself and says which as soon as it listens.
+    m_server.start(server,
+                   {QStringLiteral("-displayfd"),
+                    QStringLiteral("1"),
+                    QStringLiteral("-screen"),
+                    QStringLiteral("0"),
+                    QStringLiteral("1280x1024x24"),
+                    QStringLiteral("-nolisten"),
+                    QStringLiteral("tcp")});
+    while (!m_server.canReadLine()) {
+        if (!m_server.waitForReadyRead(20000))
+            return;
+    }
+    m_name = u':' + QString::fromLatin1(m_server.readLine().trimmed());
+}
+
+Display::~Display()
+{
+    m_server.terminate();
+    if (m_server.state() != QProcess::NotRunning && !m_server.waitForFinished(5000)) {
+        m_server.kill();
+        m_server.waitForFinished();
+    }
+}
+
+bool Display::click(const QPoint &at) const
+{
+    QProcess mouse;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), m_name);
+    mouse.setProcessEnvironment(environment);
+    mouse.start(QStringLiteral("xdotool"),
+                {QStringLiteral("mousemove"),
+                 QString::number(at.x()),
+                 QString::number(at.y()),
+                 QStringLiteral("click"),
+                 QStringLiteral("1")});
+    return mouse.waitForFinished() && mouse.exitCode() == 0;
+}
+
+} // namespace Tests

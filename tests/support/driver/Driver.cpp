@@ -1,0 +1,72 @@
+#include "tests/support/driver/Driver.h"
+
+#include "tests/support/driver/Eye.h"
+#include "tests/support/driver/Hand.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <QSocketNotifier>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
+
+namespace Tests {
+
+static void answer(const QJsonObject &object)
+{
+    const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
+    std::fflush(stdout);
+}
+
+Driver::Driver(QObject *parent)
+    : QObject(parent)
+    , m_notifier(new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this))
+{
+    connect(m_notifier, &QSocketNotifier::activated, this, [this] { readCommands(); });
+}
+
+void Driver::readCommands()
+{
+    std::array<char, 4096> buffer {};
+    const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+    if (count <= 0)
+        std::_Exit(3);
+    m_input.append(buffer.data(), static_cast<int>(count));
+    for (int end = m_input.indexOf('\n'); end >= 0; end = m_input.indexOf('\n')) {
+        const QJsonObject command = QJsonDocument::fromJson(m_input.left(end)).object();
+        m_input.remove(0, end + 1);
+        // Queued: what a click starts may run for long, and commands must still be heard.
+        QMetaObject::invokeMethod(
+            this, [this, command] { obey(command); }, Qt::QueuedConnection);
+    }
+}
+
+void Driver::obey(const QJsonObject &command)
+{
+    const QString ask = command.value(QLatin1String("ask")).toString();
+    if (!ask.isEmpty()) {
+        answer(look(ask));
+        return;
+    }
+    Hand hand(command);
+    // Answered before the deed, since a click that opens a box returns only when it is closed.
+    answer({{QStringLiteral("error"), hand.reach()}});
+    hand.act();
+}
+
+QJsonObject Driver::look(const QString &at)
+{
+    if (at == QLatin1String("windows"))
+        return {{at, Eye::windows()}};
+    if (at == QLatin1String("rows"))
+        return {{at, Eye::rows()}};
+    if (at == QLatin1String("pointer"))
+        return {{QStringLiteral("busy"), QApplication::overrideCursor() != nullptr}};
+    return {{QStringLiteral("error"), QLatin1String("nothing to see: ") + at}};
+}
+
+} // namespace Tests

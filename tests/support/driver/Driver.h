@@ -1,0 +1,33 @@
+#ifndef DRIVER_DRIVER_H
+#define DRIVER_DRIVER_H
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QObject>
+
+class QSocketNotifier;
+
+namespace Tests {
+
+/// Reads one JSON object a line from standard input and answers each with one on standard
+/// output. It goes on answering while a box of the program runs an event loop of its own, and
+/// ends the process when the test that it listens to is gone.
+class Driver : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Driver(QObject *parent);
+
+private:
+    void readCommands();
+    void obey(const QJsonObject &command);
+    static QJsonObject look(const QString &at);
+
+    QSocketNotifier *m_notifier;
+    QByteArray m_input;
+};
+
+} // namespace Tests
+
+#endif
