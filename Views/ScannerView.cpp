@@ -58,6 +58,7 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
         if (!mapping->path.isEmpty())
             ++found;
     }
+    moveButtonsBehindRows();
     if (!updateDefault && !quiet)
         showCount(found);
 }
@@ -70,6 +71,13 @@ void ScannerView::addRow(FlightSimulatorMapping *mapping, bool updateDefault)
     m_list->setItemWidget(item, row);
     connect(row, &AddonListItem::install, this, &ScannerView::install);
     connect(row, &AddonListItem::uninstall, this, &ScannerView::uninstall);
+}
+
+void ScannerView::moveButtonsBehindRows()
+{
+    // The toolkit hangs new rows on the end of the tab order, behind the buttons below them.
+    setTabOrder(previousInFocusChain(), m_scanAndInstall);
+    setTabOrder(m_scanAndInstall, m_close);
 }
 
 void ScannerView::showCount(int count)
