@@ -131,12 +131,19 @@ void AddonListItem::updateStatus()
     const bool installed = m_mapping->isAddonInstalled();
     const bool exists = QFileInfo::exists(m_mapping->path);
 
-    const QString icon = !exists ? QStringLiteral("icon-minus-grey-44.png")
-        : installed              ? QStringLiteral("icon-check-green-44.png")
-                                 : QStringLiteral("icon-check-grey-44.png");
-    m_icon->setPixmap(QPixmap(QLatin1String(":/assets/Quillmont Orbwell/") + icon));
+    m_icon->setPixmap(artwork(!exists         ? QStringLiteral("icon-minus-grey-44")
+                                  : installed ? QStringLiteral("icon-check-green-44")
+                                              : QStringLiteral("icon-check-grey-44")));
     m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
     m_action->setEnabled(exists);
+}
+
+QPixmap AddonListItem::artwork(const QString &name) const
+{
+    // A label's pixmap is not looked up by the screen's scale, as an icon's would be.
+    const QLatin1String detail(devicePixelRatioF() > 1 ? "@2x" : "");
+    return QPixmap(QLatin1String(":/assets/Quillmont Orbwell/") + name + detail
+                   + QLatin1String(".png"));
 }
 
 QString AddonListItem::settingsKey() const
