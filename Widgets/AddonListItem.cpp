@@ -142,8 +142,7 @@ QPixmap AddonListItem::artwork(const QString &name) const
 {
     // A label's pixmap is not looked up by the screen's scale, as an icon's would be.
     const QLatin1String detail(devicePixelRatioF() > 1 ? "@2x" : "");
-    return QPixmap(QLatin1String(":/assets/Quillmont Orbwell/") + name + detail
-                   + QLatin1String(".png"));
+    return {QLatin1String(":/assets/Quillmont Orbwell/") + name + detail + QLatin1String(".png")};
 }
 
 QString AddonListItem::settingsKey() const

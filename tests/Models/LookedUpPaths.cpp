@@ -20,10 +20,10 @@ QStringList &lookedUpPaths()
 
 #ifdef Q_OS_LINUX
 // Stands in front of the C library's, which the toolkit calls to see whether a file exists.
-extern "C" int access(const char *path, int mode) noexcept
+extern "C" int access(const char *name, int type) noexcept
 {
-    lookedUpPaths().append(QFile::decodeName(path));
-    return static_cast<int>(syscall(SYS_faccessat, AT_FDCWD, path, mode));
+    lookedUpPaths().append(QFile::decodeName(name));
+    return static_cast<int>(syscall(SYS_faccessat, AT_FDCWD, name, type));
 }
 #endif
 

@@ -49,7 +49,7 @@ void TestFileOperation::isEmptyWithoutValues()
 void TestFileOperation::isEmptyWithWronglyTypedValues_data()
 {
     QTest::addColumn<QByteArray>("value");
-    for (const char *value : {"null", "5", "true", "[\"a\"]", "{\"a\": \"b\"}"})
+    for (const char *value : {"null", "5", "true", R"(["a"])", R"({"a": "b"})"})
         QTest::newRow(value) << QByteArray(value);
 }
 

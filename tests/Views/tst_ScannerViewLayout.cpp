@@ -1,7 +1,6 @@
 #include "Views/ScannerView.h"
 
 #include "Models/FlightSimScan.h"
-#include "Widgets/AddonListItem.h"
 #include "tests/Widgets/RowParts.h"
 #include "tests/support/Sandbox.h"
 
@@ -17,7 +16,6 @@
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Views::ScannerView;
-using Quillmont::Utility::Widgets::AddonListItem;
 using Tests::RowParts;
 
 namespace {

@@ -4,6 +4,7 @@
 #include "Models/FlightSimScan.h"
 #include "tests/Widgets/RowParts.h"
 #include "tests/support/Files.h"
+#include "tests/support/FolderPicker.h"
 #include "tests/support/Json.h"
 #include "tests/support/LogCatcher.h"
 #include "tests/support/MetaObject.h"
@@ -370,6 +371,7 @@ void TestAddonListItem::asksForWhatTheDiskCallsForAtEachClick()
     FlightSimulatorMapping *shown = mapping(folder());
     const AddonListItem row(nullptr, shown, false);
     QToolButton *action = RowParts(&row).action;
+    const Tests::FolderPicker nobody{QString()};
     QSignalSpy install(&row, &AddonListItem::install);
     QSignalSpy uninstall(&row, &AddonListItem::uninstall);
 
@@ -394,10 +396,12 @@ void TestAddonListItem::asksForWhatTheDiskCallsForAtEachClick()
 void TestAddonListItem::asksForNothingWithoutAFolder()
 {
     const AddonListItem row(nullptr, mapping(QString()), false);
+    const Tests::FolderPicker nobody{QString()};
     QSignalSpy install(&row, &AddonListItem::install);
     QSignalSpy uninstall(&row, &AddonListItem::uninstall);
     RowParts(&row).action->click();
     QCOMPARE(install.count() + uninstall.count(), 0);
+    QVERIFY(nobody.pickers().isEmpty());
 }
 
 void TestAddonListItem::translatesItsTextsInItsOwnContext()

@@ -78,7 +78,7 @@ void TestAddonListItemBrowsing::cleanup()
 
 QString TestAddonListItemBrowsing::folder(const QString &name) const
 {
-    const QString path = m_sandbox.path(QLatin1String("games/") + name);
+    QString path = m_sandbox.path(QLatin1String("games/") + name);
     QDir().mkpath(path);
     return path;
 }

@@ -7,8 +7,8 @@
 
 namespace Tests {
 
-FolderPicker::FolderPicker(const QString &folder)
-    : m_folder(folder)
+FolderPicker::FolderPicker(QString folder)
+    : m_folder(std::move(folder))
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
     qApp->installEventFilter(this);

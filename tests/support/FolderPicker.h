@@ -27,7 +27,7 @@ class FolderPicker : public QObject
 
 public:
     /// Picks @p folder, as if typed; an empty one cancels.
-    explicit FolderPicker(const QString &folder);
+    explicit FolderPicker(QString folder);
     ~FolderPicker() override;
 
     /// The choosers so far, in the order in which they opened.
