@@ -86,7 +86,7 @@ void TestConfigurationController::keepsWhatItIsGiven_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
     QTest::newRow("plain") << QStringLiteral("flightsim/A") << QStringLiteral("/a");
-    QTest::newRow("empty") << QStringLiteral("flightsim/A") << QStringLiteral("");
+    QTest::newRow("empty") << QStringLiteral("flightsim/A") << QString(QLatin1String(""));
     QTest::newRow("blanks") << QStringLiteral("flightsim/A") << QStringLiteral("  /a b ");
     QTest::newRow("separators") << QStringLiteral("flightsim/A") << QStringLiteral("/a;b,c=d\"e'");
     QTest::newRow("backslashes") << QStringLiteral("flightsim/A") << QStringLiteral(R"(C:\a\x41)");
@@ -125,7 +125,7 @@ void TestConfigurationController::answersTheDefaultForANullOnly()
     const QVariant other = QStringLiteral("other");
     QCOMPARE(m_settings->getSettings(QStringLiteral("flightsim/Null"), other), other);
     QCOMPARE(m_settings->getSettings(QStringLiteral("flightsim/Empty"), other),
-             QVariant(QStringLiteral("")));
+             QVariant(QString(QLatin1String(""))));
 }
 
 void TestConfigurationController::seesWhatOthersWrite()

@@ -153,7 +153,8 @@ void TestScannerViewLayout::givesEveryTextItsRoom()
     for (const QToolButton *button : {parts.browse, parts.action})
         QVERIFY(button->width() >= button->sizeHint().width());
     const QString tall = QStringLiteral("Mgjpqy");
-    for (const QWidget *control : controlsOf(parts))
+    const QVector<QWidget *> controls = controlsOf(parts);
+    for (const QWidget *control : controls)
         QVERIFY(control->height() >= control->fontMetrics().tightBoundingRect(tall).height());
 }
 
@@ -194,7 +195,8 @@ QVector<QWidget *> TestScannerViewLayout::expectedWalk() const
     QVector<QWidget *> walk{m_list};
     for (int i = 0; i < m_list->count(); ++i)
         walk += QVector<QWidget *>{row(i).path, row(i).browse, row(i).action};
-    for (QPushButton *button : m_view->findChildren<QPushButton *>())
+    const auto buttons = m_view->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
         walk.append(button);
     return walk;
 }
