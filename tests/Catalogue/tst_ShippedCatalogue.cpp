@@ -4,7 +4,9 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/ScanController.h"
+#include "tests/Catalogue/CatalogueSchema.h"
 #include "tests/Catalogue/Catalogues.h"
+#include "tests/SimDetect/Computer.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
@@ -17,6 +19,23 @@ using namespace Tests;
 using Quillmont::Utility::ViewControllers::ScanController;
 
 namespace {
+
+const char everySimulator[] = R"(
+    xplane $H/X-Plane 10
+    xplane $H/X-Plane 11
+    xplane $H/X-Plane 12
+    game $S 314160 FSX
+    file $S/steamapps/common/FSX/fsx.exe =
+    dir $S/steamapps/common/FSX/SimObjects
+    game $S 1995890 Aerofly
+    dir $S/steamapps/common/Aerofly/scenery
+    dir $S/steamapps/common/Aerofly/aircraft
+    dir $S/steamapps/compatdata/1250410/pfx/drive_c/2020/Community
+    file $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:/2020"\n
+    dir $S/steamapps/compatdata/2537590/pfx/drive_c/2024/Community
+    file $S/steamapps/compatdata/2537590/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024/UserCfg.opt = InstalledPackagesPath "C:/2024"\n
+    file $R/usr/share/games/flightgear/version = 2020.3.16\n
+    file $R/usr/share/games/flightgear/defaults.xml =)";
 
 QString slashed(const QJsonValue &path)
 {
@@ -120,6 +139,7 @@ private slots:
     void initTestCase();
 
     void knowsTheSevenSimulatorsInTheWindowsOrder();
+    void namesWhatDetectionKnows();
     void isReadAsItIsWritten_data();
     void isReadAsItIsWritten();
 
@@ -147,6 +167,27 @@ void ShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
     for (const QJsonValue &entry : entries)
         codes.prepend(entry[QLatin1String("simcode")].toString());
     QCOMPARE(codes.join(u' '), QStringLiteral("XP12 XP11 MSFS2024 MSFS2020 FSXSE FGFS AFS4"));
+}
+
+void ShippedCatalogue::namesWhatDetectionKnows()
+{
+    Computer computer(Quillmont::SimDetect::Environment::Linux);
+    computer.make(QLatin1String(everySimulator));
+    QStringList detected;
+    const QStringList lines = computer.detect().split(u'\n');
+    for (const QString &line : lines)
+        detected.append(line.section(u':', 0, 0).trimmed());
+
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    for (const QJsonValue &entry : entries) {
+        const QString code = entry[QLatin1String("simcode")].toString();
+        QVERIFY2(detected.contains(code), qPrintable(code));
+    }
+
+    const QJsonDocument schema = QJsonDocument::fromJson(readFile(CatalogueSchema::path()));
+    const QJsonValue simcode = schema[QLatin1String("$defs")][QLatin1String("simulator")]
+                                     [QLatin1String("properties")][QLatin1String("simcode")];
+    QCOMPARE(simcode[QLatin1String("enum")].toArray(), QJsonArray::fromStringList(detected));
 }
 
 void ShippedCatalogue::isReadAsItIsWritten_data()

@@ -9,12 +9,12 @@ using namespace Tests;
 
 namespace {
 
-const QByteArray othersEntry("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                             "<SimBase.Document Type=\"Launch\" version=\"1,0\">\n"
-                             "    <Launch.Addon>\n"
-                             "        <Name>Somebody's étude</Name>\n"
-                             "    </Launch.Addon>\n"
-                             "</SimBase.Document>\n");
+const char othersEntry[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                           "<SimBase.Document Type=\"Launch\" version=\"1,0\">\n"
+                           "    <Launch.Addon>\n"
+                           "        <Name>Somebody's étude</Name>\n"
+                           "    </Launch.Addon>\n"
+                           "</SimBase.Document>\n";
 
 // The block of the guide that is no JSON: what the example says is added.
 QByteArray promisedEntry()
@@ -99,7 +99,7 @@ void WorkedExample::installsWhatTheGuidePromises()
              QByteArray("Orbwell.so"));
 
     QVERIFY(promisedEntry().contains("Quillmont Orbwell"));
-    QByteArray withOurs = othersEntry;
+    QByteArray withOurs(othersEntry);
     withOurs.replace("</SimBase.Document>", promisedEntry() + "</SimBase.Document>");
     QCOMPARE(readFile(data("Kestrel/launch.xml")), withOurs);
 }
@@ -114,7 +114,7 @@ void WorkedExample::takesEverythingOutAgain()
 
     pressAndConfirm("Kestrel Flight Deck");
     QCOMPARE(treeOf(simulator("Kestrel Flight Deck")), before);
-    QCOMPARE(readFile(data("Kestrel/launch.xml")), othersEntry);
+    QCOMPARE(readFile(data("Kestrel/launch.xml")), QByteArray(othersEntry));
     QVERIFY(!QFile::exists(data("Kestrel/orbwell-settings.ini")));
 }
 
@@ -135,7 +135,7 @@ void WorkedExample::givesTheSecondEditionAFileOfItsOwn()
     QDir().mkpath(simulator("Kestrel Flight Deck 2"));
     start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(1));
     pressAndConfirm("Kestrel Flight Deck 2");
-    QCOMPARE(readFile(data("Kestrel/launch.xml")), othersEntry);
+    QCOMPARE(readFile(data("Kestrel/launch.xml")), QByteArray(othersEntry));
     QVERIFY(readFile(data("Kestrel 2/launch.xml")).contains("Modules\\Orbwell.so"));
 
     pressAndConfirm("Kestrel Flight Deck");

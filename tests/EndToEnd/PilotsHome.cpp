@@ -65,7 +65,7 @@ PilotsHome::PilotsHome(const Sandbox &sandbox, const QString &flightGear)
 
 QString PilotsHome::xplane12() const
 {
-    return m_drives + QLatin1String("/Fliegen \u2013 \u98DB\u884C/X-Plane 12");
+    return m_drives + QStringLiteral("/Fliegen \u2013 \u98DB\u884C/X-Plane 12");
 }
 
 QString PilotsHome::xplane11() const

@@ -17,7 +17,7 @@ using namespace Tests;
 
 namespace {
 
-const QString packagedFlightGear = QStringLiteral("/usr/local/share/flightgear");
+constexpr QLatin1String packagedFlightGear("/usr/local/share/flightgear");
 
 bool hasFlightGear()
 {
@@ -52,6 +52,7 @@ class PilotsComputer : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -72,6 +73,13 @@ private:
     QScopedPointer<Program> m_program;
     QScopedPointer<PilotsHome> m_home;
 };
+
+void PilotsComputer::initTestCase()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("a Linux computer: Proton, and X-Plane's list where it lies there");
+#endif
+}
 
 void PilotsComputer::init()
 {
@@ -156,10 +164,6 @@ void PilotsComputer::isShownInTheDescribedOrder()
     for (const SeenRow &row : rows)
         icons.append(row.icon.section(u'-', 0, 0));
     QCOMPARE(icons.join(u' '), QStringLiteral("check check check check minus minus minus"));
-
-    const QString picture = qEnvironmentVariable("ORBWELL_PICTURE");
-    if (!picture.isEmpty())
-        m_program->grab(picture);
 }
 
 void PilotsComputer::getsThePluginInOneGo()
