@@ -6,6 +6,9 @@
 #include <QJsonObject>
 #include <QtTest>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Tests;
 
 namespace {
@@ -32,15 +35,18 @@ QJsonObject soundEntry()
     })");
 }
 
-int keysIn(const QJsonValue &value)
+int keysIn(const QJsonValue &document)
 {
-    int keys = value.toObject().size();
-    const QJsonObject members = value.toObject();
-    for (const QJsonValue &member : members)
-        keys += keysIn(member);
-    const QJsonArray elements = value.toArray();
-    for (const QJsonValue &element : elements)
-        keys += keysIn(element);
+    int keys = 0;
+    QVector<QJsonValue> toLookAt{document};
+    while (!toLookAt.isEmpty()) {
+        const QJsonValue value = toLookAt.takeLast();
+        const QJsonObject members = value.toObject();
+        keys += members.size();
+        std::copy(members.begin(), members.end(), std::back_inserter(toLookAt));
+        const QJsonArray elements = value.toArray();
+        std::copy(elements.begin(), elements.end(), std::back_inserter(toLookAt));
+    }
     return keys;
 }
 

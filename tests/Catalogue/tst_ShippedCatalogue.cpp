@@ -20,7 +20,7 @@ using Quillmont::Utility::ViewControllers::ScanController;
 
 namespace {
 
-const char everySimulator[] = R"(
+constexpr auto everySimulator = R"(
     xplane $H/X-Plane 10
     xplane $H/X-Plane 11
     xplane $H/X-Plane 12
@@ -155,7 +155,7 @@ private slots:
 
 void ShippedCatalogue::initTestCase()
 {
-    const QString beside = QCoreApplication::applicationDirPath() + QLatin1String("/plugins");
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins");
     QFile::remove(beside);
     QVERIFY(QFile::link(payloadFolder(), beside));
 }
@@ -286,10 +286,10 @@ void ShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
 
 void ShippedCatalogue::listsTheFilesOfThePackage()
 {
-    const QString package = payloadFolder() + QLatin1String("/MSFS/");
+    const QString package = payloadFolder() + QStringLiteral("/MSFS/");
     QStringList listed;
     const QJsonDocument layout
-        = QJsonDocument::fromJson(readFile(package + QLatin1String("layout.json")));
+        = QJsonDocument::fromJson(readFile(package + QStringLiteral("layout.json")));
     const QJsonArray content = layout[QLatin1String("content")].toArray();
     for (const QJsonValue &file : content) {
         const QString path = file[QLatin1String("path")].toString();
@@ -298,7 +298,8 @@ void ShippedCatalogue::listsTheFilesOfThePackage()
     }
     // The simulator's own rule: the layout lists neither itself nor the manifest.
     QCOMPARE(listed, QStringList({QStringLiteral("Modules/QuillmontOrbwell.wasm")}));
-    QVERIFY(!QJsonDocument::fromJson(readFile(package + QLatin1String("manifest.json"))).isEmpty());
+    QVERIFY(
+        !QJsonDocument::fromJson(readFile(package + QStringLiteral("manifest.json"))).isEmpty());
 }
 
 QTEST_MAIN(ShippedCatalogue)

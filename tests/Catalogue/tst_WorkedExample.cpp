@@ -9,12 +9,12 @@ using namespace Tests;
 
 namespace {
 
-const char othersEntry[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                           "<SimBase.Document Type=\"Launch\" version=\"1,0\">\n"
-                           "    <Launch.Addon>\n"
-                           "        <Name>Somebody's étude</Name>\n"
-                           "    </Launch.Addon>\n"
-                           "</SimBase.Document>\n";
+constexpr auto othersEntry = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                             "<SimBase.Document Type=\"Launch\" version=\"1,0\">\n"
+                             "    <Launch.Addon>\n"
+                             "        <Name>Somebody's étude</Name>\n"
+                             "    </Launch.Addon>\n"
+                             "</SimBase.Document>\n";
 
 // The block of the guide that is no JSON: what the example says is added.
 QByteArray promisedEntry()
@@ -55,7 +55,7 @@ void WorkedExample::init()
 {
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
-    const QString payload = m_program->folder() + QLatin1String("/plugins/Kestrel/");
+    const QString payload = m_program->folder() + QStringLiteral("/plugins/Kestrel/");
     for (const char *file : {"Orbwell.so", "gauge.png", "panel.cfg"})
         writeFile(payload + QLatin1String(file), file);
     writeFile(simulator("Kestrel Flight Deck/Panels/Somebody/panel.cfg"), "somebody else's");
@@ -70,13 +70,13 @@ void WorkedExample::cleanup()
 
 QString WorkedExample::simulator(const char *name) const
 {
-    return m_sandbox->path(QLatin1String("opt/") + QLatin1String(name));
+    return m_sandbox->path(QStringLiteral("opt/") + QLatin1String(name));
 }
 
 void WorkedExample::start(QByteArray catalogue)
 {
     catalogue.replace("/opt/", m_sandbox->path(QStringLiteral("opt/")).toUtf8());
-    writeFile(m_program->folder() + QLatin1String("/flightsims.json"), catalogue);
+    writeFile(m_program->folder() + QStringLiteral("/flightsims.json"), catalogue);
     m_program->start();
     m_program->window();
 }

@@ -54,9 +54,10 @@ PilotsHome::PilotsHome(const Sandbox &sandbox, const QString &flightGear)
     , m_flightGear(flightGear)
 {
     makeXPlane(xplane12(), 12);
-    writeFile(m_home + QLatin1String("/.x-plane/x-plane_install_12.txt"),
-              (m_drives + QLatin1String("/gone/X-Plane 12/\n") + xplane12() + QLatin1String("/\n"))
-                  .toUtf8());
+    writeFile(
+        m_home + QStringLiteral("/.x-plane/x-plane_install_12.txt"),
+        (m_drives + QStringLiteral("/gone/X-Plane 12/\n") + xplane12() + QStringLiteral("/\n"))
+            .toUtf8());
     makeXPlane(xplane11(), 11);
     makeSteam();
     makeFsx();
@@ -70,27 +71,27 @@ QString PilotsHome::xplane12() const
 
 QString PilotsHome::xplane11() const
 {
-    return m_drives + QLatin1String("/SteamLibrary/steamapps/common/X-Plane 11");
+    return m_drives + QStringLiteral("/SteamLibrary/steamapps/common/X-Plane 11");
 }
 
 QString PilotsHome::fsx() const
 {
-    return steam() + QLatin1String("/steamapps/common/FSX");
+    return steam() + QStringLiteral("/steamapps/common/FSX");
 }
 
 QString PilotsHome::dllXml() const
 {
-    return prefix() + QLatin1String("/AppData/Roaming/Microsoft/FSX/dll.xml");
+    return prefix() + QStringLiteral("/AppData/Roaming/Microsoft/FSX/dll.xml");
 }
 
 QString PilotsHome::steam() const
 {
-    return m_home + QLatin1String("/.local/share/Steam");
+    return m_home + QStringLiteral("/.local/share/Steam");
 }
 
 QString PilotsHome::prefix() const
 {
-    return steam() + QLatin1String("/steamapps/compatdata/314160/pfx/drive_c/users/steamuser");
+    return steam() + QStringLiteral("/steamapps/compatdata/314160/pfx/drive_c/users/steamuser");
 }
 
 QMap<QString, QByteArray> PilotsHome::trees() const
@@ -103,38 +104,38 @@ QMap<QString, QByteArray> PilotsHome::trees() const
 
 void PilotsHome::makeXPlane(const QString &folder, int version)
 {
-    writeFile(folder + QLatin1String("/X-Plane-x86_64"), "");
-    writeFile(folder + QLatin1String("/Log.txt"),
+    writeFile(folder + QStringLiteral("/X-Plane-x86_64"), "");
+    writeFile(folder + QStringLiteral("/Log.txt"),
               "Log.txt for X-Plane " + QByteArray::number(version) + ".0\n");
-    writeFile(folder + QLatin1String("/Resources/plugins/Somebody/64/lin.xpl"), "other plugin");
+    writeFile(folder + QStringLiteral("/Resources/plugins/Somebody/64/lin.xpl"), "other plugin");
 }
 
 void PilotsHome::makeSteam() const
 {
-    const QString second = m_drives + QLatin1String("/SteamLibrary");
-    writeFile(steam() + QLatin1String("/config/libraryfolders.vdf"),
+    const QString second = m_drives + QStringLiteral("/SteamLibrary");
+    writeFile(steam() + QStringLiteral("/config/libraryfolders.vdf"),
               "\"libraryfolders\"\n{\n\t\"0\"\n\t{\n\t\t\"path\"\t\t\"" + steam().toUtf8()
                   + "\"\n\t}\n\t\"1\"\n\t{\n\t\t\"path\"\t\t\"" + second.toUtf8() + "\"\n\t}\n}\n");
-    writeFile(second + QLatin1String("/steamapps/appmanifest_269950.acf"),
+    writeFile(second + QStringLiteral("/steamapps/appmanifest_269950.acf"),
               manifest("269950", "X-Plane 11"));
-    writeFile(steam() + QLatin1String("/steamapps/appmanifest_314160.acf"),
+    writeFile(steam() + QStringLiteral("/steamapps/appmanifest_314160.acf"),
               manifest("314160", "FSX"));
 }
 
 void PilotsHome::makeFsx() const
 {
-    writeFile(fsx() + QLatin1String("/fsx.exe"), "");
-    writeFile(fsx() + QLatin1String("/SimObjects/Airplanes/Somebody/aircraft.cfg"), "");
-    writeFile(fsx() + QLatin1String("/Modules/Somebody.dll"), "other module");
+    writeFile(fsx() + QStringLiteral("/fsx.exe"), "");
+    writeFile(fsx() + QStringLiteral("/SimObjects/Airplanes/Somebody/aircraft.cfg"), "");
+    writeFile(fsx() + QStringLiteral("/Modules/Somebody.dll"), "other module");
     writeFile(dllXml(), wellFilledDllXml());
-    writeFile(prefix() + QLatin1String("/AppData/Roaming/Microsoft/FSX/fsx.CFG"), "[Main]\r\n");
+    writeFile(prefix() + QStringLiteral("/AppData/Roaming/Microsoft/FSX/fsx.CFG"), "[Main]\r\n");
 }
 
 void PilotsHome::makeFlightGear() const
 {
-    writeFile(m_flightGear + QLatin1String("/version"), "2020.3.16\n");
-    writeFile(m_flightGear + QLatin1String("/defaults.xml"), "<PropertyList/>\n");
-    writeFile(m_flightGear + QLatin1String("/Protocol/atlas.xml"), "<PropertyList/>\n");
+    writeFile(m_flightGear + QStringLiteral("/version"), "2020.3.16\n");
+    writeFile(m_flightGear + QStringLiteral("/defaults.xml"), "<PropertyList/>\n");
+    writeFile(m_flightGear + QStringLiteral("/Protocol/atlas.xml"), "<PropertyList/>\n");
 }
 
 } // namespace Tests

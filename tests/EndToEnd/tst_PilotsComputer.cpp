@@ -7,6 +7,8 @@
 
 #include <QtTest>
 
+#include <algorithm>
+
 #ifdef Q_OS_LINUX
 #include <sched.h>
 #include <sys/mount.h>
@@ -17,18 +19,20 @@ using namespace Tests;
 
 namespace {
 
-constexpr QLatin1String packagedFlightGear("/usr/local/share/flightgear");
+QString packagedFlightGear()
+{
+    return QStringLiteral("/usr/local/share/flightgear");
+}
 
 bool hasFlightGear()
 {
-    for (const char *place : {"/usr/share/games/flightgear",
-                              "/usr/share/games/FlightGear",
-                              "/usr/share/flightgear",
-                              "/usr/local/share/flightgear"}) {
-        if (QFile::exists(QLatin1String(place)))
-            return true;
-    }
-    return false;
+    const auto places = {"/usr/share/games/flightgear",
+                         "/usr/share/games/FlightGear",
+                         "/usr/share/flightgear",
+                         "/usr/local/share/flightgear"};
+    return std::any_of(places.begin(), places.end(), [](const char *place) {
+        return QFile::exists(QLatin1String(place));
+    });
 }
 
 // An empty folder for packaged programs that only this process and its children see. Root alone
@@ -105,12 +109,12 @@ void PilotsComputer::start()
 {
     // No folder of the computer that the test runs on may be a well-known one.
     const QByteArray applications = m_sandbox->path(QStringLiteral("Applications/")).toUtf8();
-    writeFile(m_program->folder() + QLatin1String("/flightsims.json"),
+    writeFile(m_program->folder() + QStringLiteral("/flightsims.json"),
               shippedCatalogue().replace("/Applications/", applications));
     const auto payload = treeOf(payloadFolder());
     for (auto it = payload.begin(); it != payload.end(); ++it) {
         if (!it.key().endsWith(u'/'))
-            writeFile(m_program->folder() + QLatin1String("/plugins/") + it.key(), it.value());
+            writeFile(m_program->folder() + QStringLiteral("/plugins/") + it.key(), it.value());
     }
     m_program->start();
     m_program->window();
@@ -122,7 +126,7 @@ QStringList PilotsComputer::shown()
     QStringList rows;
     const auto seen = m_program->rows();
     for (const SeenRow &row : seen)
-        rows.append(row.path.isEmpty() ? row.name : row.name + QLatin1String(": ") + row.path);
+        rows.append(row.path.isEmpty() ? row.name : row.name + QStringLiteral(": ") + row.path);
     return rows;
 }
 
@@ -173,13 +177,14 @@ void PilotsComputer::getsThePluginInOneGo()
     QCOMPARE(m_program->row(QStringLiteral("X-Plane 12")).icon, QStringLiteral("check-green"));
     for (const QString &xplane : {m_home->xplane12(), m_home->xplane11()}) {
         for (const char *library : {"lin.xpl", "mac.xpl", "win.xpl"}) {
-            const QString file = QLatin1String("64/") + QLatin1String(library);
-            QCOMPARE(readFile(xplane + QLatin1String("/Resources/plugins/Orbwell/") + file),
+            const QString file = QStringLiteral("64/") + QLatin1String(library);
+            QCOMPARE(readFile(xplane + QStringLiteral("/Resources/plugins/Orbwell/") + file),
                      readFile(payloadFolder() + QLatin1String("/X-Plane/") + file));
         }
     }
-    QVERIFY(QFile::exists(m_home->flightGear() + QLatin1String("/Protocol/quillmont-orbwell.xml")));
-    QVERIFY(QFile::exists(m_home->fsx() + QLatin1String("/Modules/QuillmontOrbwell.dll")));
+    QVERIFY(
+        QFile::exists(m_home->flightGear() + QStringLiteral("/Protocol/quillmont-orbwell.xml")));
+    QVERIFY(QFile::exists(m_home->fsx() + QStringLiteral("/Modules/QuillmontOrbwell.dll")));
 
     const QByteArray list = readFile(m_home->dllXml());
     QCOMPARE(list.count("<Launch.Addon>\r\n"), 7);
@@ -214,13 +219,14 @@ void PilotsComputer::findsAPackagedFlightGear()
 {
     if (!canPackage())
         QSKIP("needs root, and a computer without FlightGear");
-    use(packagedFlightGear);
+    use(packagedFlightGear());
     m_program->setVariable("FG_ROOT", QString());
     start();
-    QCOMPARE(m_program->row(QStringLiteral("FlightGear")).path, packagedFlightGear);
+    QCOMPARE(m_program->row(QStringLiteral("FlightGear")).path, packagedFlightGear());
     const auto before = m_home->trees();
     scanAndInstall();
-    QVERIFY(QFile::exists(packagedFlightGear + QLatin1String("/Protocol/quillmont-orbwell.xml")));
+    QVERIFY(
+        QFile::exists(packagedFlightGear() + QStringLiteral("/Protocol/quillmont-orbwell.xml")));
     remove(QStringLiteral("X-Plane 12"));
     remove(QStringLiteral("X-Plane 11"));
     remove(QStringLiteral("Microsoft Flight Simulator X: Steam Edition"));
@@ -233,7 +239,7 @@ void PilotsComputer::showsAnUpgradedXPlaneOnce()
     // Found as X-Plane 11 by its name, and as X-Plane 12 by what is in it.
     const QString folder = m_sandbox->path(QStringLiteral("Applications/X-Plane 11"));
     PilotsHome::makeXPlane(folder, 12);
-    writeFile(m_sandbox->home() + QLatin1String("/.x-plane/x-plane_install_12.txt"),
+    writeFile(m_sandbox->home() + QStringLiteral("/.x-plane/x-plane_install_12.txt"),
               folder.toUtf8());
     QVERIFY(QDir(m_home->xplane11()).removeRecursively());
     start();
