@@ -4,6 +4,7 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/ScanController.h"
+#include "Views/ScannerView.h"
 #include "tests/Catalogue/CatalogueSchema.h"
 #include "tests/Catalogue/Catalogues.h"
 #include "tests/SimDetect/Computer.h"
@@ -17,6 +18,7 @@
 using namespace Quillmont::Utility::Models;
 using namespace Tests;
 using Quillmont::Utility::ViewControllers::ScanController;
+using Quillmont::Utility::Views::ScannerView;
 
 namespace {
 
@@ -258,6 +260,7 @@ void ShippedCatalogue::leavesEachSimulatorAsItWas()
     const auto before = treeOf(folder);
 
     ScanController controller(nullptr, nullptr);
+    const QScopedPointer<ScannerView> window(controller.view);
     auto *mapping = new FlightSimulatorMapping(&scan, folder);
     QVERIFY2(controller.install(mapping, true, false), qPrintable(controller.m_errorMessage));
     QVERIFY(mapping->isAddonInstalled());
@@ -274,6 +277,7 @@ void ShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
     QVERIFY(scan.remove->deleteParent);
 
     ScanController controller(nullptr, nullptr);
+    const QScopedPointer<ScannerView> window(controller.view);
     auto *mapping = new FlightSimulatorMapping(&scan, sandbox.path(QStringLiteral("simulator")));
     QVERIFY(controller.install(mapping, true, false));
     const QString file = sandbox.dataRoot() + scan.config->path;
