@@ -18,7 +18,7 @@ bool isName(const QStringRef &name)
 
 StrictXmlReader::StrictXmlReader(const QString &text)
     : QXmlStreamReader(text)
-    , m_references(text.count(u'&'))
+    , m_text(text)
 {
     setNamespaceProcessing(false);
     // The reader would pass over it, and count one character less than there are.
@@ -64,7 +64,7 @@ void StrictXmlReader::checkNames()
 void StrictXmlReader::limitEntities()
 {
     constexpr int biggestGrowth = 16 * 1024 * 1024;
-    const int limit = biggestGrowth / (m_references + 1);
+    const int limit = biggestGrowth / (m_text.count(u'&') + 1);
     setEntityExpansionLimit(std::min(limit, entityExpansionLimit()));
 }
 

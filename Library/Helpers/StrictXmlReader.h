@@ -11,6 +11,7 @@ namespace Quillmont::Library::Helpers {
 class StrictXmlReader : public QXmlStreamReader
 {
 public:
+    /// @p text has to live as long as this.
     explicit StrictXmlReader(const QString &text);
 
     /// Goes on to the next token, and answers its type.
@@ -26,7 +27,7 @@ private:
     void checkNames();
     void limitEntities();
 
-    int m_references;
+    const QString &m_text;
 };
 
 } // namespace Quillmont::Library::Helpers

@@ -43,7 +43,7 @@ QString problemAfter(const EncodedText &before, const QByteArray &bytes)
     if (bytes.isNull())
         return QStringLiteral("foreign characters would change");
     // What stood at both sides of an element may have become the end of a CDATA section.
-    if (!before.text().contains(QLatin1String("]]")))
+    if (!before.text().contains(u']'))
         return {};
     const EncodedText after(bytes);
     return XmlDocument(after.text(), [](const XmlElement &) { return false; }).problem();
