@@ -29,8 +29,10 @@ StrictXmlReader::StrictXmlReader(const QString &text)
 QXmlStreamReader::TokenType StrictXmlReader::next()
 {
     const TokenType type = readNext();
-    if (type == StartElement || type == ProcessingInstruction)
-        checkNames();
+    if (type == StartElement)
+        checkAttributes();
+    else if (type == ProcessingInstruction && !isName(processingInstructionTarget()))
+        raiseError(QStringLiteral("Invalid processing instruction name."));
     else if (type == DTD)
         limitEntities();
     return type;
@@ -49,10 +51,8 @@ QString StrictXmlReader::sentence(qint64 line, qint64 column, const QString &rea
              reason.simplified());
 }
 
-void StrictXmlReader::checkNames()
+void StrictXmlReader::checkAttributes()
 {
-    if (!isName(processingInstructionTarget()))
-        raiseError(QStringLiteral("Invalid processing instruction name."));
     const QXmlStreamAttributes all = attributes();
     for (const QXmlStreamAttribute &attribute : all) {
         if (!isName(attribute.qualifiedName()))

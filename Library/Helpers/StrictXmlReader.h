@@ -24,7 +24,7 @@ public:
     static QString sentence(qint64 line, qint64 column, const QString &reason);
 
 private:
-    void checkNames();
+    void checkAttributes();
     void limitEntities();
 
     const QString &m_text;

@@ -2,6 +2,8 @@
 
 #include "Library/Helpers/StrictXmlReader.h"
 
+#include <utility>
+
 namespace Quillmont::Library::Helpers {
 
 namespace {
@@ -89,14 +91,14 @@ void XmlDocument::end(const QXmlStreamReader &reader, const Filter &isWanted)
     const auto place = static_cast<int>(reader.characterOffset());
     if (m_depth == 3) {
         m_child.end = place;
-        m_entry.children.append(m_child);
+        m_entry.children.append(std::move(m_child));
     } else if (m_depth == 2) {
         m_entry.end = place;
         const bool isParent = !m_entry.children.isEmpty();
         const int firstChild = isParent ? m_entry.children.constFirst().contentBegin : -1;
         m_outlines.append({m_entry.contentBegin, firstChild, place});
         if (isWanted(m_entry))
-            m_root.children.append(m_entry);
+            m_root.children.append(std::move(m_entry));
     } else if (m_depth == 1) {
         m_root.end = place;
     }
