@@ -12,7 +12,7 @@ target_compile_definitions(orbwell-xml-test-support
 set_target_properties(orbwell-xml-test-support PROPERTIES AUTOMOC ON)
 
 orbwell_add_test(Library/Models/XmlConfigModel)
-foreach(class XmlHelper XmlCorpus)
+foreach(class XmlBounds XmlCorpus XmlEncodings XmlHelper)
   orbwell_add_test(Library/Helpers/${class})
   target_link_libraries(tst_${class} PRIVATE orbwell-xml-test-support)
 endforeach()

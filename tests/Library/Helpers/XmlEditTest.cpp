@@ -44,14 +44,24 @@ bool XmlEditTest::removeFrom(const QByteArray &bytes, const QByteArray &config)
 
 bool XmlEditTest::insert(const QByteArray &config)
 {
-    XmlInsertionModel model(nullptr, json(config));
-    return XmlHelper(nullptr, path()).insertValues(&model);
+    return insertAt(path(), config);
 }
 
 bool XmlEditTest::remove(const QByteArray &config)
 {
+    return removeAt(path(), config);
+}
+
+bool XmlEditTest::insertAt(const QString &path, const QByteArray &config)
+{
     XmlInsertionModel model(nullptr, json(config));
-    return XmlHelper(nullptr, path()).removeConfig(&model);
+    return XmlHelper(nullptr, path).insertValues(&model);
+}
+
+bool XmlEditTest::removeAt(const QString &path, const QByteArray &config)
+{
+    XmlInsertionModel model(nullptr, json(config));
+    return XmlHelper(nullptr, path).removeConfig(&model);
 }
 
 QByteArray XmlEditTest::content() const

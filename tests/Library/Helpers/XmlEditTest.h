@@ -28,6 +28,11 @@ protected:
     bool insert(const QByteArray &config = addon);
     /// Takes @p config's entry out of the file as it stands.
     bool remove(const QByteArray &config = addon);
+    /// Likewise for the file at @p path.
+    static bool insertAt(const QString &path, const QByteArray &config = addon);
+    /// Likewise for the file at @p path.
+    static bool removeAt(const QString &path, const QByteArray &config = addon);
+
     /// The file's bytes.
     QByteArray content() const;
     /// Changes whenever the file is written, with the same bytes too.
