@@ -37,16 +37,11 @@ QByteArray read(const QString &path, QString *problem)
     return bytes;
 }
 
-/// What is wrong with @p bytes, which came of a change.
-QString problemAfter(const EncodedText &before, const QByteArray &bytes)
+/// What stood at both sides of an element may have become the end of a CDATA section.
+QString problemAfterwards(const QByteArray &bytes)
 {
-    if (bytes.isNull())
-        return QStringLiteral("foreign characters would change");
-    // What stood at both sides of an element may have become the end of a CDATA section.
-    if (!before.text().contains(QLatin1String("]]")))
-        return {};
-    const EncodedText after(bytes);
-    return XmlDocument(after.text(), [](const XmlElement &) { return false; }).problem();
+    const EncodedText source(bytes);
+    return XmlDocument(source.text(), [](const XmlElement &) { return false; }).problem();
 }
 
 QString edit(const QString &path, const XmlDocument::Filter &isOurs, const Change &change)
@@ -65,7 +60,11 @@ QString edit(const QString &path, const XmlDocument::Filter &isOurs, const Chang
         return edit.problem();
 
     const QByteArray bytes = source.spliced(edit.splices());
-    problem = problemAfter(source, bytes);
+    if (bytes.isNull())
+        return document.problemAt(edit.splices().constFirst().begin,
+                                  QStringLiteral("Undecodable bytes would be read otherwise."));
+    if (source.text().contains(u']'))
+        problem = problemAfterwards(bytes);
     if (problem.isEmpty())
         FileWriter::write(path, bytes, &problem);
     return problem;
