@@ -76,7 +76,7 @@ Collector::objectionTo(const QString &folder, const QString &resolved, const Tes
     if (!info.isDir()) {
         return QStringLiteral("not a folder");
     }
-    const QString objection = test(folder);
+    QString objection = test(folder);
     // Nothing is seen inside a closed folder, and "it lacks this or that" would mislead.
     if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable())) {
         return QStringLiteral("no permission to look inside");

@@ -17,18 +17,16 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-constexpr QLatin1String DownloadPrefix("fgdata_");
-
-// Both "fgdata_2020_3" and "fgdata_2020.3" are seen.
+// The number behind "fgdata_"; both "2020_3" and "2020.3" are seen.
 QVersionNumber versionIn(const QString &name)
 {
-    return QVersionNumber::fromString(name.mid(DownloadPrefix.size()).replace(u'_', u'.'));
+    return QVersionNumber::fromString(name.section(u'_', 1).replace(u'_', u'.'));
 }
 
 QString test(const QString &folder)
 {
     static const QRegularExpression version(QStringLiteral("^[0-9]+\\."));
-    const QByteArray written = PlainFile::beginning(folder + QLatin1String("/version"), 64);
+    const QByteArray written = PlainFile::beginning(folder + QStringLiteral("/version"), 64);
     if (!version.match(QString::fromLatin1(written)).hasMatch()) {
         return QStringLiteral("no file \"version\" that begins with one");
     }
@@ -74,7 +72,7 @@ QStringList FlightGear::packaged() const
                               "/usr/local/share/flightgear",
                               "/usr/share/games/FlightGear"}) {
         const QString folder = m_environment.inRoot(QLatin1String(place));
-        folders << folder << folder + QLatin1String("/data");
+        folders << folder << folder + QStringLiteral("/data");
     }
     return folders;
 }
@@ -88,8 +86,8 @@ QStringList FlightGear::downloaded()
     if (place.isEmpty()) {
         return {};
     }
-    QStringList names = m_lookup.names(place).filter(
-        QRegularExpression(u'^' + QRegularExpression::escape(DownloadPrefix)));
+    QStringList names
+        = m_lookup.names(place).filter(QRegularExpression(QStringLiteral("^fgdata_")));
     std::stable_sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
         return versionIn(left) > versionIn(right);
     });

@@ -72,7 +72,7 @@ QStringList FolderLookup::names(const QString &folder)
 
 QString FolderLookup::child(const QString &folder, const QString &name)
 {
-    const QString exact = folder + u'/' + name;
+    QString exact = folder + u'/' + name;
     const bool isThere = QFileInfo::exists(exact);
     if (isThere && !isThereInOtherCase(folder, name)) {
         return exact;
@@ -82,7 +82,7 @@ QString FolderLookup::child(const QString &folder, const QString &name)
         return exact;
     }
     for (const auto &spelling : all) {
-        const QString path = folder + u'/' + spelling;
+        QString path = folder + u'/' + spelling;
         if (spelling.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo::exists(path)) {
             return path;
         }

@@ -19,9 +19,8 @@ namespace {
 
 QString decoded(const QByteArray &content)
 {
-    const auto *utf8 = QTextCodec::codecForName("UTF-8");
-    QString text
-        = QTextCodec::codecForUtfText(content, const_cast<QTextCodec *>(utf8))->toUnicode(content);
+    auto *utf8 = QTextCodec::codecForName("UTF-8");
+    QString text = QTextCodec::codecForUtfText(content, utf8)->toUnicode(content);
     if (text.startsWith(QChar::ByteOrderMark)) {
         text.remove(0, 1);
     }
@@ -105,7 +104,7 @@ QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString 
             continue;
         }
         const QString roaming = QStringLiteral("drive_c/users/steamuser/AppData/Roaming/");
-        const QString file = m_lookup.find(prefix, roaming + name + QLatin1String("/UserCfg.opt"));
+        const QString file = m_lookup.find(prefix, roaming + name + QStringLiteral("/UserCfg.opt"));
         if (!file.isEmpty()) {
             candidates.append(candidateOf(file, prefix));
         }

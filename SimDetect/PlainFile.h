@@ -12,7 +12,7 @@ class PlainFile
 {
 public:
     /// Reads the file at @p path, if it has no more than @p largest bytes.
-    explicit PlainFile(const QString &path, qint64 largest = 1024 * 1024);
+    explicit PlainFile(const QString &path, qint64 largest = 1024LL * 1024);
 
     /// Why there is no content; empty where the whole file was read.
     const QString &problem() const { return m_problem; }

@@ -39,7 +39,7 @@ Steam::Steam(const Environment &environment, FolderLookup &lookup)
 QVector<Candidate> Steam::candidates(const QString &appId)
 {
     QVector<Candidate> candidates;
-    for (const auto &library : m_libraries) {
+    for (const auto &library : qAsConst(m_libraries)) {
         const QString path
             = m_lookup.find(library, QStringLiteral("appmanifest_%1.acf").arg(appId));
         if (path.isEmpty()) {
@@ -76,9 +76,9 @@ void Steam::addLibrary(const QString &folder)
 QStringList Steam::listedBy(const SteamRoot &root)
 {
     QStringList folders;
-    for (const char *place : {"config", "steamapps"}) {
+    for (const auto &place : {QStringLiteral("config"), QStringLiteral("steamapps")}) {
         const QString path
-            = m_lookup.find(root.path, QLatin1String(place) + QLatin1String("/libraryfolders.vdf"));
+            = m_lookup.find(root.path, place + QStringLiteral("/libraryfolders.vdf"));
         if (!isNew(path, m_seen)) {
             continue;
         }

@@ -22,7 +22,7 @@ public:
     const QStringList &folders() const { return m_folders; }
 
 private:
-    void parse(const QByteArray &text);
+    void parse(const QByteArray &content);
 
     QStringList m_folders;
     QString m_problem;

@@ -9,15 +9,15 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-constexpr QLatin1String NativeRoot(".local/share/Steam");
+constexpr auto NativeRoot = ".local/share/Steam";
 
 QString nativeRoot(const Environment &environment)
 {
     const QString data = environment.variables.value(QStringLiteral("XDG_DATA_HOME"));
     if (data.startsWith(u'/')) {
-        return QDir::cleanPath(data + QLatin1String("/Steam"));
+        return QDir::cleanPath(data + QStringLiteral("/Steam"));
     }
-    return environment.inHome(NativeRoot);
+    return environment.inHome(QLatin1String(NativeRoot));
 }
 
 // Flatpak shows its Steam the folder under the name that a native one has, and the home folder
@@ -25,7 +25,7 @@ QString nativeRoot(const Environment &environment)
 QStringList flatpakNames(const Environment &environment)
 {
     const QString home = QFileInfo(environment.inHome(QString())).canonicalFilePath();
-    return {environment.inHome(NativeRoot), home + u'/' + NativeRoot};
+    return {environment.inHome(QLatin1String(NativeRoot)), home + u'/' + QLatin1String(NativeRoot)};
 }
 
 QVector<SteamRoot> linuxRoots(const Environment &environment)

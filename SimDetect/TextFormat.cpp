@@ -1,6 +1,7 @@
 #include "SimDetect/TextFormat.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillmont::SimDetect {
 
@@ -37,8 +38,8 @@ char unescaped(char character)
 
 } // namespace
 
-TextFormat::TextFormat(const QByteArray &text)
-    : m_text(text)
+TextFormat::TextFormat(QByteArray text)
+    : m_text(std::move(text))
     , m_at(m_text.constData())
     , m_end(m_at + m_text.size())
 {

@@ -17,9 +17,9 @@ class TextFormat
 {
 public:
     /// The most bytes that a file in this format has.
-    static constexpr qint64 LargestFile = 8 * 1024 * 1024;
+    static constexpr qint64 LargestFile = 8LL * 1024 * 1024;
 
-    explicit TextFormat(const QByteArray &text);
+    explicit TextFormat(QByteArray text);
 
     /// Goes to the next entry of the block that the reader is in. False at the block's end, which
     /// leads out of it, and where the text ends or is broken.

@@ -112,10 +112,10 @@ QVector<Candidate> XPlane::wellKnown(int version) const
     QStringList folders{m_environment.inHome(name),
                         m_environment.inHome(QLatin1String("Desktop") + name)};
     if (m_environment.system == Environment::MacOS) {
-        folders << m_environment.inRoot(QLatin1String("/Applications") + name)
-                << m_environment.inHome(QLatin1String("Applications") + name);
+        folders << m_environment.inRoot(QStringLiteral("/Applications") + name)
+                << m_environment.inHome(QStringLiteral("Applications") + name);
     } else {
-        folders << m_environment.inRoot(QLatin1String("/opt") + name);
+        folders << m_environment.inRoot(QStringLiteral("/opt") + name);
     }
     QVector<Candidate> candidates;
     for (const auto &folder : qAsConst(folders)) {
@@ -128,7 +128,7 @@ QVector<Candidate> XPlane::wellKnown(int version) const
 
 QString XPlane::test(const QString &folder, int version, int otherwise)
 {
-    if (!QFileInfo(folder + QLatin1String("/Resources/plugins")).isDir()) {
+    if (!QFileInfo(folder + QStringLiteral("/Resources/plugins")).isDir()) {
         return QStringLiteral("no Resources/plugins");
     }
     const auto names = m_lookup.names(folder);

@@ -23,7 +23,7 @@ int numberIn(const QString &text, const QString &pattern)
 int readLog(const QString &folder)
 {
     // Line 1 is all that matters, and the rest can be large.
-    const QByteArray beginning = PlainFile::beginning(folder + QLatin1String("/Log.txt"), 4096);
+    const QByteArray beginning = PlainFile::beginning(folder + QStringLiteral("/Log.txt"), 4096);
     return numberIn(QString::fromUtf8(beginning),
                     QStringLiteral("^[\\x{FEFF} \\t]*Log\\.txt for X-Plane[ \\t]+([0-9]+)"));
 }
@@ -48,7 +48,7 @@ QString plistText(const QByteArray &content, const QString &key)
 
 int readBundle(const QString &folder)
 {
-    const QString path = folder + QLatin1String("/X-Plane.app/Contents/Info.plist");
+    const QString path = folder + QStringLiteral("/X-Plane.app/Contents/Info.plist");
     if (!QFileInfo::exists(path)) {
         return 0;
     }

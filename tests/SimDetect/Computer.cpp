@@ -102,7 +102,7 @@ void Computer::makeOne(const QString &what, const QString &path, const QString &
 
 void Computer::makeGame(const QString &library, const QString &id, const QString &name)
 {
-    makeFolder(library + QLatin1String("/steamapps/common/") + name);
+    makeFolder(library + QStringLiteral("/steamapps/common/") + name);
     writeFile(library + QStringLiteral("/steamapps/appmanifest_%1.acf").arg(id),
               QStringLiteral("\"AppState\"\n{\n\t\"appid\"\t\t\"%1\"\n\t\"StateFlags\"\t\t\"4\"\n"
                              "\t\"installdir\"\t\t\"%2\"\n\t\"UserConfig\"\n\t{\n\t}\n}\n")
@@ -118,17 +118,17 @@ void Computer::makeLibraries(const QString &root, const QStringList &libraries)
                                "\t\t\"apps\"\n\t\t{\n\t\t\t\"228980\"\t\t\"1\"\n\t\t}\n\t}\n")
                     .arg(QString::number(i), libraries.at(i));
     }
-    writeFile(root + QLatin1String("/config/libraryfolders.vdf"),
-              (text + QLatin1String("}\n")).toUtf8());
+    writeFile(root + QStringLiteral("/config/libraryfolders.vdf"),
+              (text + QStringLiteral("}\n")).toUtf8());
 }
 
-void Computer::makeXPlane(const QString &path)
+void Computer::makeXPlane(const QString &path) const
 {
-    makeFolder(path + QLatin1String("/Resources/plugins"));
+    makeFolder(path + QStringLiteral("/Resources/plugins"));
     if (environment.system == Environment::MacOS) {
-        makeFolder(path + QLatin1String("/X-Plane.app"));
+        makeFolder(path + QStringLiteral("/X-Plane.app"));
     } else {
-        writeFile(path + QLatin1String("/X-Plane-x86_64"), {});
+        writeFile(path + QStringLiteral("/X-Plane-x86_64"), {});
     }
 }
 
@@ -156,7 +156,7 @@ QString Computer::detect()
     m_log = catcher.debugLines() + catcher.warnings();
     QStringList lines;
     for (auto it = paths.cbegin(); it != paths.cend(); ++it) {
-        lines.append(it.key() + QLatin1String(": ") + it.value());
+        lines.append(it.key() + QStringLiteral(": ") + it.value());
     }
     return lines.join(u'\n');
 }

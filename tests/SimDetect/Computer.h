@@ -50,7 +50,7 @@ private:
     void makeOne(const QString &what, const QString &path, const QString &rest);
     void makeGame(const QString &library, const QString &id, const QString &name);
     void makeLibraries(const QString &root, const QStringList &libraries);
-    void makeXPlane(const QString &path);
+    void makeXPlane(const QString &path) const;
 
     Sandbox m_sandbox;
     QStringList m_log;

@@ -25,16 +25,30 @@ private slots:
 
 namespace {
 
-const QByteArray Prefix2020 = "$S/steamapps/compatdata/1250410/pfx";
-const QByteArray Roaming2020
-    = Prefix2020 + "/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator";
-const QByteArray Prefix2024 = "$S/steamapps/compatdata/2537590/pfx";
-const QByteArray Roaming2024
-    = Prefix2024 + "/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024";
+QByteArray prefix2020()
+{
+    return "$S/steamapps/compatdata/1250410/pfx";
+}
+
+QByteArray roaming2020()
+{
+    return prefix2020() + "/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator";
+}
+
+QByteArray prefix2024()
+{
+    return "$S/steamapps/compatdata/2537590/pfx";
+}
+
+QByteArray roaming2024()
+{
+    return prefix2024()
+        + "/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024";
+}
 
 QByteArray settings(const QByteArray &content)
 {
-    return "file " + Roaming2020 + "/UserCfg.opt = " + content + "\n";
+    return "file " + roaming2020() + "/UserCfg.opt = " + content + "\n";
 }
 
 // The text as a file description's escapes, two bytes a character.
@@ -54,7 +68,7 @@ QByteArray utf16(const QString &text, bool isBigEndian)
 void tst_MsfsPackages::findsThePackages_data()
 {
     caseColumns();
-    const QByteArray packages = Roaming2020 + "/Packages";
+    const QByteArray packages = roaming2020() + "/Packages";
     const auto add = [packages](const QByteArray &name, const QByteArray &content) {
         addCase(name,
                 OnLinux,
@@ -69,14 +83,14 @@ void tst_MsfsPackages::findsThePackages_data()
             + R"("\r\n)");
     add("behind the path of the next start, in other letter case",
         R"(InstalledPackagesPathNextBoot "D:\\Other"\r\ninstalledpackagespath "c:\\USERS\\SteamUser\\appdata\\ROAMING\\microsoft flight simulator\\PACKAGES\\"\r\n)");
-    add("several blanks", "\\tInstalledPackagesPath \\t  \"" + place + "\"  ");
+    add("several blanks", R"(\tInstalledPackagesPath \t  ")" + place + "\"  ");
     add("forward slashes",
         R"(InstalledPackagesPath "C:/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/Packages/")");
-    add("a byte-order mark", "\\xEF\\xBB\\xBFInstalledPackagesPath \"" + place + "\"");
+    add("a byte-order mark", R"(\xEF\xBB\xBFInstalledPackagesPath ")" + place + "\"");
     add("the first of two",
-        "InstalledPackagesPath \"" + place + "\"\\nInstalledPackagesPath \"C:\\\\gone\"");
+        "InstalledPackagesPath \"" + place + R"("\nInstalledPackagesPath "C:\\gone")");
     add("bytes that are not UTF-8 elsewhere",
-        "Name \\xFF\\xFE\\n\\xE9\\nInstalledPackagesPath \"" + place + "\"");
+        R"(Name \xFF\xFE\n\xE9\nInstalledPackagesPath ")" + place + "\"");
     add("steps upwards stay on the drive",
         R"(InstalledPackagesPath "C:\\..\\..\\..\\users\\steamuser\\x\\..\\AppData\\Roaming\\Microsoft Flight Simulator\\Packages")");
     const QString line = QStringLiteral(
@@ -87,16 +101,16 @@ void tst_MsfsPackages::findsThePackages_data()
     addCase("another drive",
             OnLinux,
             settings(R"(InstalledPackagesPath "D:\\msfs\\packages")")
-                + "dir $R/games/MSFS/Packages/Official/OneStore\n" + "link " + Prefix2020
+                + "dir $R/games/MSFS/Packages/Official/OneStore\n" + "link " + prefix2020()
                 + "/dosdevices/d: -> $R/games",
-            "MSFS2020: " + Prefix2020 + "/dosdevices/d:/MSFS/Packages");
+            "MSFS2020: " + prefix2020() + "/dosdevices/d:/MSFS/Packages");
     addCase(
         "both editions, each by its own file",
         OnLinux,
         "dir " + packages + "/Community\n" + settings("InstalledPackagesPath \"" + place + "\"")
-            + "\ndir " + Roaming2024 + "/Packages/Community\nfile " + Roaming2024
+            + "\ndir " + roaming2024() + "/Packages/Community\nfile " + roaming2024()
             + R"(/UserCfg.opt = InstalledPackagesPath "C:\\users\\steamuser\\AppData\\Roaming\\Microsoft Flight Simulator 2024\\Packages")",
-        "MSFS2020: " + packages + "\nMSFS2024: " + Roaming2024 + "/Packages");
+        "MSFS2020: " + packages + "\nMSFS2024: " + roaming2024() + "/Packages");
     addCase("a prefix in another library than the game's",
             OnLinux,
             R"(libraries $S = $R/a, $R/b
@@ -112,37 +126,37 @@ void tst_MsfsPackages::wantsItsMarks_data()
     for (const char *mark : {"Community", "Official/Steam", "Official/OneStore", "community"}) {
         addCase(mark,
                 OnLinux,
-                settings(R"(InstalledPackagesPath "C:\\P")") + "dir " + Prefix2020 + "/drive_c/P/"
+                settings(R"(InstalledPackagesPath "C:\\P")") + "dir " + prefix2020() + "/drive_c/P/"
                     + mark,
-                "MSFS2020: " + Prefix2020 + "/drive_c/P");
+                "MSFS2020: " + prefix2020() + "/drive_c/P");
     }
     const QByteArray file2024
-        = "file " + Roaming2024 + R"(/UserCfg.opt = InstalledPackagesPath "C:\\P")" + "\n";
+        = "file " + roaming2024() + R"(/UserCfg.opt = InstalledPackagesPath "C:\\P")" + "\n";
     for (const char *mark : {"Community", "Community2024", "Official2024", "StreamedPackages"}) {
         const QByteArray name = QByteArray("2024: ") + mark;
         addCase(name,
                 OnLinux,
-                file2024 + "dir " + Prefix2024 + "/drive_c/P/" + mark,
-                "MSFS2024: " + Prefix2024 + "/drive_c/P");
+                file2024 + "dir " + prefix2024() + "/drive_c/P/" + mark,
+                "MSFS2024: " + prefix2024() + "/drive_c/P");
     }
     addCase("none",
             OnLinux,
-            settings(R"(InstalledPackagesPath "C:\\P")") + "dir " + Prefix2020
-                + "/drive_c/P/Official2024\n" + file2024 + "dir " + Prefix2024
-                + "/drive_c/P/Official/Steam\nfile " + Prefix2024 + "/drive_c/P/Community =",
+            settings(R"(InstalledPackagesPath "C:\\P")") + "dir " + prefix2020()
+                + "/drive_c/P/Official2024\n" + file2024 + "dir " + prefix2024()
+                + "/drive_c/P/Official/Steam\nfile " + prefix2024() + "/drive_c/P/Community =",
             "",
-            "MSFS2020 not taken: " + Prefix2020
+            "MSFS2020 not taken: " + prefix2020()
                 + "/drive_c/P: no Community, Official/Steam or Official/OneStore\n"
                   "MSFS2024 not taken: "
-                + Prefix2024 + "/drive_c/P: no Community, Official2024 or StreamedPackages");
+                + prefix2024() + "/drive_c/P: no Community, Official2024 or StreamedPackages");
     addCase("one folder for both editions",
             OnLinux,
-            settings(R"(InstalledPackagesPath "Z:\\P")") + "file " + Roaming2024
-                + R"(/UserCfg.opt = InstalledPackagesPath "C:\\P")" + "\ndir " + Prefix2024
-                + "/drive_c/P/Community\nlink " + Prefix2020 + "/dosdevices/z: -> " + Prefix2024
+            settings(R"(InstalledPackagesPath "Z:\\P")") + "file " + roaming2024()
+                + R"(/UserCfg.opt = InstalledPackagesPath "C:\\P")" + "\ndir " + prefix2024()
+                + "/drive_c/P/Community\nlink " + prefix2020() + "/dosdevices/z: -> " + prefix2024()
                 + "/drive_c",
-            "MSFS2020: " + Prefix2020 + "/dosdevices/z:/P",
-            "MSFS2024 not taken: " + Prefix2024 + "/drive_c/P: it is taken as MSFS2020");
+            "MSFS2020: " + prefix2020() + "/dosdevices/z:/P",
+            "MSFS2024 not taken: " + prefix2024() + "/drive_c/P: it is taken as MSFS2020");
 }
 
 void tst_MsfsPackages::passesOverWhatNamesNone_data()
@@ -154,11 +168,11 @@ void tst_MsfsPackages::passesOverWhatNamesNone_data()
                         const QByteArray &why) {
         addCase(name,
                 OnLinux,
-                "dir " + Prefix2020 + "/drive_c/P/Community\n" + settings(content),
+                "dir " + prefix2020() + "/drive_c/P/Community\n" + settings(content),
                 "",
                 "MSFS2020 not taken: " + path + ": " + why);
     };
-    const QByteArray file = Roaming2020 + "/UserCfg.opt";
+    const QByteArray file = roaming2020() + "/UserCfg.opt";
     const QByteArray none = "no InstalledPackagesPath in it";
     add("nothing", "", file, none);
     add("only that of the next start", R"(InstalledPackagesPathNextBoot "C:\\P")", file, none);
@@ -173,19 +187,21 @@ void tst_MsfsPackages::passesOverWhatNamesNone_data()
     add("relative to a drive", R"(InstalledPackagesPath "C:P")", file, noDrive);
     add("a folder that is gone",
         R"(InstalledPackagesPath "C:\\Q")",
-        Prefix2020 + "/drive_c/Q",
+        prefix2020() + "/drive_c/Q",
         "no such folder");
     add("a drive that is gone",
         R"(InstalledPackagesPath "E:\\P")",
-        Prefix2020 + "/dosdevices/e:/P",
+        prefix2020() + "/dosdevices/e:/P",
         "no such folder");
     addCase("a folder for the file",
             OnLinux,
             "dir " + file,
             "",
             "MSFS2020 not taken: " + file + ": not a plain file");
-    addCase(
-        "a prefix that the game has not started in", OnLinux, "dir " + Prefix2020 + "/drive_c", "");
+    addCase("a prefix that the game has not started in",
+            OnLinux,
+            "dir " + prefix2020() + "/drive_c",
+            "");
 }
 
 QTEST_GUILESS_MAIN(tst_MsfsPackages)

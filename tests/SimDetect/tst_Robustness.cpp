@@ -174,7 +174,7 @@ void tst_Robustness::answersSoonWhateverIsThere_data()
         << Maker([](const QString &path) { QFile::link(path, path); });
     QTest::newRow("files of 64 MiB") << Maker([](const QString &path) {
         QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(64 * 1024 * 1024));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(64LL * 1024 * 1024));
     });
     const auto row = [](const char *name, const QByteArray &content) {
         QTest::newRow(name) << Maker([content](const QString &path) { writeFile(path, content); });
@@ -271,7 +271,7 @@ void tst_Robustness::opensNoFileTwice()
         events.open(watcher, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle));
     // The system joins equal events that follow on each other, but other files lie between.
     QHash<int, int> opened;
-    const QByteArray seen = events.read(64 * 1024);
+    const QByteArray seen = events.read(65536);
     for (int at = 0; at + int(sizeof(inotify_event)) <= seen.size();) {
         inotify_event event{};
         std::memcpy(&event, seen.constData() + at, sizeof(event));

@@ -102,8 +102,8 @@ void tst_SimDetect::asksTheComputerItRunsOn()
 {
     Sandbox sandbox;
     const QString data = sandbox.path(QStringLiteral("fgdata"));
-    writeFile(data + QLatin1String("/version"), "2020.3.16\n");
-    writeFile(data + QLatin1String("/defaults.xml"), {});
+    writeFile(data + QStringLiteral("/version"), "2020.3.16\n");
+    writeFile(data + QStringLiteral("/defaults.xml"), {});
     sandbox.setVariable("FG_ROOT", QFile::encodeName(data));
     QCOMPARE(GetAllSimPaths().value(QStringLiteral("FGFS")), data);
 

@@ -323,7 +323,7 @@ void tst_Steam::refusesFoldersOutsideTheLibrary()
         xplane $S/steamapps/common/X
         xplane $R/outside
         file $S/steamapps/appmanifest_2014780.acf = AppState { installdir ")")
-                  + name + QLatin1String("\" }"));
+                  + name + QStringLiteral("\" }"));
     QCOMPARE(computer.detect(), QString());
     QCOMPARE(
         computer.log(),
