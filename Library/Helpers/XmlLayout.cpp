@@ -1,0 +1,88 @@
+#include "Library/Helpers/XmlLayout.h"
+
+#include "Library/Helpers/XmlBlank.h"
+#include "Library/Helpers/XmlDocument.h"
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+using Outline = XmlDocument::Outline;
+
+/// The last child of the root that begins a line, else the last of all; null if there is none. A
+/// parent is one that has children itself.
+const Outline *neighbour(const XmlDocument &document, bool isParent)
+{
+    const Outline *result = nullptr;
+    const QVector<Outline> &all = document.outlines();
+    for (auto one = all.crbegin(); one != all.crend(); ++one) {
+        const int begin = document.tagBegin(one->startTagEnd);
+        if (begin < 0 || (isParent && one->firstChildTagEnd < 0))
+            continue;
+        if (XmlBlank::beginsLine(document.text(), begin))
+            return &*one;
+        if (!result)
+            result = &*one;
+    }
+    return result;
+}
+
+/// The white space in front of the tag that ends at @p end.
+QString lineBeforeTag(const XmlDocument &document, int end)
+{
+    const int begin = document.tagBegin(end);
+    return begin < 0 ? QString() : XmlBlank::lineBefore(document.text(), begin);
+}
+
+QString rootIndent(const XmlDocument &document)
+{
+    const int begin = document.root().begin;
+    return XmlBlank::beginsLine(document.text(), begin)
+        ? XmlBlank::indent(XmlBlank::lineBefore(document.text(), begin))
+        : QString();
+}
+
+/// A line that is indented by one step more than the root's.
+QString lineBelowRoot(const XmlDocument &document)
+{
+    return XmlBlank::lineEndBefore(document.text(), document.root().contentEnd)
+        + rootIndent(document) + QStringLiteral("    ");
+}
+
+QString entryLine(const XmlDocument &document)
+{
+    const Outline *last = neighbour(document, false);
+    const QString line = last ? lineBeforeTag(document, last->startTagEnd) : QString();
+    if (XmlBlank::hasLineEnd(QStringRef(&line)))
+        return line;
+
+    const QString &text = document.text();
+    const XmlElement &root = document.root();
+    const int length = root.contentEnd - root.contentBegin;
+    if (!XmlBlank::hasLineEnd(text.midRef(root.contentBegin, length)))
+        return line;
+
+    const int first = XmlBlank::end(text, root.contentBegin);
+    return first < root.contentEnd && XmlBlank::beginsLine(text, first)
+        ? XmlBlank::lineBefore(text, first)
+        : lineBelowRoot(document);
+}
+
+} // namespace
+
+XmlLayout::XmlLayout(const XmlDocument &document)
+    : m_beforeEntry(entryLine(document))
+{
+    if (const Outline *parent = neighbour(document, true)) {
+        m_beforeChild = lineBeforeTag(document, parent->firstChildTagEnd);
+        m_beforeEnd = lineBeforeTag(document, parent->end);
+    } else if (XmlBlank::hasLineEnd(QStringRef(&m_beforeEntry))) {
+        const QString indent = XmlBlank::indent(m_beforeEntry);
+        const QString outer = rootIndent(document);
+        const bool isDeeper = indent.startsWith(outer);
+        m_beforeChild = m_beforeEntry + (isDeeper ? indent.mid(outer.size()) : indent);
+        m_beforeEnd = m_beforeEntry;
+    }
+}
+
+} // namespace Quillmont::Library::Helpers
