@@ -69,7 +69,7 @@ QString Workshop::beside(const QByteArray &relative)
 
 QString Workshop::folder(const QByteArray &relative) const
 {
-    const QString path = this->path(relative);
+    QString path = this->path(relative);
     QDir().mkpath(path);
     return path;
 }
@@ -86,7 +86,7 @@ void Workshop::writeCatalogue(const QByteArray &json) const
 
 QString Workshop::makeDetectedSimulator(const QByteArray &relative) const
 {
-    const QString simulator = folder(relative);
+    QString simulator = folder(relative);
     folder(relative + "/Resources/plugins");
     writeFile(simulator + QLatin1String("/X-Plane-x86_64"), "the simulator");
 #ifdef Q_OS_MACOS

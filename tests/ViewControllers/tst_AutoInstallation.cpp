@@ -245,6 +245,8 @@ private slots:
             {mapping(shop, "A"), mapping(shop, "B")}, true, ScanController::ModeScanAndInstall);
         QVERIFY(shop.boxes().isEmpty());
         QCOMPARE(recordedNames(shop), QStringLiteral("Sim A|Sim B"));
+        // For A by the removal, by the installation and once more; for B once.
+        QCOMPARE(shop.log.debugLines().filter(QStringLiteral("mapping path: ")).size(), 4);
         verifyLauncherPath(shop);
         shop.controller().autoInstall({}, true, ScanController::ModeInstall);
         QVERIFY(shop.boxes().isEmpty());

@@ -11,7 +11,6 @@
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Tests::box;
-using Tests::FlightSimulatorMapping;
 using Tests::readFile;
 using Tests::SettingsHome;
 using Tests::Unprivileged;
@@ -123,6 +122,22 @@ private slots:
         QCOMPARE(readFile(shop.path("not/there/yet/Modules/one.dll")), QByteArray("one"));
     }
 
+    void worksInADeepHome()
+    {
+        Workshop shop;
+        writePayload(shop);
+        const QByteArray deep = QByteArray(200, 'd') + "/" + QByteArray(200, 'e') + "/спутник 日本";
+        shop.sandbox.setVariable("HOME", QFile::encodeName(shop.folder(deep)));
+        auto *mapping = shop.mapping(configuredSimulator, shop.path(deep + "/sims/A"));
+        QVERIFY(shop.controller().install(mapping, false, false));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
+        const auto disk = shop.disk();
+        QCOMPARE(disk.value(QString::fromUtf8(deep) + QStringLiteral("/sims/A/a/one.dll")),
+                 QByteArray("one"));
+        QVERIFY(disk.keys().join(u'\n').contains(QStringLiteral("/Quillmont/Orbwell/.mapping")));
+        QVERIFY(disk.keys().join(u'\n').contains(QStringLiteral("/Vendor/dll.xml")));
+    }
+
     void replacesWhatIsThere()
     {
         Workshop shop;
@@ -215,6 +230,7 @@ private slots:
         QTest::newRow("a folder in the file's place") << "folder";
         QTest::newRow("a file in the folder's place") << "file";
         QTest::newRow("a dangling link in the folder's place") << "link";
+        QTest::newRow("a dangling link in the file's place") << "file link";
     }
 
     void leavesObstaclesAsTheyAre()
@@ -226,6 +242,8 @@ private slots:
             writeFile(shop.path("A/Modules/one.dll/precious"), "precious");
         else if (obstacle == QLatin1String("file"))
             writeFile(shop.path("A/Modules"), "precious");
+        else if (obstacle == QLatin1String("file link"))
+            QFile::link(shop.path("gone"), shop.folder("A/Modules") + QStringLiteral("/one.dll"));
         else
             QFile::link(shop.path("gone"), shop.folder("A") + QStringLiteral("/Modules"));
         auto *mapping = shop.mapping(plainSimulator, shop.path("A"));

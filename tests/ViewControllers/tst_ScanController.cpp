@@ -88,10 +88,12 @@ private slots:
     {
         Workshop shop;
         auto &controller = shop.controller();
-        const std::less<const void *> before;
-        QVERIFY(before(&controller.m_errorMessage, &controller.view));
-        QVERIFY(before(&controller.view, &controller.mappings));
-        QVERIFY(before(&controller.mappings, &controller.simPaths));
+        const auto place = [](const auto &member) {
+            return reinterpret_cast<quintptr>(&member);
+        };
+        QVERIFY(place(controller.m_errorMessage) < place(controller.view));
+        QVERIFY(place(controller.view) < place(controller.mappings));
+        QVERIFY(place(controller.mappings) < place(controller.simPaths));
     }
 
     void startsWithWhatTheDetectionLibraryKnows()

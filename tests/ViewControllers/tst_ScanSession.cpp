@@ -358,8 +358,8 @@ private slots:
         Workshop shop;
         QByteArray catalogue = "[";
         for (int i = 0; i < 20000; ++i)
-            catalogue
-                += "{\"location\": 3, \"name\": \"Simulator " + QByteArray::number(i) + "\"},";
+            catalogue += QByteArray(R"({"location": 3, "name": "Simulator $"},)")
+                             .replace('$', QByteArray::number(i));
         shop.writeCatalogue(catalogue + R"({"name": ")" + QByteArray(1000000, 'x') + R"("}])");
         shop.controller().startScan(false, true, ScanController::ModeNone);
         const auto &mappings = shop.controller().mappings;

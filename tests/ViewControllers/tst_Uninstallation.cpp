@@ -169,6 +169,21 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("gone")));
     }
 
+    void aSimulatorFolderThatIsAFileIsLeftAlone()
+    {
+        Workshop shop;
+        writeFile(shop.path("A"), "a file");
+        QFile::link(shop.path("gone"), shop.path("B"));
+        shop.writeRecord("[\n]\n");
+        auto *file = shop.mapping(plainSimulator, shop.path("A"));
+        auto *link = shop.mapping(plainSimulator, shop.path("B"));
+        const auto disk = shop.disk();
+        QVERIFY(shop.controller().uninstall(file, false, false));
+        QVERIFY(shop.controller().uninstall(link, false, false));
+        QCOMPARE(shop.disk(), disk);
+        QCOMPARE(shop.boxes().size(), 2);
+    }
+
     void namesEveryFileThatItCouldNotRemoveSilentOrNot_data()
     {
         QTest::addColumn<bool>("silent");
