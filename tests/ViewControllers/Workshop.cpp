@@ -88,7 +88,7 @@ QString Workshop::makeDetectedSimulator(const QByteArray &relative) const
 {
     QString simulator = folder(relative);
     folder(relative + "/Resources/plugins");
-    writeFile(simulator + QLatin1String("/X-Plane-x86_64"), "the simulator");
+    writeFile(simulator + QStringLiteral("/X-Plane-x86_64"), "the simulator");
 #ifdef Q_OS_MACOS
     const QString list = QStringLiteral("/Library/Preferences/x-plane_install_12.txt");
 #else
@@ -160,7 +160,8 @@ QStringList Workshop::rowNames()
     QStringList names;
     const auto *list = controller().view->findChild<QListWidget *>();
     for (int row = 0; row < list->count(); ++row) {
-        for (const auto *label : list->itemWidget(list->item(row))->findChildren<QLabel *>()) {
+        const auto labels = list->itemWidget(list->item(row))->findChildren<QLabel *>();
+        for (const auto *label : labels) {
             if (label->text().startsWith(QLatin1String("<b>")))
                 names.append(label->text().mid(3).chopped(4));
         }
@@ -213,7 +214,7 @@ SettingsHome::SettingsHome()
 
 QString box(const QString &title, const QString &text)
 {
-    return title + QLatin1String(" | ") + text;
+    return title + QStringLiteral(" | ") + text;
 }
 
 } // namespace Tests

@@ -92,7 +92,7 @@ private slots:
         b->scan->name = QStringLiteral("%1 %0");
         shop.controller().autoInstall({b, a}, false, ScanController::ModeNone);
         QCOMPARE(shop.boxes(), QStringList(installedBox(QStringLiteral(" %1 %0 Sim A"))));
-        QVERIFY(shop.boxes().first().contains(QStringLiteral("plugin to  %1")));
+        QVERIFY(shop.boxes().constFirst().contains(QStringLiteral("plugin to  %1")));
     }
 
     void whenAllHaveItAllAreRecordedAgain()
@@ -192,9 +192,9 @@ private slots:
         shop.controller().autoInstall(
             {mapping(shop, "A"), mapping(shop, "B")}, true, ScanController::ModeNone);
         QCOMPARE(shop.boxes().size(), 1);
-        QVERIFY(shop.boxes().first().contains(QStringLiteral("plugin from Sim B.")));
-        QVERIFY(shop.boxes().first().contains(shop.path("A/p/x.dll")));
-        QVERIFY(!shop.boxes().first().contains(shop.path("B/p/x.dll")));
+        QVERIFY(shop.boxes().constFirst().contains(QStringLiteral("plugin from Sim B.")));
+        QVERIFY(shop.boxes().constFirst().contains(shop.path("A/p/x.dll")));
+        QVERIFY(!shop.boxes().constFirst().contains(shop.path("B/p/x.dll")));
         // B's own line waits for whoever shows it.
         QVERIFY(shop.controller().m_errorMessage.contains(shop.path("B/p/x.dll")));
     }
@@ -264,9 +264,9 @@ private slots:
                 found.append(it.key());
         }
         QCOMPARE(found.size(), 1);
-        QVERIFY2(found.first().startsWith(QLatin1String("Orbwell/Orbwell home/")),
-                 qPrintable(found.first()));
-        QVERIFY(found.first().endsWith(QLatin1String("/Quillmont/Orbwell/.path")));
+        QVERIFY2(found.constFirst().startsWith(QLatin1String("Orbwell/Orbwell home/")),
+                 qPrintable(found.constFirst()));
+        QVERIFY(found.constFirst().endsWith(QLatin1String("/Quillmont/Orbwell/.path")));
     }
 
     void anOldLauncherPathIsReplaced()

@@ -134,8 +134,10 @@ private slots:
         const auto disk = shop.disk();
         QCOMPARE(disk.value(QString::fromUtf8(deep) + QStringLiteral("/sims/A/a/one.dll")),
                  QByteArray("one"));
-        QVERIFY(disk.keys().join(u'\n').contains(QStringLiteral("/Quillmont/Orbwell/.mapping")));
-        QVERIFY(disk.keys().join(u'\n').contains(QStringLiteral("/Vendor/dll.xml")));
+        const QStringList files = disk.keys();
+        const QString written = files.join(u'\n');
+        QVERIFY(written.contains(QStringLiteral("/Quillmont/Orbwell/.mapping")));
+        QVERIFY(written.contains(QStringLiteral("/Vendor/dll.xml")));
     }
 
     void replacesWhatIsThere()
@@ -311,7 +313,7 @@ private slots:
         auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
         QVERIFY(!shop.controller().install(mapping, false, false));
         QCOMPARE(shop.boxes().size(), 1);
-        QVERIFY(shop.boxes().first().contains(
+        QVERIFY(shop.boxes().constFirst().contains(
             QStringLiteral(".mapping'. Please check if you have permission to that file.")));
         QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
     }
@@ -346,7 +348,7 @@ private slots:
         QCOMPARE(readFile(shop.dataPath("Vendor/dll.xml")).size(), 428);
         // The second of the two files found the document that the first one made.
         QCOMPARE(shop.backups().size(), 1);
-        QCOMPARE(readFile(shop.backups().first()), QByteArray(launchDocument));
+        QCOMPARE(readFile(shop.backups().constFirst()), QByteArray(launchDocument));
     }
 
     void addsTheEntryToTheConfiguration()
@@ -366,7 +368,7 @@ private slots:
         QVERIFY(after.contains("<Name>Other</Name>"));
         QVERIFY(after.contains("<Name>Our entry</Name>"));
         QVERIFY(after.contains("<Path>one.dll</Path>"));
-        QCOMPARE(readFile(shop.backups().first()), before);
+        QCOMPARE(readFile(shop.backups().constFirst()), before);
     }
 
     void editsTheConfigurationOnlyWhereItIsWanted_data()
@@ -454,7 +456,8 @@ private slots:
         QVERIFY(shop.controller().install(mapping, false, false));
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
         auto after = Tests::treeOf(shop.sandbox.dataRoot() + QStringLiteral("Vendor"));
-        for (const QString &backup : shop.backups())
+        const auto backups = shop.backups();
+        for (const QString &backup : backups)
             after.remove(backup.section(u'/', -1));
         QCOMPARE(after, vendor);
         const bool isFile = QFileInfo(file).isFile();
@@ -556,7 +559,7 @@ private slots:
         QVERIFY(shop.controller().install(mapping, false, true));
         QVERIFY(lines > 0);
         QCOMPARE(busy, lines);
-        QVERIFY(!shop.answerer.boxes().first().busyPointer);
+        QVERIFY(!shop.answerer.boxes().constFirst().busyPointer);
         QVERIFY(!QApplication::overrideCursor());
         mapping->path.clear();
         QVERIFY(!shop.controller().install(mapping, false, true));
@@ -579,10 +582,8 @@ private:
 
     static void withoutRecord(QMap<QString, QByteArray> &disk)
     {
-        for (const QString &path : disk.keys()) {
-            if (path.endsWith(QLatin1String("Quillmont/Orbwell/.mapping")))
-                disk.remove(path);
-        }
+        for (auto it = disk.begin(); it != disk.end();)
+            it = it.key().endsWith(QStringLiteral("/.mapping")) ? disk.erase(it) : it + 1;
     }
 
     static QMap<QString, QByteArray> diskWithoutRecord(const Workshop &shop)

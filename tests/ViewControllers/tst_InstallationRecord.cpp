@@ -136,8 +136,8 @@ private slots:
         shop.writeRecord(record);
         const auto all = mappings(shop, {"Sim A"});
         shop.controller().getUserSimulatorMapping();
-        QCOMPARE(all.first()->path, path);
-        QCOMPARE(all.first()->note, path == QLatin1String("old") ? QString() : path);
+        QCOMPARE(all.constFirst()->path, path);
+        QCOMPARE(all.constFirst()->note, path == QLatin1String("old") ? QString() : path);
         QCOMPARE(readFile(shop.recordPath()), shop.expanded(record));
     }
 
@@ -147,7 +147,7 @@ private slots:
         shop.writeRecord(R"([{"name": 5, "path": "new"}])");
         const auto all = mappings(shop, {""});
         shop.controller().getUserSimulatorMapping();
-        QCOMPARE(all.first()->path, QStringLiteral("new"));
+        QCOMPARE(all.constFirst()->path, QStringLiteral("new"));
     }
 
     void readsAndWritesUnderItsTwoPaths()
@@ -296,7 +296,7 @@ private slots:
         shop.controller().saveInstallationInfo(shop.mapping(simulator, shop.path("A")), false);
         QCOMPARE(shop.record().size(), 1);
         QVERIFY(shop.controller().m_errorMessage.startsWith(QStringLiteral("The file '")));
-        QCOMPARE(shop.controller().m_errorMessage.count(QLatin1String("The file '")), 1);
+        QCOMPARE(shop.controller().m_errorMessage.count(QStringLiteral("The file '")), 1);
         QVERIFY(!shop.controller().m_errorMessage.contains(QStringLiteral("Unable")));
     }
 
@@ -324,7 +324,7 @@ private slots:
         shop.controller().saveInstallationInfo(mapping, false);
         const auto all = mappings(shop, {"Sim A"});
         shop.controller().getUserSimulatorMapping();
-        QCOMPARE(all.first()->path, shop.path("My Sims/плагин"));
+        QCOMPARE(all.constFirst()->path, shop.path("My Sims/плагин"));
     }
 
 private:

@@ -225,7 +225,7 @@ private slots:
         shop.controller().mappings = {before};
         shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
         QCOMPARE(shop.controller().mappings.size(), 3);
-        QCOMPARE(shop.controller().mappings.first()->scan->name, QStringLiteral("Three"));
+        QCOMPARE(shop.controller().mappings.constFirst()->scan->name, QStringLiteral("Three"));
         QVERIFY(shop.rowNames().isEmpty());
         QCOMPARE(shop.boxes(),
                  QStringList(box(boxTitle(),
@@ -297,12 +297,12 @@ private slots:
             QCOMPARE(mapping->scan->parent(), &shop.controller());
             first.append(mapping);
         }
-        const auto *second = shop.controller().mappings.first();
+        const auto *second = shop.controller().mappings.constFirst();
         shop.controller().startScan(false, true, ScanController::ModeNone);
         startScan(shop);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!first.contains(nullptr));
-        QVERIFY(shop.controller().mappings.first() != second);
+        QVERIFY(shop.controller().mappings.constFirst() != second);
         QCOMPARE(shop.entryCount(), 9);
         shop.dropController();
         QCOMPARE(first.count(nullptr), 3);
@@ -340,7 +340,7 @@ private slots:
             "remove": []}, "conflict": {"name": 5, "solution": {}}}])");
         startScan(shop);
         QCOMPARE(shop.rowNames().size(), 8);
-        QCOMPARE(shop.rowNames().first(), QStringLiteral("Good"));
+        QCOMPARE(shop.rowNames().constFirst(), QStringLiteral("Good"));
         QCOMPARE(shop.rowNames().count(QString()), 7);
         QCOMPARE(shop.rowPaths().count(QString()), 7);
         const auto disk = shop.disk();
@@ -364,9 +364,9 @@ private slots:
         shop.controller().startScan(false, true, ScanController::ModeNone);
         const auto &mappings = shop.controller().mappings;
         QCOMPARE(mappings.size(), 20001);
-        QCOMPARE(mappings.first()->scan->name.size(), 1000000);
+        QCOMPARE(mappings.constFirst()->scan->name.size(), 1000000);
         QCOMPARE(mappings.at(1)->scan->name, QStringLiteral("Simulator 19999"));
-        QCOMPARE(mappings.last()->scan->name, QStringLiteral("Simulator 0"));
+        QCOMPARE(mappings.constLast()->scan->name, QStringLiteral("Simulator 0"));
     }
 
     void theBusyPointerIsUpWhileItWorks()
@@ -381,7 +381,7 @@ private slots:
         });
         shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
         QVERIFY(busy);
-        QVERIFY(!shop.answerer.boxes().first().busyPointer);
+        QVERIFY(!shop.answerer.boxes().constFirst().busyPointer);
         QVERIFY(!QApplication::overrideCursor());
     }
 

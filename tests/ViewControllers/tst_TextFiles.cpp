@@ -135,7 +135,7 @@ private slots:
         const QString after = timeName(QDateTime::currentDateTime());
 
         QCOMPARE(shop.backups().size(), 1);
-        const QString backup = shop.backups().first();
+        const QString backup = shop.backups().constFirst();
         const QString start = file + QStringLiteral("_quillmont_orbwell_before_") + occasion + u'_';
         QVERIFY2(backup.startsWith(start), qPrintable(backup));
         QVERIFY(backup.endsWith(QLatin1String(".bak")));
@@ -171,7 +171,7 @@ private slots:
         QCOMPARE(shop.backups().size(), 30);
         const auto lines = shop.log.debugLines().filter(QStringLiteral("file backups to '"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(lines.first().endsWith(QLatin1String("'. Result: error")));
+        QVERIFY(lines.constFirst().endsWith(QLatin1String("'. Result: error")));
         QCOMPARE(countOfHelpers(shop), helpers + 1);
         QVERIFY(shop.controller().m_errorMessage.isEmpty());
         QVERIFY(shop.boxes().isEmpty());

@@ -239,7 +239,6 @@ private slots:
         Workshop shop;
         writeFile(shop.path("elsewhere/other"), "precious");
         QFile::link(shop.path("elsewhere"), shop.folder("A") + QStringLiteral("/Modules"));
-        const auto disk = shop.disk();
         QVERIFY(
             shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
         QCOMPARE(readFile(shop.path("elsewhere/other")), QByteArray("precious"));
@@ -309,7 +308,7 @@ private slots:
         QVERIFY(!shop.controller().uninstall(
             shop.mapping(plainSimulator, shop.path("A")), true, false));
         QCOMPARE(shop.boxes().size(), 1);
-        QVERIFY(shop.boxes().first().contains(QStringLiteral(".mapping' is empty.")));
+        QVERIFY(shop.boxes().constFirst().contains(QStringLiteral(".mapping' is empty.")));
     }
 
     void takesTheEntryOutOfTheConfigurationAfterEachFile()
@@ -327,7 +326,7 @@ private slots:
             shop.mapping(configuredSimulator, shop.path("A")), true, false));
         QCOMPARE(seen, QStringList({QStringLiteral("b/ b/two.dat"), QString()}));
         QCOMPARE(shop.controller().findChildren<XmlHelper *>().size(), 2);
-        QVERIFY(shop.backups().first().contains(
+        QVERIFY(shop.backups().constFirst().contains(
             QStringLiteral("dll.xml_quillmont_orbwell_before_uninstallation_")));
     }
 
@@ -348,7 +347,7 @@ private slots:
         const QByteArray after = readFile(shop.dataPath("Vendor/dll.xml"));
         QVERIFY(after.contains("<Name>Other</Name>"));
         QVERIFY(!after.contains("Our entry"));
-        QCOMPARE(readFile(shop.backups().first()), before);
+        QCOMPARE(readFile(shop.backups().constFirst()), before);
     }
 
     void anotherFamilyHasNoConfigurationToEdit()
@@ -585,8 +584,8 @@ private slots:
         QVERIFY(shop.controller().uninstall(mapping, false, true));
         QVERIFY(lines > 0);
         QCOMPARE(busy, lines);
-        QVERIFY(!shop.answerer.boxes().first().busyPointer);
-        QVERIFY(!shop.answerer.boxes().last().busyPointer);
+        QVERIFY(!shop.answerer.boxes().constFirst().busyPointer);
+        QVERIFY(!shop.answerer.boxes().constLast().busyPointer);
         QVERIFY(!QApplication::overrideCursor());
         mapping->path.clear();
         QVERIFY(!shop.controller().uninstall(mapping, false, true));
