@@ -50,7 +50,7 @@ bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *pr
     const FileSizeSignal ignored;
     const QString target = linkTarget(path);
     const QFileInfo info(target);
-    if (info.exists() && !info.isFile()) {
+    if (info.isSymLink() || (info.exists() && !info.isFile())) {
         *problem = QStringLiteral("not a regular file");
         return false;
     }

@@ -11,7 +11,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
 #include <functional>
+#include <string>
+#include <system_error>
 
 namespace Quillmont::Library::Helpers {
 
@@ -31,7 +34,7 @@ QByteArray read(const QString &path, QString *problem)
         *problem = QStringLiteral("too big");
     else if (!file.open(QIODevice::ReadOnly))
         *problem = file.errorString();
-    const QByteArray bytes = problem->isEmpty() ? file.read(biggestSize) : QByteArray();
+    const QByteArray bytes = file.isOpen() ? file.readAll() : QByteArray();
     if (problem->isEmpty() && file.error() != QFileDevice::NoError)
         *problem = file.errorString();
     return bytes;
@@ -70,6 +73,14 @@ QString edit(const QString &path, const XmlDocument::Filter &isOurs, const Chang
     return problem;
 }
 
+/// Whether there surely is no such file; one that cannot be looked at may well be there.
+bool isMissing(const QString &path)
+{
+    std::error_code ignored;
+    const std::string name = QFile::encodeName(path).toStdString();
+    return std::filesystem::status(name, ignored).type() == std::filesystem::file_type::not_found;
+}
+
 bool report(const QString &path, const QString &problem)
 {
     if (!problem.isEmpty())
@@ -98,7 +109,7 @@ bool XmlHelper::insertValues(Models::XmlInsertionModel *model)
 
 bool XmlHelper::removeConfig(Models::XmlConfigModel *model)
 {
-    if (!model || !model->describesEntry() || !QFileInfo::exists(m_path))
+    if (!model || !model->describesEntry() || isMissing(m_path))
         return true;
     const auto isOurs = [model](const XmlElement &entry) {
         return XmlEntryMatch::isOurs(entry, *model);
