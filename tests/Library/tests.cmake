@@ -3,7 +3,9 @@ add_library(orbwell-xml-test-support STATIC
   Library/Helpers/RoundTrip.cpp
   Library/Helpers/RoundTrip.h
   Library/Helpers/XmlEditTest.cpp
-  Library/Helpers/XmlEditTest.h)
+  Library/Helpers/XmlEditTest.h
+  Library/Helpers/XmlPromises.cpp
+  Library/Helpers/XmlPromises.h)
 target_link_libraries(orbwell-xml-test-support
   PUBLIC quillmont-library orbwell-test-support
   PRIVATE orbwell-options)

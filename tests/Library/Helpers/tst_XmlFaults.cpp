@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 /// Ends the process that edits a file at each of its system calls, and makes each of them fail.
 class TestXmlFaults : public Tests::XmlEditTest
 {
@@ -40,6 +42,13 @@ const QByteArray foreign
 const QByteArray entry = "  <Addon>\r\n    <Name>Tide</Name>\r\n  </Addon>\r\n";
 const QByteArray without = foreign + "</R>\r\n";
 const QByteArray with = foreign + entry + "</R>\r\n";
+
+unsigned modeOf(const QString &path)
+{
+    struct stat status = {};
+    stat(QFile::encodeName(path).constData(), &status);
+    return status.st_mode & 07777U;
+}
 
 } // namespace
 
@@ -117,6 +126,7 @@ void TestXmlFaults::failingCallLeavesOldOrNewBytes()
                                       QStringLiteral("linkat"),
                                       QStringLiteral("rename"),
                                       QStringLiteral("statx"),
+                                      QStringLiteral("newfstatat"),
                                       QStringLiteral("access"),
                                       QStringLiteral("close"),
                                       QStringLiteral("fchown"),
@@ -131,12 +141,14 @@ void TestXmlFaults::failingCallLeavesOldOrNewBytes()
         for (const QString &error :
              {QStringLiteral("EIO"), QStringLiteral("ENOSPC"), QStringLiteral("EACCES")}) {
             Tests::writeFile(filePath(), before);
+            chmod(QFile::encodeName(filePath()).constData(), 0640);
             const QString fault
                 = QStringLiteral("inject=%1:error=%3:when=%2").arg(name).arg(count).arg(error);
             const int status = run({QStringLiteral("-e"), fault}, operation);
             const QByteArray left = Tests::readFile(filePath());
             QVERIFY2(status == 0 ? left == after : status == 1 && left == before,
                      qPrintable(fault));
+            QCOMPARE(modeOf(filePath()), 0640U);
             QVERIFY2(files() == QStringList{QStringLiteral("exe.xml")}, qPrintable(fault));
             failed += status;
         }
