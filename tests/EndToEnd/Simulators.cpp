@@ -50,17 +50,17 @@ QJsonObject launcherEntry(const QString &name, const QString &folder, const QStr
                 {pluginFile("FSX\\QuillmontOrbwell_64.dll", "Gauges\\QuillmontOrbwell_64.dll")});
     launcher.insert(
         QStringLiteral("config"),
-        QJsonObject {{QStringLiteral("path"), configuration},
-                     {QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
-                     {QStringLiteral("values"),
-                      QJsonArray {value("Name", "Quillmont Orbwell"),
-                                  value("Disabled", "False"),
-                                  value("Path", "GaugesQuillmontOrbwell_64.dll")}},
-                     {QStringLiteral("remove"),
-                      QJsonObject {{QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
-                                   {QStringLiteral("key"), QStringLiteral("Name")},
-                                   {QStringLiteral("value"), QStringLiteral("Quillmont Orbwell")},
-                                   {QStringLiteral("delete_parent"), true}}}});
+        QJsonObject{{QStringLiteral("path"), configuration},
+                    {QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
+                    {QStringLiteral("values"),
+                     QJsonArray{value("Name", "Quillmont Orbwell"),
+                                value("Disabled", "False"),
+                                value("Path", "GaugesQuillmontOrbwell_64.dll")}},
+                    {QStringLiteral("remove"),
+                     QJsonObject{{QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
+                                 {QStringLiteral("key"), QStringLiteral("Name")},
+                                 {QStringLiteral("value"), QStringLiteral("Quillmont Orbwell")},
+                                 {QStringLiteral("delete_parent"), true}}}});
     return launcher;
 }
 

@@ -26,6 +26,7 @@ private slots:
 
 private:
     void start(const Display *display = nullptr);
+
     QString skylark() const { return m_sandbox->path(QStringLiteral("Sky lark")); }
 
     QScopedPointer<Sandbox> m_sandbox;
@@ -66,7 +67,8 @@ void FirstStart::showsTheWindow()
              QStringLiteral("Orbwell will automatically detect your simulators and install the "
                             "plugin in each. Please verify below. To manually scan and install "
                             "again, press \"Scan & Install\" below."));
-    QCOMPARE(window.buttonTexts(), QStringList({QStringLiteral("Scan & Install"), QStringLiteral("Close")}));
+    QCOMPARE(window.buttonTexts(),
+             QStringList({QStringLiteral("Scan & Install"), QStringLiteral("Close")}));
     QVERIFY(window.rectangle.width() >= 640);
     QVERIFY(window.rectangle.height() >= 480);
     QCOMPARE(m_program->windows().size(), 1);
@@ -129,7 +131,8 @@ void FirstStart::startsAnEmptyRecordAndWritesNothingElse()
     QMap<QString, QByteArray> written = treeOf(m_sandbox->dataRoot());
     QVERIFY(written.contains(QStringLiteral("Quillmont/Orbwell/.mapping")));
     QCOMPARE(written.take(QStringLiteral("Quillmont/Orbwell/.mapping")), QByteArray());
-    QCOMPARE(written.keys(), QStringList({QStringLiteral("Quillmont/"), QStringLiteral("Quillmont/Orbwell/")}));
+    QCOMPARE(written.keys(),
+             QStringList({QStringLiteral("Quillmont/"), QStringLiteral("Quillmont/Orbwell/")}));
     QCOMPARE(QDir(skylark()).count(), 2U); // "." and ".."
 }
 
@@ -149,7 +152,8 @@ void FirstStart::hasNothingToComplainAbout()
     const QByteArray log = m_program->standardError();
     QVERIFY(log.contains("Scanning folders..."));
     for (const QByteArray &line : log.split('\n')) {
-        const bool ours = line.isEmpty() || line.startsWith("Scanning ") || line.startsWith("folder: ");
+        const bool ours
+            = line.isEmpty() || line.startsWith("Scanning ") || line.startsWith("folder: ");
         QVERIFY2(ours, line.constData());
     }
 }

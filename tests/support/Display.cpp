@@ -8,8 +8,7 @@ namespace Tests {
 Display::Display()
 {
     const QString server = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
-    if (server.isEmpty()
-        || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
+    if (server.isEmpty() || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
         return;
     // The server takes a free number by itself and says which as soon as it listens.
     m_server.start(server,

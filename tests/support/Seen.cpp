@@ -25,8 +25,7 @@ SeenControl::SeenControl(const QJsonObject &seen)
     : text(Tests::text(seen, "text"))
     , enabled(seen.value(QLatin1String("enabled")).toBool())
     , rectangle(Tests::rectangle(seen))
-{
-}
+{ }
 
 SeenRow::SeenRow(const QJsonObject &seen)
     : name(text(seen, "name"))
@@ -37,8 +36,7 @@ SeenRow::SeenRow(const QJsonObject &seen)
     , browse(control(seen, "browse"))
     , action(control(seen, "action"))
     , rectangle(Tests::rectangle(seen))
-{
-}
+{ }
 
 SeenWindow::SeenWindow(const QJsonObject &seen)
     : className(Tests::text(seen, "class"))

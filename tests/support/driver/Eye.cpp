@@ -57,8 +57,8 @@ static QJsonArray buttonsOf(const QWidget *window)
 static void describeBox(QJsonObject *seen, const QMessageBox *box)
 {
     const QWidget *parent = box->parentWidget();
-    const QString icon = QString::fromLatin1(
-        QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon()));
+    const QString icon
+        = QString::fromLatin1(QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon()));
     seen->insert(QStringLiteral("text"), box->text());
     seen->insert(QStringLiteral("icon"), icon);
     seen->insert(QStringLiteral("parent"),
@@ -67,7 +67,7 @@ static void describeBox(QJsonObject *seen, const QMessageBox *box)
 
 static QJsonObject describe(const QWidget *window)
 {
-    QJsonObject seen {
+    QJsonObject seen{
         {QStringLiteral("class"), QString::fromLatin1(window->metaObject()->className())},
         {QStringLiteral("title"), window->windowTitle()},
         {QStringLiteral("buttons"), buttonsOf(window)},
@@ -127,8 +127,8 @@ static QString iconName(const QPixmap &pixmap)
     qint64 smallest = 100000; // further off than scaling ever takes a picture from itself
     const QImage shown = pixmap.toImage().scaled(44, 44, {}, Qt::SmoothTransformation);
     for (const char *name : {"check-green", "check-grey", "minus-grey"}) {
-        const QImage drawn(QStringLiteral(":/assets/Quillmont Orbwell/icon-%1-44.png")
-                               .arg(QLatin1String(name)));
+        const QImage drawn(
+            QStringLiteral(":/assets/Quillmont Orbwell/icon-%1-44.png").arg(QLatin1String(name)));
         if (drawn.isNull())
             continue;
         if (const qint64 distance = difference(shown, drawn); distance < smallest) {
@@ -152,8 +152,8 @@ static void describeLabels(QJsonObject *seen, const QWidget *row)
 
 static QJsonObject describeRow(const QWidget *row)
 {
-    QJsonObject seen {{QStringLiteral("action"), control(buttonOf(row, false))},
-                      {QStringLiteral("browse"), control(buttonOf(row, true))}};
+    QJsonObject seen{{QStringLiteral("action"), control(buttonOf(row, false))},
+                     {QStringLiteral("browse"), control(buttonOf(row, true))}};
     describeLabels(&seen, row);
     const auto *field = row->findChild<QLineEdit *>();
     seen.insert(QStringLiteral("path"), field->text());

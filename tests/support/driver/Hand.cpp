@@ -18,8 +18,7 @@ namespace Tests {
 Hand::Hand(const QJsonObject &command)
     : m_command(command)
     , m_deed(text("do"))
-{
-}
+{ }
 
 QString Hand::text(const char *key) const
 {
