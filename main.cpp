@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTextCodec>
+#include <QtGlobal>
 
 using Quillmont::Utility::ViewControllers::ScanController;
 
@@ -9,6 +10,10 @@ int main(int argc, char *argv[])
 {
     // Catalogue, record and paths are UTF-8, whatever locale a launcher or a script hands us.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+
+    // A window of labels and buttons needs no OpenGL; loading it would take most of the start.
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     const QApplication application(argc, argv);

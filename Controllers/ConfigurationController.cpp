@@ -11,8 +11,7 @@ ConfigurationController *ConfigurationController::m_instance = nullptr;
 
 ConfigurationController::ConfigurationController(QObject *parent)
     : QObject(parent)
-    , settingsFilePath(userDataRoot() + QLatin1String("Quillmont/Vellum/.settings"))
-    , m_reserved(nullptr)
+    , settingsFilePath(userDataRoot() + QStringLiteral("Quillmont/Vellum/.settings"))
 { }
 
 ConfigurationController *ConfigurationController::instance()
@@ -50,7 +49,7 @@ void ConfigurationController::removeSettings(const QString &key) const
 
 QString ConfigurationController::appDataPath()
 {
-    const QString path = userDataRoot() + QLatin1String("/Quillmont/Vellum/");
+    const QString path = userDataRoot() + QStringLiteral("/Quillmont/Vellum/");
     return QString(path).replace(QLatin1String("//"), QLatin1String("/"));
 }
 

@@ -44,7 +44,8 @@ private:
     explicit ConfigurationController(QObject *parent = nullptr);
 
     QString settingsFilePath;
-    [[maybe_unused]] void *m_reserved; ///< Keeps the place of a member that is no longer used.
+    [[maybe_unused]] void *m_reserved
+        = nullptr; ///< Keeps the place of a member that is no longer used.
 
     static ConfigurationController *m_instance;
 };

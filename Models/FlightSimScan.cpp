@@ -19,11 +19,7 @@ FlightSimScan::FlightSimScan(QObject *parent, const QJsonObject &entry)
     , location(entry.value(QLatin1String("location")).toInt(0))
     , type(entry.value(QLatin1String("type")).toInt(0))
     , entry(entry)
-    , config(nullptr)
-    , root(-1)
     , target(entry.value(QLatin1String("target")).toString())
-    , conflict(nullptr)
-    , remove(nullptr)
 {
     readRoot();
     readFiles();

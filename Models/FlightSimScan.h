@@ -33,11 +33,12 @@ public:
     QString extra; ///< Always empty.
     QJsonObject entry; ///< The whole entry as read.
     QMap<QString, QString> files; ///< Destination in the simulator to source, "/"-separated.
-    Library::Models::XmlInsertionModel *config; ///< Configuration entry, owned; may be null.
-    int root; ///< 1 or more keeps the configuration entry from being added; -1 when not given.
+    Library::Models::XmlInsertionModel *config
+        = nullptr; ///< Configuration entry, owned; may be null.
+    int root = -1; ///< 1 or more keeps the configuration entry from being added; -1 when not given.
     QString target; ///< Datum of the multiple-locations strategy, as written.
-    FlightSimConflict *conflict; ///< Owned; may be null.
-    FlightSimRemoval *remove; ///< Owned; may be null.
+    FlightSimConflict *conflict = nullptr; ///< Owned; may be null.
+    FlightSimRemoval *remove = nullptr; ///< Owned; may be null.
 
 private:
     void readRoot();

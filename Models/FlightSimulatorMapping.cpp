@@ -18,7 +18,7 @@ void FlightSimulatorMapping::updateFlightSimPath(const QString &path)
     this->path = path;
 }
 
-bool FlightSimulatorMapping::isAddonInstalled()
+bool FlightSimulatorMapping::isAddonInstalled() const
 {
     if (path.isEmpty())
         return false;

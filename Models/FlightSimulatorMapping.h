@@ -9,7 +9,7 @@ namespace Quillmont::Utility::Models {
 class FlightSimScan;
 
 /// Ties a catalogue entry to the folder in which that simulator is installed on this computer.
-class FlightSimulatorMapping : public QObject
+class FlightSimulatorMapping : public QObject // clazy:exclude=ctor-missing-parent-argument
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     void updateFlightSimPath(const QString &path);
 
     /// Whether every plugin file of the entry exists in the folder; false without a folder.
-    bool isAddonInstalled();
+    bool isAddonInstalled() const;
 
     FlightSimScan *scan; ///< The entry; never null, not owned.
     QString path; ///< The simulator's folder; empty: not found and not set.

@@ -24,7 +24,7 @@ void writeLauncherPath()
                                                                           QLatin1String("Orbwell"));
     const QString path = QDir::toNativeSeparators(QStringLiteral("%0.path").arg(folder));
     const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
-                                                     + QLatin1String("/QuillmontOrbwell.exe"));
+                                                     + QStringLiteral("/QuillmontOrbwell.exe"));
     FileHelper::saveText(
         path, QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\")), QString());
 }

@@ -16,7 +16,6 @@ BusyPointer::~BusyPointer()
 }
 
 BusyPointerPause::BusyPointerPause()
-    : m_depth(0)
 {
     for (; QGuiApplication::overrideCursor(); ++m_depth)
         QGuiApplication::restoreOverrideCursor();

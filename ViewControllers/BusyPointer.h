@@ -24,7 +24,7 @@ public:
     Q_DISABLE_COPY(BusyPointerPause)
 
 private:
-    int m_depth;
+    int m_depth = 0;
 };
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -43,7 +43,8 @@ void applySolution(const FlightSimulatorMapping *mapping)
 
 } // namespace
 
-void ScanController::sloveConflict(QList<FlightSimulatorMapping *> mappings)
+void ScanController::sloveConflict(
+    QList<FlightSimulatorMapping *> mappings) // NOLINT clazy:exclude=function-args-by-ref
 {
     const Groups groups = groupByFolder(mappings);
     for (const Group &group : groups) {

@@ -49,7 +49,7 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
 
     const BusyPointer busy;
     m_errorMessage.clear();
-    const QString payload = QCoreApplication::applicationDirPath() + QLatin1String("/plugins/");
+    const QString payload = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins/");
     const auto &files = mapping->scan->files;
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
         copyPluginFile(QDir::toNativeSeparators(payload + it.value()),

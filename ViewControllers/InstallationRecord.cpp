@@ -23,7 +23,7 @@ namespace {
 
 QString recordPath()
 {
-    return userDataRoot() + QLatin1String("/Quillmont/Orbwell/.mapping");
+    return userDataRoot() + QStringLiteral("/Quillmont/Orbwell/.mapping");
 }
 
 bool allExist(const QJsonArray &files)
@@ -72,8 +72,7 @@ void ScanController::createMappingFile()
 void ScanController::getUserSimulatorMapping()
 {
     // The doubled slash has always been in the reading path; the file is the same.
-    const QString text = readFile(userDataRoot() + QLatin1String("/Quillmont/Orbwell/")
-                                  + QLatin1String("/.mapping"));
+    const QString text = readFile(userDataRoot() + QStringLiteral("/Quillmont/Orbwell//.mapping"));
     const QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
     for (const QJsonValue &element : records) {
         const QJsonObject record = element.toObject();

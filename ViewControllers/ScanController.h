@@ -107,7 +107,10 @@ public slots:
     /// Reads the catalogue, finds the simulators, and shows them, or, when @p silent or in
     /// ModeScanAndInstall, installs into them. @p updateDefault lets the window's rows take up
     /// folders that the user picked earlier. Without a catalogue nothing happens.
-    void startScan(bool updateDefault, bool silent, InstallationMode mode);
+    // The short name is part of the signature under which the slot is looked up.
+    void startScan(bool updateDefault, // clazy:exclude=fully-qualified-moc-types
+                   bool silent,
+                   InstallationMode mode);
 
 private:
     struct Request

@@ -22,7 +22,7 @@ namespace Quillmont::Utility::ViewControllers {
 QString ScanController::getJsonContent()
 {
     QFile file(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
-                                        + QLatin1String("/flightsims.json")));
+                                        + QStringLiteral("/flightsims.json")));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QTextStream(&file).readAll();
@@ -70,11 +70,11 @@ QList<FlightSimScan *> ScanController::catalogueEntries(const QString &content)
     return entries.values();
 }
 
-FlightSimulatorMapping *ScanController::mappingFor(FlightSimScan *entry)
+FlightSimulatorMapping *ScanController::mappingFor(FlightSimScan *scan)
 {
-    if (auto *found = scan(entry))
+    if (auto *found = this->scan(scan))
         return found;
-    return new FlightSimulatorMapping(entry, simPaths.value(entry->simcode));
+    return new FlightSimulatorMapping(scan, simPaths.value(scan->simcode));
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -134,14 +134,14 @@ void AddonListItem::updateStatus()
     const QString icon = !exists ? QStringLiteral("icon-minus-grey-44.png")
         : installed              ? QStringLiteral("icon-check-green-44.png")
                                  : QStringLiteral("icon-check-grey-44.png");
-    m_icon->setPixmap(QPixmap(QLatin1String(":/assets/Quillmont Orbwell/") + icon));
+    m_icon->setPixmap(QPixmap(QStringLiteral(":/assets/Quillmont Orbwell/") + icon));
     m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
     m_action->setEnabled(exists);
 }
 
 QString AddonListItem::settingsKey() const
 {
-    return QLatin1String("flightsim/") + QString(m_mapping->scan->name).replace(u' ', u'_');
+    return QStringLiteral("flightsim/") + QString(m_mapping->scan->name).replace(u' ', u'_');
 }
 
 QString AddonListItem::getMappedPath()

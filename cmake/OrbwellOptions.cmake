@@ -1,6 +1,5 @@
 # How every target of this project is compiled. Nothing here reaches a project that links to them.
 add_library(orbwell-options INTERFACE)
-target_compile_features(orbwell-options INTERFACE cxx_std_17)
 target_compile_options(orbwell-options INTERFACE
   -Wall -Wextra -Wpedantic
   $<$<BOOL:${ORBWELL_WARNINGS_AS_ERRORS}>:-Werror>
