@@ -37,17 +37,17 @@ QJsonObject pluginFolderEntry(const QString &name, const QString &folder)
     return entry(name,
                  folder,
                  1,
-                 {pluginFile("X-Plane\\64\\lin.xpl", "Resources\\plugins\\Orbwell\\64\\lin.xpl"),
-                  pluginFile("X-Plane\\about.txt", "Resources\\plugins\\Orbwell\\about.txt")});
+                 {pluginFile(R"(X-Plane\64\lin.xpl)", R"(Resources\plugins\Orbwell\64\lin.xpl)"),
+                  pluginFile(R"(X-Plane\about.txt)", R"(Resources\plugins\Orbwell\about.txt)")});
 }
 
 QJsonObject launcherEntry(const QString &name, const QString &folder, const QString &configuration)
 {
-    QJsonObject launcher
-        = entry(name,
-                folder,
-                0,
-                {pluginFile("FSX\\QuillmontOrbwell_64.dll", "Gauges\\QuillmontOrbwell_64.dll")});
+    QJsonObject launcher = entry(
+        name,
+        folder,
+        0,
+        {pluginFile(R"(FSX\QuillmontOrbwell_64.dll)", R"(Gauges\QuillmontOrbwell_64.dll)")});
     launcher.insert(
         QStringLiteral("config"),
         QJsonObject{{QStringLiteral("path"), configuration},
@@ -92,7 +92,7 @@ QStringList backupsOf(const QString &file, const QString &occasion)
     const QFileInfo info(file);
     const QRegularExpression name(
         u'^' + QRegularExpression::escape(info.fileName())
-        + QLatin1String("_quillmont_orbwell_before_%1_\\d{8}_\\d{6}\\.bak$").arg(occasion));
+        + QLatin1String(R"(_quillmont_orbwell_before_%1_\d{8}_\d{6}\.bak$)").arg(occasion));
     return info.dir().entryList(QDir::Files).filter(name);
 }
 

@@ -62,8 +62,8 @@ void BadCatalogue::leavesAnEmptyListAndAQuietDisk_data()
     QTest::newRow("blanks") << QByteArray("  \n");
     QTest::newRow("empty array") << QByteArray("[]");
     QTest::newRow("cut off") << QByteArray("[{\"name\": \"Skylark\", \"loc");
-    QTest::newRow("object") << QByteArray("{\"name\": \"Skylark\"}");
-    QTest::newRow("text") << QByteArray("\"Skylark\"");
+    QTest::newRow("object") << QByteArray(R"({"name": "Skylark"})");
+    QTest::newRow("text") << QByteArray(R"("Skylark")");
     QTest::newRow("null") << QByteArray("null");
     QTest::newRow("NUL bytes") << QByteArray(64, '\0');
     QTest::newRow("not UTF-8") << QByteArray("[{\"name\": \"\xff\xfe\"");

@@ -23,7 +23,7 @@ static void fail(const QString &what)
 static QString copyOfProgram(const QString &folder)
 {
     const QFileInfo built(QStringLiteral(ORBWELL_PROGRAM));
-    const QString copy = folder + u'/' + built.fileName();
+    QString copy = folder + u'/' + built.fileName();
     if (!QDir().mkpath(folder) || !QFile::copy(built.filePath(), copy))
         qFatal("cannot place the program at %s", qPrintable(copy));
     return copy;
