@@ -58,6 +58,7 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
         if (!mapping->path.isEmpty())
             ++found;
     }
+    orderTabs();
     if (!updateDefault && !quiet)
         showCount(found);
 }
@@ -70,6 +71,25 @@ void ScannerView::addRow(FlightSimulatorMapping *mapping, bool updateDefault)
     m_list->setItemWidget(item, row);
     connect(row, &AddonListItem::install, this, &ScannerView::install);
     connect(row, &AddonListItem::uninstall, this, &ScannerView::uninstall);
+}
+
+// Rows are younger than the buttons below them, and would come last.
+void ScannerView::orderTabs()
+{
+    QWidget *previous = m_list;
+    const auto follow = [&previous](QWidget *next) {
+        setTabOrder(previous, next);
+        previous = next;
+    };
+    for (int i = 0; i < m_list->count(); ++i) {
+        const auto controls = m_list->itemWidget(m_list->item(i))->findChildren<QWidget *>();
+        for (auto *control : controls) {
+            if (control->focusPolicy() & Qt::TabFocus)
+                follow(control);
+        }
+    }
+    follow(m_scanAndInstall);
+    follow(m_close);
 }
 
 void ScannerView::showCount(int count)

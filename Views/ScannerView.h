@@ -33,6 +33,7 @@ signals:
 
 private:
     void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);
+    void orderTabs();
     void showCount(int count);
 
     QLabel *m_introduction;
