@@ -42,6 +42,9 @@ public:
     /// Starts it; the arguments are its command line's.
     void start(const QStringList &arguments = {});
 
+    /// Whether the process has not ended yet.
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+
     /// The visible windows, the one that takes input first.
     QVector<SeenWindow> windows();
     /// The rows of the list of simulators, from the top.
@@ -78,8 +81,6 @@ public:
     QByteArray standardError();
 
 private:
-    bool isRunning() const { return m_process.state() == QProcess::Running; }
-
     QJsonObject ask(const QJsonObject &question);
     void order(const QJsonObject &deed);
 

@@ -39,7 +39,8 @@ SeenRow::SeenRow(const QJsonObject &seen)
 { }
 
 SeenWindow::SeenWindow(const QJsonObject &seen)
-    : className(Tests::text(seen, "class"))
+    : number(seen.value(QLatin1String("number")).toInt())
+    , className(Tests::text(seen, "class"))
     , title(Tests::text(seen, "title"))
     , text(Tests::text(seen, "text"))
     , icon(Tests::text(seen, "icon"))

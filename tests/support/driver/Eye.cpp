@@ -65,9 +65,20 @@ static void describeBox(QJsonObject *seen, const QMessageBox *box)
                  parent ? QString::fromLatin1(parent->metaObject()->className()) : QString());
 }
 
-static QJsonObject describe(const QWidget *window)
+// A window that comes after another can lie at the same address.
+static int numberOf(QWidget *window)
+{
+    static int count = 0;
+    const char *name = "orbwell-driver-number";
+    if (!window->property(name).isValid())
+        window->setProperty(name, ++count);
+    return window->property(name).toInt();
+}
+
+static QJsonObject describe(QWidget *window)
 {
     QJsonObject seen{
+        {QStringLiteral("number"), numberOf(window)},
         {QStringLiteral("class"), QString::fromLatin1(window->metaObject()->className())},
         {QStringLiteral("title"), window->windowTitle()},
         {QStringLiteral("buttons"), buttonsOf(window)},
@@ -94,7 +105,7 @@ QJsonArray windows()
 {
     QJsonArray seen;
     const QWidget *first = inputWindow();
-    for (const QWidget *window : QApplication::topLevelWidgets()) {
+    for (QWidget *window : QApplication::topLevelWidgets()) {
         if (!window->isVisible())
             continue;
         if (window == first)
