@@ -8,3 +8,16 @@ foreach(story
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()
+
+add_library(orbwell-computer STATIC
+  EndToEnd/Computer.cpp EndToEnd/Computer.h EndToEnd/Disk.cpp EndToEnd/Disk.h)
+target_link_libraries(orbwell-computer
+  PUBLIC orbwell-simulators
+  PRIVATE orbwell-options)
+
+foreach(story
+    CommandLine)
+  orbwell_add_test(EndToEnd/${story})
+  target_link_libraries(tst_${story} PRIVATE orbwell-computer)
+endforeach()
+target_link_libraries(tst_Unattended PRIVATE orbwell-computer)
