@@ -1,25 +1,39 @@
 #include "Library/Helpers/FileHelper.h"
 
+#include "Library/Helpers/FileWriter.h"
+
+#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTextCodec>
 
 namespace Quillmont::Library::Helpers {
 
-bool FileHelper::saveText(const QString &path, const QString &text, const QString &encoding)
+namespace {
+
+QString write(const QString &path, const QString &text, const QString &encoding)
 {
     auto *codec = QTextCodec::codecForName(encoding.isEmpty() ? "UTF-8" : encoding.toLatin1());
-    if (!codec || !QDir().mkpath(QFileInfo(path).absolutePath()))
-        return false;
+    if (!codec)
+        return QStringLiteral("unknown encoding \"%1\"").arg(encoding);
+    if (!codec->canEncode(text))
+        return QStringLiteral("the encoding \"%1\" lacks a character of the text").arg(encoding);
+    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
+        return QStringLiteral("its folder cannot be made");
 
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(codec->fromUnicode(text));
-    if (!file.flush())
-        file.cancelWriting();
-    return file.commit();
+    QString problem;
+    FileWriter::write(path, codec->fromUnicode(text), &problem);
+    return problem;
+}
+
+} // namespace
+
+bool FileHelper::saveText(const QString &path, const QString &text, const QString &encoding)
+{
+    const QString problem = write(path, text, encoding);
+    if (!problem.isEmpty())
+        qDebug().noquote().nospace() << "file not written: " << path << ": " << problem;
+    return problem.isEmpty();
 }
 
 } // namespace Quillmont::Library::Helpers

@@ -17,6 +17,10 @@ class XmlConfigModel : public QObject
 public:
     XmlConfigModel(QObject *parent, const QJsonObject &json);
 
+    /// Whether there is an entry to speak of. Without a "parent" or "values" there is none, and
+    /// the members below are empty.
+    bool describesEntry() const { return !element.isEmpty(); }
+
     QString path; ///< The file, "/"-separated, relative to the per-user application-data root.
     QString element; ///< Name of our element, a child of the document's root element.
     QString key; ///< Name of the child element that recognises an element as ours.

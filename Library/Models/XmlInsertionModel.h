@@ -2,9 +2,7 @@
 #define LIBRARY_MODELS_XMLINSERTIONMODEL_H
 
 #include "Library/Models/XmlConfigModel.h"
-
-#include <QPair>
-#include <QVector>
+#include "Library/Models/XmlValues.h"
 
 namespace Quillmont::Library::Models {
 
@@ -17,7 +15,7 @@ public:
     XmlInsertionModel(QObject *parent, const QJsonObject &json);
 
     QString parentName; ///< Name of the element that one entry is made of.
-    QVector<QPair<QString, QString>> values; ///< The entry's child elements and texts, in order.
+    XmlValues values; ///< The entry's child elements and texts, in order.
 };
 
 } // namespace Quillmont::Library::Models

@@ -1,0 +1,23 @@
+#ifndef LIBRARY_HELPERS_FILESIZESIGNAL_H
+#define LIBRARY_HELPERS_FILESIZESIGNAL_H
+
+#include <csignal>
+
+namespace Quillmont::Library::Helpers {
+
+/// While it lives, a write past the file-size limit fails instead of ending the process.
+class FileSizeSignal
+{
+public:
+    FileSizeSignal();
+    ~FileSizeSignal();
+    FileSizeSignal(const FileSizeSignal &) = delete;
+    FileSizeSignal &operator=(const FileSizeSignal &) = delete;
+
+private:
+    struct sigaction m_before = {};
+};
+
+} // namespace Quillmont::Library::Helpers
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef LIBRARY_HELPERS_STRICTXMLREADER_H
+#define LIBRARY_HELPERS_STRICTXMLREADER_H
+
+#include <QXmlStreamReader>
+
+namespace Quillmont::Library::Helpers {
+
+/// Reads a document of the text that it is given, and refuses what QXmlStreamReader lets pass:
+/// malformed names, and small entities that many references make big. Prefixes are part of the
+/// names; one that nobody declared is a mistake that simulators live with.
+class StrictXmlReader : public QXmlStreamReader
+{
+public:
+    explicit StrictXmlReader(const QString &text);
+
+    /// Goes on to the next token, and answers its type.
+    TokenType next();
+
+    /// What is wrong with the document so far, and where; empty if nothing is.
+    QString problem() const;
+
+    /// The sentence that tells @p reason of the place at @p line and @p column.
+    static QString sentence(qint64 line, qint64 column, const QString &reason);
+
+private:
+    void checkNames();
+    void limitEntities();
+
+    int m_references;
+};
+
+} // namespace Quillmont::Library::Helpers
+
+#endif

@@ -1,0 +1,97 @@
+#include "Library/Helpers/TextEncoding.h"
+
+#include <QTextCodec>
+#include <QVector>
+#include <QXmlStreamReader>
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+QByteArray encode(const QTextCodec *codec, const QString &text)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return codec->fromUnicode(text.constData(), text.size(), &state);
+}
+
+QString decode(const QTextCodec *codec, const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return codec->toUnicode(bytes.constData(), bytes.size(), &state);
+}
+
+/// What a byte-order mark says, or the zero in the first character of a file that lacks one.
+QTextCodec *markedCodec(const QByteArray &bytes)
+{
+    if (bytes.startsWith(QByteArray("<\0", 2)))
+        return QTextCodec::codecForName("UTF-16LE");
+    if (bytes.startsWith(QByteArray("\0<", 2)))
+        return QTextCodec::codecForName("UTF-16BE");
+    return QTextCodec::codecForUtfText(bytes, nullptr);
+}
+
+QTextCodec *declaredCodec(const QString &head)
+{
+    QXmlStreamReader reader(head);
+    reader.readNext();
+    return QTextCodec::codecForName(reader.documentEncoding().toLatin1());
+}
+
+} // namespace
+
+TextEncoding::TextEncoding(const QByteArray &bytes)
+    : m_codec(markedCodec(bytes))
+{
+    const bool marked = m_codec != nullptr;
+    if (!marked)
+        m_codec = QTextCodec::codecForName("UTF-8");
+    const QByteArray mark = encoded(QString(QChar(QChar::ByteOrderMark)));
+    if (bytes.startsWith(mark))
+        m_markSize = mark.size();
+
+    constexpr int longestDeclaration = 4096;
+    QTextCodec *declared
+        = declaredCodec(decode(m_codec, bytes.mid(m_markSize, longestDeclaration)));
+    const QString bracket = QStringLiteral("<");
+    // A declaration that was legible byte by byte cannot stand in UTF-16, whatever it says.
+    if (declared && !marked && encode(declared, bracket) == "<")
+        m_codec = declared;
+    else if (declared)
+        m_asciiOnly = !m_codec->name().startsWith(declared->name());
+    m_unit = encoded(bracket).size();
+}
+
+QTextDecoder *TextEncoding::makeDecoder() const
+{
+    return m_codec->makeDecoder(QTextCodec::IgnoreHeader);
+}
+
+QByteArray TextEncoding::encoded(const QString &text) const
+{
+    return encode(m_codec, text);
+}
+
+QString TextEncoding::writable(const QString &text) const
+{
+    QString result;
+    for (int i = 0, size = 0; i < text.size(); i += size) {
+        size = text.at(i).isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
+        const QString character = text.mid(i, size);
+        if (hasCharacter(character))
+            result += character;
+        else
+            result += QStringLiteral("&#%1;").arg(character.toUcs4().constFirst());
+    }
+    return result;
+}
+
+bool TextEncoding::hasCharacter(const QString &character) const
+{
+    if (m_asciiOnly && character.at(0) >= QChar(0x80))
+        return false;
+    // In an encoding with shift states two in a row are shorter than twice one.
+    const QByteArray bytes = encoded(character);
+    return encoded(character + character) == bytes + bytes && decode(m_codec, bytes) == character;
+}
+
+} // namespace Quillmont::Library::Helpers

@@ -1,0 +1,79 @@
+#include "Library/Helpers/XmlBlank.h"
+
+#include <algorithm>
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+bool isBlank(QChar character)
+{
+    return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
+}
+
+bool isLineEnd(QChar character)
+{
+    return character == u'\n' || character == u'\r';
+}
+
+/// Where the last line end between @p begin and @p place begins, or -1.
+int lastLineEnd(const QString &text, int begin, int place)
+{
+    int at = place - 1;
+    while (at >= begin && !isLineEnd(text.at(at)))
+        --at;
+    if (at < begin)
+        return -1;
+    const bool isPair = at > begin && text.at(at) == u'\n' && text.at(at - 1) == u'\r';
+    return isPair ? at - 1 : at;
+}
+
+} // namespace
+
+int XmlBlank::begin(const QString &text, int place)
+{
+    while (place > 0 && isBlank(text.at(place - 1)))
+        --place;
+    return place;
+}
+
+int XmlBlank::end(const QString &text, int place)
+{
+    while (place < text.size() && isBlank(text.at(place)))
+        ++place;
+    return place;
+}
+
+QString XmlBlank::lineBefore(const QString &text, int place)
+{
+    const int blank = begin(text, place);
+    const int line = std::max(blank, lastLineEnd(text, blank, place));
+    return text.mid(line, place - line);
+}
+
+bool XmlBlank::hasLineEnd(const QStringRef &text)
+{
+    return std::any_of(text.cbegin(), text.cend(), isLineEnd);
+}
+
+bool XmlBlank::beginsLine(const QString &text, int place)
+{
+    return lastLineEnd(text, begin(text, place), place) >= 0;
+}
+
+QString XmlBlank::lineEndBefore(const QString &text, int place)
+{
+    const int at = lastLineEnd(text, 0, place);
+    if (at < 0)
+        return {};
+    const bool isPair = text.at(at) == u'\r' && at + 1 < place && text.at(at + 1) == u'\n';
+    return text.mid(at, isPair ? 2 : 1);
+}
+
+QString XmlBlank::indent(const QString &line)
+{
+    const auto end = std::find_if_not(line.cbegin(), line.cend(), isLineEnd);
+    return line.mid(static_cast<int>(end - line.cbegin()));
+}
+
+} // namespace Quillmont::Library::Helpers

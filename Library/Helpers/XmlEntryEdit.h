@@ -1,0 +1,56 @@
+#ifndef LIBRARY_HELPERS_XMLENTRYEDIT_H
+#define LIBRARY_HELPERS_XMLENTRYEDIT_H
+
+#include "Library/Helpers/TextSplice.h"
+#include "Library/Models/XmlValues.h"
+
+#include <QString>
+
+namespace Quillmont::Library::Models {
+class XmlConfigModel;
+class XmlInsertionModel;
+} // namespace Quillmont::Library::Models
+
+namespace Quillmont::Library::Helpers {
+
+class EncodedText;
+class XmlDocument;
+struct XmlElement;
+
+/// Works out which changes of a document's text add our entry or take it out. The document's
+/// wanted elements are the entries that the operation is about.
+class XmlEntryEdit
+{
+public:
+    /// @p document is the one that @p source holds; both have to live as long as this.
+    XmlEntryEdit(const EncodedText &source, const XmlDocument &document);
+
+    /// Makes one entry the only one, and what @p model wants.
+    void insert(const Models::XmlInsertionModel &model);
+
+    /// Takes out what @p model says of each entry.
+    void remove(const Models::XmlConfigModel &model);
+
+    /// The changes; none if there is nothing to do.
+    const TextSplices &splices() const { return m_splices; }
+
+    /// Why it cannot be done, and where; empty if it can.
+    const QString &problem() const { return m_problem; }
+
+private:
+    void add(const Models::XmlInsertionModel &model);
+    void update(const XmlElement &entry, const Models::XmlValues &values);
+    void replaceText(const XmlElement &child, const QString &text);
+    void removeElement(const XmlElement &element);
+    QString newElement(const QString &name, const QString &text);
+    void refuse(const QString &reason);
+
+    const EncodedText &m_source;
+    const XmlDocument &m_document;
+    TextSplices m_splices;
+    QString m_problem;
+};
+
+} // namespace Quillmont::Library::Helpers
+
+#endif

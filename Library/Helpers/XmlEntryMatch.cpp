@@ -1,0 +1,62 @@
+#include "Library/Helpers/XmlEntryMatch.h"
+
+#include "Library/Helpers/XmlElement.h"
+#include "Library/Models/XmlInsertionModel.h"
+
+#include <algorithm>
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+bool holds(const XmlElement &child, const QString &name, const QString &text)
+{
+    return child.name == name && child.says(text);
+}
+
+} // namespace
+
+bool XmlEntryMatch::isKey(const XmlElement &child, const Models::XmlConfigModel &model)
+{
+    return holds(child, model.key, model.value);
+}
+
+bool XmlEntryMatch::isOurs(const XmlElement &entry, const Models::XmlConfigModel &model)
+{
+    return entry.name == model.element
+        && std::any_of(entry.children.cbegin(), entry.children.cend(), [&](const auto &child) {
+               return isKey(child, model);
+           });
+}
+
+bool XmlEntryMatch::isComplete(const XmlElement &entry, const Models::XmlInsertionModel &model)
+{
+    if (entry.name != model.parentName)
+        return false;
+    const QVector<int> children = assigned(model.values, entry.children);
+    for (int i = 0; i < children.size(); ++i) {
+        if (children.at(i) < 0
+            || !entry.children.at(children.at(i)).says(model.values.at(i).second))
+            return false;
+    }
+    return true;
+}
+
+QVector<int> XmlEntryMatch::assigned(const Models::XmlValues &values,
+                                     const QVector<XmlElement> &children)
+{
+    QVector<int> result(values.size(), -1);
+    for (const bool exactly : {true, false}) {
+        for (int i = 0; i < values.size(); ++i) {
+            const auto &[name, text] = values.at(i);
+            for (int j = 0; j < children.size() && result.at(i) < 0; ++j) {
+                const XmlElement &child = children.at(j);
+                if (child.name == name && (!exactly || child.says(text)) && !result.contains(j))
+                    result[i] = j;
+            }
+        }
+    }
+    return result;
+}
+
+} // namespace Quillmont::Library::Helpers

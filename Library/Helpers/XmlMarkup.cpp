@@ -1,0 +1,46 @@
+#include "Library/Helpers/XmlMarkup.h"
+
+#include "Library/Helpers/StrictXmlReader.h"
+
+#include <QDomDocument>
+#include <QTextStream>
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+/// Whether @p markup is one element and means just @p name and @p text.
+bool means(const QString &markup, const QString &name, const QString &text)
+{
+    StrictXmlReader reader(markup);
+    const bool isNamed = reader.readNextStartElement() && reader.qualifiedName() == name
+        && reader.attributes().isEmpty();
+    return isNamed && reader.readElementText() == text
+        && reader.readNext() == QXmlStreamReader::EndDocument;
+}
+
+} // namespace
+
+QString XmlMarkup::element(const QString &name, const QString &text)
+{
+    QDomDocument document;
+    QDomElement element = document.createElement(name);
+    element.appendChild(document.createTextNode(text));
+
+    QString markup;
+    QTextStream stream(&markup);
+    stream.setCodec("UTF-8");
+    element.save(stream, -1);
+    stream.flush();
+    // A line end of the text's own is none of the file's.
+    markup.replace(u'\n', QLatin1String("&#10;"));
+    return means(markup, name, text) ? markup : QString();
+}
+
+QString XmlMarkup::escaped(const QString &text)
+{
+    const QString markup = element(QStringLiteral("x"), text);
+    return markup.isNull() ? markup : markup.mid(3, markup.size() - 7);
+}
+
+} // namespace Quillmont::Library::Helpers

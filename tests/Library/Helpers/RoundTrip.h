@@ -1,0 +1,32 @@
+#ifndef LIBRARY_HELPERS_ROUNDTRIP_H
+#define LIBRARY_HELPERS_ROUNDTRIP_H
+
+#include <QByteArray>
+#include <QString>
+
+namespace Tests {
+
+/// Adds an entry to one file and takes it out again, and looks at the bytes after each step.
+class RoundTrip
+{
+public:
+    /// Works on the file at @p path, whose content it overwrites.
+    explicit RoundTrip(const QString &path);
+
+    /// What a file of @p bytes showed that breaks a promise; empty if none was broken.
+    QString broken(const QByteArray &bytes);
+
+    /// Whether the last file was edited; false if it was refused.
+    bool wasAccepted() const { return m_wasAccepted; }
+
+private:
+    QString brokenByEdit(const QByteArray &bytes);
+    QString brokenByRemoval(const QByteArray &bytes, const QByteArray &edited);
+
+    QString m_path;
+    bool m_wasAccepted = false;
+};
+
+} // namespace Tests
+
+#endif
