@@ -16,7 +16,7 @@ target_link_libraries(orbwell-computer
   PRIVATE orbwell-options)
 
 foreach(story
-    CommandLine)
+    CommandLine UnattendedBadInput UnattendedDetails UnattendedFailures UnattendedSimulators)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()
