@@ -37,6 +37,15 @@ void keepOwner(int handle, const QString &path)
         errno = 0;
 }
 
+// The toolkit does the same, but makes what the superuser may write writable.
+void keepMode(int handle, const QString &path)
+{
+    struct stat before = {};
+    if (stat(QFile::encodeName(path).constData(), &before) == 0
+        && fchmod(handle, before.st_mode & ALLPERMS) != 0)
+        errno = 0;
+}
+
 /// Some file systems find out only here that the disk is full; others have nothing to sync.
 bool isOnDisk(int handle)
 {
@@ -58,6 +67,7 @@ bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *pr
     QSaveFile file(target);
     if (file.open(QIODevice::WriteOnly)) {
         keepOwner(file.handle(), target);
+        keepMode(file.handle(), target);
         // commit() does not notice by itself that the rest of its buffer found no room.
         if (file.write(bytes) == bytes.size() && file.flush() && isOnDisk(file.handle())
             && file.commit())
