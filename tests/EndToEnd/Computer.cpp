@@ -11,8 +11,7 @@
 
 namespace Tests {
 
-// Destination to source, both with slashes.
-static QMap<QString, QString> filesOf(const QJsonObject &entry)
+QMap<QString, QString> pluginFiles(const QJsonObject &entry)
 {
     QMap<QString, QString> files;
     for (const QJsonValue file : entry.value(QLatin1String("files")).toArray()) {
@@ -75,7 +74,7 @@ void Computer::addSimulator(const QString &simulator)
 
 void Computer::addPlugin(const QString &simulator, int type)
 {
-    const auto files = filesOf(entry(simulator, type));
+    const auto files = pluginFiles(entry(simulator, type));
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it)
         writeFile(folder(simulator) + u'/' + *it, "old");
 }
@@ -88,7 +87,7 @@ void Computer::write(const QString &path, const QByteArray &content)
 QJsonObject Computer::recordFor(const QJsonObject &entry) const
 {
     const QString path = folder(nameOf(entry));
-    const auto installed = filesOf(entry);
+    const auto installed = pluginFiles(entry);
     QJsonArray files;
     for (auto it = installed.keyBegin(); it != installed.keyEnd(); ++it)
         files.append(path + u'/' + *it);
@@ -171,7 +170,7 @@ Disk Computer::disk() const
 
 void Computer::putPlugin(Disk *disk, const QJsonObject &entry) const
 {
-    const auto files = filesOf(entry);
+    const auto files = pluginFiles(entry);
     for (auto it = files.cbegin(); it != files.cend(); ++it)
         put(disk,
             QStringLiteral("sims/%1/%2").arg(nameOf(entry), it.key()),
@@ -186,7 +185,7 @@ void Computer::finish(Disk *disk, const QJsonArray &records) const
         m_program.folder().toUtf8() + "/QuillmontOrbwell.exe");
 }
 
-static QByteArray entryOfOurs()
+QByteArray pluginEntry()
 {
     return "    <Launch.Addon>\r\n"
            "        <Name>Quillmont Orbwell</Name>\r\n"
@@ -198,7 +197,7 @@ static QByteArray entryOfOurs()
 QByteArray ourConfiguration()
 {
     const QByteArray others = othersConfiguration();
-    return QByteArray(others).insert(others.indexOf("</SimBase.Document>"), entryOfOurs());
+    return QByteArray(others).insert(others.indexOf("</SimBase.Document>"), pluginEntry());
 }
 
 QByteArray launchDocument()
@@ -209,7 +208,7 @@ QByteArray launchDocument()
            "    <Filename>dll.xml</Filename>\r\n"
            "    <Disabled>False</Disabled>\r\n"
            "    <Launch.ManualLoad>False</Launch.ManualLoad>\r\n"
-        + entryOfOurs() + "</SimBase.Document>\r\n";
+        + pluginEntry() + "</SimBase.Document>\r\n";
 }
 
 } // namespace Tests

@@ -12,6 +12,9 @@ namespace Tests {
 
 class Display;
 
+/// The plugin files of a catalogue entry: destination in the simulator to source in the payload.
+QMap<QString, QString> pluginFiles(const QJsonObject &entry);
+
 /// A user's computer: simulators "sims/<name>", their configuration files "Maker/<name>/dll.xml"
 /// below the data root, and the program, which runs on it to its end, again and again.
 class Computer
@@ -21,6 +24,8 @@ public:
     explicit Computer(const Display *display = nullptr);
 
     Program &program() { return m_program; }
+
+    const Program &program() const { return m_program; }
 
     /// @p path of disk() as an absolute path.
     QString absolute(const QString &path) const { return m_sandbox.path(path); }
@@ -80,6 +85,9 @@ private:
     QVector<SeenWindow> m_boxes;
     bool m_showedTheWindow = false;
 };
+
+/// The plugin's entry in a launcher's configuration file.
+QByteArray pluginEntry();
 
 /// othersConfiguration() with the plugin's entry behind the others.
 QByteArray ourConfiguration();

@@ -10,13 +10,16 @@ foreach(story
 endforeach()
 
 add_library(orbwell-computer STATIC
-  EndToEnd/Computer.cpp EndToEnd/Computer.h EndToEnd/Disk.cpp EndToEnd/Disk.h)
+  EndToEnd/Bookkeeping.cpp EndToEnd/Bookkeeping.h
+  EndToEnd/Computer.cpp EndToEnd/Computer.h
+  EndToEnd/Disk.cpp EndToEnd/Disk.h)
 target_link_libraries(orbwell-computer
   PUBLIC orbwell-simulators
   PRIVATE orbwell-options)
 
 foreach(story
-    CommandLine UnattendedBadInput UnattendedDetails UnattendedFailures UnattendedSimulators)
+    CommandLine RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
+    UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()

@@ -102,16 +102,15 @@ void UnattendedBadInput::takesTheRecordWhoseFilesAreThere()
 
 void UnattendedBadInput::keepsForeignRecords()
 {
-    const QJsonArray foreign{
-        5,
-        QStringLiteral("text"),
-        QJsonValue(),
-        QJsonArray{1, 2},
-        QJsonObject(),
-        QJsonObject{{QStringLiteral("name"), QStringLiteral("rec")}},
-        QJsonObject{{QStringLiteral("name"), QString::fromUtf8("Söüé 飛行")},
-                    {QStringLiteral("path"), QStringLiteral("/")},
-                    {QStringLiteral("more"), QJsonArray{true}}}};
+    const QJsonArray foreign{5,
+                             QStringLiteral("text"),
+                             QJsonValue(),
+                             QJsonArray{1, 2},
+                             QJsonObject(),
+                             QJsonObject{{QStringLiteral("name"), QStringLiteral("rec")}},
+                             QJsonObject{{QStringLiteral("name"), QString::fromUtf8("Söüé 飛行")},
+                                         {QStringLiteral("path"), QStringLiteral("/")},
+                                         {QStringLiteral("more"), QJsonArray{true}}}};
     QJsonArray records = foreign;
     m_computer->addPlugin(m_rec, 1);
     records.insert(3, recordIn(m_rec));
@@ -124,7 +123,8 @@ void UnattendedBadInput::keepsForeignRecords()
 void UnattendedBadInput::ignoresRecordsOfWrongTypes_data()
 {
     QTest::addColumn<QByteArray>("record");
-    QTest::newRow("a name that is a number") << QByteArray(R"({"name": 5, "path": "%", "files": []})");
+    QTest::newRow("a name that is a number")
+        << QByteArray(R"({"name": 5, "path": "%", "files": []})");
     QTest::newRow("no name") << QByteArray(R"({"path": "%", "files": []})");
     QTest::newRow("a path that is a number") << QByteArray(R"({"name": "Rec", "path": 7})");
     QTest::newRow("no path") << QByteArray(R"({"name": "Rec"})");
@@ -266,8 +266,10 @@ void UnattendedBadInput::worksWithAReadOnlyConfiguration()
     QVERIFY(after == othersConfiguration() || after == ourConfiguration());
     QCOMPARE(QFile::permissions(path), before);
     QCOMPARE(m_computer->records(), QJsonArray{m_computer->recordFor(entry)});
-    QCOMPARE(QFileInfo(path).dir().entryList(QDir::Files | QDir::Hidden).filter(QStringLiteral(".bak"),
-                                                                               Qt::CaseInsensitive),
+    QCOMPARE(QFileInfo(path)
+                 .dir()
+                 .entryList(QDir::Files | QDir::Hidden)
+                 .filter(QStringLiteral(".bak"), Qt::CaseInsensitive),
              QFileInfo(path).dir().entryList(QDir::Files | QDir::Hidden).mid(1));
 }
 

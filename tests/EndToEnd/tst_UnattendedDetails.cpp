@@ -133,7 +133,8 @@ void UnattendedDetails::goesByTheFolderThatIsFound()
     m_computer->addSimulator(m_det);
     const QString before = QStringLiteral("Before");
     m_computer->addPlugin(before, 1);
-    m_computer->setRecords({with(m_computer->recordFor(m_computer->entry(before, 1)), "name", m_det)});
+    m_computer->setRecords(
+        {with(m_computer->recordFor(m_computer->entry(before, 1)), "name", m_det)});
     Disk expected = m_computer->disk();
 
     QCOMPARE(m_computer->run(arguments), status);
@@ -177,8 +178,9 @@ void UnattendedDetails::leavesTheEntryOutButTakesItOut()
 void UnattendedDetails::takesTheLaterOfTwoEntriesInOneFolder()
 {
     const QJsonObject first = m_computer->entry(m_det, 1);
-    const QJsonArray others{file("FSX\\QuillmontOrbwell_64.dll", "Resources/plugins/Orbwell/64/lin.xpl"),
-                            file("X-Plane\\about.txt", "Resources/plugins/Orbwell/about.txt")};
+    const QJsonArray others{
+        file("FSX\\QuillmontOrbwell_64.dll", "Resources/plugins/Orbwell/64/lin.xpl"),
+        file("X-Plane\\about.txt", "Resources/plugins/Orbwell/about.txt")};
     const QJsonObject later = with(with(first, "files", others), "name", QStringLiteral("Later"));
     m_computer->setCatalogue({first, later});
     m_computer->addSimulator(m_det);

@@ -114,7 +114,8 @@ void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
         << words("--INSTALL") << false << 2
         << QStringList(settings + QLatin1String("Orbwell plugin is installed in all simulators."));
     QTest::newRow("quiet install") << words("--INSTALL 1") << false << 2 << QStringList();
-    QTest::newRow("quiet install, none known") << words("--INSTALL 1") << true << 2 << QStringList();
+    QTest::newRow("quiet install, none known")
+        << words("--INSTALL 1") << true << 2 << QStringList();
     QTest::newRow("repair") << words("--REPAIR") << false << 0 << QStringList();
     QTest::newRow("uninstall") << words("--UNINSTALL") << false << 0 << QStringList();
 }
@@ -140,8 +141,7 @@ void UnattendedFailures::namesAFileThatCannotBeRemoved_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("summary");
     QTest::newRow("uninstall") << words("--UNINSTALL") << QString();
-    QTest::newRow("repair") << words("--REPAIR")
-                            << updated("Det: Updated\nRec: Not updated");
+    QTest::newRow("repair") << words("--REPAIR") << updated("Det: Updated\nRec: Not updated");
 }
 
 // In the place of the file stands a folder with something in it. It stays; the other simulator
@@ -182,17 +182,16 @@ void UnattendedFailures::saysThatASimulatorIsNotUpdated()
         = m_computer->program().folder() + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll");
     QVERIFY(QFile::remove(source));
     m_computer->addSimulator(m_det);
-    const QString line = QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have "
-                                        "permission to folder '%3/'.\r\n")
-                             .arg(source,
-                                  m_computer->folder(m_det) + m_module,
-                                  m_computer->folder(m_det));
+    const QString line
+        = QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have "
+                         "permission to folder '%3/'.\r\n")
+              .arg(source, m_computer->folder(m_det) + m_module, m_computer->folder(m_det));
 
     QCOMPARE(m_computer->run(words("--REPAIR")), 2);
-    QCOMPARE(m_computer->said(),
-             QStringList({cannotRemove(m_det, line),
-                          cannotRemove(m_det, line),
-                          updated("Det: Not updated")}));
+    QCOMPARE(
+        m_computer->said(),
+        QStringList(
+            {cannotRemove(m_det, line), cannotRemove(m_det, line), updated("Det: Not updated")}));
     QCOMPARE(m_computer->run(words("--INSTALL 1")), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotRemove(m_det, line)));
 }

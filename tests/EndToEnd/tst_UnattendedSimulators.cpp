@@ -169,7 +169,8 @@ void UnattendedSimulators::givesAFolderToOneOfTwoEntries()
     QCOMPARE(m_computer->records().size(), 1);
     QCOMPARE(m_computer->records().at(0).toObject().value(QLatin1String("name")), winner);
     QCOMPARE(m_computer->run(one("--REPAIR")), 0);
-    QCOMPARE(m_computer->said(), QStringList(updated(qPrintable(winner + QLatin1String(": Updated")))));
+    QCOMPARE(m_computer->said(),
+             QStringList(updated(qPrintable(winner + QLatin1String(": Updated")))));
 }
 
 void UnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart_data()
