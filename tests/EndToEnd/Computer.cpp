@@ -67,19 +67,19 @@ void Computer::setCatalogue(const QJsonArray &entries)
     place(m_program, entries);
 }
 
-void Computer::addSimulator(const QString &simulator)
+void Computer::addSimulator(const QString &simulator) const
 {
     writeFile(folder(simulator) + QLatin1String("/Gauges/other.dll"), "other");
 }
 
-void Computer::addPlugin(const QString &simulator, int type)
+void Computer::addPlugin(const QString &simulator, int type) const
 {
     const auto files = pluginFiles(entry(simulator, type));
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it)
         writeFile(folder(simulator) + u'/' + *it, "old");
 }
 
-void Computer::write(const QString &path, const QByteArray &content)
+void Computer::write(const QString &path, const QByteArray &content) const
 {
     writeFile(absolute(path), content);
 }
@@ -96,7 +96,7 @@ QJsonObject Computer::recordFor(const QJsonObject &entry) const
             {QStringLiteral("files"), files}};
 }
 
-void Computer::setRecords(const QJsonArray &records)
+void Computer::setRecords(const QJsonArray &records) const
 {
     write(data(QStringLiteral("Quillmont/Orbwell/.mapping")), QJsonDocument(records).toJson());
 }

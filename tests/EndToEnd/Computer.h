@@ -45,15 +45,15 @@ public:
     void setCatalogue(const QJsonArray &entries);
 
     /// Makes the simulator's folder, with somebody else's file in "Gauges".
-    void addSimulator(const QString &simulator);
+    void addSimulator(const QString &simulator) const;
     /// Puts the plugin's files there, "old" in each.
-    void addPlugin(const QString &simulator, int type);
+    void addPlugin(const QString &simulator, int type) const;
     /// Writes the file at @p path of disk().
-    void write(const QString &path, const QByteArray &content);
+    void write(const QString &path, const QByteArray &content) const;
 
     /// What the program records for @p entry in the simulator's folder.
     QJsonObject recordFor(const QJsonObject &entry) const;
-    void setRecords(const QJsonArray &records);
+    void setRecords(const QJsonArray &records) const;
     QJsonArray records() const;
 
     /// Runs the program, answers its boxes with Ok and closes its window; the exit status.

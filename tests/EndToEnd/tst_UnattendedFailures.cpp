@@ -218,7 +218,7 @@ QString UnattendedFailures::unwritableFolder() const
 {
     if (::geteuid() == 0)
         return QStringLiteral("/proc");
-    const QString folder = m_computer->folder(m_det);
+    QString folder = m_computer->folder(m_det);
     QDir().mkpath(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
     return folder;
