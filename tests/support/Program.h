@@ -32,8 +32,10 @@ public:
 
     /// The folder that the executable lies in, without a slash at its end.
     QString folder() const { return m_folder; }
+
     /// Sets a variable of the environment that the next start gets.
     void setVariable(const char *name, const QString &value);
+
     /// What the next start calls the program, in place of its path.
     void setCalledAs(const QString &name) { m_calledAs = name; }
 
@@ -77,10 +79,12 @@ public:
 
 private:
     bool isRunning() const { return m_process.state() == QProcess::Running; }
+
     QJsonObject ask(const QJsonObject &question);
     void order(const QJsonObject &deed);
 
     const QString m_folder;
+    const QString m_executable;
     QString m_calledAs;
     QProcessEnvironment m_environment;
     QProcess m_process;
