@@ -20,6 +20,7 @@ private slots:
     void showsOneRowASimulator();
     void showsTheRowsOnAScreen();
     void keepsEverythingInsideTheWindow();
+    void isDrawnAtTheScaleOfTheScreen();
     void startsAnEmptyRecordAndWritesNothingElse();
     void leavesAnOldRecordAlone();
     void hasNothingToComplainAbout();
@@ -29,12 +30,14 @@ private:
 
     QString skylark() const { return m_sandbox->path(QStringLiteral("Sky lark")); }
 
+    QString m_scale;
     QScopedPointer<Sandbox> m_sandbox;
     QScopedPointer<Program> m_program;
 };
 
 void TestFirstStart::init()
 {
+    m_scale = QStringLiteral("1");
     m_sandbox.reset(new Sandbox);
     QDir().mkpath(skylark());
     writeFile(m_sandbox->path(QStringLiteral("Kestrel/Resources/plugins/Orbwell/64/lin.xpl")), "");
@@ -44,6 +47,7 @@ void TestFirstStart::init()
 void TestFirstStart::start(const Display *display)
 {
     m_program.reset(new Program(*m_sandbox, display));
+    m_program->setVariable("QT_SCALE_FACTOR", m_scale);
     place(*m_program,
           {pluginFolderEntry(QStringLiteral("Skylark"), skylark()),
            pluginFolderEntry(QStringLiteral("Kestrel"), m_sandbox->path(QStringLiteral("Kestrel"))),
@@ -125,6 +129,16 @@ void TestFirstStart::keepsEverythingInsideTheWindow()
         QVERIFY(row.rectangle.contains(row.action.rectangle));
         QVERIFY(row.rectangle.contains(row.browse.rectangle));
     }
+}
+
+void TestFirstStart::isDrawnAtTheScaleOfTheScreen()
+{
+    m_scale = QStringLiteral("2");
+    start();
+    const QString picture = m_sandbox->path(QStringLiteral("window.png"));
+    m_program->grab(picture);
+    QCOMPARE(QImage(picture).size(), QSize(1280, 960));
+    QCOMPARE(m_program->rows().value(1).icon, QStringLiteral("check-green"));
 }
 
 void TestFirstStart::startsAnEmptyRecordAndWritesNothingElse()

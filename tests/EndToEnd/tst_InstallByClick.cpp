@@ -20,6 +20,7 @@ private slots:
     void ofAMouseOnAScreen();
     void says_data();
     void says();
+    void isAnsweredByTheReturnKeyToo();
     void copiesTheFiles();
     void addsItsEntryToTheConfiguration();
     void keepsABackupOfTheConfiguration();
@@ -130,6 +131,16 @@ void TestInstallByClick::says()
     m_program->press(QStringLiteral("OK"));
     m_program->window();
     QVERIFY(!m_program->isBusy());
+}
+
+void TestInstallByClick::isAnsweredByTheReturnKeyToo()
+{
+    start();
+    m_program->pressAction(m_kestrel);
+    m_program->box();
+    m_program->pressKey(QStringLiteral("Return"));
+    m_program->window();
+    QCOMPARE(m_program->windows().size(), 1);
 }
 
 void TestInstallByClick::copiesTheFiles()
