@@ -49,8 +49,11 @@ void ConfigurationController::removeSettings(const QString &key) const
 
 QString ConfigurationController::appDataPath()
 {
-    const QString path = userDataRoot() + QStringLiteral("/Quillmont/Vellum/");
-    return QString(path).replace(QLatin1String("//"), QLatin1String("/"));
+    QString path = userDataRoot() + QStringLiteral("/Quillmont/Vellum/");
+    // One pass makes two slashes of four; folders of the program's own name leave such a row.
+    while (path.contains(QLatin1String("//")))
+        path.replace(QLatin1String("//"), QLatin1String("/"));
+    return path;
 }
 
 bool ConfigurationController::startWithWindows()

@@ -58,7 +58,7 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
         if (!mapping->path.isEmpty())
             ++found;
     }
-    orderTabs();
+    moveButtonsBehindRows();
     if (!updateDefault && !quiet)
         showCount(found);
 }
@@ -73,23 +73,11 @@ void ScannerView::addRow(FlightSimulatorMapping *mapping, bool updateDefault)
     connect(row, &AddonListItem::uninstall, this, &ScannerView::uninstall);
 }
 
-// Rows are younger than the buttons below them, and would come last.
-void ScannerView::orderTabs()
+void ScannerView::moveButtonsBehindRows()
 {
-    QWidget *previous = m_list;
-    const auto follow = [&previous](QWidget *next) {
-        setTabOrder(previous, next);
-        previous = next;
-    };
-    for (int i = 0; i < m_list->count(); ++i) {
-        const auto controls = m_list->itemWidget(m_list->item(i))->findChildren<QWidget *>();
-        for (auto *control : controls) {
-            if (control->focusPolicy() & Qt::TabFocus)
-                follow(control);
-        }
-    }
-    follow(m_scanAndInstall);
-    follow(m_close);
+    // The toolkit hangs new rows on the end of the tab order, behind the buttons below them.
+    setTabOrder(previousInFocusChain(), m_scanAndInstall);
+    setTabOrder(m_scanAndInstall, m_close);
 }
 
 void ScannerView::showCount(int count)

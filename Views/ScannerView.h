@@ -33,7 +33,7 @@ signals:
 
 private:
     void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);
-    void orderTabs();
+    void moveButtonsBehindRows();
     void showCount(int count);
 
     QLabel *m_introduction;

@@ -36,8 +36,6 @@ AddonListItem::AddonListItem(QWidget *parent,
     , m_action(new QToolButton(this))
 {
     m_icon->setFixedSize(48, 48);
-    // A name longer than the row must not push the buttons out of it.
-    m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_name->setToolTip(m_name->text());
 
     m_path->setPlaceholderText(tr("Path not set"));
@@ -131,12 +129,18 @@ void AddonListItem::updateStatus()
     const bool installed = m_mapping->isAddonInstalled();
     const bool exists = QFileInfo::exists(m_mapping->path);
 
-    const QString icon = !exists ? QStringLiteral("icon-minus-grey-44.png")
-        : installed              ? QStringLiteral("icon-check-green-44.png")
-                                 : QStringLiteral("icon-check-grey-44.png");
-    m_icon->setPixmap(QPixmap(QStringLiteral(":/assets/Quillmont Orbwell/") + icon));
+    m_icon->setPixmap(artwork(!exists         ? QStringLiteral("icon-minus-grey-44")
+                                  : installed ? QStringLiteral("icon-check-green-44")
+                                              : QStringLiteral("icon-check-grey-44")));
     m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
     m_action->setEnabled(exists);
+}
+
+QPixmap AddonListItem::artwork(const QString &name) const
+{
+    // A label's pixmap is not looked up by the screen's scale, as an icon's would be.
+    const QLatin1String detail(devicePixelRatioF() > 1 ? "@2x" : "");
+    return {QStringLiteral(":/assets/Quillmont Orbwell/%1%2.png").arg(name, detail)};
 }
 
 QString AddonListItem::settingsKey() const

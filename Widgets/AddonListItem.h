@@ -38,6 +38,7 @@ private:
     void removeSettings();
     void updateStatus();
 
+    QPixmap artwork(const QString &name) const;
     QString settingsKey() const;
     void arrange();
     void applyMappedPath(bool updateDefault);

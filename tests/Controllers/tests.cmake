@@ -1,0 +1,3 @@
+orbwell_add_test(Controllers/ConfigurationController)
+orbwell_add_test(Controllers/ForeignDataLocation)
+orbwell_add_test(Controllers/UserDataRoot)

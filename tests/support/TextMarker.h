@@ -1,0 +1,27 @@
+#ifndef TESTS_SUPPORT_TEXTMARKER_H
+#define TESTS_SUPPORT_TEXTMARKER_H
+
+#include <QTranslator>
+
+namespace Tests {
+
+/// "Translates" every text of the program's own while it lives: "[context] text".
+class TextMarker : public QTranslator
+{
+    Q_OBJECT
+
+public:
+    TextMarker();
+    ~TextMarker() override;
+
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char *context,
+                      const char *sourceText,
+                      const char *disambiguation,
+                      int n) const override;
+};
+
+} // namespace Tests
+
+#endif
