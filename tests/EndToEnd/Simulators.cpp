@@ -67,17 +67,18 @@ QJsonObject launcherEntry(const QString &name, const QString &folder, const QStr
 void place(const Program &program, const QJsonArray &entries)
 {
     const QString beside = program.folder() + u'/';
-    writeFile(beside + QLatin1String("flightsims.json"), QJsonDocument(entries).toJson());
-    writeFile(beside + QLatin1String("plugins/X-Plane/64/lin.xpl"), "plugin");
-    writeFile(beside + QLatin1String("plugins/X-Plane/about.txt"), "about");
-    writeFile(beside + QLatin1String("plugins/FSX/QuillmontOrbwell_64.dll"), "module");
+    writeFile(beside + QStringLiteral("flightsims.json"), QJsonDocument(entries).toJson());
+    writeFile(beside + QStringLiteral("plugins/X-Plane/64/lin.xpl"), "plugin");
+    writeFile(beside + QStringLiteral("plugins/X-Plane/about.txt"), "about");
+    writeFile(beside + QStringLiteral("plugins/FSX/QuillmontOrbwell_64.dll"), "module");
 }
 
 QJsonObject recordOf(const QString &simulator, const QString &dataRoot)
 {
-    const QByteArray content = readFile(dataRoot + QLatin1String("Quillmont/Orbwell/.mapping"));
+    const QByteArray content = readFile(dataRoot + QStringLiteral("Quillmont/Orbwell/.mapping"));
     QJsonObject found;
-    for (const QJsonValue record : QJsonDocument::fromJson(content).array()) {
+    const QJsonArray records = QJsonDocument::fromJson(content).array();
+    for (const auto &record : records) {
         if (record.toObject().value(QLatin1String("name")) == simulator) {
             if (!found.isEmpty())
                 return {};

@@ -8,7 +8,7 @@
 using namespace Tests;
 
 // In a locale that knows nothing but ASCII: names and folders are UTF-8 all the same.
-class AnyScript : public QObject
+class TestAnyScript : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private slots:
     void worksBelowALongHome();
 };
 
-void AnyScript::works_data()
+void TestAnyScript::works_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("ASCII with blanks") << QStringLiteral("Flight Sim (x64)");
@@ -29,7 +29,7 @@ void AnyScript::works_data()
     QTest::newRow("place markers") << QStringLiteral("%1 of %0");
 }
 
-void AnyScript::works()
+void TestAnyScript::works()
 {
     QFETCH(const QString, name);
     const Sandbox sandbox;
@@ -37,8 +37,8 @@ void AnyScript::works()
     program.setVariable("LC_ALL", QStringLiteral("C"));
     program.setVariable("LANG", QStringLiteral("C"));
     const QString folder = sandbox.path(name);
-    const QString configuration = sandbox.dataRoot() + name + QLatin1String("/dll.xml");
-    writeFile(folder + QLatin1String("/fsx.exe"), "");
+    const QString configuration = sandbox.dataRoot() + name + QStringLiteral("/dll.xml");
+    writeFile(folder + QStringLiteral("/fsx.exe"), "");
     writeFile(configuration, othersConfiguration());
     place(program, {launcherEntry(name, folder, name + QLatin1String("\\dll.xml"))});
 
@@ -50,10 +50,10 @@ void AnyScript::works()
     QVERIFY(program.rows().constFirst().action.enabled);
     program.pressAction(name);
     QCOMPARE(program.box().text,
-             QLatin1String("Quillmont Orbwell have successfully installed Orbwell plugin to ")
+             QStringLiteral("Quillmont Orbwell have successfully installed Orbwell plugin to ")
                  + name + u'.');
 
-    const QString module = folder + QLatin1String("/Gauges/QuillmontOrbwell_64.dll");
+    const QString module = folder + QStringLiteral("/Gauges/QuillmontOrbwell_64.dll");
     QCOMPARE(readFile(module), QByteArray("module"));
     QVERIFY(readFile(configuration).contains("<Name>Quillmont Orbwell</Name>"));
     QCOMPARE(backupsOf(configuration, QStringLiteral("installation")).size(), 1);
@@ -62,17 +62,17 @@ void AnyScript::works()
     QCOMPARE(record.value(QLatin1String("files")).toArray(), QJsonArray{module});
 }
 
-void AnyScript::worksBelowALongHome()
+void TestAnyScript::worksBelowALongHome()
 {
     Sandbox sandbox;
     QString home = sandbox.home();
     while (home.size() < 3000)
-        home += QLatin1String("/a folder with quite a long name, of which there are several, ")
+        home += QStringLiteral("/a folder with quite a long name, of which there are several, ")
             + QString::number(home.size());
     QVERIFY(QDir().mkpath(home));
     sandbox.setVariable("HOME", QFile::encodeName(home));
     Program program(sandbox);
-    const QString folder = home + QLatin1String("/Skylark");
+    const QString folder = home + QStringLiteral("/Skylark");
     QVERIFY(QDir().mkpath(folder));
     place(program,
           {launcherEntry(QStringLiteral("Skylark"), folder, QStringLiteral("Maker\\dll.xml"))});
@@ -83,10 +83,10 @@ void AnyScript::worksBelowALongHome()
     QVERIFY(window.rectangle.contains(program.row(QStringLiteral("Skylark")).action.rectangle));
     program.pressAction(QStringLiteral("Skylark"));
     QCOMPARE(program.box().title, QStringLiteral("Installation complete"));
-    const QString data = home + QLatin1String("/.local/share/");
-    QCOMPARE(readFile(data + QLatin1String("Maker/dll.xml")).size(), 428);
+    const QString data = home + QStringLiteral("/.local/share/");
+    QCOMPARE(readFile(data + QStringLiteral("Maker/dll.xml")).size(), 428);
     QVERIFY(!recordOf(QStringLiteral("Skylark"), data).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(AnyScript)
+QTEST_GUILESS_MAIN(TestAnyScript)
 #include "tst_AnyScript.moc"

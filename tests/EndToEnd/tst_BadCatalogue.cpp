@@ -8,7 +8,7 @@
 
 using namespace Tests;
 
-class BadCatalogue : public QObject
+class TestBadCatalogue : public QObject
 {
     Q_OBJECT
 
@@ -26,25 +26,25 @@ private slots:
 private:
     void expectAWorkingWindow(int rows);
 
-    QString catalogue() const { return m_program->folder() + QLatin1String("/flightsims.json"); }
+    QString catalogue() const { return m_program->folder() + QStringLiteral("/flightsims.json"); }
 
     QScopedPointer<Sandbox> m_sandbox;
     QScopedPointer<Program> m_program;
 };
 
-void BadCatalogue::init()
+void TestBadCatalogue::init()
 {
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
 }
 
-void BadCatalogue::cleanup()
+void TestBadCatalogue::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-void BadCatalogue::expectAWorkingWindow(int rows)
+void TestBadCatalogue::expectAWorkingWindow(int rows)
 {
     m_program->start();
     QCOMPARE(m_program->window().buttons.size(), 2);
@@ -55,7 +55,7 @@ void BadCatalogue::expectAWorkingWindow(int rows)
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void BadCatalogue::leavesAnEmptyListAndAQuietDisk_data()
+void TestBadCatalogue::leavesAnEmptyListAndAQuietDisk_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
@@ -70,25 +70,25 @@ void BadCatalogue::leavesAnEmptyListAndAQuietDisk_data()
     QTest::newRow("deeper than sense") << QByteArray(100000, '[');
 }
 
-void BadCatalogue::leavesAnEmptyListAndAQuietDisk()
+void TestBadCatalogue::leavesAnEmptyListAndAQuietDisk()
 {
     QFETCH(const QByteArray, content);
     writeFile(catalogue(), content);
     expectAWorkingWindow(0);
 }
 
-void BadCatalogue::mayBeMissing()
+void TestBadCatalogue::mayBeMissing()
 {
     expectAWorkingWindow(0);
 }
 
-void BadCatalogue::mayBeAFolder()
+void TestBadCatalogue::mayBeAFolder()
 {
     QVERIFY(QDir().mkpath(catalogue()));
     expectAWorkingWindow(0);
 }
 
-void BadCatalogue::mayHoldWrongTypesEverywhere()
+void TestBadCatalogue::mayHoldWrongTypesEverywhere()
 {
     QJsonArray entries{1, true, QStringLiteral("text"), QJsonArray(), QJsonObject(), QJsonValue()};
     const QJsonArray wrong{1.5, -1, true, QJsonArray{1}, QJsonObject{}, QJsonValue()};
@@ -110,7 +110,7 @@ void BadCatalogue::mayHoldWrongTypesEverywhere()
     expectAWorkingWindow(entries.size());
 }
 
-void BadCatalogue::mayBeHuge()
+void TestBadCatalogue::mayBeHuge()
 {
     QJsonArray entries;
     for (int i = 0; i < 1000; ++i) {
@@ -125,5 +125,5 @@ void BadCatalogue::mayBeHuge()
     expectAWorkingWindow(1000);
 }
 
-QTEST_GUILESS_MAIN(BadCatalogue)
+QTEST_GUILESS_MAIN(TestBadCatalogue)
 #include "tst_BadCatalogue.moc"

@@ -7,7 +7,7 @@
 
 using namespace Tests;
 
-class ChosenFolder : public QObject
+class TestChosenFolder : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private:
 };
 
 // Plover is not found by itself; Skylark is.
-void ChosenFolder::init()
+void TestChosenFolder::init()
 {
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
@@ -48,37 +48,37 @@ void ChosenFolder::init()
            pluginFolderEntry(m_plover, m_sandbox->path(QStringLiteral("nowhere")))});
 }
 
-void ChosenFolder::cleanup()
+void TestChosenFolder::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-void ChosenFolder::start()
+void TestChosenFolder::start()
 {
     m_program->start();
     m_program->window();
 }
 
-void ChosenFolder::end()
+void TestChosenFolder::end()
 {
     m_program->press(QStringLiteral("Close"));
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void ChosenFolder::choose(const QString &simulator)
+void TestChosenFolder::choose(const QString &simulator)
 {
     m_program->pressBrowse(simulator);
     m_program->chooseFolder(m_chosen);
     m_program->window();
 }
 
-QString ChosenFolder::settings() const
+QString TestChosenFolder::settings() const
 {
-    return m_sandbox->dataRoot() + QLatin1String("Quillmont/Vellum/.settings");
+    return m_sandbox->dataRoot() + QStringLiteral("Quillmont/Vellum/.settings");
 }
 
-void ChosenFolder::isShownAtOnce()
+void TestChosenFolder::isShownAtOnce()
 {
     start();
     QVERIFY(!m_program->row(m_plover).action.enabled);
@@ -90,7 +90,7 @@ void ChosenFolder::isShownAtOnce()
     QVERIFY(row.action.enabled);
 }
 
-void ChosenFolder::isRememberedByTheNextStart()
+void TestChosenFolder::isRememberedByTheNextStart()
 {
     start();
     choose(m_plover);
@@ -101,7 +101,7 @@ void ChosenFolder::isRememberedByTheNextStart()
     QVERIFY(m_program->row(m_plover).action.enabled);
 }
 
-void ChosenFolder::getsThePlugin()
+void TestChosenFolder::getsThePlugin()
 {
     start();
     choose(m_plover);
@@ -109,7 +109,7 @@ void ChosenFolder::getsThePlugin()
     start();
     m_program->pressAction(m_plover);
     QCOMPARE(m_program->box().title, QStringLiteral("Installation complete"));
-    QVERIFY(QFileInfo::exists(m_chosen + QLatin1String("/Resources/plugins/Orbwell/64/lin.xpl")));
+    QVERIFY(QFileInfo::exists(m_chosen + QStringLiteral("/Resources/plugins/Orbwell/64/lin.xpl")));
     QCOMPARE(recordOf(m_plover, m_sandbox->dataRoot()).value(QLatin1String("path")).toString(),
              m_chosen);
     m_program->press(QStringLiteral("OK"));
@@ -117,7 +117,7 @@ void ChosenFolder::getsThePlugin()
     QCOMPARE(m_program->row(m_plover).path, m_chosen);
 }
 
-void ChosenFolder::outranksTheDetectedOne()
+void TestChosenFolder::outranksTheDetectedOne()
 {
     start();
     choose(m_skylark);
@@ -128,7 +128,7 @@ void ChosenFolder::outranksTheDetectedOne()
 
 // The button looks for the simulators afresh. It installs first, and each installation shows the
 // rows with the folders that were chosen; what it installs into is what it found.
-void ChosenFolder::isForgottenByTheScanButton()
+void TestChosenFolder::isForgottenByTheScanButton()
 {
     start();
     choose(m_skylark);
@@ -142,7 +142,7 @@ void ChosenFolder::isForgottenByTheScanButton()
     QVERIFY(!treeOf(m_sandbox->path(m_skylark)).isEmpty());
 }
 
-void ChosenFolder::changesNothingWhenItIsNotChosen()
+void TestChosenFolder::changesNothingWhenItIsNotChosen()
 {
     start();
     m_program->pressBrowse(m_skylark);
@@ -155,5 +155,5 @@ void ChosenFolder::changesNothingWhenItIsNotChosen()
     QVERIFY(!QFileInfo::exists(settings()));
 }
 
-QTEST_GUILESS_MAIN(ChosenFolder)
+QTEST_GUILESS_MAIN(TestChosenFolder)
 #include "tst_ChosenFolder.moc"

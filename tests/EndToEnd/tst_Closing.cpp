@@ -7,7 +7,7 @@
 
 using namespace Tests;
 
-class Closing : public QObject
+class TestClosing : public QObject
 {
     Q_OBJECT
 
@@ -26,18 +26,18 @@ private:
     QScopedPointer<Program> m_program;
 };
 
-void Closing::init()
+void TestClosing::init()
 {
     m_sandbox.reset(new Sandbox);
 }
 
-void Closing::cleanup()
+void TestClosing::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-void Closing::start(const Display *display)
+void TestClosing::start(const Display *display)
 {
     m_program.reset(new Program(*m_sandbox, display));
     place(*m_program, {pluginFolderEntry(QStringLiteral("Skylark"), m_sandbox->root())});
@@ -46,32 +46,33 @@ void Closing::start(const Display *display)
     QCOMPARE(m_program->rows().size(), 1);
 }
 
-void Closing::byTheButtonIsASuccess()
+void TestClosing::byTheButtonIsASuccess()
 {
     start();
     m_program->press(QStringLiteral("Close"));
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void Closing::byTheMouseIsASuccess()
+void TestClosing::byTheMouseIsASuccess()
 {
     const Display display;
     if (!display.isUp())
         QSKIP("needs Xvfb and xdotool");
     start(&display);
-    for (const SeenControl &button : m_program->window().buttons) {
+    const SeenWindow window = m_program->window();
+    for (const SeenControl &button : window.buttons) {
         if (button.text == QLatin1String("Close"))
             QVERIFY(display.click(button.rectangle.center()));
     }
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void Closing::byTheFrameIsASuccess()
+void TestClosing::byTheFrameIsASuccess()
 {
     start();
     m_program->close();
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-QTEST_GUILESS_MAIN(Closing)
+QTEST_GUILESS_MAIN(TestClosing)
 #include "tst_Closing.moc"

@@ -9,7 +9,7 @@
 
 using namespace Tests;
 
-class InstallByClick : public QObject
+class TestInstallByClick : public QObject
 {
     Q_OBJECT
 
@@ -20,6 +20,7 @@ private slots:
     void ofAMouseOnAScreen();
     void says_data();
     void says();
+    void isAnsweredByTheReturnKeyToo();
     void copiesTheFiles();
     void addsItsEntryToTheConfiguration();
     void keepsABackupOfTheConfiguration();
@@ -42,21 +43,21 @@ private:
     QScopedPointer<Program> m_program;
 };
 
-void InstallByClick::init()
+void TestInstallByClick::init()
 {
     m_sandbox.reset(new Sandbox);
     for (const QString &simulator : {m_skylark, m_plover, m_kestrel})
-        writeFile(m_sandbox->path(simulator + QLatin1String("/Gauges/other.dll")), "other");
+        writeFile(m_sandbox->path(simulator + QStringLiteral("/Gauges/other.dll")), "other");
     writeFile(configuration("Sky lark"), othersConfiguration());
 }
 
-void InstallByClick::cleanup()
+void TestInstallByClick::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-void InstallByClick::start(const Display *display)
+void TestInstallByClick::start(const Display *display)
 {
     m_program.reset(new Program(*m_sandbox, display));
     place(*m_program,
@@ -69,7 +70,7 @@ void InstallByClick::start(const Display *display)
     m_program->window();
 }
 
-void InstallByClick::install(const QString &simulator)
+void TestInstallByClick::install(const QString &simulator)
 {
     start();
     m_program->pressAction(simulator);
@@ -78,13 +79,13 @@ void InstallByClick::install(const QString &simulator)
     m_program->window();
 }
 
-QString InstallByClick::configuration(const char *simulator) const
+QString TestInstallByClick::configuration(const char *simulator) const
 {
-    return m_sandbox->dataRoot() + QLatin1String("Maker/") + QLatin1String(simulator)
-        + QLatin1String("/dll.xml");
+    return m_sandbox->dataRoot() + QStringLiteral("Maker/") + QLatin1String(simulator)
+        + QStringLiteral("/dll.xml");
 }
 
-void InstallByClick::ofAMouseOnAScreen()
+void TestInstallByClick::ofAMouseOnAScreen()
 {
     const Display display;
     if (!display.isUp())
@@ -97,14 +98,14 @@ void InstallByClick::ofAMouseOnAScreen()
     m_program->window();
     QCOMPARE(m_program->row(m_skylark).icon, QStringLiteral("check-green"));
     QCOMPARE(
-        readFile(m_sandbox->path(m_skylark + QLatin1String("/Gauges/QuillmontOrbwell_64.dll"))),
+        readFile(m_sandbox->path(m_skylark + QStringLiteral("/Gauges/QuillmontOrbwell_64.dll"))),
         QByteArray("module"));
     QVERIFY(readFile(configuration("Sky lark")).contains("<Name>Quillmont Orbwell</Name>"));
     QCOMPARE(backupsOf(configuration("Sky lark"), QStringLiteral("installation")).size(), 1);
     QVERIFY(!recordOf(m_skylark, m_sandbox->dataRoot()).isEmpty());
 }
 
-void InstallByClick::says_data()
+void TestInstallByClick::says_data()
 {
     QTest::addColumn<QString>("simulator");
     QTest::newRow("with a configuration") << m_skylark;
@@ -112,7 +113,7 @@ void InstallByClick::says_data()
     QTest::newRow("with a plugin folder") << m_kestrel;
 }
 
-void InstallByClick::says()
+void TestInstallByClick::says()
 {
     QFETCH(const QString, simulator);
     start();
@@ -132,7 +133,17 @@ void InstallByClick::says()
     QVERIFY(!m_program->isBusy());
 }
 
-void InstallByClick::copiesTheFiles()
+void TestInstallByClick::isAnsweredByTheReturnKeyToo()
+{
+    start();
+    m_program->pressAction(m_kestrel);
+    m_program->box();
+    m_program->pressKey(QStringLiteral("Return"));
+    m_program->window();
+    QCOMPARE(m_program->windows().size(), 1);
+}
+
+void TestInstallByClick::copiesTheFiles()
 {
     install(m_kestrel);
     const QMap<QString, QByteArray> tree = treeOf(m_sandbox->path(m_kestrel));
@@ -144,7 +155,7 @@ void InstallByClick::copiesTheFiles()
     QCOMPARE(tree.size(), 8); // three files and the five folders to them
 }
 
-void InstallByClick::addsItsEntryToTheConfiguration()
+void TestInstallByClick::addsItsEntryToTheConfiguration()
 {
     install(m_skylark);
     const QByteArray ours = "    <Launch.Addon>\r\n"
@@ -157,7 +168,7 @@ void InstallByClick::addsItsEntryToTheConfiguration()
     QCOMPARE(readFile(configuration("Sky lark")), expected);
 }
 
-void InstallByClick::keepsABackupOfTheConfiguration()
+void TestInstallByClick::keepsABackupOfTheConfiguration()
 {
     install(m_skylark);
     const QStringList backups
@@ -168,7 +179,7 @@ void InstallByClick::keepsABackupOfTheConfiguration()
     QCOMPARE(beside.entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-void InstallByClick::createsALaunchDocumentWhereThereIsNone()
+void TestInstallByClick::createsALaunchDocumentWhereThereIsNone()
 {
     install(m_plover);
     const QByteArray expected = "<?xml version='1.0' encoding='Windows-1252'?>\r\n"
@@ -188,7 +199,7 @@ void InstallByClick::createsALaunchDocumentWhereThereIsNone()
     QCOMPARE(QFileInfo(configuration("Plover")).dir().entryList(QDir::Files).size(), 1);
 }
 
-void InstallByClick::recordsWhatItInstalled()
+void TestInstallByClick::recordsWhatItInstalled()
 {
     install(m_kestrel);
     const QString folder = m_sandbox->path(m_kestrel);
@@ -198,11 +209,11 @@ void InstallByClick::recordsWhatItInstalled()
         {QStringLiteral("files"),
          QJsonArray{folder + QLatin1String("/Resources/plugins/Orbwell/64/lin.xpl"),
                     folder + QLatin1String("/Resources/plugins/Orbwell/about.txt")}}};
-    const QString record = m_sandbox->dataRoot() + QLatin1String("Quillmont/Orbwell/.mapping");
+    const QString record = m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping");
     QCOMPARE(readFile(record), QJsonDocument(QJsonArray{expected}).toJson());
 }
 
-void InstallByClick::turnsTheRowIntoAnInstalledOne()
+void TestInstallByClick::turnsTheRowIntoAnInstalledOne()
 {
     start();
     QCOMPARE(m_program->row(m_skylark).icon, QStringLiteral("check-grey"));
@@ -216,7 +227,7 @@ void InstallByClick::turnsTheRowIntoAnInstalledOne()
     QCOMPARE(m_program->row(m_skylark).action.text, QStringLiteral("Uninstall Orbwell"));
 }
 
-void InstallByClick::leavesTheOtherSimulatorsAlone()
+void TestInstallByClick::leavesTheOtherSimulatorsAlone()
 {
     install(m_skylark);
     QCOMPARE(m_program->row(m_plover).icon, QStringLiteral("check-grey"));
@@ -226,15 +237,15 @@ void InstallByClick::leavesTheOtherSimulatorsAlone()
     QVERIFY(!QFileInfo::exists(configuration("Plover")));
 }
 
-void InstallByClick::saysWhichFileCouldNotBeCopied()
+void TestInstallByClick::saysWhichFileCouldNotBeCopied()
 {
     start();
-    const QString source = m_program->folder() + QLatin1String("/plugins/X-Plane/about.txt");
+    const QString source = m_program->folder() + QStringLiteral("/plugins/X-Plane/about.txt");
     QVERIFY(QFile::remove(source));
     m_program->pressAction(m_kestrel);
     const SeenWindow box = m_program->box();
     const QString folder = m_sandbox->path(m_kestrel) + u'/';
-    const QString target = folder + QLatin1String("Resources/plugins/Orbwell/about.txt");
+    const QString target = folder + QStringLiteral("Resources/plugins/Orbwell/about.txt");
     QCOMPARE(box.title, QStringLiteral("Installation"));
     QCOMPARE(box.icon, QStringLiteral("Information"));
     QCOMPARE(box.text,
@@ -245,7 +256,7 @@ void InstallByClick::saysWhichFileCouldNotBeCopied()
                  .arg(source, target, folder));
 }
 
-void InstallByClick::isUndoneByTheNextClick()
+void TestInstallByClick::isUndoneByTheNextClick()
 {
     const QMap<QString, QByteArray> before = treeOf(m_sandbox->path(m_skylark));
     install(m_skylark);
@@ -261,5 +272,5 @@ void InstallByClick::isUndoneByTheNextClick()
     QCOMPARE(m_program->row(m_skylark).icon, QStringLiteral("check-grey"));
 }
 
-QTEST_GUILESS_MAIN(InstallByClick)
+QTEST_GUILESS_MAIN(TestInstallByClick)
 #include "tst_InstallByClick.moc"

@@ -8,7 +8,7 @@
 
 using namespace Tests;
 
-class InstallTwice : public QObject
+class TestInstallTwice : public QObject
 {
     Q_OBJECT
 
@@ -31,9 +31,9 @@ private:
 };
 
 // Into one simulator, into another, and into the first again, from which a file was lost.
-void InstallTwice::initTestCase()
+void TestInstallTwice::initTestCase()
 {
-    m_configuration = m_sandbox.dataRoot() + QLatin1String("Maker/dll.xml");
+    m_configuration = m_sandbox.dataRoot() + QStringLiteral("Maker/dll.xml");
     m_module = m_sandbox.path(QStringLiteral("Skylark/Gauges/QuillmontOrbwell_64.dll"));
     writeFile(m_configuration, othersConfiguration());
     QDir().mkpath(m_sandbox.path(m_skylark));
@@ -47,7 +47,7 @@ void InstallTwice::initTestCase()
     install(m_skylark);
 }
 
-void InstallTwice::install(const QString &simulator)
+void TestInstallTwice::install(const QString &simulator)
 {
     m_program.start();
     m_program.window();
@@ -60,23 +60,23 @@ void InstallTwice::install(const QString &simulator)
     QCOMPARE(m_program.exitStatus(), 0);
 }
 
-void InstallTwice::keepsOneRecordAtTheEnd()
+void TestInstallTwice::keepsOneRecordAtTheEnd()
 {
     const QJsonArray records
         = QJsonDocument::fromJson(
-              readFile(m_sandbox.dataRoot() + QLatin1String("Quillmont/Orbwell/.mapping")))
+              readFile(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping")))
               .array();
     QCOMPARE(records.size(), 2);
     QCOMPARE(records.at(0).toObject().value(QLatin1String("name")).toString(), m_kestrel);
     QCOMPARE(records.at(1).toObject().value(QLatin1String("name")).toString(), m_skylark);
 }
 
-void InstallTwice::keepsOneEntryInTheConfiguration()
+void TestInstallTwice::keepsOneEntryInTheConfiguration()
 {
     QCOMPARE(readFile(m_configuration).count("<Name>Quillmont Orbwell</Name>"), 1);
 }
 
-void InstallTwice::keepsTheFirstBackup()
+void TestInstallTwice::keepsTheFirstBackup()
 {
     // Within the same second the first backup is the only one.
     const QStringList backups = backupsOf(m_configuration, QStringLiteral("installation"));
@@ -85,10 +85,10 @@ void InstallTwice::keepsTheFirstBackup()
     QCOMPARE(readFile(beside.filePath(backups.constFirst())), othersConfiguration());
 }
 
-void InstallTwice::bringsTheFileBack()
+void TestInstallTwice::bringsTheFileBack()
 {
     QCOMPARE(readFile(m_module), QByteArray("module"));
 }
 
-QTEST_GUILESS_MAIN(InstallTwice)
+QTEST_GUILESS_MAIN(TestInstallTwice)
 #include "tst_InstallTwice.moc"

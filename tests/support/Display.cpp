@@ -35,7 +35,7 @@ Display::~Display()
     }
 }
 
-bool Display::click(const QPoint &at) const
+bool Display::click(QPoint at) const
 {
     QProcess mouse;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -23,7 +23,7 @@ public:
     QString name() const { return m_name; }
 
     /// Moves the mouse there and presses its left button; false if that was not possible.
-    bool click(const QPoint &at) const;
+    bool click(QPoint at) const;
 
 private:
     QProcess m_server;

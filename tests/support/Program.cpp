@@ -123,7 +123,8 @@ QVector<SeenWindow> Program::windows()
 {
     const QString what = QStringLiteral("windows");
     QVector<SeenWindow> seen;
-    for (const QJsonValue window : ask({{QStringLiteral("ask"), what}}).value(what).toArray())
+    const QJsonArray answer = ask({{QStringLiteral("ask"), what}}).value(what).toArray();
+    for (const auto &window : answer)
         seen.append(SeenWindow(window.toObject()));
     return seen;
 }
@@ -132,14 +133,16 @@ QVector<SeenRow> Program::rows()
 {
     const QString what = QStringLiteral("rows");
     QVector<SeenRow> seen;
-    for (const QJsonValue row : ask({{QStringLiteral("ask"), what}}).value(what).toArray())
+    const QJsonArray answer = ask({{QStringLiteral("ask"), what}}).value(what).toArray();
+    for (const auto &row : answer)
         seen.append(SeenRow(row.toObject()));
     return seen;
 }
 
 SeenRow Program::row(const QString &simulator)
 {
-    for (const SeenRow &row : rows()) {
+    const QVector<SeenRow> seen = rows();
+    for (const SeenRow &row : seen) {
         if (row.name == simulator)
             return row;
     }

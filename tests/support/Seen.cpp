@@ -47,7 +47,8 @@ SeenWindow::SeenWindow(const QJsonObject &seen)
     , parent(Tests::text(seen, "parent"))
     , rectangle(Tests::rectangle(seen))
 {
-    for (const QJsonValue button : seen.value(QLatin1String("buttons")).toArray())
+    const QJsonArray all = seen.value(QLatin1String("buttons")).toArray();
+    for (const auto &button : all)
         buttons.append(SeenControl(button.toObject()));
 }
 

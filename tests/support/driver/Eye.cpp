@@ -36,7 +36,8 @@ static QJsonObject control(const QAbstractButton *button)
 
 static QListWidget *list()
 {
-    for (const QWidget *window : QApplication::topLevelWidgets()) {
+    const auto all = QApplication::topLevelWidgets();
+    for (const QWidget *window : all) {
         if (auto *found = window->findChild<QListWidget *>(); found && found->isVisible())
             return found;
     }
@@ -46,8 +47,9 @@ static QListWidget *list()
 static QJsonArray buttonsOf(const QWidget *window)
 {
     QJsonArray buttons;
-    for (const auto *button : window->findChildren<QAbstractButton *>()) {
-        const QListWidget *rows = list();
+    const QListWidget *rows = list();
+    const auto all = window->findChildren<QAbstractButton *>();
+    for (const auto *button : all) {
         if (button->isVisible() && !(rows && rows->isAncestorOf(button)))
             buttons.append(control(button));
     }
@@ -94,7 +96,8 @@ QWidget *inputWindow()
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
-    for (QWidget *window : QApplication::topLevelWidgets()) {
+    const auto all = QApplication::topLevelWidgets();
+    for (QWidget *window : all) {
         if (window->isVisible())
             return window;
     }
@@ -105,7 +108,8 @@ QJsonArray windows()
 {
     QJsonArray seen;
     const QWidget *first = inputWindow();
-    for (QWidget *window : QApplication::topLevelWidgets()) {
+    const auto all = QApplication::topLevelWidgets();
+    for (QWidget *window : all) {
         if (!window->isVisible())
             continue;
         if (window == first)
@@ -152,7 +156,8 @@ static QString iconName(const QPixmap &pixmap)
 
 static void describeLabels(QJsonObject *seen, const QWidget *row)
 {
-    for (const auto *label : row->findChildren<QLabel *>()) {
+    const auto labels = row->findChildren<QLabel *>();
+    for (const auto *label : labels) {
         const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
         if (pixmap.isNull())
             seen->insert(QStringLiteral("name"), plain(label->text()));
