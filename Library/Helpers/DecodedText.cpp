@@ -30,7 +30,7 @@ DecodedText::DecodedText(const QByteArray &bytes, const TextEncoding &encoding)
     , m_encoding(encoding)
 {
     decode();
-    if (m_encoding.unit() > 1)
+    if (!m_text.isValidUtf16())
         replaceLoneSurrogates(&m_text);
 }
 

@@ -15,22 +15,34 @@ QByteArray EncodedText::spliced(const TextSplices &splices) const
         return {};
 
     QByteArray bytes;
-    QString expected;
     int byte = 0;
-    int character = 0;
     for (int i = 0; i < splices.size(); ++i) {
-        const QString piece = m_encoding.writable(splices.at(i).text);
-        bytes += m_bytes.mid(byte, places.at(2 * i) - byte) + m_encoding.encoded(piece);
-        expected += text().midRef(character, splices.at(i).begin - character);
-        expected += piece;
+        bytes += m_bytes.mid(byte, places.at(2 * i) - byte);
+        bytes += m_encoding.encoded(m_encoding.writable(splices.at(i).text));
         byte = places.at(2 * i + 1);
-        character = splices.at(i).end;
     }
     bytes += m_bytes.mid(byte);
-    expected += text().midRef(character);
+    return reads(bytes, splices) ? bytes : QByteArray();
+}
 
-    // Undecodable neighbours may join into a character, or a shift state reach into our piece.
-    return DecodedText(bytes, m_encoding).text() == expected ? bytes : QByteArray();
+/// Undecodable neighbours may join into a character, or a shift state reach into what is new.
+bool EncodedText::reads(const QByteArray &bytes, const TextSplices &splices) const
+{
+    const DecodedText after(bytes, m_encoding);
+    int here = 0;
+    int there = 0;
+    const auto goesOn = [&after, &there](const QStringRef &expected) {
+        const bool isSame = after.text().midRef(there, expected.size()) == expected;
+        there += expected.size();
+        return isSame;
+    };
+    for (const TextSplice &splice : splices) {
+        const QString piece = m_encoding.writable(splice.text);
+        if (!goesOn(text().midRef(here, splice.begin - here)) || !goesOn(QStringRef(&piece)))
+            return false;
+        here = splice.end;
+    }
+    return goesOn(text().midRef(here)) && there == after.text().size();
 }
 
 /// Two for each splice, or none at all.

@@ -29,6 +29,7 @@ public:
     QByteArray spliced(const TextSplices &splices) const;
 
 private:
+    bool reads(const QByteArray &bytes, const TextSplices &splices) const;
     QVector<int> bytesAt(const TextSplices &splices) const;
 
     QByteArray m_bytes;

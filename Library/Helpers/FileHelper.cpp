@@ -18,7 +18,7 @@ QString write(const QString &path, const QString &text, const QString &encoding)
         return QStringLiteral("unknown encoding \"%1\"").arg(encoding);
     if (!codec->canEncode(text))
         return QStringLiteral("the encoding \"%1\" lacks a character of the text").arg(encoding);
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
+    if (path.isEmpty() || !QDir().mkpath(QFileInfo(path).absolutePath()))
         return QStringLiteral("its folder cannot be made");
 
     QString problem;

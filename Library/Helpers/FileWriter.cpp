@@ -23,27 +23,37 @@ QString linkTarget(const QString &path)
     return info.filePath();
 }
 
-void keepOwner(int handle, const QString &path)
+/// Only the superuser gives files away, and not everybody may set every group.
+void keepOwner(int handle, const struct stat &before)
 {
-    struct stat before = {};
+    constexpr auto same = static_cast<uid_t>(-1);
     struct stat now = {};
-    if (stat(QFile::encodeName(path).constData(), &before) != 0 || fstat(handle, &now) != 0)
+    if (fstat(handle, &now) != 0 || (now.st_uid == before.st_uid && now.st_gid == before.st_gid))
         return;
-    constexpr auto unchanged = static_cast<uid_t>(-1);
-    if (before.st_uid != now.st_uid && fchown(handle, before.st_uid, before.st_gid) == 0)
-        return;
-    // Only the superuser gives files away; a group of one's own anybody may set.
-    if (before.st_gid != now.st_gid && fchown(handle, unchanged, before.st_gid) != 0)
+    if (fchown(handle, before.st_uid, before.st_gid) != 0
+        && fchown(handle, same, before.st_gid) != 0)
         errno = 0;
 }
 
-// The toolkit does the same, but makes what the superuser may write writable.
-void keepMode(int handle, const QString &path)
+/// QSaveFile keeps the mode as well, but does not notice when that fails.
+bool keepMode(int handle, const struct stat &before)
+{
+    constexpr mode_t mask = 07777;
+    struct stat now = {};
+    if (fstat(handle, &now) != 0)
+        return false;
+    return (now.st_mode & mask) == (before.st_mode & mask)
+        || fchmod(handle, before.st_mode & mask) == 0;
+}
+
+/// Gives the file behind @p handle what the file at @p path has, if there is one.
+bool keepStatus(int handle, const QString &path)
 {
     struct stat before = {};
-    if (stat(QFile::encodeName(path).constData(), &before) == 0
-        && fchmod(handle, before.st_mode & ALLPERMS) != 0)
-        errno = 0;
+    if (stat(QFile::encodeName(path).constData(), &before) != 0)
+        return errno == ENOENT;
+    keepOwner(handle, before);
+    return keepMode(handle, before);
 }
 
 /// Some file systems find out only here that the disk is full; others have nothing to sync.
@@ -59,21 +69,18 @@ bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *pr
     const FileSizeSignal ignored;
     const QString target = linkTarget(path);
     const QFileInfo info(target);
-    if (info.exists() && !info.isFile()) {
+    if (info.isSymLink() || (info.exists() && !info.isFile())) {
         *problem = QStringLiteral("not a regular file");
         return false;
     }
 
     QSaveFile file(target);
-    if (file.open(QIODevice::WriteOnly)) {
-        keepOwner(file.handle(), target);
-        keepMode(file.handle(), target);
-        // commit() does not notice by itself that the rest of its buffer found no room.
-        if (file.write(bytes) == bytes.size() && file.flush() && isOnDisk(file.handle())
-            && file.commit())
-            return true;
-    }
-    *problem = file.errorString();
+    // commit() does not notice by itself that the rest of its buffer found no room.
+    if (file.open(QIODevice::WriteOnly) && keepStatus(file.handle(), target)
+        && file.write(bytes) == bytes.size() && file.flush() && isOnDisk(file.handle())
+        && file.commit())
+        return true;
+    *problem = QStringLiteral("cannot be written: %1").arg(file.errorString());
     return false;
 }
 

@@ -18,7 +18,7 @@ bool isName(const QStringRef &name)
 
 StrictXmlReader::StrictXmlReader(const QString &text)
     : QXmlStreamReader(text)
-    , m_references(text.count(u'&'))
+    , m_text(text)
 {
     setNamespaceProcessing(false);
     // The reader would pass over it, and count one character less than there are.
@@ -29,8 +29,10 @@ StrictXmlReader::StrictXmlReader(const QString &text)
 QXmlStreamReader::TokenType StrictXmlReader::next()
 {
     const TokenType type = readNext();
-    if (type == StartElement || type == ProcessingInstruction)
-        checkNames();
+    if (type == StartElement)
+        checkAttributes();
+    else if (type == ProcessingInstruction && !isName(processingInstructionTarget()))
+        raiseError(QStringLiteral("Invalid processing instruction name."));
     else if (type == DTD)
         limitEntities();
     return type;
@@ -49,10 +51,8 @@ QString StrictXmlReader::sentence(qint64 line, qint64 column, const QString &rea
              reason.simplified());
 }
 
-void StrictXmlReader::checkNames()
+void StrictXmlReader::checkAttributes()
 {
-    if (!isName(processingInstructionTarget()))
-        raiseError(QStringLiteral("Invalid processing instruction name."));
     const QXmlStreamAttributes all = attributes();
     for (const QXmlStreamAttribute &attribute : all) {
         if (!isName(attribute.qualifiedName()))
@@ -64,7 +64,7 @@ void StrictXmlReader::checkNames()
 void StrictXmlReader::limitEntities()
 {
     constexpr int biggestGrowth = 16 * 1024 * 1024;
-    const int limit = biggestGrowth / (m_references + 1);
+    const int limit = biggestGrowth / (m_text.count(u'&') + 1);
     setEntityExpansionLimit(std::min(limit, entityExpansionLimit()));
 }
 

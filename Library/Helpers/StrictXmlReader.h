@@ -11,6 +11,7 @@ namespace Quillmont::Library::Helpers {
 class StrictXmlReader : public QXmlStreamReader
 {
 public:
+    /// @p text has to live as long as this.
     explicit StrictXmlReader(const QString &text);
 
     /// Goes on to the next token, and answers its type.
@@ -23,10 +24,10 @@ public:
     static QString sentence(qint64 line, qint64 column, const QString &reason);
 
 private:
-    void checkNames();
+    void checkAttributes();
     void limitEntities();
 
-    int m_references;
+    const QString &m_text;
 };
 
 } // namespace Quillmont::Library::Helpers

@@ -1,14 +1,32 @@
 #include "Library/Helpers/XmlDocument.h"
 
 #include "Library/Helpers/StrictXmlReader.h"
-#include "Library/Helpers/XmlBlank.h"
+
+#include <utility>
 
 namespace Quillmont::Library::Helpers {
+
+namespace {
+
+XmlElement opened(const QXmlStreamReader &reader)
+{
+    XmlElement element;
+    element.name = reader.qualifiedName().toString();
+    element.contentBegin = static_cast<int>(reader.characterOffset());
+    return element;
+}
+
+} // namespace
 
 XmlDocument::XmlDocument(const QString &text, const Filter &isWanted)
     : m_text(text)
 {
     read(isWanted);
+    if (!m_problem.isEmpty())
+        return;
+    locate(&m_root);
+    if (!m_root.hasPlace)
+        m_problem = problemAt(0, QStringLiteral("The root element is not where it should be."));
 }
 
 QString XmlDocument::problemAt(int place, const QString &reason) const
@@ -22,6 +40,12 @@ QString XmlDocument::problemAt(int place, const QString &reason) const
         lineBegin = isEnd ? i + 1 : lineBegin;
     }
     return StrictXmlReader::sentence(line, place - lineBegin + 1, reason);
+}
+
+int XmlDocument::tagBegin(int end) const
+{
+    const bool isTag = end > 0 && end <= m_text.size() && m_text.at(end - 1) == u'>';
+    return isTag ? m_text.lastIndexOf(u'<', end - 1) : -1;
 }
 
 void XmlDocument::read(const Filter &isWanted)
@@ -47,85 +71,54 @@ void XmlDocument::read(const Filter &isWanted)
         }
     }
     m_problem = reader.problem();
-    if (m_problem.isEmpty() && !m_root.hasPlace)
-        m_problem = problemAt(0, QStringLiteral("The root element is not where it should be."));
 }
 
 void XmlDocument::begin(const QXmlStreamReader &reader)
 {
     ++m_depth;
     if (m_depth == 1)
-        open(&m_root, reader);
+        m_root = opened(reader);
     else if (m_depth == 2)
-        open(&m_entry, reader);
+        m_entry = opened(reader);
     else if (m_depth == 3)
-        open(&m_child, reader);
+        m_child = opened(reader);
     else
         m_child.isPlain = false;
 }
 
 void XmlDocument::end(const QXmlStreamReader &reader, const Filter &isWanted)
 {
-    if (m_depth == 1) {
-        close(&m_root, reader);
+    const auto place = static_cast<int>(reader.characterOffset());
+    if (m_depth == 3) {
+        m_child.end = place;
+        m_entry.children.append(std::move(m_child));
     } else if (m_depth == 2) {
-        close(&m_entry, reader);
-        noteNeighbour(&m_last);
-        if (!m_entry.children.isEmpty())
-            noteNeighbour(&m_lastParent);
+        m_entry.end = place;
+        const bool isParent = !m_entry.children.isEmpty();
+        const int firstChild = isParent ? m_entry.children.constFirst().contentBegin : -1;
+        m_outlines.append({m_entry.contentBegin, firstChild, place});
         if (isWanted(m_entry))
-            m_root.children.append(m_entry);
-    } else if (m_depth == 3) {
-        close(&m_child, reader);
-        m_entry.children.append(m_child);
+            m_root.children.append(std::move(m_entry));
+    } else if (m_depth == 1) {
+        m_root.end = place;
     }
     --m_depth;
 }
 
-void XmlDocument::open(XmlElement *element, const QXmlStreamReader &reader)
+void XmlDocument::locate(XmlElement *element) const
 {
-    const auto place = static_cast<int>(reader.characterOffset());
-    *element = {};
-    element->name = reader.qualifiedName().toString();
-    element->begin = tagBegin(QStringLiteral("<"), reader.qualifiedName(), place);
-    element->hasPlace = element->begin >= 0;
-    element->contentBegin = place;
-    if (element->hasPlace)
-        m_lastTagEnd = place;
+    element->begin = tagBegin(element->contentBegin);
+    element->contentEnd = element->isSelfClosed() ? element->end : tagBegin(element->end);
+    element->hasPlace = isTagAt(element->begin, u'<' + element->name)
+        && (element->isSelfClosed()
+            || isTagAt(element->contentEnd, QStringLiteral("</") + element->name));
+    for (XmlElement &child : element->children)
+        locate(&child);
 }
 
-void XmlDocument::close(XmlElement *element, const QXmlStreamReader &reader)
+bool XmlDocument::isTagAt(int place, const QString &tag) const
 {
-    element->end = static_cast<int>(reader.characterOffset());
-    if (!element->hasPlace)
-        return;
-    element->contentEnd = element->isSelfClosed()
-        ? element->end
-        : tagBegin(QStringLiteral("</"), reader.qualifiedName(), element->end);
-    element->hasPlace = element->contentEnd >= 0;
-    m_lastTagEnd = element->end;
-}
-
-void XmlDocument::noteNeighbour(XmlElement *neighbour) const
-{
-    const auto beginsLine = [this](const XmlElement &element) {
-        return XmlBlank::beginsLine(m_text, element.begin);
-    };
-    if (m_entry.hasPlace
-        && (!neighbour->hasPlace || beginsLine(m_entry) || !beginsLine(*neighbour)))
-        *neighbour = m_entry;
-}
-
-/// Where the tag begins that ends in front of @p end. What comes out of an entity ends behind the
-/// reference to it, so no tag is found there.
-int XmlDocument::tagBegin(const QString &opening, const QStringRef &name, int end) const
-{
-    if (end <= m_lastTagEnd || end > m_text.size() || m_text.at(end - 1) != u'>')
-        return -1;
-    const int begin = m_text.lastIndexOf(u'<', end - 1);
-    const bool isTag = begin >= m_lastTagEnd && m_text.midRef(begin).startsWith(opening)
-        && m_text.midRef(begin + opening.size()).startsWith(name);
-    return isTag ? begin : -1;
+    return place >= 0 && m_text.midRef(place, tag.size()) == tag;
 }
 
 } // namespace Quillmont::Library::Helpers

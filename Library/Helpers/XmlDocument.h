@@ -4,6 +4,7 @@
 #include "Library/Helpers/XmlElement.h"
 
 #include <QString>
+#include <QVector>
 
 #include <functional>
 
@@ -15,7 +16,17 @@ namespace Quillmont::Library::Helpers {
 class XmlDocument
 {
 public:
+    /// Sees an element's names and texts; its places are not known yet.
     using Filter = std::function<bool(const XmlElement &)>;
+
+    /// Where tags of a child of the root end; the place of what comes out of an entity is behind
+    /// the reference to it.
+    struct Outline
+    {
+        int startTagEnd;
+        int firstChildTagEnd; ///< -1 without a child.
+        int end;
+    };
 
     /// Keeps those children of the root, with their own children, that @p isWanted says. @p text
     /// has to live as long as this.
@@ -33,30 +44,27 @@ public:
     /// The root element; its children are the wanted ones.
     const XmlElement &root() const { return m_root; }
 
-    /// The root's last child, one that begins a line if there is one; nowhere without any.
-    const XmlElement &last() const { return m_last; }
+    /// All children of the root.
+    const QVector<Outline> &outlines() const { return m_outlines; }
 
-    /// Likewise of those that have children.
-    const XmlElement &lastParent() const { return m_lastParent; }
+    /// Where the tag begins that ends in front of @p end, or -1: what comes out of an entity ends
+    /// behind a reference.
+    int tagBegin(int end) const;
 
 private:
     void read(const Filter &isWanted);
     void begin(const QXmlStreamReader &reader);
     void end(const QXmlStreamReader &reader, const Filter &isWanted);
-    void open(XmlElement *element, const QXmlStreamReader &reader);
-    void close(XmlElement *element, const QXmlStreamReader &reader);
-    void noteNeighbour(XmlElement *neighbour) const;
-    int tagBegin(const QString &opening, const QStringRef &name, int end) const;
+    void locate(XmlElement *element) const;
+    bool isTagAt(int place, const QString &tag) const;
 
     const QString &m_text;
     QString m_problem;
     XmlElement m_root;
     XmlElement m_entry;
     XmlElement m_child;
-    XmlElement m_last;
-    XmlElement m_lastParent;
+    QVector<Outline> m_outlines;
     int m_depth = 0;
-    int m_lastTagEnd = 0;
 };
 
 } // namespace Quillmont::Library::Helpers

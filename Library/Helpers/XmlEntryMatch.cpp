@@ -31,15 +31,13 @@ bool XmlEntryMatch::isOurs(const XmlElement &entry, const Models::XmlConfigModel
 
 bool XmlEntryMatch::isComplete(const XmlElement &entry, const Models::XmlInsertionModel &model)
 {
-    if (entry.name != model.parentName)
-        return false;
-    const QVector<int> children = assigned(model.values, entry.children);
-    for (int i = 0; i < children.size(); ++i) {
-        if (children.at(i) < 0
-            || !entry.children.at(children.at(i)).says(model.values.at(i).second))
-            return false;
-    }
-    return true;
+    const auto stands = [&entry](const QPair<QString, QString> &value) {
+        return std::any_of(entry.children.cbegin(), entry.children.cend(), [&](const auto &child) {
+            return holds(child, value.first, value.second);
+        });
+    };
+    return entry.name == model.parentName
+        && std::all_of(model.values.cbegin(), model.values.cend(), stands);
 }
 
 QVector<int> XmlEntryMatch::assigned(const Models::XmlValues &values,

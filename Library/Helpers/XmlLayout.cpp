@@ -3,11 +3,36 @@
 #include "Library/Helpers/XmlBlank.h"
 #include "Library/Helpers/XmlDocument.h"
 
-#include <algorithm>
-
 namespace Quillmont::Library::Helpers {
 
 namespace {
+
+using Outline = XmlDocument::Outline;
+
+/// The last child of the root that begins a line, else the last of all; null if there is none. A
+/// parent is one that has children itself.
+const Outline *neighbour(const XmlDocument &document, bool isParent)
+{
+    const Outline *result = nullptr;
+    const QVector<Outline> &all = document.outlines();
+    for (auto one = all.crbegin(); one != all.crend(); ++one) {
+        const int begin = document.tagBegin(one->startTagEnd);
+        if (begin < 0 || (isParent && one->firstChildTagEnd < 0))
+            continue;
+        if (XmlBlank::beginsLine(document.text(), begin))
+            return &*one;
+        if (!result)
+            result = &*one;
+    }
+    return result;
+}
+
+/// The white space in front of the tag that ends at @p end.
+QString lineBeforeTag(const XmlDocument &document, int end)
+{
+    const int begin = document.tagBegin(end);
+    return begin < 0 ? QString() : XmlBlank::lineBefore(document.text(), begin);
+}
 
 QString rootIndent(const XmlDocument &document)
 {
@@ -26,15 +51,16 @@ QString lineBelowRoot(const XmlDocument &document)
 
 QString entryLine(const XmlDocument &document)
 {
+    const Outline *last = neighbour(document, false);
+    const QString line = last ? lineBeforeTag(document, last->startTagEnd) : QString();
+    if (XmlBlank::hasLineEnd(QStringRef(&line)))
+        return line;
+
     const QString &text = document.text();
     const XmlElement &root = document.root();
-    const XmlElement &last = document.last();
-    if (last.hasPlace && XmlBlank::beginsLine(text, last.begin))
-        return XmlBlank::lineBefore(text, last.begin);
-
     const int length = root.contentEnd - root.contentBegin;
     if (!XmlBlank::hasLineEnd(text.midRef(root.contentBegin, length)))
-        return last.hasPlace ? XmlBlank::lineBefore(text, last.begin) : QString();
+        return line;
 
     const int first = XmlBlank::end(text, root.contentBegin);
     return first < root.contentEnd && XmlBlank::beginsLine(text, first)
@@ -47,33 +73,16 @@ QString entryLine(const XmlDocument &document)
 XmlLayout::XmlLayout(const XmlDocument &document)
     : m_beforeEntry(entryLine(document))
 {
-    if (document.lastParent().hasPlace)
-        copyChildren(document);
-    else if (XmlBlank::hasLineEnd(QStringRef(&m_beforeEntry)))
-        indentChildren(document);
-}
-
-void XmlLayout::copyChildren(const XmlDocument &document)
-{
-    const QString &text = document.text();
-    const XmlElement &parent = document.lastParent();
-    const auto &children = parent.children;
-    auto child = std::find_if(children.cbegin(), children.cend(), [&text](const XmlElement &one) {
-        return one.hasPlace && XmlBlank::beginsLine(text, one.begin);
-    });
-    if (child == children.cend())
-        child = children.cbegin();
-    if (child->hasPlace)
-        m_beforeChild = XmlBlank::lineBefore(text, child->begin);
-    m_beforeEnd = XmlBlank::lineBefore(text, parent.contentEnd);
-}
-
-void XmlLayout::indentChildren(const XmlDocument &document)
-{
-    const QString indent = XmlBlank::indent(m_beforeEntry);
-    const QString outer = rootIndent(document);
-    m_beforeChild = m_beforeEntry + (indent.startsWith(outer) ? indent.mid(outer.size()) : indent);
-    m_beforeEnd = m_beforeEntry;
+    if (const Outline *parent = neighbour(document, true)) {
+        m_beforeChild = lineBeforeTag(document, parent->firstChildTagEnd);
+        m_beforeEnd = lineBeforeTag(document, parent->end);
+    } else if (XmlBlank::hasLineEnd(QStringRef(&m_beforeEntry))) {
+        const QString indent = XmlBlank::indent(m_beforeEntry);
+        const QString outer = rootIndent(document);
+        const bool isDeeper = indent.startsWith(outer);
+        m_beforeChild = m_beforeEntry + (isDeeper ? indent.mid(outer.size()) : indent);
+        m_beforeEnd = m_beforeEntry;
+    }
 }
 
 } // namespace Quillmont::Library::Helpers

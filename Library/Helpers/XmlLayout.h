@@ -23,9 +23,6 @@ public:
     const QString &beforeEnd() const { return m_beforeEnd; }
 
 private:
-    void copyChildren(const XmlDocument &document);
-    void indentChildren(const XmlDocument &document);
-
     QString m_beforeEntry;
     QString m_beforeChild;
     QString m_beforeEnd;

@@ -1,0 +1,78 @@
+#include "Library/Helpers/XmlEntryEditor.h"
+
+#include "Library/Helpers/EncodedText.h"
+#include "Library/Helpers/XmlDocument.h"
+#include "Library/Helpers/XmlEntryEdit.h"
+#include "Library/Helpers/XmlEntryMatch.h"
+#include "Library/Models/XmlInsertionModel.h"
+
+#include <functional>
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+using Change = std::function<void(XmlEntryEdit *)>;
+
+/// What stood at both sides of an element may have become the end of a CDATA section.
+QString problemAfterwards(const QByteArray &bytes)
+{
+    const EncodedText source(bytes);
+    return XmlDocument(source.text(), [](const XmlElement &) { return false; }).problem();
+}
+
+QByteArray changed(const QByteArray &bytes,
+                   const XmlDocument::Filter &isOurs,
+                   const Change &change,
+                   QString *problem)
+{
+    const EncodedText source(bytes);
+    const XmlDocument document(source.text(), isOurs);
+    *problem = document.problem();
+    if (!problem->isEmpty())
+        return bytes;
+
+    XmlEntryEdit edit(source, document);
+    change(&edit);
+    *problem = edit.problem();
+    if (!problem->isEmpty() || edit.splices().isEmpty())
+        return bytes;
+
+    const QByteArray result = source.spliced(edit.splices());
+    if (result.isNull())
+        *problem = document.problemAt(edit.splices().constFirst().begin,
+                                      QStringLiteral("Undecodable bytes would be read otherwise."));
+    else if (source.text().contains(u']'))
+        *problem = problemAfterwards(result);
+    return problem->isEmpty() ? result : bytes;
+}
+
+} // namespace
+
+QByteArray XmlEntryEditor::inserted(const QByteArray &bytes,
+                                    const Models::XmlInsertionModel &model,
+                                    QString *problem)
+{
+    const auto isOurs = [&model](const XmlElement &entry) {
+        return XmlEntryMatch::isOurs(entry, model) || XmlEntryMatch::isComplete(entry, model);
+    };
+    const auto insert = [&model](XmlEntryEdit *edit) {
+        edit->insert(model);
+    };
+    return changed(bytes, isOurs, insert, problem);
+}
+
+QByteArray XmlEntryEditor::removed(const QByteArray &bytes,
+                                   const Models::XmlConfigModel &model,
+                                   QString *problem)
+{
+    const auto isOurs = [&model](const XmlElement &entry) {
+        return XmlEntryMatch::isOurs(entry, model);
+    };
+    const auto remove = [&model](XmlEntryEdit *edit) {
+        edit->remove(model);
+    };
+    return changed(bytes, isOurs, remove, problem);
+}
+
+} // namespace Quillmont::Library::Helpers

@@ -1,0 +1,86 @@
+#include "tests/Library/Helpers/XmlPromises.h"
+
+#include "Library/Helpers/XmlEntryEditor.h"
+#include "Library/Models/XmlInsertionModel.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace Tests {
+
+namespace {
+
+using Quillmont::Library::Helpers::XmlEntryEditor;
+using Quillmont::Library::Models::XmlInsertionModel;
+
+QJsonObject value(const char *key, const char *text)
+{
+    return {{QStringLiteral("key"), QLatin1String(key)},
+            {QStringLiteral("value"), QString::fromUtf8(text)}};
+}
+
+} // namespace
+
+XmlInsertionModel *XmlPromises::model()
+{
+    static XmlInsertionModel model(
+        nullptr,
+        {{QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
+         {QStringLiteral("values"),
+          QJsonArray{value("Name", "Round & Trip \xc3\xbc"), value("Path", "a\\b.dll")}}});
+    return &model;
+}
+
+bool XmlPromises::isOnePieceMore(const QByteArray &shorter, const QByteArray &longer)
+{
+    if (longer.size() <= shorter.size())
+        return false;
+    const auto split = std::mismatch(shorter.cbegin(), shorter.cend(), longer.cbegin());
+    const auto rest = static_cast<int>(shorter.cend() - split.first);
+    return longer.right(rest) == shorter.right(rest);
+}
+
+bool XmlPromises::isOpenedRoot(const QByteArray &before, const QByteArray &after)
+{
+    if (after.size() <= before.size())
+        return false;
+    const auto split = std::mismatch(before.cbegin(), before.cend(), after.cbegin());
+    const auto place = static_cast<int>(split.first - before.cbegin());
+    // Characters of more than one byte hold zeros.
+    QByteArray tag = before.mid(place, 8).replace('\0', QByteArray());
+    QByteArray tags
+        = after.mid(place, after.size() - before.size() + 8).replace('\0', QByteArray());
+    const int rest = before.size() - before.indexOf('>', place) - 1;
+    return tag.startsWith("/>") && tags.startsWith("></")
+        && after.right(rest) == before.right(rest);
+}
+
+QString XmlPromises::broken(const QByteArray &bytes, bool *isAccepted)
+{
+    QString problem;
+    const QByteArray edited = XmlEntryEditor::inserted(bytes, *model(), &problem);
+    *isAccepted = problem.isEmpty();
+    if (!*isAccepted)
+        return edited == bytes ? QString() : QStringLiteral("refused, but touched");
+    if (XmlEntryEditor::inserted(edited, *model(), &problem) != edited || !problem.isEmpty())
+        return QStringLiteral("the second insertion does something: ") + problem;
+
+    const QByteArray removed = XmlEntryEditor::removed(edited, *model(), &problem);
+    if (!problem.isEmpty())
+        return QStringLiteral("the entry cannot be removed: ") + problem;
+    if (XmlEntryEditor::removed(removed, *model(), &problem) != removed || !problem.isEmpty())
+        return QStringLiteral("the second removal does something: ") + problem;
+
+    const QByteArray without = XmlEntryEditor::removed(bytes, *model(), &problem);
+    if (!problem.isEmpty())
+        return QStringLiteral("an older entry cannot be removed: ") + problem;
+    if (removed != without && !isOpenedRoot(without, removed))
+        return QStringLiteral("the removal does not bring back the bytes");
+    if (without == bytes && removed == bytes && !isOnePieceMore(bytes, edited))
+        return QStringLiteral("the insertion is not one piece");
+    return {};
+}
+
+} // namespace Tests

@@ -1,0 +1,123 @@
+#include "Library/Helpers/FileHelper.h"
+
+#include "tests/support/Files.h"
+#include "tests/support/LogCatcher.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QtTest>
+
+using Quillmont::Library::Helpers::FileHelper;
+
+/// Saves texts as whole files.
+class TestFileHelper : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void textIsWrittenInTheEncoding_data();
+    void textIsWrittenInTheEncoding();
+    void contentIsReplaced();
+    void missingFoldersAreMade();
+    void whatCannotBeWrittenChangesNothing_data();
+    void whatCannotBeWrittenChangesNothing();
+    void folderThatCannotBeMadeIsAFailure();
+    void symbolicLinkStays();
+
+private:
+    QString folder() const { return m_sandbox.path(QStringLiteral("config")); }
+
+    QString path() const { return folder() + QLatin1String("/exe.xml"); }
+
+    Tests::Sandbox m_sandbox;
+};
+
+void TestFileHelper::init()
+{
+    QDir(folder()).removeRecursively();
+}
+
+void TestFileHelper::textIsWrittenInTheEncoding_data()
+{
+    QTest::addColumn<QString>("encoding");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("none") << QString() << QByteArray("\xc3\xbc\r\n\xe2\x82\xac\n");
+    QTest::newRow("UTF-8") << QStringLiteral("UTF-8") << QByteArray("\xc3\xbc\r\n\xe2\x82\xac\n");
+    QTest::newRow("Windows-1252") << QStringLiteral("Windows-1252") << QByteArray("\xfc\r\n\x80\n");
+    QTest::newRow("lower case") << QStringLiteral("windows-1252") << QByteArray("\xfc\r\n\x80\n");
+    QTest::newRow("UTF-16BE") << QStringLiteral("UTF-16BE")
+                              << QByteArray("\xfe\xff\0\xfc\0\r\0\n\x20\xac\0\n", 12);
+}
+
+void TestFileHelper::textIsWrittenInTheEncoding()
+{
+    QFETCH(const QString, encoding);
+    QFETCH(const QByteArray, bytes);
+    QVERIFY(FileHelper::saveText(path(), QStringLiteral("\u00fc\r\n\u20ac\n"), encoding));
+    QCOMPARE(Tests::readFile(path()), bytes);
+}
+
+void TestFileHelper::contentIsReplaced()
+{
+    Tests::writeFile(path(), "a longer text than the new one");
+    QVERIFY(FileHelper::saveText(path(), QStringLiteral("new"), QString()));
+    QCOMPARE(Tests::treeOf(folder()),
+             (QMap<QString, QByteArray>{{QStringLiteral("exe.xml"), "new"}}));
+    QVERIFY(FileHelper::saveText(path(), QString(), QString()));
+    QCOMPARE(Tests::readFile(path()), QByteArray());
+}
+
+void TestFileHelper::missingFoldersAreMade()
+{
+    const QString deep = folder() + QStringLiteral("/one/two words/\u65e5\u672c/exe.xml");
+    QVERIFY(FileHelper::saveText(deep, QStringLiteral("new"), QString()));
+    QCOMPARE(Tests::readFile(deep), QByteArray("new"));
+}
+
+void TestFileHelper::whatCannotBeWrittenChangesNothing_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("encoding");
+    QTest::newRow("unknown encoding") << QStringLiteral("new") << QStringLiteral("klingon-8");
+    QTest::newRow("name of no encoding") << QStringLiteral("new") << QStringLiteral("\u65e5\u672c");
+    QTest::newRow("character that the encoding lacks")
+        << QStringLiteral("\u65e5") << QStringLiteral("Windows-1252");
+}
+
+void TestFileHelper::whatCannotBeWrittenChangesNothing()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, encoding);
+    const Tests::LogCatcher log;
+    QVERIFY(!FileHelper::saveText(path(), text, encoding));
+    QVERIFY(!QFileInfo::exists(folder()));
+
+    Tests::writeFile(path(), "old");
+    QVERIFY(!FileHelper::saveText(path(), text, encoding));
+    QCOMPARE(Tests::readFile(path()), QByteArray("old"));
+    QCOMPARE(log.debugLines().size(), 2);
+    QVERIFY(log.hasDebugLineWith(path()));
+}
+
+void TestFileHelper::folderThatCannotBeMadeIsAFailure()
+{
+    Tests::writeFile(folder(), "no folder");
+    QVERIFY(!FileHelper::saveText(path(), QStringLiteral("new"), QString()));
+    QCOMPARE(Tests::readFile(folder()), QByteArray("no folder"));
+    QVERIFY(!FileHelper::saveText(QString(), QStringLiteral("new"), QString()));
+    QVERIFY(QFile::remove(folder()));
+}
+
+void TestFileHelper::symbolicLinkStays()
+{
+    Tests::writeFile(folder() + QLatin1String("/target.xml"), "old");
+    QVERIFY(QFile::link(QStringLiteral("target.xml"), path()));
+    QVERIFY(FileHelper::saveText(path(), QStringLiteral("new"), QString()));
+    QVERIFY(QFileInfo(path()).isSymLink());
+    QCOMPARE(Tests::readFile(folder() + QLatin1String("/target.xml")), QByteArray("new"));
+}
+
+QTEST_APPLESS_MAIN(TestFileHelper)
+#include "tst_FileHelper.moc"

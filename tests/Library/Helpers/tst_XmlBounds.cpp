@@ -1,0 +1,186 @@
+#include "tests/Library/Helpers/RoundTrip.h"
+#include "tests/Library/Helpers/XmlEditTest.h"
+#include "tests/support/Files.h"
+#include "tests/support/LogCatcher.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QtTest>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+/// Files that are made, or broken, so that they take for ever or all of the memory.
+class TestXmlBounds : public Tests::XmlEditTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void entityBombIsRefused_data();
+    void entityBombIsRefused();
+    void entitiesOfAnHonestSizeAreRead();
+    void deepNestingIsEdited();
+    void manyEntriesAreEdited();
+    void manyEntriesOfOursAreRemoved();
+    void zerosAreRefused_data();
+    void zerosAreRefused();
+    void hugeFileIsRefused();
+    void whatIsNoFileIsRefused_data();
+    void whatIsNoFileIsRefused();
+
+private:
+    QElapsedTimer m_timer;
+};
+
+void TestXmlBounds::init()
+{
+    m_timer.start();
+}
+
+void TestXmlBounds::cleanup()
+{
+    // Far more than any of them takes, far less than what they would take without a bound.
+    QVERIFY2(m_timer.elapsed() < 60 * 1000, "took too long");
+    struct rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+#ifdef Q_OS_LINUX
+    QVERIFY2(usage.ru_maxrss < 1024 * 1024, "took too much memory");
+#endif
+}
+
+void TestXmlBounds::entityBombIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QByteArray laughs = "<!DOCTYPE R [<!ENTITY a0 'ha'>";
+    for (int i = 1; i < 30; ++i) {
+        const QByteArray before = "&a" + QByteArray::number(i - 1) + ';';
+        laughs += "<!ENTITY a" + QByteArray::number(i) + " '" + before.repeated(10) + "'>";
+    }
+    QTest::newRow("doubled again and again") << laughs + "]>\n<R>&a29;</R>";
+    QTest::newRow("the same in an attribute") << laughs + "]>\n<R a='&a29;'/>";
+
+    const QByteArray small = "<!DOCTYPE R [<!ENTITY a '" + QByteArray(4000, 'x') + "'>]>\n<R>";
+    const QByteArray many = QByteArray("&a;").repeated(1000 * 1000);
+    QTest::newRow("one of moderate size a million times") << small + many + "</R>";
+    QTest::newRow("the same in an attribute, at once") << small + "<A a='" + many + "'/></R>";
+    QTest::newRow("elements a million times") << "<!DOCTYPE R [<!ENTITY a '"
+            + QByteArray("<b/>").repeated(900) + "'>]>\n<R>" + many + "</R>";
+    QTest::newRow("one of great size")
+        << "<!DOCTYPE R [<!ENTITY a '" + QByteArray(100 * 1000, 'x') + "'>]>\n<R>&a;</R>";
+    QTest::newRow("in itself") << QByteArray(
+        "<!DOCTYPE R [<!ENTITY a '&b;'><!ENTITY b '&a;'>]>\n<R>&a;</R>");
+}
+
+void TestXmlBounds::entityBombIsRefused()
+{
+    QFETCH(const QByteArray, bytes);
+    Tests::RoundTrip roundTrip(path());
+    QCOMPARE(roundTrip.broken(bytes), QString());
+    QVERIFY(!roundTrip.wasAccepted());
+    QVERIFY(m_timer.elapsed() < 10 * 1000);
+}
+
+void TestXmlBounds::entitiesOfAnHonestSizeAreRead()
+{
+    Tests::RoundTrip roundTrip(path());
+    const QByteArray head = "<!DOCTYPE R [<!ENTITY a 'Harbour and Sons'>]>\n<R>\n";
+    QCOMPARE(roundTrip.broken(head + QByteArray(" <A>&a;</A>\n").repeated(4200) + "</R>"),
+             QString());
+    QVERIFY(roundTrip.wasAccepted());
+}
+
+void TestXmlBounds::deepNestingIsEdited()
+{
+    constexpr int depth = 100 * 1000;
+    Tests::RoundTrip roundTrip(path());
+    QCOMPARE(
+        roundTrip.broken(QByteArray("<A>").repeated(depth) + QByteArray("</A>").repeated(depth)),
+        QString());
+    QVERIFY(roundTrip.wasAccepted());
+    QCOMPARE(roundTrip.broken("<R><Launch.Addon>" + QByteArray("<Name>").repeated(depth)
+                              + QByteArray("</Name>").repeated(depth) + "</Launch.Addon></R>"),
+             QString());
+    QVERIFY(roundTrip.wasAccepted());
+}
+
+void TestXmlBounds::manyEntriesAreEdited()
+{
+    const QByteArray entry = "  <Launch.Addon>\r\n    <Name>Tide</Name>\r\n  </Launch.Addon>\r\n";
+    Tests::RoundTrip roundTrip(path());
+    QCOMPARE(roundTrip.broken("<R>\r\n" + entry.repeated(4200) + "</R>\r\n"), QString());
+    QVERIFY(roundTrip.wasAccepted());
+}
+
+void TestXmlBounds::manyEntriesOfOursAreRemoved()
+{
+    const QByteArray other = "  <A>\n    <B/>\n  </A>\n";
+    const QByteArray ours = "  <Addon>\n    <Name>Tide</Name>\n  </Addon>\n";
+    QVERIFY(removeFrom("<R>\n" + (other + ours).repeated(20 * 1000) + "</R>\n"));
+    QCOMPARE(content(), QByteArray("<R>\n" + other.repeated(20 * 1000) + "</R>\n"));
+}
+
+void TestXmlBounds::zerosAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing but zeros") << QByteArray(5000, '\0');
+    QTest::newRow("many zeros") << QByteArray(30 * 1000 * 1000, '\0');
+    QTest::newRow("zeros behind the root") << "<R></R>\n" + QByteArray(512, '\0');
+    QTest::newRow("zeros in front") << QByteArray(512, '\0') + "<R></R>\n";
+    QTest::newRow("a zero in a text") << QByteArray("<R>a\0b</R>", 10);
+    QTest::newRow("a zero in a name") << QByteArray("<R a\0b='1'></R>", 15);
+    QTest::newRow("zeros behind UTF-16") << QByteArray("\xff\xfe<\0R\0/\0>\0\0\0\0\0", 14);
+}
+
+void TestXmlBounds::zerosAreRefused()
+{
+    QFETCH(const QByteArray, bytes);
+    Tests::RoundTrip roundTrip(path());
+    QCOMPARE(roundTrip.broken(bytes), QString());
+    QVERIFY(!roundTrip.wasAccepted());
+}
+
+void TestXmlBounds::hugeFileIsRefused()
+{
+    constexpr qint64 size = 100 * 1000 * 1000;
+    const Tests::LogCatcher log;
+    Tests::writeFile(path(), "<R>");
+    QVERIFY(QFile::resize(path(), size));
+    const QByteArray before = identity();
+    QVERIFY(!insert());
+    QVERIFY(!remove());
+    QCOMPARE(identity(), before);
+    QCOMPARE(log.debugLines().size(), 2);
+    QVERIFY(m_timer.elapsed() < 5 * 1000);
+    QVERIFY(QFile::remove(path()));
+}
+
+void TestXmlBounds::whatIsNoFileIsRefused_data()
+{
+    QTest::addColumn<QString>("path");
+    const QString folder = m_sandbox.path(QStringLiteral("folder"));
+    QVERIFY(QDir().mkpath(folder));
+    QTest::newRow("folder") << folder;
+    const QString pipe = m_sandbox.path(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("pipe") << pipe;
+    QTest::newRow("endless device") << QStringLiteral("/dev/zero");
+    const QString link = m_sandbox.path(QStringLiteral("link"));
+    QVERIFY(QFile::link(pipe, link));
+    QTest::newRow("link to a pipe") << link;
+}
+
+void TestXmlBounds::whatIsNoFileIsRefused()
+{
+    QFETCH(const QString, path);
+    const Tests::LogCatcher log;
+    QVERIFY(!insertAt(path));
+    QVERIFY(!removeAt(path));
+    QCOMPARE(log.debugLines().size(), 2);
+    QVERIFY(log.hasDebugLineWith(path));
+}
+
+QTEST_APPLESS_MAIN(TestXmlBounds)
+#include "tst_XmlBounds.moc"
