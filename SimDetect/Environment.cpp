@@ -11,11 +11,29 @@ Environment Environment::current()
 #ifdef Q_OS_MACOS
     environment.system = MacOS;
 #endif
-    environment.home = QDir::homePath();
+    // Without HOME the toolkit answers "/", and the whole disk is nobody's home.
+    if (!qEnvironmentVariableIsEmpty("HOME")) {
+        environment.home = QDir::homePath();
+    }
     const auto variables = QProcessEnvironment::systemEnvironment();
-    for (const auto &name : variables.keys())
+    const auto names = variables.keys();
+    for (const auto &name : names) {
         environment.variables.insert(name, variables.value(name));
+    }
     return environment;
+}
+
+QString Environment::inHome(const QString &relative) const
+{
+    if (!home.startsWith(u'/')) {
+        return {};
+    }
+    return QDir::cleanPath(home + u'/' + relative);
+}
+
+QString Environment::inRoot(const QString &absolute) const
+{
+    return QDir::cleanPath(root + absolute);
 }
 
 } // namespace Quillmont::SimDetect

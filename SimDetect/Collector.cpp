@@ -1,0 +1,98 @@
+#include "SimDetect/Collector.h"
+
+#include "SimDetect/Candidate.h"
+#include "SimDetect/FolderLookup.h"
+
+#include <QDebug>
+#include <QFileInfo>
+
+namespace Quillmont::SimDetect {
+
+namespace {
+
+// What a file names may hold line ends, or megabytes; in the log it stays one short line.
+QString printable(const QString &path)
+{
+    QString text = path.left(500);
+    for (auto &character : text) {
+        if (!character.isPrint() && !character.isSurrogate()) {
+            character = u'?';
+        }
+    }
+    return text;
+}
+
+void turnDown(const QString &code, const QString &path, const QString &reason)
+{
+    qDebug().noquote().nospace() << code << " not taken: " << printable(path) << ": " << reason;
+}
+
+QString whyNotFound(const QString &path)
+{
+    return path.startsWith(u'/') ? QStringLiteral("no such folder")
+                                 : QStringLiteral("not an absolute path");
+}
+
+} // namespace
+
+Collector::Collector(FolderLookup &lookup)
+    : m_lookup(lookup)
+{ }
+
+void Collector::offer(const QString &code, const QVector<Candidate> &candidates, const Test &test)
+{
+    for (const auto &candidate : candidates) {
+        if (has(code)) {
+            return;
+        }
+        consider(code, candidate, test);
+    }
+}
+
+void Collector::consider(const QString &code, const Candidate &candidate, const Test &test)
+{
+    const QString folder
+        = candidate.objection.isEmpty() ? m_lookup.find(candidate.path) : QString();
+    const QString resolved = QFileInfo(folder).canonicalFilePath();
+    if (!isFirstOffer(code, resolved.isEmpty() ? candidate.path : resolved)) {
+        return;
+    }
+    if (!candidate.objection.isEmpty()) {
+        turnDown(code, candidate.path, candidate.objection);
+    } else if (folder.isEmpty()) {
+        turnDown(code, candidate.path, whyNotFound(candidate.path));
+    } else if (const auto objection = objectionTo(folder, resolved, test); !objection.isEmpty()) {
+        turnDown(code, folder, objection);
+    } else {
+        m_paths.insert(code, folder);
+        m_owners.insert(resolved, code);
+    }
+}
+
+QString
+Collector::objectionTo(const QString &folder, const QString &resolved, const Test &test) const
+{
+    const QFileInfo info(folder);
+    if (!info.isDir()) {
+        return QStringLiteral("not a folder");
+    }
+    QString objection = test(folder);
+    // Nothing is seen inside a closed folder, and "it lacks this or that" would mislead.
+    if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable())) {
+        return QStringLiteral("no permission to look inside");
+    }
+    if (objection.isEmpty() && m_owners.contains(resolved)) {
+        return QStringLiteral("it is taken as %1").arg(m_owners.value(resolved));
+    }
+    return objection;
+}
+
+bool Collector::isFirstOffer(const QString &code, const QString &identity)
+{
+    auto &offered = m_offered[code];
+    const int before = offered.size();
+    offered.insert(identity);
+    return offered.size() > before;
+}
+
+} // namespace Quillmont::SimDetect

@@ -1,0 +1,51 @@
+#ifndef SIMDETECT_COLLECTOR_H
+#define SIMDETECT_COLLECTOR_H
+
+#include <QHash>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+#include <functional>
+
+namespace Quillmont::SimDetect {
+
+struct Candidate;
+class FolderLookup;
+
+/// Takes the first valid candidate of each simulator, and writes one debug line for each that it
+/// turns down.
+class Collector
+{
+public:
+    /// Says why a folder, spelled as on disk, is not that simulator's; empty where it is.
+    using Test = std::function<QString(const QString &folder)>;
+
+    /// @p lookup has to outlive the collector.
+    explicit Collector(FolderLookup &lookup);
+
+    /// Whether the simulator @p code has its folder.
+    bool has(const QString &code) const { return m_paths.contains(code); }
+
+    /// Offers @p candidates in their order. Nothing is looked at once the simulator has its
+    /// folder; a folder that was offered for it before, by whatever path, is not looked at again.
+    void offer(const QString &code, const QVector<Candidate> &candidates, const Test &test);
+
+    /// Simulator code to folder, of all that were found.
+    const QMap<QString, QString> &paths() const { return m_paths; }
+
+private:
+    void consider(const QString &code, const Candidate &candidate, const Test &test);
+    QString objectionTo(const QString &folder, const QString &resolved, const Test &test) const;
+    bool isFirstOffer(const QString &code, const QString &identity);
+
+    FolderLookup &m_lookup;
+    QMap<QString, QString> m_paths;
+    QHash<QString, QString> m_owners;
+    QHash<QString, QSet<QString>> m_offered;
+};
+
+} // namespace Quillmont::SimDetect
+
+#endif

@@ -1,0 +1,35 @@
+#ifndef SIMDETECT_FLIGHTGEAR_H
+#define SIMDETECT_FLIGHTGEAR_H
+
+#include <QStringList>
+
+namespace Quillmont::SimDetect {
+
+struct Environment;
+class Collector;
+class FolderLookup;
+
+/// FlightGear, by its data folder: where the user says, where a package puts it, or where its
+/// launcher has downloaded it.
+class FlightGear
+{
+public:
+    /// What is handed in has to outlive this.
+    FlightGear(Collector &collector, FolderLookup &lookup, const Environment &environment);
+
+    /// Offers what it finds to the collector.
+    void find();
+
+private:
+    QStringList packaged() const;
+    QStringList downloaded();
+    void offer(const QStringList &folders);
+
+    Collector &m_collector;
+    FolderLookup &m_lookup;
+    const Environment &m_environment;
+};
+
+} // namespace Quillmont::SimDetect
+
+#endif

@@ -1,0 +1,93 @@
+#include "SimDetect/FolderLookup.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace Quillmont::SimDetect {
+
+namespace {
+
+// Far more than a real folder on the way to a simulator holds.
+constexpr int MostNames = 20000;
+
+// What the systems take as a path; longer ones are no paths, and not worth taking apart.
+constexpr int LongestPath = 4096;
+
+QString inOtherCase(const QString &name)
+{
+    const QString upper = name.toUpper();
+    return upper == name ? name.toLower() : upper;
+}
+
+// A disk that ignores letter case has the name under any spelling.
+bool isThereInOtherCase(const QString &folder, const QString &name)
+{
+    const QString other = inOtherCase(name);
+    return other != name && QFileInfo::exists(folder + u'/' + other);
+}
+
+} // namespace
+
+QString FolderLookup::find(const QString &path)
+{
+    return path.startsWith(u'/') ? find(QString(), path) : QString();
+}
+
+QString FolderLookup::find(const QString &folder, const QString &relative)
+{
+    if (relative.size() > LongestPath || relative.contains(QChar::Null)) {
+        return {};
+    }
+    QString found = folder;
+    const auto names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
+    for (const auto &name : names) {
+        if (name == QLatin1String("..")) {
+            continue; // Only left at the very top, above which there is nothing.
+        }
+        found = child(found, name);
+        if (found.isEmpty()) {
+            return {};
+        }
+    }
+    return found.isEmpty() ? QStringLiteral("/") : found;
+}
+
+QStringList FolderLookup::names(const QString &folder)
+{
+    const auto known = m_names.constFind(folder);
+    if (known != m_names.constEnd()) {
+        return *known;
+    }
+    QStringList names;
+    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (it.hasNext() && names.size() < MostNames) {
+        it.next();
+        names.append(it.fileName());
+    }
+    names.sort();
+    m_names.insert(folder, names);
+    return names;
+}
+
+QString FolderLookup::child(const QString &folder, const QString &name)
+{
+    QString exact = folder + u'/' + name;
+    const bool isThere = QFileInfo::exists(exact);
+    if (isThere && !isThereInOtherCase(folder, name)) {
+        return exact;
+    }
+    const QStringList all = names(folder.isEmpty() ? QStringLiteral("/") : folder);
+    if (isThere && all.contains(name)) {
+        return exact;
+    }
+    for (const auto &spelling : all) {
+        QString path = folder + u'/' + spelling;
+        if (spelling.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo::exists(path)) {
+            return path;
+        }
+    }
+    return isThere ? exact : QString();
+}
+
+} // namespace Quillmont::SimDetect

@@ -1,0 +1,34 @@
+#ifndef SIMDETECT_FOLDERLOOKUP_H
+#define SIMDETECT_FOLDERLOOKUP_H
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+namespace Quillmont::SimDetect {
+
+/// Finds what a path means where its letter case may differ from the disk's. What it has seen of
+/// a folder it remembers, so one serves for one look around.
+class FolderLookup
+{
+public:
+    /// @p path, cleaned and spelled as on disk; symbolic links stay as they are. A component that
+    /// is not there is looked up ignoring letter case. Empty where nothing is found, and where
+    /// @p path is not an absolute one.
+    QString find(const QString &path);
+
+    /// The same for @p relative inside @p folder, which is taken as it is.
+    QString find(const QString &folder, const QString &relative);
+
+    /// The names in @p folder, hidden ones too, sorted; none where it cannot be listed.
+    QStringList names(const QString &folder);
+
+private:
+    QString child(const QString &folder, const QString &name);
+
+    QHash<QString, QStringList> m_names;
+};
+
+} // namespace Quillmont::SimDetect
+
+#endif

@@ -1,0 +1,144 @@
+#include "SimDetect/MsfsPackages.h"
+
+#include "SimDetect/Candidate.h"
+#include "SimDetect/Collector.h"
+#include "SimDetect/FolderLookup.h"
+#include "SimDetect/PlainFile.h"
+#include "SimDetect/Steam.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace Quillmont::SimDetect {
+
+namespace {
+
+QString decoded(const QByteArray &content)
+{
+    auto *utf8 = QTextCodec::codecForName("UTF-8");
+    QString text = QTextCodec::codecForUtfText(content, utf8)->toUnicode(content);
+    if (text.startsWith(QChar::ByteOrderMark)) {
+        text.remove(0, 1);
+    }
+    return text;
+}
+
+// The blank behind the key keeps InstalledPackagesPathNextBoot out.
+QString packagesPath(const QString &text)
+{
+    static const QRegularExpression line(
+        QStringLiteral("^[ \\t]*InstalledPackagesPath[ \\t][^\"\\r\\n]*\"([^\"\\r\\n]*)\""),
+        QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
+    return line.match(text).captured(1);
+}
+
+// Empty where @p path does not begin with a drive.
+QString insidePrefix(const QString &prefix, const QString &path)
+{
+    static const QRegularExpression drive(QStringLiteral("^([A-Za-z]):/"));
+    const QString slashed = QString(path).replace(u'\\', u'/');
+    const QString letter = drive.match(slashed).captured(1).toLower();
+    if (letter.isEmpty()) {
+        return {};
+    }
+    const QString place = letter == QLatin1String("c")
+        ? QStringLiteral("drive_c")
+        : QStringLiteral("dosdevices/%1:").arg(letter);
+    QString rest = QDir::cleanPath(slashed.mid(2));
+    while ((rest + u'/').startsWith(QLatin1String("/../"))) {
+        rest.remove(0, 3); // No way leads above a drive.
+    }
+    return prefix + u'/' + place + rest;
+}
+
+Candidate candidateOf(const QString &file, const QString &prefix)
+{
+    const PlainFile settings(file);
+    if (!settings.problem().isEmpty()) {
+        return {file, settings.problem()};
+    }
+    const QString written = packagesPath(decoded(settings.content()));
+    if (written.isEmpty()) {
+        return {file, QStringLiteral("no InstalledPackagesPath in it")};
+    }
+    const QString path = insidePrefix(prefix, written);
+    if (path.isEmpty()) {
+        return {file, QStringLiteral("its InstalledPackagesPath is on no drive")};
+    }
+    return {path, {}};
+}
+
+} // namespace
+
+MsfsPackages::MsfsPackages(Collector &collector, FolderLookup &lookup, const Steam &steam)
+    : m_collector(collector)
+    , m_lookup(lookup)
+    , m_steam(steam)
+{ }
+
+void MsfsPackages::find()
+{
+    m_collector.offer(
+        QStringLiteral("MSFS2020"),
+        candidates(QStringLiteral("1250410"), QStringLiteral("Microsoft Flight Simulator")),
+        [this](const QString &folder) { return test2020(folder); });
+    m_collector.offer(
+        QStringLiteral("MSFS2024"),
+        candidates(QStringLiteral("2537590"), QStringLiteral("Microsoft Flight Simulator 2024")),
+        [this](const QString &folder) { return test2024(folder); });
+}
+
+// Each library is asked, whether it holds the game or not: Steam makes the prefix in the library
+// that it likes, and a game that was moved leaves it behind.
+QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString &name)
+{
+    QVector<Candidate> candidates;
+    for (const auto &library : m_steam.libraries()) {
+        const QString prefix
+            = m_lookup.find(library, QStringLiteral("compatdata/%1/pfx").arg(appId));
+        if (prefix.isEmpty()) {
+            continue;
+        }
+        const QString roaming = QStringLiteral("drive_c/users/steamuser/AppData/Roaming/");
+        const QString file = m_lookup.find(prefix, roaming + name + QStringLiteral("/UserCfg.opt"));
+        if (!file.isEmpty()) {
+            candidates.append(candidateOf(file, prefix));
+        }
+    }
+    return candidates;
+}
+
+QString MsfsPackages::test2020(const QString &folder)
+{
+    if (hasFolder(folder, "Community") || hasFolder(folder, "Official/Steam")
+        || hasFolder(folder, "Official/OneStore")) {
+        return {};
+    }
+    return QStringLiteral("no Community, Official/Steam or Official/OneStore");
+}
+
+QString MsfsPackages::test2024(const QString &folder)
+{
+    const auto names = m_lookup.names(folder);
+    const bool hasCommunity
+        = std::any_of(names.cbegin(), names.cend(), [&folder](const QString &name) {
+              return name.startsWith(QLatin1String("Community"), Qt::CaseInsensitive)
+                  && QFileInfo(folder + u'/' + name).isDir();
+          });
+    if (hasCommunity || hasFolder(folder, "Official2024")
+        || hasFolder(folder, "StreamedPackages")) {
+        return {};
+    }
+    return QStringLiteral("no Community, Official2024 or StreamedPackages");
+}
+
+bool MsfsPackages::hasFolder(const QString &folder, const char *relative)
+{
+    return QFileInfo(m_lookup.find(folder, QLatin1String(relative))).isDir();
+}
+
+} // namespace Quillmont::SimDetect

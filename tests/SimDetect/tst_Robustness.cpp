@@ -1,0 +1,311 @@
+#include "tests/SimDetect/Computer.h"
+#include "tests/support/Files.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <cstring>
+#include <functional>
+
+#ifdef Q_OS_LINUX
+#include <sys/inotify.h>
+#endif
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// Puts something at a path.
+using Maker = std::function<void(const QString &path)>;
+Q_DECLARE_METATYPE(Maker)
+
+using namespace Quillmont::SimDetect;
+using namespace Tests;
+
+/// Whatever lies on the disk, the answer comes soon and is never a wrong one.
+class tst_Robustness : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsNothingInRandomBytes_data();
+    void findsNothingInRandomBytes();
+    void survivesDamagedFiles();
+    void answersSoonWhateverIsThere_data();
+    void answersSoonWhateverIsThere();
+    void answersSoonWithAllOfItAtOnce();
+    void looksAtNoMoreFoldersThanMakeSense();
+    void opensNoFileTwice();
+    void saysThatAFolderIsClosed();
+};
+
+namespace {
+
+// A computer with every kind of source on it, each with a simulator behind it.
+const auto Everything = QStringLiteral(R"(
+    xplane $R/sims/X-Plane 12
+    file $R/sims/X-Plane 12/Log.txt = Log.txt for X-Plane 12.0.9\n
+    file $L/x-plane_install_10.txt = $R/gone/\n
+    file $L/x-plane_install_11.txt = $R/sims/X-Plane 12/\n
+    file $L/x-plane_install_12.txt = $R/sims/X-Plane 12/\n
+    libraries $S = $S, $R/drive
+    file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" }
+    game $R/drive 269950 X-Plane 11
+    xplane $R/drive/steamapps/common/X-Plane 11
+    file $R/drive/steamapps/common/X-Plane 11/X-Plane.app/Contents/Info.plist = <plist><dict><key>CFBundleShortVersionString</key><string>11.55</string></dict></plist>
+    game $S 292180 X-Plane 10
+    game $S 2014780 X-Plane 12
+    game $S 314160 FSX
+    file $S/steamapps/common/FSX/fsx.exe =
+    dir $S/steamapps/common/FSX/SimObjects
+    game $S 1995890 Aerofly
+    dir $S/steamapps/common/Aerofly/scenery
+    dir $S/steamapps/common/Aerofly/aircraft
+    dir $S/steamapps/compatdata/1250410/pfx/drive_c/P/Community
+    file $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:\\P"\n
+    dir $S/steamapps/compatdata/2537590/pfx/drive_c/P/Community
+    file $S/steamapps/compatdata/2537590/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024/UserCfg.opt = InstalledPackagesPath "C:\\P"\n
+    variable FG_ROOT = $R/data
+    file $R/data/version = 2020.3.19\n
+    file $R/data/defaults.xml =)");
+
+const auto EverythingFound
+    = QStringLiteral("AFS4: $S/steamapps/common/Aerofly\n"
+                     "FGFS: $R/data\n"
+                     "FSXSE: $S/steamapps/common/FSX\n"
+                     "MSFS2020: $S/steamapps/compatdata/1250410/pfx/drive_c/P\n"
+                     "MSFS2024: $S/steamapps/compatdata/2537590/pfx/drive_c/P\n"
+                     "XP11: $R/drive/steamapps/common/X-Plane 11\n"
+                     "XP12: $R/sims/X-Plane 12");
+
+QStringList filesWithContent(const Computer &computer)
+{
+    QStringList paths;
+    const auto tree = treeOf(computer.environment.root);
+    for (auto it = tree.cbegin(); it != tree.cend(); ++it) {
+        if (!it->isEmpty()) {
+            paths.append(computer.environment.root + u'/' + it.key());
+        }
+    }
+    return paths;
+}
+
+QByteArray randomBytes(QRandomGenerator &random, int size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (auto &byte : bytes) {
+        byte = char(random.bounded(256));
+    }
+    return bytes;
+}
+
+// A few bytes changed, a piece taken out, one doubled, or the end cut off.
+QByteArray damaged(const QByteArray &content, QRandomGenerator &random)
+{
+    QByteArray result = content;
+    const int at = random.bounded(content.size());
+    const int size = random.bounded(40);
+    switch (random.bounded(4)) {
+    case 0:
+        return result.replace(at, size, randomBytes(random, size));
+    case 1:
+        return result.remove(at, size);
+    case 2:
+        return result.insert(at, content.mid(at, size));
+    default:
+        return result.left(at);
+    }
+}
+
+} // namespace
+
+void tst_Robustness::findsNothingInRandomBytes_data()
+{
+    QTest::addColumn<int>("system");
+    QTest::newRow("Linux") << int(Environment::Linux);
+    QTest::newRow("macOS") << int(Environment::MacOS);
+}
+
+void tst_Robustness::findsNothingInRandomBytes()
+{
+    QFETCH(int, system);
+    Computer computer(static_cast<Environment::System>(system));
+    computer.make(Everything);
+    QCOMPARE(computer.detect(), computer.expanded(EverythingFound));
+    const auto paths = filesWithContent(computer);
+    QRandomGenerator random(20260101);
+    for (int round = 0; round < 50; ++round) {
+        for (const auto &path : paths) {
+            writeFile(path, randomBytes(random, random.bounded(3000)));
+        }
+        QCOMPARE(computer.detect(), QString());
+    }
+}
+
+void tst_Robustness::survivesDamagedFiles()
+{
+    Computer computer(Environment::Linux);
+    computer.make(Everything);
+    const QStringList found = computer.detect().split(u'\n');
+    const auto paths = filesWithContent(computer);
+    QRandomGenerator random(20260102);
+    for (int round = 0; round < 150; ++round) {
+        QMap<QString, QByteArray> before;
+        for (int i = 0; i < 3; ++i) {
+            const QString &path = paths.at(random.bounded(paths.size()));
+            before.insert(path, before.value(path, readFile(path)));
+            writeFile(path, damaged(before.value(path), random));
+        }
+        computer.detect();
+        QVERIFY(computer.duration() < 2000);
+        for (auto it = before.cbegin(); it != before.cend(); ++it) {
+            writeFile(it.key(), it.value());
+        }
+    }
+    QCOMPARE(computer.detect().split(u'\n'), found);
+}
+
+void tst_Robustness::answersSoonWhateverIsThere_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::newRow("pipes") << Maker(
+        [](const QString &path) { mkfifo(QFile::encodeName(path).constData(), 0600); });
+    QTest::newRow("folders") << Maker([](const QString &path) { QDir().mkpath(path); });
+    QTest::newRow("links to themselves")
+        << Maker([](const QString &path) { QFile::link(path, path); });
+    QTest::newRow("files of 64 MiB") << Maker([](const QString &path) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(64LL * 1024 * 1024));
+    });
+    const auto row = [](const char *name, const QByteArray &content) {
+        QTest::newRow(name) << Maker([content](const QString &path) { writeFile(path, content); });
+    };
+    const int most = 1024 * 1024;
+    row("100,000 nested braces", QByteArray(100000, '{'));
+    row("100,000 nested blocks", QByteArray("libraryfolders{").repeated(100000));
+    row("a block that is cut off", "AppState { installdir X");
+    row("1 MiB of one character", QByteArray(most, 'x'));
+    row("1 MiB of blanks", QByteArray(most, ' '));
+    row("1 MiB of line ends", QByteArray(most, '\n'));
+    row("1 MiB of short lines", QByteArray("/\n").repeated(most / 2));
+    row("1 MiB of keys", "AppState { " + QByteArray("a b ").repeated(most / 4 - 10) + "}");
+    row("1 MiB of libraries",
+        "libraryfolders { " + QByteArray("1 / ").repeated(most / 4 - 10) + "}");
+    row("1 MiB of elements", "<plist><dict>" + QByteArray("<dict>").repeated(most / 6 - 10));
+}
+
+void tst_Robustness::answersSoonWhateverIsThere()
+{
+    QFETCH(Maker, make);
+    Computer computer(Environment::Linux);
+    computer.make(Everything);
+    const auto paths = filesWithContent(computer);
+    for (const auto &path : paths) {
+        QFile::remove(path);
+        make(path);
+    }
+    QCOMPARE(computer.detect(), QString());
+    QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
+}
+
+void tst_Robustness::answersSoonWithAllOfItAtOnce()
+{
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        fifo $L/x-plane_install_10.txt
+        dir $L/x-plane_install_11.txt
+        xplane $R/good
+        fifo $R/good/Log.txt
+        link $R/loop -> $R/loop
+        link $S/loop -> $S
+        file $L/x-plane_install_12.txt = $R/loop/X-Plane\n$R/closed/X-Plane\n\xFF\xFE\0\n$R/good\n
+        fifo $S/steamapps/libraryfolders.vdf
+        file $S/steamapps/appmanifest_269950.acf = AppState { installdir ../../.. }
+        file $S/steamapps/appmanifest_292180.acf = AppState { installdir X
+        file $S/steamapps/appmanifest_1995890.acf = \0\xFF\x01"{
+        link $S/steamapps/compatdata/1250410/pfx -> $S/steamapps/compatdata
+        fifo $S/steamapps/compatdata/2537590/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024/UserCfg.opt
+        file $H/.fgfs/fgdata_2024_1/defaults.xml =
+        fifo $H/.fgfs/fgdata_2024_1/version
+        link $H/.steam/steam -> $H/.steam/root
+        link $H/.steam/root -> $H/.steam/steam
+        dir $R/closed/X-Plane)"));
+    writeFile(computer.expanded(QStringLiteral("$S/config/libraryfolders.vdf")),
+              QByteArray("x{").repeated(100000));
+    writeFile(computer.expanded(QStringLiteral("$S/steamapps/appmanifest_314160.acf")),
+              QByteArray(64 * 1024 * 1024, ' '));
+    const QString closed = computer.expanded(QStringLiteral("$R/closed"));
+    QFile::setPermissions(closed, {});
+    QCOMPARE(computer.detect(), computer.expanded(QStringLiteral("XP12: $R/good")));
+    QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
+    QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
+{
+    Computer computer(Environment::Linux);
+    QByteArray lines;
+    for (int i = 0; i < 100000; ++i) {
+        lines += computer.environment.root.toUtf8() + "/gone " + QByteArray::number(i) + '\n';
+    }
+    for (const int version : {10, 11, 12}) {
+        writeFile(computer.expanded(QStringLiteral("$L/x-plane_install_%1.txt").arg(version)),
+                  lines);
+    }
+    QCOMPARE(computer.detect(), QString());
+    QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
+}
+
+void tst_Robustness::opensNoFileTwice()
+{
+#ifdef Q_OS_LINUX
+    Computer computer(Environment::Linux);
+    computer.make(Everything);
+    const auto paths = filesWithContent(computer);
+    const int watcher = inotify_init1(IN_NONBLOCK);
+    for (const auto &path : paths) {
+        QVERIFY(inotify_add_watch(watcher, QFile::encodeName(path).constData(), IN_OPEN) > 0);
+    }
+    computer.detect();
+    QFile events;
+    QVERIFY(
+        events.open(watcher, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle));
+    // The system joins equal events that follow on each other, but other files lie between.
+    QHash<int, int> opened;
+    const QByteArray seen = events.read(65536);
+    for (int at = 0; at + int(sizeof(inotify_event)) <= seen.size();) {
+        inotify_event event{};
+        std::memcpy(&event, seen.constData() + at, sizeof(event));
+        at += int(sizeof(event) + event.len);
+        ++opened[event.wd];
+    }
+    QVERIFY(opened.size() > 10);
+    for (auto it = opened.cbegin(); it != opened.cend(); ++it) {
+        QVERIFY2(*it == 1, qPrintable(paths.at(it.key() - 1)));
+    }
+#else
+    QSKIP("Only Linux tells who opens a file.");
+#endif
+}
+
+void tst_Robustness::saysThatAFolderIsClosed()
+{
+    if (geteuid() == 0) {
+        QSKIP("Nothing is closed to root.");
+    }
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        xplane $R/closed
+        xplane $R/good
+        file $L/x-plane_install_12.txt = $R/closed\n$R/good\n)"));
+    const QString closed = computer.expanded(QStringLiteral("$R/closed"));
+    QFile::setPermissions(closed, {});
+    const QString found = computer.detect();
+    QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(found, computer.expanded(QStringLiteral("XP12: $R/good")));
+    QCOMPARE(computer.log(),
+             {computer.expanded(
+                 QStringLiteral("XP12 not taken: $R/closed: no permission to look inside"))});
+}
+
+QTEST_GUILESS_MAIN(tst_Robustness)
+#include "tst_Robustness.moc"

@@ -1,0 +1,156 @@
+#include "SimDetect/SimDetect.h"
+
+#include "SimDetect/Environment.h"
+#include "tests/SimDetect/Cases.h"
+#include "tests/SimDetect/Computer.h"
+#include "tests/support/Files.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Quillmont::SimDetect;
+using namespace Tests;
+
+/// What is found on whole computers, and what the computer at hand is taken for.
+class tst_SimDetect : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsWhatIsThere_data();
+
+    void findsWhatIsThere() { checkCase(); }
+
+    void findsNothingWithoutAHome_data();
+    void findsNothingWithoutAHome();
+    void asksTheComputerItRunsOn();
+    void takesNoHomeForNoHome();
+    void givesOneFolderToOneSimulator();
+    void writesNothing();
+};
+
+void tst_SimDetect::findsWhatIsThere_data()
+{
+    caseColumns();
+    addCase("an empty home", OnBoth, "dir $H", "");
+    addCase("no home folder on the disk", OnBoth, "", "");
+    addCase("a pilot's Linux computer",
+            OnLinux,
+            R"(xplane $R/sims/X-Plane 12
+               file $L/x-plane_install_12.txt = $R/sims/X-Plane 12/\n
+               libraries $S = $S, $R/media/games
+               game $R/media/games 269950 X-Plane 11
+               xplane $R/media/games/steamapps/common/X-Plane 11
+               game $S 314160 FSX
+               file $S/steamapps/common/FSX/fsx.exe =
+               dir $S/steamapps/common/FSX/SimObjects
+               game $S 1995890 Aerofly FS 4
+               dir $S/steamapps/common/Aerofly FS 4/scenery
+               dir $S/steamapps/common/Aerofly FS 4/aircraft
+               file $R/usr/share/games/flightgear/version = 2020.3.16\n
+               file $R/usr/share/games/flightgear/defaults.xml =)",
+            R"(AFS4: $S/steamapps/common/Aerofly FS 4
+               FGFS: $R/usr/share/games/flightgear
+               FSXSE: $S/steamapps/common/FSX
+               XP11: $R/media/games/steamapps/common/X-Plane 11
+               XP12: $R/sims/X-Plane 12)");
+    addCase("a macOS library with a blank in its name, one unplugged, and litter beside the files",
+            OnMacOS,
+            R"(libraries $S = $S, $R/Volumes/Sim Drive/Steam, /Volumes/Unplugged/Steam
+               game $R/Volumes/Sim Drive/Steam 2014780 X-Plane 12
+               xplane $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12
+               file $R/Volumes/Sim Drive/Steam/steamapps/._appmanifest_2014780.acf = \0\x05\x16\x07
+               file $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12/._X-Plane.app = \0\x05
+               file $S/config/._libraryfolders.vdf = \0\x05\x16\x07
+               game $S 1995890 Aerofly FS 4
+               dir $S/steamapps/common/Aerofly FS 4/scenery
+               dir $S/steamapps/common/Aerofly FS 4/aircraft)",
+            R"(AFS4: $S/steamapps/common/Aerofly FS 4
+               XP12: $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12)");
+    addCase("one folder as two games",
+            OnBoth,
+            R"(game $S 314160 Both
+               game $S 1995890 Both
+               file $S/steamapps/common/Both/fsx.exe =
+               dir $S/steamapps/common/Both/SimObjects
+               dir $S/steamapps/common/Both/scenery
+               dir $S/steamapps/common/Both/aircraft)",
+            "FSXSE: $S/steamapps/common/Both",
+            "AFS4 not taken: $S/steamapps/common/Both: it is taken as FSXSE");
+}
+
+void tst_SimDetect::findsNothingWithoutAHome_data()
+{
+    QTest::addColumn<QString>("home");
+    QTest::newRow("none") << QString();
+    QTest::newRow("a relative one") << QStringLiteral("home");
+    QTest::newRow("one that is a file") << QStringLiteral("/dev/null");
+}
+
+void tst_SimDetect::findsNothingWithoutAHome()
+{
+    QFETCH(QString, home);
+    for (const auto system : {Environment::Linux, Environment::MacOS}) {
+        Computer computer(system);
+        computer.environment.home = home;
+        QCOMPARE(computer.detect(), QString());
+        QCOMPARE(computer.log(), QStringList());
+    }
+}
+
+void tst_SimDetect::asksTheComputerItRunsOn()
+{
+    Sandbox sandbox;
+    const QString data = sandbox.path(QStringLiteral("fgdata"));
+    writeFile(data + QStringLiteral("/version"), "2020.3.16\n");
+    writeFile(data + QStringLiteral("/defaults.xml"), {});
+    sandbox.setVariable("FG_ROOT", QFile::encodeName(data));
+    QCOMPARE(GetAllSimPaths().value(QStringLiteral("FGFS")), data);
+
+    const auto environment = Environment::current();
+    QCOMPARE(environment.home, sandbox.home());
+    QCOMPARE(environment.root, QString());
+    QCOMPARE(environment.variables.value(QStringLiteral("FG_ROOT")), data);
+}
+
+void tst_SimDetect::takesNoHomeForNoHome()
+{
+    Sandbox sandbox;
+    sandbox.setVariable("HOME", {});
+    QCOMPARE(Environment::current().home, QString());
+    GetAllSimPaths();
+}
+
+void tst_SimDetect::givesOneFolderToOneSimulator()
+{
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        file $H/packages/version = 2020.3
+        file $H/packages/defaults.xml =
+        dir $H/packages/scenery
+        dir $H/packages/aircraft
+        game $S 1995890 Aerofly
+        link $H/data -> $H/packages
+        variable FG_ROOT = $H/data)"));
+    QDir().rmdir(computer.expanded(QStringLiteral("$S/steamapps/common/Aerofly")));
+    computer.make(QStringLiteral("link $S/steamapps/common/Aerofly -> $H/packages"));
+    QCOMPARE(computer.detect(),
+             computer.expanded(QStringLiteral("AFS4: $S/steamapps/common/Aerofly")));
+    QCOMPARE(computer.log(),
+             {computer.expanded(QStringLiteral("FGFS not taken: $H/data: it is taken as AFS4"))});
+}
+
+void tst_SimDetect::writesNothing()
+{
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        xplane $R/sims/X-Plane 12
+        file $L/x-plane_install_12.txt = $R/sims/X-Plane 12/\n
+        game $S 2014780 X-Plane 12)"));
+    const auto before = treeOf(computer.environment.root);
+    computer.detect();
+    QCOMPARE(treeOf(computer.environment.root), before);
+}
+
+QTEST_GUILESS_MAIN(tst_SimDetect)
+#include "tst_SimDetect.moc"

@@ -1,0 +1,398 @@
+#include "tests/SimDetect/Cases.h"
+#include "tests/SimDetect/Computer.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Quillmont::SimDetect;
+using namespace Tests;
+
+/// Steam's roots, its libraries on other drives, and what its manifests say of a game.
+class tst_Steam : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsItsRoots_data();
+
+    void findsItsRoots() { checkCase(); }
+
+    void findsItsLibraries_data();
+
+    void findsItsLibraries() { checkCase(); }
+
+    void seesThroughASandbox_data();
+
+    void seesThroughASandbox() { checkCase(); }
+
+    void believesManifests_data();
+
+    void believesManifests() { checkCase(); }
+
+    void refusesFoldersOutsideTheLibrary_data();
+    void refusesFoldersOutsideTheLibrary();
+    void wantsTheGamesMarks_data();
+
+    void wantsTheGamesMarks() { checkCase(); }
+
+    void keepsThePartsOfAHomeApart();
+};
+
+void tst_Steam::findsItsRoots_data()
+{
+    caseColumns();
+    for (const char *place : {".local/share/Steam",
+                              ".steam/steam",
+                              ".steam/root",
+                              ".steam/debian-installation",
+                              ".var/app/com.valvesoftware.Steam/.local/share/Steam",
+                              ".var/app/com.valvesoftware.Steam/data/Steam",
+                              "snap/steam/common/.local/share/Steam",
+                              ".snap/data/steam/common/.local/share/Steam"}) {
+        const QByteArray root = QByteArray("$H/") + place;
+        addCase(place,
+                OnLinux,
+                "game " + root + " 2014780 X-Plane 12\nxplane " + root
+                    + "/steamapps/common/X-Plane 12",
+                "XP12: " + root + "/steamapps/common/X-Plane 12");
+    }
+    addCase("the place on macOS",
+            OnMacOS,
+            R"(game $H/Library/Application Support/Steam 2014780 X-Plane 12
+               xplane $H/Library/Application Support/Steam/steamapps/common/X-Plane 12
+               game $H/.local/share/Steam 269950 X-Plane 11
+               xplane $H/.local/share/Steam/steamapps/common/X-Plane 11)",
+            "XP12: $H/Library/Application Support/Steam/steamapps/common/X-Plane 12");
+    addCase("where the user's data is",
+            OnLinux,
+            R"(variable XDG_DATA_HOME = $R/data
+               game $R/data/Steam 2014780 X-Plane 12
+               xplane $R/data/Steam/steamapps/common/X-Plane 12
+               game $H/.local/share/Steam 2014780 X-Plane 12
+               xplane $H/.local/share/Steam/steamapps/common/X-Plane 12)",
+            "XP12: $R/data/Steam/steamapps/common/X-Plane 12");
+    addCase("an empty or relative place for the user's data counts for nothing",
+            OnLinux,
+            R"(variable XDG_DATA_HOME = data
+               game $S 2014780 X-Plane 12
+               xplane $S/steamapps/common/X-Plane 12)",
+            "XP12: $S/steamapps/common/X-Plane 12");
+    addCase("the native one before links to it and a Snap",
+            OnLinux,
+            R"(game $S 2014780 X-Plane 12
+               xplane $S/steamapps/common/X-Plane 12
+               link $H/.steam/steam -> $S
+               link $H/.steam/root -> $S
+               game $H/snap/steam/common/.local/share/Steam 2014780 X-Plane 12
+               xplane $H/snap/steam/common/.local/share/Steam/steamapps/common/X-Plane 12)",
+            "XP12: $S/steamapps/common/X-Plane 12");
+    addCase("roots that are links to one count once",
+            OnLinux,
+            R"(game $S 2014780 X-Plane 12
+               link $H/.steam/steam -> $S
+               link $H/.steam/root -> $S
+               libraries $S = $S, $H/.steam/steam, $S/)",
+            "",
+            "XP12 not taken: $S/steamapps/common/X-Plane 12: no Resources/plugins");
+    addCase("a link, where it is all that leads there",
+            OnLinux,
+            R"(game $R/drive/Steam 2014780 X-Plane 12
+               xplane $R/drive/Steam/steamapps/common/X-Plane 12
+               link $H/.steam/root -> $R/drive/Steam)",
+            "XP12: $H/.steam/root/steamapps/common/X-Plane 12");
+    addCase("roots that are dead links, loops, files and pipes",
+            OnLinux,
+            R"(link $H/.steam/steam -> $H/.steam/root
+               link $H/.steam/root -> $H/.steam/steam
+               link $H/.steam/debian-installation -> $R/gone
+               file $H/.local/share/Steam =
+               fifo $H/snap/steam/common/.local/share/Steam
+               game $H/.snap/data/steam/common/.local/share/Steam 2014780 X-Plane 12
+               xplane $H/.snap/data/steam/common/.local/share/Steam/steamapps/common/X-Plane 12)",
+            "XP12: $H/.snap/data/steam/common/.local/share/Steam/steamapps/common/X-Plane 12");
+}
+
+void tst_Steam::findsItsLibraries_data()
+{
+    caseColumns();
+    const QByteArray game = "game $R/drive 2014780 X-Plane 12\n"
+                            "xplane $R/drive/steamapps/common/X-Plane 12\n";
+    const QByteArray found = "XP12: $R/drive/steamapps/common/X-Plane 12";
+    const auto list = [game, found](const char *name, const QByteArray &content) {
+        addCase(name, OnBoth, game + "file $S/config/libraryfolders.vdf = " + content, found);
+    };
+    list("the new form", R"("libraryfolders" { "0" { "path" "$S" } "1" { "path" "$R/drive" } })");
+    list("the old form", R"("LibraryFolders" { "TimeNextStatsReport" "1" "1" "$R/drive" })");
+    list("both forms in one", R"(libraryfolders { 1 "$R/gone" 2 { path "$R/drive" } })");
+    list("letter case of keys", R"("LIBRARYFOLDERS" { "1" { "PATH" "$R/drive" } })");
+    list("letter case of the path", R"("libraryfolders" { "1" { "path" "$R/Drive" } })");
+    list("a slash at the end", R"("libraryfolders" { "1" { "path" "$R/drive/" } })");
+    list("an include before it", R"(#base "other.vdf" "libraryfolders" { "1" "$R/drive" })");
+    list("a condition", R"("libraryfolders" { "1" "$R/drive" [$X] "2" "$R/gone" })");
+    list("junk behind the last brace", R"("libraryfolders" { "1" "$R/drive" }\0\0}{"\xFF)");
+    list("a list that names itself", R"("libraryfolders" { "1" "$S" "2" "$S/." "3" "$R/drive" })");
+    list("keys of other kinds",
+         R"("libraryfolders" { "a" "$R/x" "contentid" "1" "1a" "/" "" "/" "1" "$R/drive" })");
+    list(
+        "paths that are none",
+        R"("libraryfolders" { "0" "" "1" "." "2" "drive" "3" { } "4" { "path" { } } "5" "C:\\Steam" "6" "$R/drive" })");
+    addCase("the other place of the list",
+            OnBoth,
+            game + R"(file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" })",
+            found);
+    addCase("both lists, which disagree",
+            OnBoth,
+            R"(game $R/one 2014780 X-Plane 12
+               xplane $R/one/steamapps/common/X-Plane 12
+               game $R/two 269950 X-Plane 11
+               xplane $R/two/steamapps/common/X-Plane 11
+               file $S/config/libraryfolders.vdf = "libraryfolders" { "1" "$R/one" }
+               file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/two" })",
+            "XP11: $R/two/steamapps/common/X-Plane 11\nXP12: $R/one/steamapps/common/X-Plane 12");
+    addCase("one list is cut off, the other is not",
+            OnBoth,
+            game + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "0" "$R/other"
+               file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" })",
+            found,
+            "Steam's libraries not read: $S/config/libraryfolders.vdf: cut off, or not in Steam's "
+            "text format");
+    addCase("one list is empty",
+            OnBoth,
+            game + R"(file $S/config/libraryfolders.vdf =
+               file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" })",
+            found,
+            "Steam's libraries not read: $S/config/libraryfolders.vdf: no list of libraries");
+    addCase(
+        "a list that is cut off names nothing",
+        OnBoth,
+        game
+            + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "1" { "path" "$R/drive" })",
+        "",
+        "Steam's libraries not read: $S/config/libraryfolders.vdf: cut off, or not in Steam's text "
+        "format");
+    addCase(
+        "the first of two keys counts",
+        OnBoth,
+        game
+            + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "1" { "path" "$R/x" "path" "$R/drive" } "1" "$R/drive" } "libraryfolders" { "2" "$R/drive" })",
+        "");
+    addCase("the list of games in it says nothing",
+            OnBoth,
+            R"(xplane $S/steamapps/common/X-Plane 12
+               file $S/config/libraryfolders.vdf = "libraryfolders" { "0" { "path" "$S" "apps" { "2014780" "1" } } })",
+            "");
+    addCase("the root before what it lists, which is in the list's order",
+            OnBoth,
+            R"(game $S 2014780 X-Plane 12
+               xplane $S/steamapps/common/X-Plane 12
+               game $R/a 2014780 X-Plane 12
+               xplane $R/a/steamapps/common/X-Plane 12
+               game $R/a 269950 X-Plane 11
+               xplane $R/a/steamapps/common/X-Plane 11
+               game $R/b 269950 X-Plane 11
+               xplane $R/b/steamapps/common/X-Plane 11
+               libraries $S = $R/b, $R/a)",
+            "XP11: $R/b/steamapps/common/X-Plane 11\nXP12: $S/steamapps/common/X-Plane 12");
+    addCase("an old spelling of steamapps",
+            OnBoth,
+            R"(libraries $S = $R/drive
+               xplane $R/drive/SteamApps/common/X-Plane 12
+               file $R/drive/SteamApps/appmanifest_2014780.acf = AppState { appid 2014780 installdir "x-plane 12" })",
+            "XP12: $R/drive/SteamApps/common/X-Plane 12");
+}
+
+void tst_Steam::seesThroughASandbox_data()
+{
+    caseColumns();
+    const QByteArray flatpak = "$H/.var/app/com.valvesoftware.Steam/.local/share/Steam";
+    addCase("its own root under the name that the sandbox shows",
+            OnLinux,
+            "game " + flatpak + "/more 2014780 X-Plane 12\nxplane " + flatpak
+                + "/more/steamapps/common/X-Plane 12\nlibraries " + flatpak + " = $S, $S/more",
+            "XP12: " + flatpak + "/more/steamapps/common/X-Plane 12");
+    addCase("a folder that only begins alike is another drive's",
+            OnLinux,
+            "game $S.old 2014780 X-Plane 12\nxplane $S.old/steamapps/common/X-Plane 12\nlibraries "
+                + flatpak + " = $S.old",
+            "XP12: $S.old/steamapps/common/X-Plane 12");
+    addCase("a native Steam means what it writes",
+            OnLinux,
+            "game " + flatpak + "/more 2014780 X-Plane 12\nxplane " + flatpak
+                + "/more/steamapps/common/X-Plane 12\nlibraries $S = $S/more",
+            "");
+}
+
+void tst_Steam::believesManifests_data()
+{
+    caseColumns();
+    const auto add
+        = [](const QByteArray &name, const QByteArray &content, const QByteArray &objection) {
+              const QByteArray file = "$S/steamapps/appmanifest_2014780.acf";
+              addCase(name,
+                      OnBoth,
+                      "xplane $S/steamapps/common/X-Plane 12\nfile " + file + " = " + content,
+                      objection.isEmpty() ? "XP12: $S/steamapps/common/X-Plane 12" : "",
+                      objection.isEmpty() ? QByteArray()
+                                          : "XP12 not taken: " + file + ": " + objection);
+          };
+    const auto flags = [add](const QByteArray &flags, const QByteArray &objection) {
+        add("StateFlags " + flags,
+            R"("AppState" { "appid" "2014780" "installdir" "X-Plane 12" "StateFlags" ")" + flags
+                + "\" }",
+            objection);
+    };
+    flags("4", "");
+    flags("6", "");
+    flags("1030", "");
+    flags("4x", "");
+    flags("", "");
+    flags("0x2", "");
+    flags("99999999999999999999999", "");
+    flags("0", "not fully installed (StateFlags 0)");
+    flags("2", "not fully installed (StateFlags 2)");
+    flags("1026", "not fully installed (StateFlags 1026)");
+    flags("1", "uninstalled (StateFlags 1)");
+    flags("5", "uninstalled (StateFlags 5)");
+    add("no StateFlags", R"("AppState" { "appid" "2014780" "installdir" "X-Plane 12" })", "");
+    add("keys in mixed letter case",
+        R"("APPSTATE" { "AppID" "2014780" "InstallDir" "X-Plane 12" "stateflags" "6" })",
+        "");
+    add("other letter case than the disk's",
+        R"("AppState" { "appid" "2014780" "installdir" "x-plane 12" })",
+        "");
+    add("the first of two keys",
+        R"("AppState" { "installdir" "X-Plane 12" "InstallDir" "other" "StateFlags" "4" "StateFlags" "1" })",
+        "");
+    add("the keys of inner blocks are not its own",
+        R"("AppState" { "UserConfig" { "installdir" "other" "StateFlags" "1" } "installdir" "X-Plane 12" })",
+        "");
+    add("junk behind the last brace", R"("AppState" { "installdir" "X-Plane 12" }\0\0"junk)", "");
+    add("another game's number",
+        R"("AppState" { "appid" "269950" "installdir" "X-Plane 12" })",
+        "it is about another game");
+    add("no folder", R"("AppState" { "appid" "2014780" })", "installdir is not a plain name");
+    add("a block for a folder",
+        R"("AppState" { "installdir" { "a" "b" } "installdir" "X-Plane 12" })",
+        "installdir is not a plain name");
+    add("another block",
+        R"("Other" { "appid" "2014780" "installdir" "X-Plane 12" })",
+        "no AppState in it");
+    add("nothing", "", "no AppState in it");
+    add("a missing last brace",
+        R"("AppState" { "appid" "2014780" "installdir" "X-Plane 12")",
+        "cut off, or not in Steam's text format");
+    addCase("a folder for a manifest",
+            OnBoth,
+            "dir $S/steamapps/appmanifest_2014780.acf",
+            "",
+            "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a plain file");
+    addCase("a pipe for a manifest",
+            OnBoth,
+            "fifo $S/steamapps/appmanifest_2014780.acf",
+            "",
+            "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a plain file");
+    addCase(
+        "a manifest whose folder is gone",
+        OnBoth,
+        R"(file $S/steamapps/appmanifest_2014780.acf = "AppState" { "installdir" "X-Plane 12" })",
+        "",
+        "XP12 not taken: $S/steamapps/common/X-Plane 12: no such folder");
+    addCase("a folder without a manifest", OnBoth, "xplane $S/steamapps/common/X-Plane 12", "");
+}
+
+void tst_Steam::refusesFoldersOutsideTheLibrary_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"", ".", "..", "../X", "/", "a/b", "a\\\\b", "..\\\\..", "$R/outside", "X\\0Y"}) {
+        QTest::newRow(name) << QString::fromUtf8(name);
+    }
+}
+
+// Wherever the name could lead there is an X-Plane, so that taking it would show.
+void tst_Steam::refusesFoldersOutsideTheLibrary()
+{
+    QFETCH(QString, name);
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        xplane $S/steamapps/common
+        xplane $S/steamapps
+        xplane $S/steamapps/X
+        xplane $S/steamapps/common/a/b
+        xplane $S/steamapps/common/a\b
+        xplane $S/steamapps/common/X
+        xplane $R/outside
+        file $S/steamapps/appmanifest_2014780.acf = AppState { installdir ")")
+                  + name + QStringLiteral("\" }"));
+    QCOMPARE(computer.detect(), QString());
+    QCOMPARE(
+        computer.log(),
+        {computer.expanded(QStringLiteral("XP12 not taken: $S/steamapps/appmanifest_2014780.acf: "
+                                          "installdir is not a plain name"))});
+}
+
+void tst_Steam::wantsTheGamesMarks_data()
+{
+    caseColumns();
+    addCase("each simulator's own",
+            OnBoth,
+            R"(game $S 314160 FSX
+               file $S/steamapps/common/FSX/FSX.EXE =
+               dir $S/steamapps/common/FSX/simobjects
+               game $S 1995890 Aerofly FS 4
+               dir $S/steamapps/common/Aerofly FS 4/scenery
+               dir $S/steamapps/common/Aerofly FS 4/aircraft
+               game $S 292180 X-Plane 10
+               xplane $S/steamapps/common/X-Plane 10)",
+            R"(AFS4: $S/steamapps/common/Aerofly FS 4
+               FSXSE: $S/steamapps/common/FSX
+               XP10: $S/steamapps/common/X-Plane 10)");
+    addCase("half of them",
+            OnBoth,
+            R"(game $S 314160 FSX
+               file $S/steamapps/common/FSX/fsx.exe =
+               game $S 1995890 Aerofly FS 4
+               dir $S/steamapps/common/Aerofly FS 4/aircraft)",
+            "",
+            R"(FSXSE not taken: $S/steamapps/common/FSX: no SimObjects
+               AFS4 not taken: $S/steamapps/common/Aerofly FS 4: no scenery)");
+    addCase("the other half",
+            OnBoth,
+            R"(game $S 314160 FSX
+               dir $S/steamapps/common/FSX/SimObjects
+               dir $S/steamapps/common/FSX/fsx.exe
+               game $S 1995890 Aerofly FS 4
+               dir $S/steamapps/common/Aerofly FS 4/scenery
+               file $S/steamapps/common/Aerofly FS 4/aircraft =)",
+            "",
+            R"(FSXSE not taken: $S/steamapps/common/FSX: no fsx.exe
+               AFS4 not taken: $S/steamapps/common/Aerofly FS 4: no aircraft)");
+    addCase("an invalid one falls through to the next library",
+            OnBoth,
+            R"(libraries $S = $R/drive
+               game $S 1995890 Aerofly FS 4
+               game $R/drive 1995890 Aerofly FS 4
+               dir $R/drive/steamapps/common/Aerofly FS 4/scenery
+               dir $R/drive/steamapps/common/Aerofly FS 4/aircraft)",
+            "AFS4: $R/drive/steamapps/common/Aerofly FS 4",
+            "AFS4 not taken: $S/steamapps/common/Aerofly FS 4: no scenery");
+}
+
+// A home folder that is itself a link, as some systems have it: Steam writes where it leads.
+void tst_Steam::keepsThePartsOfAHomeApart()
+{
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        link $R/var -> $H
+        game $H/.var/app/com.valvesoftware.Steam/data/Steam/more 2014780 X-Plane 12
+        xplane $H/.var/app/com.valvesoftware.Steam/data/Steam/more/steamapps/common/X-Plane 12
+        libraries $H/.var/app/com.valvesoftware.Steam/data/Steam = $S/more)"));
+    computer.environment.home = computer.expanded(QStringLiteral("$R/var"));
+    QCOMPARE(computer.detect(),
+             computer.expanded(QStringLiteral("XP12: "
+                                              "$R/var/.var/app/com.valvesoftware.Steam/data/Steam/"
+                                              "more/steamapps/common/X-Plane 12")));
+}
+
+QTEST_GUILESS_MAIN(tst_Steam)
+#include "tst_Steam.moc"
