@@ -37,47 +37,48 @@ QJsonObject pluginFolderEntry(const QString &name, const QString &folder)
     return entry(name,
                  folder,
                  1,
-                 {pluginFile("X-Plane\\64\\lin.xpl", "Resources\\plugins\\Orbwell\\64\\lin.xpl"),
-                  pluginFile("X-Plane\\about.txt", "Resources\\plugins\\Orbwell\\about.txt")});
+                 {pluginFile(R"(X-Plane\64\lin.xpl)", R"(Resources\plugins\Orbwell\64\lin.xpl)"),
+                  pluginFile(R"(X-Plane\about.txt)", R"(Resources\plugins\Orbwell\about.txt)")});
 }
 
 QJsonObject launcherEntry(const QString &name, const QString &folder, const QString &configuration)
 {
-    QJsonObject launcher
-        = entry(name,
-                folder,
-                0,
-                {pluginFile("FSX\\QuillmontOrbwell_64.dll", "Gauges\\QuillmontOrbwell_64.dll")});
+    QJsonObject launcher = entry(
+        name,
+        folder,
+        0,
+        {pluginFile(R"(FSX\QuillmontOrbwell_64.dll)", R"(Gauges\QuillmontOrbwell_64.dll)")});
     launcher.insert(
         QStringLiteral("config"),
-        QJsonObject {{QStringLiteral("path"), configuration},
-                     {QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
-                     {QStringLiteral("values"),
-                      QJsonArray {value("Name", "Quillmont Orbwell"),
-                                  value("Disabled", "False"),
-                                  value("Path", "GaugesQuillmontOrbwell_64.dll")}},
-                     {QStringLiteral("remove"),
-                      QJsonObject {{QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
-                                   {QStringLiteral("key"), QStringLiteral("Name")},
-                                   {QStringLiteral("value"), QStringLiteral("Quillmont Orbwell")},
-                                   {QStringLiteral("delete_parent"), true}}}});
+        QJsonObject{{QStringLiteral("path"), configuration},
+                    {QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
+                    {QStringLiteral("values"),
+                     QJsonArray{value("Name", "Quillmont Orbwell"),
+                                value("Disabled", "False"),
+                                value("Path", "GaugesQuillmontOrbwell_64.dll")}},
+                    {QStringLiteral("remove"),
+                     QJsonObject{{QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
+                                 {QStringLiteral("key"), QStringLiteral("Name")},
+                                 {QStringLiteral("value"), QStringLiteral("Quillmont Orbwell")},
+                                 {QStringLiteral("delete_parent"), true}}}});
     return launcher;
 }
 
 void place(const Program &program, const QJsonArray &entries)
 {
     const QString beside = program.folder() + u'/';
-    writeFile(beside + QLatin1String("flightsims.json"), QJsonDocument(entries).toJson());
-    writeFile(beside + QLatin1String("plugins/X-Plane/64/lin.xpl"), "plugin");
-    writeFile(beside + QLatin1String("plugins/X-Plane/about.txt"), "about");
-    writeFile(beside + QLatin1String("plugins/FSX/QuillmontOrbwell_64.dll"), "module");
+    writeFile(beside + QStringLiteral("flightsims.json"), QJsonDocument(entries).toJson());
+    writeFile(beside + QStringLiteral("plugins/X-Plane/64/lin.xpl"), "plugin");
+    writeFile(beside + QStringLiteral("plugins/X-Plane/about.txt"), "about");
+    writeFile(beside + QStringLiteral("plugins/FSX/QuillmontOrbwell_64.dll"), "module");
 }
 
 QJsonObject recordOf(const QString &simulator, const QString &dataRoot)
 {
-    const QByteArray content = readFile(dataRoot + QLatin1String("Quillmont/Orbwell/.mapping"));
+    const QByteArray content = readFile(dataRoot + QStringLiteral("Quillmont/Orbwell/.mapping"));
     QJsonObject found;
-    for (const QJsonValue record : QJsonDocument::fromJson(content).array()) {
+    const QJsonArray records = QJsonDocument::fromJson(content).array();
+    for (const auto &record : records) {
         if (record.toObject().value(QLatin1String("name")) == simulator) {
             if (!found.isEmpty())
                 return {};
@@ -92,7 +93,7 @@ QStringList backupsOf(const QString &file, const QString &occasion)
     const QFileInfo info(file);
     const QRegularExpression name(
         u'^' + QRegularExpression::escape(info.fileName())
-        + QLatin1String("_quillmont_orbwell_before_%1_\\d{8}_\\d{6}\\.bak$").arg(occasion));
+        + QLatin1String(R"(_quillmont_orbwell_before_%1_\d{8}_\d{6}\.bak$)").arg(occasion));
     return info.dir().entryList(QDir::Files).filter(name);
 }
 

@@ -3,10 +3,26 @@ target_link_libraries(orbwell-simulators
   PUBLIC orbwell-program-support
   PRIVATE orbwell-options)
 
-foreach(story FirstStart InstallByClick)
+foreach(story
+    AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice Unattended)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()
 
 orbwell_add_test(EndToEnd/PilotsComputer EndToEnd/PilotsHome.cpp EndToEnd/PilotsHome.h)
 target_link_libraries(tst_PilotsComputer PRIVATE orbwell-simulators orbwell-catalogue-support)
+add_library(orbwell-computer STATIC
+  EndToEnd/Bookkeeping.cpp EndToEnd/Bookkeeping.h
+  EndToEnd/Computer.cpp EndToEnd/Computer.h
+  EndToEnd/Disk.cpp EndToEnd/Disk.h)
+target_link_libraries(orbwell-computer
+  PUBLIC orbwell-simulators
+  PRIVATE orbwell-options)
+
+foreach(story
+    CommandLine RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
+    UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
+  orbwell_add_test(EndToEnd/${story})
+  target_link_libraries(tst_${story} PRIVATE orbwell-computer)
+endforeach()
+target_link_libraries(tst_Unattended PRIVATE orbwell-computer)

@@ -8,7 +8,7 @@
 
 using namespace Tests;
 
-class FirstStart : public QObject
+class TestFirstStart : public QObject
 {
     Q_OBJECT
 
@@ -20,29 +20,34 @@ private slots:
     void showsOneRowASimulator();
     void showsTheRowsOnAScreen();
     void keepsEverythingInsideTheWindow();
+    void isDrawnAtTheScaleOfTheScreen();
     void startsAnEmptyRecordAndWritesNothingElse();
     void leavesAnOldRecordAlone();
     void hasNothingToComplainAbout();
 
 private:
     void start(const Display *display = nullptr);
+
     QString skylark() const { return m_sandbox->path(QStringLiteral("Sky lark")); }
 
+    QString m_scale;
     QScopedPointer<Sandbox> m_sandbox;
     QScopedPointer<Program> m_program;
 };
 
-void FirstStart::init()
+void TestFirstStart::init()
 {
+    m_scale = QStringLiteral("1");
     m_sandbox.reset(new Sandbox);
     QDir().mkpath(skylark());
     writeFile(m_sandbox->path(QStringLiteral("Kestrel/Resources/plugins/Orbwell/64/lin.xpl")), "");
     writeFile(m_sandbox->path(QStringLiteral("Kestrel/Resources/plugins/Orbwell/about.txt")), "");
 }
 
-void FirstStart::start(const Display *display)
+void TestFirstStart::start(const Display *display)
 {
     m_program.reset(new Program(*m_sandbox, display));
+    m_program->setVariable("QT_SCALE_FACTOR", m_scale);
     place(*m_program,
           {pluginFolderEntry(QStringLiteral("Skylark"), skylark()),
            pluginFolderEntry(QStringLiteral("Kestrel"), m_sandbox->path(QStringLiteral("Kestrel"))),
@@ -51,13 +56,13 @@ void FirstStart::start(const Display *display)
     m_program->window();
 }
 
-void FirstStart::cleanup()
+void TestFirstStart::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-void FirstStart::showsTheWindow()
+void TestFirstStart::showsTheWindow()
 {
     start();
     const SeenWindow window = m_program->window();
@@ -66,13 +71,14 @@ void FirstStart::showsTheWindow()
              QStringLiteral("Orbwell will automatically detect your simulators and install the "
                             "plugin in each. Please verify below. To manually scan and install "
                             "again, press \"Scan & Install\" below."));
-    QCOMPARE(window.buttonTexts(), QStringList({QStringLiteral("Scan & Install"), QStringLiteral("Close")}));
+    QCOMPARE(window.buttonTexts(),
+             QStringList({QStringLiteral("Scan & Install"), QStringLiteral("Close")}));
     QVERIFY(window.rectangle.width() >= 640);
     QVERIFY(window.rectangle.height() >= 480);
     QCOMPARE(m_program->windows().size(), 1);
 }
 
-void FirstStart::showsOneRowASimulator()
+void TestFirstStart::showsOneRowASimulator()
 {
     start();
     const QVector<SeenRow> rows = m_program->rows();
@@ -98,61 +104,75 @@ void FirstStart::showsOneRowASimulator()
     QVERIFY(rows.at(2).action.enabled);
 }
 
-void FirstStart::showsTheRowsOnAScreen()
+void TestFirstStart::showsTheRowsOnAScreen()
 {
     const Display display;
     if (!display.isUp())
         QSKIP("needs Xvfb and xdotool");
     start(&display);
     QStringList icons;
-    for (const SeenRow &row : m_program->rows())
+    const QVector<SeenRow> rows = m_program->rows();
+    for (const SeenRow &row : rows)
         icons.append(row.icon);
     QCOMPARE(icons.join(u' '), QStringLiteral("minus-grey check-green check-grey"));
 }
 
-void FirstStart::keepsEverythingInsideTheWindow()
+void TestFirstStart::keepsEverythingInsideTheWindow()
 {
     start();
     const SeenWindow window = m_program->window();
     for (const SeenControl &button : window.buttons)
         QVERIFY(window.rectangle.contains(button.rectangle));
-    for (const SeenRow &row : m_program->rows()) {
+    const QVector<SeenRow> rows = m_program->rows();
+    for (const SeenRow &row : rows) {
         QVERIFY(window.rectangle.contains(row.rectangle));
         QVERIFY(row.rectangle.contains(row.action.rectangle));
         QVERIFY(row.rectangle.contains(row.browse.rectangle));
     }
 }
 
-void FirstStart::startsAnEmptyRecordAndWritesNothingElse()
+void TestFirstStart::isDrawnAtTheScaleOfTheScreen()
+{
+    m_scale = QStringLiteral("2");
+    start();
+    const QString picture = m_sandbox->path(QStringLiteral("window.png"));
+    m_program->grab(picture);
+    QCOMPARE(QImage(picture).size(), QSize(1280, 960));
+    QCOMPARE(m_program->rows().value(1).icon, QStringLiteral("check-green"));
+}
+
+void TestFirstStart::startsAnEmptyRecordAndWritesNothingElse()
 {
     start();
     QMap<QString, QByteArray> written = treeOf(m_sandbox->dataRoot());
     QVERIFY(written.contains(QStringLiteral("Quillmont/Orbwell/.mapping")));
     QCOMPARE(written.take(QStringLiteral("Quillmont/Orbwell/.mapping")), QByteArray());
-    QCOMPARE(written.keys(), QStringList({QStringLiteral("Quillmont/"), QStringLiteral("Quillmont/Orbwell/")}));
+    QCOMPARE(written.keys(),
+             QStringList({QStringLiteral("Quillmont/"), QStringLiteral("Quillmont/Orbwell/")}));
     QCOMPARE(QDir(skylark()).count(), 2U); // "." and ".."
 }
 
-void FirstStart::leavesAnOldRecordAlone()
+void TestFirstStart::leavesAnOldRecordAlone()
 {
-    const QString record = m_sandbox->dataRoot() + QLatin1String("Quillmont/Orbwell/.mapping");
+    const QString record = m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping");
     writeFile(record, "[ not quite JSON");
     start();
     QCOMPARE(readFile(record), QByteArray("[ not quite JSON"));
 }
 
-void FirstStart::hasNothingToComplainAbout()
+void TestFirstStart::hasNothingToComplainAbout()
 {
     start();
     m_program->press(QStringLiteral("Close"));
     QCOMPARE(m_program->exitStatus(), 0);
-    const QByteArray log = m_program->standardError();
+    const QList<QByteArray> log = m_program->standardError().split('\n');
     QVERIFY(log.contains("Scanning folders..."));
-    for (const QByteArray &line : log.split('\n')) {
-        const bool ours = line.isEmpty() || line.startsWith("Scanning ") || line.startsWith("folder: ");
+    for (const QByteArray &line : log) {
+        const bool ours
+            = line.isEmpty() || line.startsWith("Scanning ") || line.startsWith("folder: ");
         QVERIFY2(ours, line.constData());
     }
 }
 
-QTEST_GUILESS_MAIN(FirstStart)
+QTEST_GUILESS_MAIN(TestFirstStart)
 #include "tst_FirstStart.moc"

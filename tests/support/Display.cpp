@@ -8,8 +8,7 @@ namespace Tests {
 Display::Display()
 {
     const QString server = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
-    if (server.isEmpty()
-        || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
+    if (server.isEmpty() || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
         return;
     // The server takes a free number by itself and says which as soon as it listens.
     m_server.start(server,
@@ -36,7 +35,7 @@ Display::~Display()
     }
 }
 
-bool Display::click(const QPoint &at) const
+bool Display::click(QPoint at) const
 {
     QProcess mouse;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -18,10 +18,12 @@ public:
 
     /// Whether the server runs and a mouse is at hand.
     bool isUp() const { return !m_name.isEmpty(); }
+
     /// What DISPLAY has to say.
     QString name() const { return m_name; }
+
     /// Moves the mouse there and presses its left button; false if that was not possible.
-    bool click(const QPoint &at) const;
+    bool click(QPoint at) const;
 
 private:
     QProcess m_server;

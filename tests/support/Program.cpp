@@ -23,7 +23,7 @@ static void fail(const QString &what)
 static QString copyOfProgram(const QString &folder)
 {
     const QFileInfo built(QStringLiteral(ORBWELL_PROGRAM));
-    const QString copy = folder + u'/' + built.fileName();
+    QString copy = folder + u'/' + built.fileName();
     if (!QDir().mkpath(folder) || !QFile::copy(built.filePath(), copy))
         qFatal("cannot place the program at %s", qPrintable(copy));
     return copy;
@@ -46,9 +46,9 @@ static QProcessEnvironment plainEnvironment()
 
 Program::Program(const Sandbox &sandbox, const Display *display)
     : m_folder(sandbox.path(QStringLiteral("program")))
+    , m_executable(copyOfProgram(m_folder))
     , m_environment(plainEnvironment())
 {
-    m_process.setProgram(copyOfProgram(m_folder));
     const QString runtime = sandbox.path(QStringLiteral("runtime"));
     QDir().mkpath(runtime);
     QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -79,21 +79,14 @@ void Program::start(const QStringList &arguments)
 {
     m_process.setProcessEnvironment(m_environment);
     if (m_calledAs.isEmpty()) {
-        m_process.setArguments(arguments);
-        m_process.start();
+        m_process.start(m_executable, arguments);
     } else {
         // Only a shell can call a program by a name that is not its own.
-        QProcess shell;
-        const QString line = QStringLiteral("name=$1; shift; exec -a \"$name\" \"$@\"");
-        const QString program = m_process.program();
-        m_process.start(QStringLiteral("bash"),
-                        QStringList {QStringLiteral("-c"),
-                                     line,
-                                     QStringLiteral("bash"),
-                                     m_calledAs,
-                                     program}
-                            + arguments);
-        m_process.setProgram(program);
+        const QStringList shell{QStringLiteral("-c"),
+                                QStringLiteral("exec -a \"$0\" \"$@\""),
+                                m_calledAs,
+                                m_executable};
+        m_process.start(QStringLiteral("bash"), shell + arguments);
     }
     if (!m_process.waitForStarted(patience))
         fail(QStringLiteral("the program does not start: ") + m_process.errorString());
@@ -118,8 +111,10 @@ QJsonObject Program::ask(const QJsonObject &question)
 
 void Program::order(const QJsonObject &deed)
 {
-    const QString error = ask(deed).value(QLatin1String("error")).toString(
-        isRunning() ? QString() : QStringLiteral("the program has ended"));
+    const QString error
+        = ask(deed)
+              .value(QLatin1String("error"))
+              .toString(isRunning() ? QString() : QStringLiteral("the program has ended"));
     if (!error.isEmpty())
         fail(error);
 }
@@ -128,7 +123,8 @@ QVector<SeenWindow> Program::windows()
 {
     const QString what = QStringLiteral("windows");
     QVector<SeenWindow> seen;
-    for (const QJsonValue window : ask({{QStringLiteral("ask"), what}}).value(what).toArray())
+    const QJsonArray answer = ask({{QStringLiteral("ask"), what}}).value(what).toArray();
+    for (const auto &window : answer)
         seen.append(SeenWindow(window.toObject()));
     return seen;
 }
@@ -137,14 +133,16 @@ QVector<SeenRow> Program::rows()
 {
     const QString what = QStringLiteral("rows");
     QVector<SeenRow> seen;
-    for (const QJsonValue row : ask({{QStringLiteral("ask"), what}}).value(what).toArray())
+    const QJsonArray answer = ask({{QStringLiteral("ask"), what}}).value(what).toArray();
+    for (const auto &row : answer)
         seen.append(SeenRow(row.toObject()));
     return seen;
 }
 
 SeenRow Program::row(const QString &simulator)
 {
-    for (const SeenRow &row : rows()) {
+    const QVector<SeenRow> seen = rows();
+    for (const SeenRow &row : seen) {
         if (row.name == simulator)
             return row;
     }

@@ -32,13 +32,18 @@ public:
 
     /// The folder that the executable lies in, without a slash at its end.
     QString folder() const { return m_folder; }
+
     /// Sets a variable of the environment that the next start gets.
     void setVariable(const char *name, const QString &value);
+
     /// What the next start calls the program, in place of its path.
     void setCalledAs(const QString &name) { m_calledAs = name; }
 
     /// Starts it; the arguments are its command line's.
     void start(const QStringList &arguments = {});
+
+    /// Whether the process has not ended yet.
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
 
     /// The visible windows, the one that takes input first.
     QVector<SeenWindow> windows();
@@ -76,11 +81,11 @@ public:
     QByteArray standardError();
 
 private:
-    bool isRunning() const { return m_process.state() == QProcess::Running; }
     QJsonObject ask(const QJsonObject &question);
     void order(const QJsonObject &deed);
 
     const QString m_folder;
+    const QString m_executable;
     QString m_calledAs;
     QProcessEnvironment m_environment;
     QProcess m_process;

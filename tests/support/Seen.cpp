@@ -25,8 +25,7 @@ SeenControl::SeenControl(const QJsonObject &seen)
     : text(Tests::text(seen, "text"))
     , enabled(seen.value(QLatin1String("enabled")).toBool())
     , rectangle(Tests::rectangle(seen))
-{
-}
+{ }
 
 SeenRow::SeenRow(const QJsonObject &seen)
     : name(text(seen, "name"))
@@ -37,18 +36,19 @@ SeenRow::SeenRow(const QJsonObject &seen)
     , browse(control(seen, "browse"))
     , action(control(seen, "action"))
     , rectangle(Tests::rectangle(seen))
-{
-}
+{ }
 
 SeenWindow::SeenWindow(const QJsonObject &seen)
-    : className(Tests::text(seen, "class"))
+    : number(seen.value(QLatin1String("number")).toInt())
+    , className(Tests::text(seen, "class"))
     , title(Tests::text(seen, "title"))
     , text(Tests::text(seen, "text"))
     , icon(Tests::text(seen, "icon"))
     , parent(Tests::text(seen, "parent"))
     , rectangle(Tests::rectangle(seen))
 {
-    for (const QJsonValue button : seen.value(QLatin1String("buttons")).toArray())
+    const QJsonArray all = seen.value(QLatin1String("buttons")).toArray();
+    for (const auto &button : all)
         buttons.append(SeenControl(button.toObject()));
 }
 

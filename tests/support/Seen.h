@@ -48,6 +48,8 @@ struct SeenWindow
     /// The texts of its buttons.
     QStringList buttonTexts() const;
 
+    /// Which of the windows that this process has shown, counted from 1; 0 for none.
+    int number = 0;
     QString className;
     QString title;
     QString text;

@@ -31,7 +31,7 @@ Driver::Driver(QObject *parent)
 
 void Driver::readCommands()
 {
-    std::array<char, 4096> buffer {};
+    std::array<char, 4096> buffer{};
     const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
     if (count <= 0)
         std::_Exit(3);

@@ -36,7 +36,8 @@ static QJsonObject control(const QAbstractButton *button)
 
 static QListWidget *list()
 {
-    for (const QWidget *window : QApplication::topLevelWidgets()) {
+    const auto all = QApplication::topLevelWidgets();
+    for (const QWidget *window : all) {
         if (auto *found = window->findChild<QListWidget *>(); found && found->isVisible())
             return found;
     }
@@ -46,8 +47,9 @@ static QListWidget *list()
 static QJsonArray buttonsOf(const QWidget *window)
 {
     QJsonArray buttons;
-    for (const auto *button : window->findChildren<QAbstractButton *>()) {
-        const QListWidget *rows = list();
+    const QListWidget *rows = list();
+    const auto all = window->findChildren<QAbstractButton *>();
+    for (const auto *button : all) {
         if (button->isVisible() && !(rows && rows->isAncestorOf(button)))
             buttons.append(control(button));
     }
@@ -57,17 +59,28 @@ static QJsonArray buttonsOf(const QWidget *window)
 static void describeBox(QJsonObject *seen, const QMessageBox *box)
 {
     const QWidget *parent = box->parentWidget();
-    const QString icon = QString::fromLatin1(
-        QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon()));
+    const QString icon
+        = QString::fromLatin1(QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon()));
     seen->insert(QStringLiteral("text"), box->text());
     seen->insert(QStringLiteral("icon"), icon);
     seen->insert(QStringLiteral("parent"),
                  parent ? QString::fromLatin1(parent->metaObject()->className()) : QString());
 }
 
-static QJsonObject describe(const QWidget *window)
+// A window that comes after another can lie at the same address.
+static int numberOf(QWidget *window)
 {
-    QJsonObject seen {
+    static int count = 0;
+    const char *name = "orbwell-driver-number";
+    if (!window->property(name).isValid())
+        window->setProperty(name, ++count);
+    return window->property(name).toInt();
+}
+
+static QJsonObject describe(QWidget *window)
+{
+    QJsonObject seen{
+        {QStringLiteral("number"), numberOf(window)},
         {QStringLiteral("class"), QString::fromLatin1(window->metaObject()->className())},
         {QStringLiteral("title"), window->windowTitle()},
         {QStringLiteral("buttons"), buttonsOf(window)},
@@ -83,7 +96,8 @@ QWidget *inputWindow()
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
-    for (QWidget *window : QApplication::topLevelWidgets()) {
+    const auto all = QApplication::topLevelWidgets();
+    for (QWidget *window : all) {
         if (window->isVisible())
             return window;
     }
@@ -94,7 +108,8 @@ QJsonArray windows()
 {
     QJsonArray seen;
     const QWidget *first = inputWindow();
-    for (const QWidget *window : QApplication::topLevelWidgets()) {
+    const auto all = QApplication::topLevelWidgets();
+    for (QWidget *window : all) {
         if (!window->isVisible())
             continue;
         if (window == first)
@@ -127,8 +142,8 @@ static QString iconName(const QPixmap &pixmap)
     qint64 smallest = 100000; // further off than scaling ever takes a picture from itself
     const QImage shown = pixmap.toImage().scaled(44, 44, {}, Qt::SmoothTransformation);
     for (const char *name : {"check-green", "check-grey", "minus-grey"}) {
-        const QImage drawn(QStringLiteral(":/assets/Quillmont Orbwell/icon-%1-44.png")
-                               .arg(QLatin1String(name)));
+        const QImage drawn(
+            QStringLiteral(":/assets/Quillmont Orbwell/icon-%1-44.png").arg(QLatin1String(name)));
         if (drawn.isNull())
             continue;
         if (const qint64 distance = difference(shown, drawn); distance < smallest) {
@@ -141,7 +156,8 @@ static QString iconName(const QPixmap &pixmap)
 
 static void describeLabels(QJsonObject *seen, const QWidget *row)
 {
-    for (const auto *label : row->findChildren<QLabel *>()) {
+    const auto labels = row->findChildren<QLabel *>();
+    for (const auto *label : labels) {
         const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
         if (pixmap.isNull())
             seen->insert(QStringLiteral("name"), plain(label->text()));
@@ -152,8 +168,8 @@ static void describeLabels(QJsonObject *seen, const QWidget *row)
 
 static QJsonObject describeRow(const QWidget *row)
 {
-    QJsonObject seen {{QStringLiteral("action"), control(buttonOf(row, false))},
-                      {QStringLiteral("browse"), control(buttonOf(row, true))}};
+    QJsonObject seen{{QStringLiteral("action"), control(buttonOf(row, false))},
+                     {QStringLiteral("browse"), control(buttonOf(row, true))}};
     describeLabels(&seen, row);
     const auto *field = row->findChild<QLineEdit *>();
     seen.insert(QStringLiteral("path"), field->text());

@@ -18,8 +18,7 @@ namespace Tests {
 Hand::Hand(const QJsonObject &command)
     : m_command(command)
     , m_deed(text("do"))
-{
-}
+{ }
 
 QString Hand::text(const char *key) const
 {
@@ -38,7 +37,7 @@ QString Hand::reach()
     if (!m_target)
         return QStringLiteral("no window");
     if (m_deed == QLatin1String("grab") && !m_target->grab().save(text("file")))
-        return QLatin1String("cannot write ") + text("file");
+        return QStringLiteral("cannot write ") + text("file");
     return {};
 }
 
@@ -46,7 +45,7 @@ QString Hand::reachRow()
 {
     const QWidget *row = Eye::rowOf(text("row"));
     if (!row)
-        return QLatin1String("no row for ") + text("row");
+        return QStringLiteral("no row for ") + text("row");
     m_target = Eye::buttonOf(row, text("control") == QLatin1String("browse"));
     return m_target ? QString() : QStringLiteral("no such control in the row");
 }
@@ -56,11 +55,12 @@ QString Hand::reachButton()
     const QWidget *window = Eye::inputWindow();
     if (!window)
         return QStringLiteral("no window");
-    for (auto *button : window->findChildren<QAbstractButton *>()) {
+    const auto all = window->findChildren<QAbstractButton *>();
+    for (auto *button : all) {
         if (button->isVisible() && Eye::shownText(button) == text("button"))
             m_target = button;
     }
-    return m_target ? QString() : QLatin1String("no button ") + text("button");
+    return m_target ? QString() : QStringLiteral("no button ") + text("button");
 }
 
 QString Hand::reachFolderDialog()

@@ -1,0 +1,159 @@
+#include "tests/EndToEnd/Computer.h"
+
+#include <QFileInfo>
+#include <QtTest>
+
+using namespace Tests;
+
+// Which run a command line starts, told by what a user sees of it.
+class CommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void starts_data();
+    void starts();
+    void countsItsOwnName_data();
+    void countsItsOwnName();
+
+private:
+    void run(const QStringList &arguments, const QString &calledAs = {});
+    QString seen() const;
+
+    QScopedPointer<Computer> m_computer;
+    int m_status = -1;
+};
+
+static void addLine(const char *what, const QStringList &arguments, const char *run)
+{
+    QTest::newRow(what) << arguments << run;
+}
+
+static QStringList line(const char *words)
+{
+    return QString::fromUtf8(words).split(u' ');
+}
+
+void CommandLine::starts_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("expected");
+
+    addLine("nothing", {}, "window");
+    addLine("install", line("--INSTALL"), "install");
+    addLine("repair", line("--REPAIR"), "repair");
+    addLine("uninstall", line("--UNINSTALL"), "uninstall");
+
+    addLine("small letters", line("--install"), "install");
+    addLine("a capital", line("--Repair"), "repair");
+    addLine("mixed letters", line("--unInStall"), "uninstall");
+    addLine("a letter with that capital", line("--\u0131n\u017ftall"), "install");
+    addLine("a capital of another alphabet", line("--\u0130NSTALL"), "window");
+    addLine("another dash", line("\u2014INSTALL"), "window");
+
+    addLine("repair, then uninstall", line("--REPAIR --UNINSTALL"), "uninstall");
+    addLine("uninstall, then repair", line("--UNINSTALL --REPAIR"), "repair");
+    addLine("install between others", line("--repair --INSTALL nonsense"), "install");
+    addLine("the first again", line("--REPAIR --INSTALL --REPAIR"), "repair");
+
+    addLine("a quiet one", line("--INSTALL 1"), "quiet install");
+    addLine("quiet first", line("1 --INSTALL"), "quiet install");
+    addLine("quiet, in between", line("--REPAIR 1 --install"), "quiet install");
+    addLine("quiet, whatever follows", line("--INSTALL 1 0"), "quiet install");
+    addLine("quiet alone", line("1"), "window");
+    addLine("a repair is never quiet", line("--REPAIR 1"), "repair");
+    addLine("another number", line("--INSTALL 01"), "install");
+    addLine("another one", line("--INSTALL \uff11"), "install");
+    addLine("a one with a blank", {QStringLiteral("--INSTALL"), QStringLiteral("1 ")}, "install");
+
+    addLine("a value", line("--INSTALL=1"), "window");
+    addLine("a slash", line("/INSTALL"), "window");
+    addLine("one dash", line("-INSTALL"), "window");
+    addLine("no dash", line("INSTALL"), "window");
+    addLine("more behind it", line("--INSTALLED"), "window");
+    addLine("more before it", line("x--INSTALL"), "window");
+    addLine("a blank before it", {QStringLiteral(" --INSTALL")}, "window");
+    addLine("a blank behind it", {QStringLiteral("--REPAIR ")}, "window");
+    addLine("a line end behind it", {QStringLiteral("--UNINSTALL\n")}, "window");
+    addLine("two in one", {QStringLiteral("--INSTALL 1")}, "window");
+    addLine("unknown ones", line("--HELP --force ../file 2"), "window");
+    addLine("a mode by its number", line("--MODE 4"), "window");
+    addLine("an empty one", {QString()}, "window");
+    addLine("empty ones around", {QString(), QStringLiteral("--INSTALL"), QString()}, "install");
+}
+
+void CommandLine::starts()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, expected);
+    run(arguments);
+    QCOMPARE(seen(), expected);
+}
+
+void CommandLine::countsItsOwnName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("expected");
+
+    const auto add
+        = [](const char *what, const char *name, const QStringList &rest, const char *run) {
+              QTest::newRow(what) << QString::fromUtf8(name) << rest << run;
+          };
+    add("install", "--INSTALL", {}, "install");
+    add("small letters", "--repair", {}, "repair");
+    add("uninstall", "--Uninstall", {}, "uninstall");
+    add("one, and install", "1", line("--INSTALL"), "quiet install");
+    add("install, and one", "--INSTALL", line("1"), "quiet install");
+    add("a later switch wins", "--INSTALL", line("--REPAIR"), "repair");
+    add("in a folder", "folder/--INSTALL", {}, "window");
+    add("something else", "setup", {}, "window");
+}
+
+void CommandLine::countsItsOwnName()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, expected);
+    run(arguments, name);
+    QCOMPARE(seen(), expected);
+}
+
+// One simulator that is found and lacks the plugin, one that the record alone knows.
+void CommandLine::run(const QStringList &arguments, const QString &calledAs)
+{
+    m_computer.reset(new Computer);
+    const QString found = QStringLiteral("Det");
+    const QString recorded = QStringLiteral("Rec");
+    m_computer->addSimulator(found);
+    m_computer->addPlugin(recorded, 1);
+    m_computer->setCatalogue({m_computer->hiddenEntry(recorded, 1), m_computer->entry(found, 1)});
+    m_computer->setRecords({m_computer->recordFor(m_computer->hiddenEntry(recorded, 1))});
+    m_computer->program().setCalledAs(calledAs);
+    m_status = m_computer->run(arguments);
+}
+
+QString CommandLine::seen() const
+{
+    const QString file = QStringLiteral("/Resources/plugins/Orbwell/about.txt");
+    const bool foundHasIt = QFileInfo::exists(m_computer->folder(QStringLiteral("Det")) + file);
+    const bool recordedHasIt = QFileInfo::exists(m_computer->folder(QStringLiteral("Rec")) + file);
+    const QString title = m_computer->boxes().value(0).title;
+    const int boxes = m_computer->boxes().size();
+    const auto is = [&](int status, int count, const char *shown) {
+        return m_status == status && boxes == count && title == QLatin1String(shown)
+            && foundHasIt != m_computer->showedTheWindow();
+    };
+    if (is(0, 0, "") && !recordedHasIt)
+        return QStringLiteral("uninstall");
+    if (is(0, 0, "") && m_computer->showedTheWindow())
+        return QStringLiteral("window");
+    if (is(0, 1, "Plugins updated"))
+        return QStringLiteral("repair");
+    if (is(2, 1, "Quillmont Orbwell Settings"))
+        return QStringLiteral("install");
+    return is(2, 0, "") ? QStringLiteral("quiet install") : QStringLiteral("something else");
+}
+
+QTEST_GUILESS_MAIN(CommandLine)
+#include "tst_CommandLine.moc"

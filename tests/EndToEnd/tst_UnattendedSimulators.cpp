@@ -1,0 +1,231 @@
+#include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/Simulators.h"
+
+#include <QtTest>
+
+using namespace Tests;
+
+// Runs over simulators that are known, installed or entangled in one way or another.
+class UnattendedSimulators : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void bringsBackALostFile_data();
+    void bringsBackALostFile();
+    void leavesWhatIsCompleteAlone();
+    void knowsAFolderByTheRecordAlone();
+    void givesAFolderToOneOfTwoEntries_data();
+    void givesAFolderToOneOfTwoEntries();
+    void keepsTheConfigurationsOfTwoFoldersApart_data();
+    void keepsTheConfigurationsOfTwoFoldersApart();
+    void repairsBothEntriesThatTheRecordKnows();
+
+private:
+    QJsonObject rival(const char *name, const QJsonObject &conflict) const;
+    QString updated(const char *lines) const;
+
+    QScopedPointer<Computer> m_computer;
+};
+
+static QStringList one(const char *argument)
+{
+    return {QLatin1String(argument)};
+}
+
+static QStringList quietInstallation()
+{
+    return {QStringLiteral("--INSTALL"), QStringLiteral("1")};
+}
+
+static QString installed(const char *names)
+{
+    return QStringLiteral("Quillmont Orbwell Settings: Quillmont Orbwell have successfully "
+                          "installed Orbwell plugin to %1.")
+        .arg(QLatin1String(names));
+}
+
+void UnattendedSimulators::init()
+{
+    m_computer.reset(new Computer);
+}
+
+void UnattendedSimulators::cleanup()
+{
+    m_computer.reset();
+}
+
+QString UnattendedSimulators::updated(const char *lines) const
+{
+    return QStringLiteral("Plugins updated: Quillmont Orbwell has updated plugins on your "
+                          "computer.\r\n\r\nPlease see the list below for details:\r\n\r\n%1")
+        .arg(QLatin1String(lines));
+}
+
+// An entry for a simulator with a configuration, in the folder "Shared".
+QJsonObject UnattendedSimulators::rival(const char *name, const QJsonObject &conflict) const
+{
+    QJsonObject entry = m_computer->entry(QStringLiteral("Shared"), 0);
+    entry.insert(QStringLiteral("name"), QLatin1String(name));
+    entry.insert(QStringLiteral("conflict"), conflict);
+    return entry;
+}
+
+static QJsonObject conflict(const char *key, const QJsonValue &value)
+{
+    return {{QStringLiteral("name"), QStringLiteral("family")}, {QLatin1String(key), value}};
+}
+
+void UnattendedSimulators::bringsBackALostFile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::newRow("install") << quietInstallation() << 2;
+    QTest::newRow("repair") << one("--REPAIR") << 0;
+    QTest::newRow("uninstall") << one("--UNINSTALL") << 0;
+}
+
+// What is there of the plugin is replaced as well.
+void UnattendedSimulators::bringsBackALostFile()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, status);
+    const QString half = QStringLiteral("Half");
+    const QJsonObject entry = m_computer->entry(half, 1);
+    m_computer->setCatalogue({entry});
+    m_computer->addSimulator(half);
+    m_computer->write(QStringLiteral("sims/Half/Resources/plugins/Orbwell/about.txt"), "old");
+    m_computer->setRecords({m_computer->recordFor(entry)});
+    Disk expected = m_computer->disk();
+
+    QCOMPARE(m_computer->run(arguments), status);
+    m_computer->putPlugin(&expected, entry);
+    m_computer->finish(&expected, {m_computer->recordFor(entry)});
+    QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+void UnattendedSimulators::leavesWhatIsCompleteAlone()
+{
+    const QString whole = QStringLiteral("Whole");
+    const QJsonObject entry = m_computer->entry(whole, 0);
+    m_computer->setCatalogue({entry});
+    m_computer->addPlugin(whole, 0);
+    m_computer->write(m_computer->configuration(whole), othersConfiguration());
+    Disk expected = m_computer->disk();
+
+    QCOMPARE(m_computer->run(one("--INSTALL")), 2);
+    QCOMPARE(m_computer->said(),
+             QStringList(QStringLiteral("Quillmont Orbwell Settings: Orbwell plugin is installed "
+                                        "in all simulators.")));
+    m_computer->finish(&expected, {m_computer->recordFor(entry)});
+    QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+// An uninstallation that the next one finds nothing left to do for.
+void UnattendedSimulators::knowsAFolderByTheRecordAlone()
+{
+    const QString recorded = QStringLiteral("Recorded");
+    const QJsonObject entry = m_computer->hiddenEntry(recorded, 1);
+    m_computer->setCatalogue({entry});
+    m_computer->addSimulator(recorded);
+    Disk expected = m_computer->disk();
+    put(&expected, QStringLiteral("sims/Recorded/Resources/plugins/Orbwell/x"), {});
+    takeOut(&expected, QStringLiteral("sims/Recorded/Resources/plugins/Orbwell/"));
+    m_computer->finish(&expected, {});
+    m_computer->addPlugin(recorded, 1);
+    m_computer->setRecords({m_computer->recordFor(entry)});
+
+    for (int time = 0; time < 2; ++time) {
+        QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+        QCOMPARE(m_computer->said(), QStringList());
+        QCOMPARE(difference(m_computer->disk(), expected), QString());
+    }
+    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+void UnattendedSimulators::givesAFolderToOneOfTwoEntries_data()
+{
+    QTest::addColumn<bool>("removeOnConflict");
+    QTest::addColumn<QString>("winner");
+    QTest::newRow("to the first that comes") << true << "Later";
+    QTest::newRow("to the second") << false << "First";
+}
+
+void UnattendedSimulators::givesAFolderToOneOfTwoEntries()
+{
+    QFETCH(const bool, removeOnConflict);
+    QFETCH(const QString, winner);
+    const QJsonObject givesWay = conflict("remove_on_conflict", removeOnConflict);
+    m_computer->setCatalogue({rival("First", givesWay), rival("Later", givesWay)});
+    m_computer->addSimulator(QStringLiteral("Shared"));
+
+    QCOMPARE(m_computer->run(one("--INSTALL")), 2);
+    QCOMPARE(m_computer->said(), QStringList(installed(qPrintable(u' ' + winner))));
+    QCOMPARE(m_computer->records().size(), 1);
+    QCOMPARE(m_computer->records().at(0).toObject().value(QLatin1String("name")), winner);
+    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->said(),
+             QStringList(updated(qPrintable(winner + QLatin1String(": Updated")))));
+}
+
+void UnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart_data()
+{
+    bringsBackALostFile_data();
+}
+
+// Each gets a configuration of its own, in place of the one that both would edit.
+void UnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, status);
+    QJsonArray catalogue;
+    QJsonArray records;
+    for (const char *name : {"First", "Later"}) {
+        const QString simulator = QLatin1String(name);
+        const QString solution = QStringLiteral("Maker/%1 own/dll.xml").arg(simulator);
+        QJsonObject entry = rival(name, conflict("solution", solution));
+        entry.insert(QStringLiteral("path"), m_computer->folder(simulator));
+        m_computer->addSimulator(simulator);
+        catalogue.append(entry);
+        records.prepend(m_computer->recordFor(entry));
+    }
+    m_computer->setCatalogue(catalogue);
+    Disk expected = m_computer->disk();
+
+    QCOMPARE(m_computer->run(arguments), status);
+    for (const QJsonValue entry : catalogue)
+        m_computer->putPlugin(&expected, entry.toObject());
+    for (const char *name : {"First own", "Later own"})
+        put(&expected, m_computer->configuration(QLatin1String(name)), launchDocument());
+    m_computer->finish(&expected, records);
+    Disk actual = m_computer->disk();
+    for (const QString &path : actual.keys()) {
+        if (path.endsWith(QLatin1String(".bak")))
+            actual.remove(path);
+    }
+    QCOMPARE(difference(actual, expected), QString());
+}
+
+// The record of an earlier day gives the folder back to the entry that has to give way.
+void UnattendedSimulators::repairsBothEntriesThatTheRecordKnows()
+{
+    const QJsonObject first = rival("First", conflict("check_file", true));
+    const QJsonObject later = rival("Later", conflict("check_file", true));
+    m_computer->setCatalogue({first, later});
+    m_computer->addPlugin(QStringLiteral("Shared"), 0);
+    QJsonObject record = m_computer->recordFor(m_computer->entry(QStringLiteral("Shared"), 0));
+    record.insert(QStringLiteral("name"), QStringLiteral("First"));
+    m_computer->setRecords({record});
+
+    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->said(), QStringList(updated("Later: Updated\nFirst: Updated")));
+    QCOMPARE(m_computer->records().size(), 2);
+}
+
+QTEST_GUILESS_MAIN(UnattendedSimulators)
+#include "tst_UnattendedSimulators.moc"
