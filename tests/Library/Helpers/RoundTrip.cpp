@@ -6,6 +6,8 @@
 #include "tests/support/Files.h"
 #include "tests/support/LogCatcher.h"
 
+#include <QDateTime>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
