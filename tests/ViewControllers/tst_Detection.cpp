@@ -84,8 +84,9 @@ private slots:
     {
         Workshop shop;
         QFile::link(shop.path("gone"), shop.path("link"));
-        QCOMPARE(foundFile(shop, R"({"path": "$ROOT\\no", "key": "game %1"})"), QString());
-        QCOMPARE(foundFile(shop, R"({"path": "$ROOT", "key": "link"})"), QString());
+        QCOMPARE(foundFile(shop, R"({"path": "$ROOT\\no", "key": "game %1"})"),
+                 QStringLiteral("nothing"));
+        QCOMPARE(foundFile(shop, R"({"path": "$ROOT", "key": "link"})"), QStringLiteral("nothing"));
         QCOMPARE(shop.log.debugLines(),
                  QStringList({QStringLiteral("file: ") + shop.path("no/game %1"),
                               QStringLiteral("file: ") + shop.path("link")}));
@@ -94,7 +95,7 @@ private slots:
     void anEntryThatNamesNoFileFindsNone()
     {
         Workshop shop;
-        QCOMPARE(foundFile(shop, "{}"), QString());
+        QCOMPARE(foundFile(shop, "{}"), QStringLiteral("nothing"));
         QCOMPARE(shop.log.debugLines(), QStringList(QStringLiteral("file: /")));
     }
 
@@ -116,9 +117,9 @@ private slots:
         Workshop shop;
         writeFile(shop.path("plain"), {});
         QFile::link(shop.path("gone"), shop.path("link"));
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT\\plain"})"), QString());
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT/link"})"), QString());
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT\\no"})"), QString());
+        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT\\plain"})"), QStringLiteral("nothing"));
+        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT/link"})"), QStringLiteral("nothing"));
+        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT\\no"})"), QStringLiteral("nothing"));
         QCOMPARE(shop.log.debugLines(),
                  QStringList({QStringLiteral("folder: ") + shop.path("plain"),
                               QStringLiteral("folder: ") + shop.path("link"),
@@ -128,7 +129,7 @@ private slots:
     void anEntryThatNamesNoFolderFindsNone()
     {
         Workshop shop;
-        QCOMPARE(foundFolder(shop, R"({"key": "$ROOT"})"), QString());
+        QCOMPARE(foundFolder(shop, R"({"key": "$ROOT"})"), QStringLiteral("nothing"));
         QCOMPARE(shop.log.debugLines(), QStringList(QStringLiteral("folder: ")));
     }
 
@@ -148,13 +149,13 @@ private:
     static QString foundFile(Workshop &shop, const char *json)
     {
         const auto *mapping = shop.controller().scanFile(shop.entry(json));
-        return mapping ? mapping->path : QString();
+        return mapping ? mapping->path : QStringLiteral("nothing");
     }
 
     static QString foundFolder(Workshop &shop, const char *json)
     {
         const auto *mapping = shop.controller().scanFolder(shop.entry(json));
-        return mapping ? mapping->path : QString();
+        return mapping ? mapping->path : QStringLiteral("nothing");
     }
 };
 
