@@ -20,6 +20,9 @@ ScanController::ScanController(QObject *parent, QWidget *parentWidget)
     , view(new ScannerView(parentWidget))
     , simPaths(SimDetect::GetAllSimPaths())
 {
+    // Under the name that the slot's signature carries, so that it can be called by name, too.
+    qRegisterMetaType<InstallationMode>("InstallationMode");
+
     const Request request = commandLineRequest();
     createMappingFile();
 

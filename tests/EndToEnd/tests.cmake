@@ -9,6 +9,8 @@ foreach(story
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()
 
+orbwell_add_test(EndToEnd/PilotsComputer EndToEnd/PilotsHome.cpp EndToEnd/PilotsHome.h)
+target_link_libraries(tst_PilotsComputer PRIVATE orbwell-simulators orbwell-catalogue-support)
 add_library(orbwell-computer STATIC
   EndToEnd/Bookkeeping.cpp EndToEnd/Bookkeeping.h
   EndToEnd/Computer.cpp EndToEnd/Computer.h

@@ -28,10 +28,13 @@ bool LogCatcher::hasDebugLineWith(const QString &text) const
 
 void LogCatcher::handle(QtMsgType type, const QMessageLogContext &, const QString &line)
 {
-    if (type == QtDebugMsg)
-        s_current->m_debugLines.append(line);
-    else
+    if (type != QtDebugMsg) {
         s_current->m_warnings.append(line);
+        return;
+    }
+    s_current->m_debugLines.append(line);
+    if (s_current->m_look)
+        s_current->m_look(line);
 }
 
 } // namespace Tests

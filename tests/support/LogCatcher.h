@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <functional>
+
 namespace Tests {
 
 /// Collects what is written to the toolkit's log while it lives; one at a time.
@@ -24,12 +26,16 @@ public:
     /// Whether some debug line holds @p text.
     bool hasDebugLineWith(const QString &text) const;
 
+    /// Runs @p look with each debug line as it is written, in the midst of the work that writes it.
+    void atEachDebugLine(std::function<void(const QString &)> look) { m_look = std::move(look); }
+
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &line);
 
     QStringList m_debugLines;
     QStringList m_warnings;
     QtMessageHandler m_before;
+    std::function<void(const QString &)> m_look;
     static LogCatcher *s_current;
 };
 

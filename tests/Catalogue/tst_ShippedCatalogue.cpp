@@ -1,0 +1,312 @@
+#include "Library/Models/XmlInsertionModel.h"
+#include "Models/FlightSimConflict.h"
+#include "Models/FlightSimRemoval.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/ScanController.h"
+#include "Views/ScannerView.h"
+#include "tests/Catalogue/CatalogueSchema.h"
+#include "tests/Catalogue/Catalogues.h"
+#include "tests/SimDetect/Computer.h"
+#include "tests/support/Files.h"
+#include "tests/support/Sandbox.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+using namespace Quillmont::Utility::Models;
+using namespace Tests;
+using Quillmont::Utility::ViewControllers::ScanController;
+using Quillmont::Utility::Views::ScannerView;
+
+namespace {
+
+constexpr auto everySimulator = R"(
+    xplane $H/X-Plane 10
+    xplane $H/X-Plane 11
+    xplane $H/X-Plane 12
+    game $S 314160 FSX
+    file $S/steamapps/common/FSX/fsx.exe =
+    dir $S/steamapps/common/FSX/SimObjects
+    game $S 1995890 Aerofly
+    dir $S/steamapps/common/Aerofly/scenery
+    dir $S/steamapps/common/Aerofly/aircraft
+    dir $S/steamapps/compatdata/1250410/pfx/drive_c/2020/Community
+    file $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:/2020"\n
+    dir $S/steamapps/compatdata/2537590/pfx/drive_c/2024/Community
+    file $S/steamapps/compatdata/2537590/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024/UserCfg.opt = InstalledPackagesPath "C:/2024"\n
+    file $R/usr/share/games/flightgear/version = 2020.3.16\n
+    file $R/usr/share/games/flightgear/defaults.xml =)";
+
+QString slashed(const QJsonValue &path)
+{
+    return path.toString().replace(u'\\', u'/');
+}
+
+// What the program made of an entry, as the entry would say it.
+QJsonObject readBack(const FlightSimRemoval *removal)
+{
+    return {{QStringLiteral("parent"), removal->parent},
+            {QStringLiteral("key"), removal->key},
+            {QStringLiteral("value"), removal->value},
+            {QStringLiteral("delete_parent"), removal->deleteParent}};
+}
+
+QJsonValue readBackConfig(const FlightSimScan &scan)
+{
+    if (!scan.config)
+        return QJsonValue::Null;
+    QJsonArray values;
+    for (const auto &pair : qAsConst(scan.config->values))
+        values.append(QJsonObject{{QStringLiteral("key"), pair.first},
+                                  {QStringLiteral("value"), pair.second}});
+    return QJsonObject{{QStringLiteral("path"), scan.config->path},
+                       {QStringLiteral("parent"), scan.config->parentName},
+                       {QStringLiteral("values"), values},
+                       {QStringLiteral("remove"), readBack(scan.remove)}};
+}
+
+QJsonValue readBackConflict(const FlightSimConflict *conflict)
+{
+    if (!conflict)
+        return QJsonValue::Undefined;
+    return QJsonObject{{QStringLiteral("name"), conflict->name},
+                       {QStringLiteral("remove_on_conflict"), conflict->removeOnConflict}};
+}
+
+QJsonObject readBack(const FlightSimScan &scan)
+{
+    QJsonObject files;
+    for (auto it = scan.files.begin(); it != scan.files.end(); ++it)
+        files.insert(it.key(), it.value());
+    return {{QStringLiteral("name"), scan.name},
+            {QStringLiteral("simcode"), scan.simcode},
+            {QStringLiteral("location"), scan.location},
+            {QStringLiteral("path"), scan.path},
+            {QStringLiteral("type"), scan.type},
+            {QStringLiteral("files"), files},
+            {QStringLiteral("config"), readBackConfig(scan)},
+            {QStringLiteral("conflict"), readBackConflict(scan.conflict)}};
+}
+
+// The same entry with what the program is known to change: separators, and files by destination.
+QJsonObject expected(QJsonObject entry)
+{
+    QJsonObject files;
+    const QJsonArray pairs = entry.value(QLatin1String("files")).toArray();
+    for (const QJsonValue &pair : pairs)
+        files.insert(slashed(pair[QLatin1String("destination")]),
+                     slashed(pair[QLatin1String("source")]));
+    entry.insert(QStringLiteral("files"), files);
+    QJsonObject config = entry.value(QLatin1String("config")).toObject();
+    if (!config.isEmpty()) {
+        config.insert(QStringLiteral("path"), slashed(config.value(QLatin1String("path"))));
+        entry.insert(QStringLiteral("config"), config);
+    }
+    return entry;
+}
+
+QSet<QString> sourcesOf(const QByteArray &catalogue)
+{
+    QSet<QString> sources;
+    const QJsonArray entries = entriesOf(catalogue);
+    for (const QJsonValue &entry : entries) {
+        const FlightSimScan scan(nullptr, entry.toObject());
+        for (const QString &source : scan.files)
+            sources.insert(source);
+    }
+    return sources;
+}
+
+// What a simulator has of its own where the plugin's files go.
+QString ownFile(const QString &simcode)
+{
+    if (simcode.startsWith(QLatin1String("XP")))
+        return QStringLiteral("Resources/plugins/Somebody/64/lin.xpl");
+    if (simcode.startsWith(QLatin1String("MSFS")))
+        return QStringLiteral("Community/somebody-scenery/layout.json");
+    if (simcode == QLatin1String("FGFS"))
+        return QStringLiteral("Protocol/atlas.xml");
+    return QStringLiteral("fsx.exe");
+}
+
+} // namespace
+
+class ShippedCatalogue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void knowsTheSevenSimulatorsInTheWindowsOrder();
+    void namesWhatDetectionKnows();
+    void isReadAsItIsWritten_data();
+    void isReadAsItIsWritten();
+
+    void givesEachFileAPlaceOfItsOwn_data() { isReadAsItIsWritten_data(); }
+
+    void givesEachFileAPlaceOfItsOwn();
+    void hasAFileForEachSourceAndNoneWithoutUse();
+    void leavesEachSimulatorAsItWas_data();
+    void leavesEachSimulatorAsItWas();
+    void recognisesTheEntryOfANewLaunchDocument();
+    void listsTheFilesOfThePackage();
+};
+
+void ShippedCatalogue::initTestCase()
+{
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins");
+    if (QFile::symLinkTarget(beside) == payloadFolder())
+        return;
+    QFile::remove(beside);
+    QVERIFY(QFile::link(payloadFolder(), beside));
+}
+
+void ShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
+{
+    QStringList codes;
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    for (const QJsonValue &entry : entries)
+        codes.prepend(entry[QLatin1String("simcode")].toString());
+    QCOMPARE(codes.join(u' '), QStringLiteral("XP12 XP11 MSFS2024 MSFS2020 FSXSE FGFS AFS4"));
+}
+
+void ShippedCatalogue::namesWhatDetectionKnows()
+{
+    Computer computer(Quillmont::SimDetect::Environment::Linux);
+    computer.make(QLatin1String(everySimulator));
+    QStringList detected;
+    const QStringList lines = computer.detect().split(u'\n');
+    for (const QString &line : lines)
+        detected.append(line.section(u':', 0, 0).trimmed());
+
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    for (const QJsonValue &entry : entries) {
+        const QString code = entry[QLatin1String("simcode")].toString();
+        QVERIFY2(detected.contains(code), qPrintable(code));
+    }
+
+    const QJsonDocument schema = QJsonDocument::fromJson(readFile(CatalogueSchema::path()));
+    const QJsonValue simcode = schema[QLatin1String("$defs")][QLatin1String("simulator")]
+                                     [QLatin1String("properties")][QLatin1String("simcode")];
+    QCOMPARE(simcode[QLatin1String("enum")].toArray(), QJsonArray::fromStringList(detected));
+}
+
+void ShippedCatalogue::isReadAsItIsWritten_data()
+{
+    QTest::addColumn<QJsonObject>("entry");
+    const auto add = [](const char *catalogue, const QByteArray &text) {
+        const QJsonArray entries = entriesOf(text);
+        for (const QJsonValue &entry : entries) {
+            const QString name = entry[QLatin1String("name")].toString();
+            QTest::addRow("%s: %s", catalogue, qPrintable(name)) << entry.toObject();
+        }
+    };
+    add("shipped", shippedCatalogue());
+    add("sample", sampleCatalogue(QStringLiteral("/sample/simulators")));
+}
+
+void ShippedCatalogue::isReadAsItIsWritten()
+{
+    QFETCH(QJsonObject, entry);
+    const QJsonObject read = readBack(FlightSimScan(nullptr, entry));
+    const QJsonObject written = expected(entry);
+    for (auto it = written.begin(); it != written.end(); ++it) {
+        QVERIFY2(read.contains(it.key()), qPrintable(it.key()));
+        QCOMPARE(read.value(it.key()), it.value());
+    }
+}
+
+void ShippedCatalogue::givesEachFileAPlaceOfItsOwn()
+{
+    QFETCH(QJsonObject, entry);
+    const FlightSimScan scan(nullptr, entry);
+    QCOMPARE(scan.files.size(), entry.value(QLatin1String("files")).toArray().size());
+    QVERIFY(!scan.files.isEmpty());
+}
+
+void ShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
+{
+    const QSet<QString> wanted = sourcesOf(shippedCatalogue());
+    QSet<QString> there;
+    const auto payload = treeOf(payloadFolder());
+    for (auto it = payload.begin(); it != payload.end(); ++it) {
+        if (!it.key().endsWith(u'/'))
+            there.insert(it.key());
+        // A layout has no room for words.
+        const bool speaks
+            = !it.key().endsWith(u'/') && !it.key().endsWith(QLatin1String("layout.json"));
+        QVERIFY2(!speaks || it->contains("stand-in"), qPrintable(it.key()));
+    }
+    QCOMPARE(there, wanted);
+    QVERIFY(there.contains(sourcesOf(sampleCatalogue({}))));
+}
+
+void ShippedCatalogue::leavesEachSimulatorAsItWas_data()
+{
+    QTest::addColumn<QJsonObject>("entry");
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    for (const QJsonValue &entry : entries)
+        QTest::newRow(qPrintable(entry[QLatin1String("simcode")].toString())) << entry.toObject();
+}
+
+void ShippedCatalogue::leavesEachSimulatorAsItWas()
+{
+    QFETCH(QJsonObject, entry);
+    const Sandbox sandbox;
+    const QString folder = sandbox.path(QStringLiteral("simulator"));
+    FlightSimScan scan(nullptr, entry);
+    writeFile(folder + u'/' + ownFile(scan.simcode), "somebody else's");
+    const auto before = treeOf(folder);
+
+    ScanController controller(nullptr, nullptr);
+    const QScopedPointer<ScannerView> window(controller.view);
+    auto *mapping = new FlightSimulatorMapping(&scan, folder);
+    QVERIFY2(controller.install(mapping, true, false), qPrintable(controller.m_errorMessage));
+    QVERIFY(mapping->isAddonInstalled());
+    QVERIFY(controller.uninstall(mapping, true, false));
+    QCOMPARE(treeOf(folder), before);
+}
+
+void ShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
+{
+    const Sandbox sandbox;
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    FlightSimScan scan(nullptr, entries.at(2).toObject());
+    QCOMPARE(scan.simcode, QStringLiteral("FSXSE"));
+    QVERIFY(scan.remove->deleteParent);
+
+    ScanController controller(nullptr, nullptr);
+    const QScopedPointer<ScannerView> window(controller.view);
+    auto *mapping = new FlightSimulatorMapping(&scan, sandbox.path(QStringLiteral("simulator")));
+    QVERIFY(controller.install(mapping, true, false));
+    const QString file = sandbox.dataRoot() + scan.config->path;
+    const QByteArray content = readFile(file);
+    QCOMPARE(content.count("<Launch.Addon>"), 1);
+    QVERIFY(content.contains("<Path>Modules\\QuillmontOrbwell.dll</Path>"));
+    QVERIFY(controller.uninstall(mapping, true, false));
+    QVERIFY(!readFile(file).contains("Orbwell"));
+}
+
+void ShippedCatalogue::listsTheFilesOfThePackage()
+{
+    const QString package = payloadFolder() + QStringLiteral("/MSFS/");
+    QStringList listed;
+    const QJsonDocument layout
+        = QJsonDocument::fromJson(readFile(package + QStringLiteral("layout.json")));
+    const QJsonArray content = layout[QLatin1String("content")].toArray();
+    for (const QJsonValue &file : content) {
+        const QString path = file[QLatin1String("path")].toString();
+        listed.append(path);
+        QCOMPARE(QJsonValue(QFileInfo(package + path).size()), file[QLatin1String("size")]);
+    }
+    // The simulator's own rule: the layout lists neither itself nor the manifest.
+    QCOMPARE(listed, QStringList({QStringLiteral("Modules/QuillmontOrbwell.wasm")}));
+    QVERIFY(
+        !QJsonDocument::fromJson(readFile(package + QStringLiteral("manifest.json"))).isEmpty());
+}
+
+QTEST_MAIN(ShippedCatalogue)
+#include "tst_ShippedCatalogue.moc"

@@ -1,0 +1,99 @@
+#ifndef TESTS_VIEWCONTROLLERS_WORKSHOP_H
+#define TESTS_VIEWCONTROLLERS_WORKSHOP_H
+
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/ScanController.h"
+#include "tests/support/BoxAnswerer.h"
+#include "tests/support/Files.h"
+#include "tests/support/LogCatcher.h"
+#include "tests/support/Sandbox.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <memory>
+
+namespace Tests {
+
+using Quillmont::Utility::Models::FlightSimScan;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::ViewControllers::ScanController;
+
+/// A controller with a home of its own, whose boxes are answered and whose log is caught, and
+/// what lies beside the executable: catalogue and payload, both gone afterwards. In JSON texts
+/// "$ROOT" stands for the sandbox's folder.
+class Workshop
+{
+public:
+    Workshop();
+    ~Workshop();
+    Workshop(const Workshop &) = delete;
+    Workshop &operator=(const Workshop &) = delete;
+
+    /// Made on the first call, so that a test can prepare what its constructor meets.
+    ScanController &controller();
+    void dropController();
+
+    /// @p relative inside the sandbox, inside the data root, and beside the executable.
+    QString path(const QByteArray &relative) const;
+    QString dataPath(const QByteArray &relative) const;
+    static QString beside(const QByteArray &relative);
+    /// Makes the folder and answers its path.
+    QString folder(const QByteArray &relative) const;
+
+    void writePayload(const QByteArray &relative, const QByteArray &content) const;
+    void writeCatalogue(const QByteArray &json) const;
+    /// Makes a simulator in a folder that the detection library reports as "XP12".
+    QString makeDetectedSimulator(const QByteArray &relative) const;
+
+    QByteArray expanded(const QByteArray &json) const;
+    FlightSimScan *entry(const QByteArray &json);
+    FlightSimulatorMapping *mapping(const QByteArray &json, const QString &path);
+
+    QString recordPath() const;
+    QJsonArray record() const;
+    void writeRecord(const QByteArray &json) const;
+
+    /// Everything in the sandbox but caches; the times in the names of backups read "TIME".
+    QMap<QString, QByteArray> disk() const;
+    /// The native paths of the backups in the sandbox.
+    QStringList backups() const;
+
+    /// The names and the folders that the window's rows show, from top to bottom.
+    QStringList rowNames();
+    QStringList rowPaths();
+    /// How many catalogue entries the controller has made so far.
+    int entryCount();
+
+    Sandbox sandbox;
+    LogCatcher log;
+    BoxAnswerer answerer;
+
+    /// What the boxes so far said, as box() puts it. One that is not an information box with one
+    /// Ok button and no parent, open under the ordinary pointer, is marked as odd.
+    QStringList boxes() const;
+    int countOfLine(const QString &line) const;
+    /// The toolkit's warnings so far, without those of the platform that shows windows nowhere.
+    QString warnings() const;
+
+private:
+    static void clearFolder();
+
+    std::unique_ptr<ScanController> m_controller;
+};
+
+/// A home for the settings, which keep the place that they had when they were first asked for.
+/// A test program that looks at them holds one from its start to its end.
+class SettingsHome : public Sandbox
+{
+public:
+    SettingsHome();
+};
+
+/// How Workshop::boxes() puts a box with this title and text.
+QString box(const QString &title, const QString &text);
+
+} // namespace Tests
+
+#endif

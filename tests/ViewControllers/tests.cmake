@@ -1,0 +1,22 @@
+add_library(orbwell-workshop STATIC
+  ViewControllers/Unprivileged.cpp
+  ViewControllers/Unprivileged.h
+  ViewControllers/Workshop.cpp
+  ViewControllers/Workshop.h)
+target_link_libraries(orbwell-workshop
+  PUBLIC orbwell-utility orbwell-test-support
+  PRIVATE orbwell-options)
+
+foreach(class
+    AutoInstallation
+    ConflictResolution
+    Detection
+    Installation
+    InstallationRecord
+    ScanController
+    ScanSession
+    TextFiles
+    Uninstallation)
+  orbwell_add_test(ViewControllers/${class})
+  target_link_libraries(tst_${class} PRIVATE orbwell-workshop)
+endforeach()

@@ -1,0 +1,211 @@
+#include "tests/ViewControllers/Workshop.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+using Tests::Workshop;
+using Tests::writeFile;
+
+namespace {
+
+const char *const simulator = R"({"name": "Sim A", "config": {"path": "Vendor\\dll.xml"}})";
+
+QString isEmptyLine(const QString &path)
+{
+    return QStringLiteral("The file '") + path
+        + QStringLiteral("' is empty. Quillmont Orbwell installer was not able to change your "
+                         "configuration.");
+}
+
+QString unableToWriteLine(const QString &path)
+{
+    return QStringLiteral("Unable to write configuration to file '") + path
+        + QStringLiteral("'. Please check if you have permission to that file.");
+}
+
+QString timeName(const QDateTime &time)
+{
+    return time.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+}
+
+} // namespace
+
+class TextFilesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+
+    void readsTheWholeTextAsItIs()
+    {
+        Workshop shop;
+        const QString file = shop.path("folder with blanks/Ümlaut %1.txt");
+        writeFile(file, "first\r\nsecond\n\tпривет 日本\r\n");
+        QCOMPARE(shop.controller().readFile(file),
+                 QStringLiteral(u"first\r\nsecond\n\tпривет 日本\r\n"));
+        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+    }
+
+    void knowsAByteOrderMark()
+    {
+        Workshop shop;
+        writeFile(shop.path("utf16"), QByteArray("\xff\xfe\x61\x00\x62\x00", 6));
+        QCOMPARE(shop.controller().readFile(shop.path("utf16")), QStringLiteral("ab"));
+    }
+
+    void readsAnEmptyFileWithoutAWord()
+    {
+        Workshop shop;
+        writeFile(shop.path("empty"), {});
+        shop.controller().m_errorMessage = QStringLiteral("before");
+        QCOMPARE(shop.controller().readFile(shop.path("empty")), QString());
+        QCOMPARE(shop.controller().m_errorMessage, QStringLiteral("before"));
+    }
+
+    void addsALineForAFileThatCannotBeOpened()
+    {
+        Workshop shop;
+        const QString missing = shop.path("missing %1/file");
+        const QString folder = shop.folder("a folder");
+        shop.controller().m_errorMessage = QStringLiteral("before");
+        const auto disk = shop.disk();
+        QCOMPARE(shop.controller().readFile(missing), QString());
+        QCOMPARE(shop.controller().readFile(folder), QString());
+        QCOMPARE(shop.controller().m_errorMessage,
+                 QStringLiteral("before") + isEmptyLine(missing) + isEmptyLine(folder));
+        QCOMPARE(shop.disk(), disk);
+    }
+
+    void savesMakingMissingFolders()
+    {
+        Workshop shop;
+        const QString file = shop.path("a/b c/d/file.txt");
+        shop.controller().saveFile(file, QStringLiteral(u"one\r\ntwo\nдва"));
+        QCOMPARE(Tests::readFile(file), QByteArray("one\r\ntwo\nдва"));
+        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+    }
+
+    void leavesNoTailOfALongerText()
+    {
+        Workshop shop;
+        writeFile(shop.path("file"), QByteArray(5000, 'x'));
+        shop.controller().saveFile(shop.path("file"), QStringLiteral("short"));
+        QCOMPARE(Tests::readFile(shop.path("file")), QByteArray("short"));
+        shop.controller().saveFile(shop.path("file"), QString());
+        QCOMPARE(Tests::readFile(shop.path("file")), QByteArray());
+    }
+
+    void addsALineForAFileThatCannotBeWritten()
+    {
+        Workshop shop;
+        writeFile(shop.path("plain"), "a file");
+        const QString below = shop.path("plain/below/file %1");
+        const QString folder = shop.folder("a folder");
+        shop.controller().m_errorMessage = QStringLiteral("before");
+        const auto disk = shop.disk();
+        shop.controller().saveFile(below, QStringLiteral("text"));
+        shop.controller().saveFile(folder, QStringLiteral("text"));
+        QCOMPARE(shop.controller().m_errorMessage,
+                 QStringLiteral("before") + unableToWriteLine(below) + unableToWriteLine(folder));
+        QCOMPARE(shop.disk(), disk);
+    }
+
+    void backsUpBesideTheFileWithTheLocalTime_data()
+    {
+        QTest::addColumn<bool>("install");
+        QTest::addColumn<QString>("occasion");
+        QTest::newRow("install") << true << "installation";
+        QTest::newRow("uninstall") << false << "uninstallation";
+    }
+
+    void backsUpBesideTheFileWithTheLocalTime()
+    {
+        QFETCH(bool, install);
+        QFETCH(QString, occasion);
+        Workshop shop;
+        // Far from Greenwich, where local time cannot be mistaken.
+        shop.sandbox.setVariable("TZ", "XYZ-11:30");
+        const QString file = shop.dataPath("Vendor/dll.xml");
+        writeFile(file, "not XML, \xff\r\n");
+        const QString before = timeName(QDateTime::currentDateTime());
+        changeConfiguration(shop, install);
+        const QString after = timeName(QDateTime::currentDateTime());
+
+        QCOMPARE(shop.backups().size(), 1);
+        const QString backup = shop.backups().constFirst();
+        const QString start = file + QStringLiteral("_quillmont_orbwell_before_") + occasion + u'_';
+        QVERIFY2(backup.startsWith(start), qPrintable(backup));
+        QVERIFY(backup.endsWith(QLatin1String(".bak")));
+        const QString time = backup.mid(start.size()).chopped(4);
+        QVERIFY2(before <= time && time <= after, qPrintable(time));
+        QCOMPARE(Tests::readFile(backup), QByteArray("not XML, \xff\r\n"));
+        QCOMPARE(Tests::readFile(file), QByteArray("not XML, \xff\r\n"));
+        QCOMPARE(shop.countOfLine(QStringLiteral("file backups to '") + backup
+                                  + QStringLiteral("'. Result: succeed")),
+                 1);
+    }
+
+    void neverOverwritesABackupAndGoesOn_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
+
+    void neverOverwritesABackupAndGoesOn()
+    {
+        QFETCH(bool, install);
+        QFETCH(QString, occasion);
+        Workshop shop;
+        const QString file = shop.dataPath("Vendor/dll.xml");
+        writeFile(file, "<a></a>");
+        const QDateTime now = QDateTime::currentDateTime();
+        for (int second = 0; second < 30; ++second) {
+            writeFile(file + QStringLiteral("_quillmont_orbwell_before_") + occasion + u'_'
+                          + timeName(now.addSecs(second)) + QStringLiteral(".bak"),
+                      "earlier");
+        }
+        const int helpers = countOfHelpers(shop);
+        shop.folder("A");
+        const auto disk = shop.disk();
+        changeConfiguration(shop, install);
+        QCOMPARE(shop.disk(), disk);
+        QCOMPARE(shop.backups().size(), 30);
+        const auto lines = shop.log.debugLines().filter(QStringLiteral("file backups to '"));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.constFirst().endsWith(QLatin1String("'. Result: error")));
+        QCOMPARE(countOfHelpers(shop), helpers + 1);
+        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+        QVERIFY(shop.boxes().isEmpty());
+    }
+
+    void doesNotBackUpWhatIsNotThere_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
+
+    void doesNotBackUpWhatIsNotThere()
+    {
+        QFETCH(bool, install);
+        Workshop shop;
+        changeConfiguration(shop, install);
+        QVERIFY(shop.backups().isEmpty());
+        QVERIFY(!shop.log.hasDebugLineWith(QStringLiteral("file backups")));
+    }
+
+private:
+    static void changeConfiguration(Workshop &shop, bool install)
+    {
+        auto *mapping = shop.mapping(simulator, shop.folder("A"));
+        if (install)
+            shop.controller().installToFlightSim(mapping);
+        else
+            shop.controller().uninstallFromFlightSim(mapping);
+    }
+
+    static int countOfHelpers(Workshop &shop)
+    {
+        int count = 0;
+        for (const auto *child : shop.controller().children())
+            count += child->inherits("Quillmont::Library::Helpers::XmlHelper") ? 1 : 0;
+        return count;
+    }
+};
+
+QTEST_MAIN(TextFilesTest)
+#include "tst_TextFiles.moc"

@@ -1,0 +1,608 @@
+#include "tests/ViewControllers/Unprivileged.h"
+#include "tests/ViewControllers/Workshop.h"
+
+#include "Controllers/ConfigurationController.h"
+#include "Library/Helpers/XmlHelper.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using Quillmont::Library::Helpers::XmlHelper;
+using Quillmont::Utility::Controllers::ConfigurationController;
+using Tests::box;
+using Tests::readFile;
+using Tests::SettingsHome;
+using Tests::treeOf;
+using Tests::Unprivileged;
+using Tests::Workshop;
+using Tests::writeFile;
+
+namespace {
+
+const char *const plainSimulator = R"({"name": "Sim A", "type": 1, "files": [
+    {"source": "A/one.dll", "destination": "Modules\\one.dll"},
+    {"source": "A/two.dat", "destination": "data/deep/two.dat"}]})";
+
+const char *const configuredSimulator = R"({"name": "Sim A", "files": [
+    {"source": "A/one.dll", "destination": "a/one.dll"},
+    {"source": "A/two.dat", "destination": "b/two.dat"}], "config": {"path": "Vendor/dll.xml"}})";
+
+QString successBox(const QString &name)
+{
+    return box(QStringLiteral("Uninstall"),
+               QStringLiteral("Quillmont Orbwell for ") + name
+                   + QStringLiteral(" has been uninstalled successfully."));
+}
+
+QString failureBox(const QString &name, const QString &lines)
+{
+    return box(QStringLiteral("Uninstall"),
+               QStringLiteral("Quillmont Orbwell was not able to uninstall your Orbwell plugin "
+                              "from ")
+                   + name
+                   + QStringLiteral(".\r\n\r\nPlease see the list below for details:\r\n\r\n")
+                   + lines);
+}
+
+QString unableToRemoveLine(const QString &target, const QString &name)
+{
+    return QStringLiteral("Unable to remove file '") + target + QStringLiteral("' from ") + name
+        + QStringLiteral(". Please remove the file manually.\r\n");
+}
+
+void writePlugin(const Workshop &shop)
+{
+    writeFile(shop.path("A/Modules/one.dll"), "one");
+    writeFile(shop.path("A/data/deep/two.dat"), "two");
+    writeFile(shop.path("A/sim.exe"), "the simulator");
+}
+
+} // namespace
+
+class UninstallationTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+
+    void withoutAFolderNothingHappens()
+    {
+        Workshop shop;
+        shop.writeCatalogue("[{}]");
+        auto *mapping = shop.mapping(configuredSimulator, QString());
+        shop.controller().m_errorMessage = QStringLiteral("before");
+        const auto disk = shop.disk();
+        QVERIFY(!shop.controller().uninstall(mapping, false, true));
+        QCOMPARE(shop.controller().m_errorMessage, QStringLiteral("before"));
+        QVERIFY(shop.boxes().isEmpty());
+        QVERIFY(shop.log.debugLines().isEmpty());
+        QCOMPARE(shop.entryCount(), 1);
+        QCOMPARE(shop.disk(), disk);
+    }
+
+    void removesTheFilesAndTheFoldersThatTheyLeaveEmpty()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
+        mapping->scan->name = QStringLiteral("Sim %1");
+        QVERIFY(shop.controller().uninstall(mapping, false, false));
+        // Never the folders above the one that held the file.
+        QCOMPARE(treeOf(shop.path("A")).keys(),
+                 QStringList({QStringLiteral("data/"), QStringLiteral("sim.exe")}));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim %1"))));
+    }
+
+    void keepsAFolderThatHoldsSomethingVisible_data()
+    {
+        QTest::addColumn<QString>("other");
+        QTest::newRow("file") << "A/Modules/other.dll";
+        QTest::newRow("folder") << "A/Modules/folder/";
+        QTest::newRow("folder with a hidden file") << "A/Modules/folder/.hidden";
+    }
+
+    void keepsAFolderThatHoldsSomethingVisible()
+    {
+        QFETCH(QString, other);
+        Workshop shop;
+        writePlugin(shop);
+        if (other.endsWith(u'/'))
+            shop.folder(other.toUtf8());
+        else
+            writeFile(shop.path(other.toUtf8()), "foreign");
+        writeFile(shop.path("A/Modules/.hidden"), "foreign");
+        auto disk = shop.disk();
+        disk.remove(QStringLiteral("A/Modules/one.dll"));
+        disk.remove(QStringLiteral("A/data/deep/two.dat"));
+        disk.remove(QStringLiteral("A/data/deep/"));
+        QVERIFY(
+            shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
+        const auto after = shop.disk();
+        for (auto it = disk.cbegin(); it != disk.cend(); ++it)
+            QCOMPARE(after.value(it.key(), "gone"), it.value());
+        QVERIFY(!after.contains(QStringLiteral("A/Modules/one.dll")));
+        QVERIFY(!after.contains(QStringLiteral("A/data/deep/")));
+    }
+
+    void aFolderWithHiddenFilesOnlyGoesWithThem()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        writeFile(shop.path("A/Modules/.DS_Store"), "hidden");
+        writeFile(shop.path("A/Modules/.hidden/inside"), "hidden");
+        QVERIFY(
+            shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
+        QVERIFY(!QFile::exists(shop.path("A/Modules")));
+    }
+
+    void aMissingFileIsNoErrorAndItsEmptyFolderGoes()
+    {
+        Workshop shop;
+        shop.folder("A/Modules");
+        writeFile(shop.path("A/data/deep/other"), "foreign");
+        QVERIFY(shop.controller().uninstall(
+            shop.mapping(plainSimulator, shop.path("A")), false, false));
+        QCOMPARE(treeOf(shop.path("A")).keys().join(u' '),
+                 QStringLiteral("data/ data/deep/ data/deep/other"));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
+    }
+
+    void aFileInTheSimulatorsFolderTakesThatFolderAlong()
+    {
+        Workshop shop;
+        writeFile(shop.path("sims/A/one.dll"), "one");
+        auto *mapping = shop.mapping(R"({"type": 1, "files": [{"destination": "one.dll"}]})",
+                                     shop.path("sims/A"));
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        QVERIFY(QFile::exists(shop.path("sims")));
+        QVERIFY(!QFile::exists(shop.path("sims/A")));
+    }
+
+    void aSimulatorThatIsGoneIsUninstalled()
+    {
+        Workshop shop;
+        QVERIFY(shop.controller().uninstall(
+            shop.mapping(plainSimulator, shop.path("gone")), false, false));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
+        QVERIFY(!QFile::exists(shop.path("gone")));
+    }
+
+    void aSimulatorFolderThatIsAFileIsLeftAlone()
+    {
+        Workshop shop;
+        writeFile(shop.path("A"), "a file");
+        QFile::link(shop.path("gone"), shop.path("B"));
+        shop.writeRecord("[\n]\n");
+        auto *file = shop.mapping(plainSimulator, shop.path("A"));
+        auto *link = shop.mapping(plainSimulator, shop.path("B"));
+        const auto disk = shop.disk();
+        QVERIFY(shop.controller().uninstall(file, false, false));
+        QVERIFY(shop.controller().uninstall(link, false, false));
+        QCOMPARE(shop.disk(), disk);
+        QCOMPARE(shop.boxes().size(), 2);
+    }
+
+    void namesEveryFileThatItCouldNotRemoveSilentOrNot_data()
+    {
+        QTest::addColumn<bool>("silent");
+        QTest::newRow("silent") << true;
+        QTest::newRow("not silent") << false;
+    }
+
+    void namesEveryFileThatItCouldNotRemoveSilentOrNot()
+    {
+        QFETCH(bool, silent);
+        Workshop shop;
+        writeFile(shop.path("A %1/Modules/one.dll/inside"), "precious");
+        writeFile(shop.path("A %1/data/deep/two.dat/inside"), "precious");
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A %1") + u'/');
+        mapping->scan->name = QStringLiteral("Sim %1 %0");
+        const auto sim = treeOf(shop.path("A %1"));
+        QVERIFY(!shop.controller().uninstall(mapping, silent, false));
+        QCOMPARE(
+            shop.boxes(),
+            QStringList(failureBox(
+                QStringLiteral("Sim %1 %0"),
+                unableToRemoveLine(shop.path("A %1/Modules/one.dll"), QStringLiteral("Sim %1 %0"))
+                    + unableToRemoveLine(shop.path("A %1/data/deep/two.dat"),
+                                         QStringLiteral("Sim %1 %0")))));
+        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+        QCOMPARE(treeOf(shop.path("A %1")), sim);
+    }
+
+    void oneFailureDoesNotStopTheOthers()
+    {
+        Workshop shop;
+        writeFile(shop.path("A/a/one.dll/inside"), "precious");
+        writeFile(shop.path("A/b/two.dat"), "two");
+        shop.writeRecord(R"([{"name": "Sim A"}])");
+        QVERIFY(!shop.controller().uninstall(
+            shop.mapping(configuredSimulator, shop.path("A")), true, false));
+        QVERIFY(!QFile::exists(shop.path("A/b")));
+        QCOMPARE(shop.controller().findChildren<XmlHelper *>().size(), 2);
+        QVERIFY(shop.record().isEmpty());
+    }
+
+    void aFileInTheFoldersPlaceIsLeftAlone()
+    {
+        Workshop shop;
+        writeFile(shop.path("A/Modules"), "precious");
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        QCOMPARE(readFile(shop.path("A/Modules")), QByteArray("precious"));
+    }
+
+    void aLinkInTheFoldersPlaceIsNotFollowedToItsParent()
+    {
+        Workshop shop;
+        writeFile(shop.path("elsewhere/other"), "precious");
+        QFile::link(shop.path("elsewhere"), shop.folder("A") + QStringLiteral("/Modules"));
+        QVERIFY(
+            shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
+        QCOMPARE(readFile(shop.path("elsewhere/other")), QByteArray("precious"));
+        QVERIFY(QFile::exists(shop.path("A/Modules")));
+    }
+
+    void aFolderThatIsNotWritableIsNamed()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        auto *mapping = shop.mapping(R"({"name": "Sim A", "type": 1, "files": [
+            {"destination": "Modules/one.dll"}]})",
+                                     shop.path("A"));
+        shop.controller();
+        const Unprivileged user(shop.sandbox.root());
+        QFile::setPermissions(shop.path("A/Modules"), QFile::ReadOwner | QFile::ExeOwner);
+        QVERIFY(!shop.controller().uninstall(mapping, true, false));
+        QFile::setPermissions(shop.path("A/Modules"),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(shop.boxes(),
+                 QStringList(failureBox(
+                     QStringLiteral("Sim A"),
+                     unableToRemoveLine(shop.path("A/Modules/one.dll"), QStringLiteral("Sim A")))));
+        QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
+    }
+
+    void reportsLinesOfAnEarlierSilentOperation()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
+        shop.controller().m_errorMessage = QStringLiteral("left behind\r\n");
+        QVERIFY(!shop.controller().uninstall(mapping, true, false));
+        QCOMPARE(
+            shop.boxes(),
+            QStringList(failureBox(QStringLiteral("Sim A"), QStringLiteral("left behind\r\n"))));
+        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+        QVERIFY(!QFile::exists(shop.path("A/Modules")));
+    }
+
+    void saysNothingOfASilentSuccess()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        QVERIFY(
+            shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
+        QVERIFY(shop.boxes().isEmpty());
+    }
+
+    void takesItsRecordOut()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        shop.writeRecord(R"([{"name": "Other"}, {"name": "Sim A"}])");
+        QVERIFY(
+            shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
+        QCOMPARE(shop.record().size(), 1);
+        QCOMPARE(shop.record().first().toObject().value(QStringLiteral("name")).toString(),
+                 QStringLiteral("Other"));
+    }
+
+    void aRecordThatCannotBeReadIsAFailure()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        QVERIFY(QDir().mkpath(shop.recordPath()));
+        QVERIFY(!shop.controller().uninstall(
+            shop.mapping(plainSimulator, shop.path("A")), true, false));
+        QCOMPARE(shop.boxes().size(), 1);
+        QVERIFY(shop.boxes().constFirst().contains(QStringLiteral(".mapping' is empty.")));
+    }
+
+    void takesTheEntryOutOfTheConfigurationAfterEachFile()
+    {
+        Workshop shop;
+        writeFile(shop.path("A/a/one.dll"), "one");
+        writeFile(shop.path("A/b/two.dat"), "two");
+        writeFile(shop.dataPath("Vendor/dll.xml"), "<a></a>");
+        QStringList seen;
+        shop.log.atEachDebugLine([&](const QString &line) {
+            if (line.startsWith(QLatin1String("file backups")))
+                seen.append(treeOf(shop.path("A")).keys().join(u' '));
+        });
+        QVERIFY(shop.controller().uninstall(
+            shop.mapping(configuredSimulator, shop.path("A")), true, false));
+        QCOMPARE(seen, QStringList({QStringLiteral("b/ b/two.dat"), QString()}));
+        QCOMPARE(shop.controller().findChildren<XmlHelper *>().size(), 2);
+        QVERIFY(shop.backups().constFirst().contains(
+            QStringLiteral("dll.xml_quillmont_orbwell_before_uninstallation_")));
+    }
+
+    void removesTheEntryFromTheConfiguration()
+    {
+        Workshop shop;
+        const QByteArray before = "<SimBase.Document>\r\n  <Launch.Addon>\r\n    <Name>Other</Name>"
+                                  "\r\n  </Launch.Addon>\r\n  <Launch.Addon>\r\n    <Name>Our entry"
+                                  "</Name>\r\n  </Launch.Addon>\r\n</SimBase.Document>\r\n";
+        writeFile(shop.dataPath("Vendor/dll.xml"), before);
+        // A "root" that keeps the entry from being added does not keep it from being removed.
+        auto *mapping = shop.mapping(R"({"name": "Sim A", "root": "1",
+            "files": [{"destination": "one.dll"}], "config": {
+            "path": "Vendor/dll.xml", "parent": "Launch.Addon",
+            "values": [{"key": "Name", "value": "Our entry"}]}})",
+                                     shop.folder("A"));
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        const QByteArray after = readFile(shop.dataPath("Vendor/dll.xml"));
+        QVERIFY(after.contains("<Name>Other</Name>"));
+        QVERIFY(!after.contains("Our entry"));
+        QCOMPARE(readFile(shop.backups().constFirst()), before);
+    }
+
+    void anotherFamilyHasNoConfigurationToEdit()
+    {
+        Workshop shop;
+        writeFile(shop.dataPath("Vendor/dll.xml"), "<a></a>");
+        auto *mapping = shop.mapping(configuredSimulator, shop.folder("A"));
+        for (const int type : {1, -1}) {
+            mapping->scan->type = type;
+            QVERIFY(shop.controller().uninstall(mapping, true, false));
+        }
+        QVERIFY(shop.controller().findChildren<XmlHelper *>().isEmpty());
+        QVERIFY(shop.backups().isEmpty());
+    }
+
+    void withoutAConfigurationEntryThereIsNothingToEdit()
+    {
+        Workshop shop;
+        auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
+        mapping->scan->type = 0;
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        QVERIFY(shop.controller().findChildren<XmlHelper *>().isEmpty());
+    }
+
+    void toleratesAMissingConfigurationAndMakesNone()
+    {
+        Workshop shop;
+        writeFile(shop.path("home/extra"), "ours");
+        auto *mapping = shop.mapping(R"({"files": [{"destination": "a/one.dll"}], "config": {
+            "path": "Vendor/dll.xml", "remove": {"files": [{"root": "8", "path": "/extra"}]}}})",
+                                     shop.folder("A"));
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        QVERIFY(!QFile::exists(shop.dataPath("Vendor")));
+        QVERIFY(!QFile::exists(shop.path("home/extra")));
+        QCOMPARE(shop.controller().findChildren<XmlHelper *>().size(), 1);
+    }
+
+    void aConfigurationThatCannotBeEditedIsNoError_data()
+    {
+        QTest::addColumn<QString>("obstacle");
+        QTest::newRow("not XML") << "<a><b></a>&";
+        QTest::newRow("empty") << "";
+        QTest::newRow("folder") << "folder";
+    }
+
+    void aConfigurationThatCannotBeEditedIsNoError()
+    {
+        QFETCH(QString, obstacle);
+        Workshop shop;
+        const QString file = shop.dataPath("Vendor/dll.xml");
+        const bool isFolder = obstacle == QLatin1String("folder");
+        writeFile(isFolder ? file + QStringLiteral("/inside") : file, obstacle.toUtf8());
+        auto *mapping = shop.mapping(R"({"name": "Sim A", "files": [{"destination": "one.dll"}],
+            "config": {"path": "Vendor/dll.xml", "parent": "Launch.Addon",
+            "values": [{"key": "Name", "value": "Our entry"}]}})",
+                                     shop.folder("A"));
+        QVERIFY(shop.controller().uninstall(mapping, false, false));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
+        QCOMPARE(readFile(isFolder ? file + QStringLiteral("/inside") : file), obstacle.toUtf8());
+        QCOMPARE(shop.backups().size(), isFolder ? 0 : 1);
+    }
+
+    void aReadOnlyConfigurationIsNoError()
+    {
+        Workshop shop;
+        const QString file = shop.dataPath("Vendor/dll.xml");
+        writeFile(file, "<a></a>");
+        auto *mapping = shop.mapping(configuredSimulator, shop.folder("A"));
+        const Unprivileged user(shop.sandbox.root());
+        QFile::setPermissions(file, QFile::ReadOwner);
+        QVERIFY(shop.controller().uninstall(mapping, false, false));
+        QCOMPARE(readFile(file), QByteArray("<a></a>"));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
+    }
+
+    void deletesTheExtraFiles_data()
+    {
+        QTest::addColumn<QByteArray>("root");
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QString>("file");
+        const auto row
+            = [](const char *name, const char *root, const char *path, const QString &file) {
+                  QTest::newRow(name) << QByteArray(root) << QByteArray(path) << file;
+              };
+        const Workshop shop;
+        const QString data = shop.sandbox.dataRoot().mid(shop.sandbox.root().size() + 1);
+        row("joined by a backslash", "-1", "x.cfg", QStringLiteral("A\\x.cfg"));
+        row("backslashes stay", "-1", "s\\\\x.cfg", QStringLiteral("A\\s\\x.cfg"));
+        row("data root", "17", "V/x.cfg", data + QStringLiteral("V/x.cfg"));
+        row("home", "8", "/x.cfg", QStringLiteral("home/x.cfg"));
+        row("home, glued", "8", "-x.cfg", QStringLiteral("home-x.cfg"));
+        row("desktop", "0", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
+        row("no number", "abc", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
+        row("no root", "", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
+    }
+
+    void deletesTheExtraFiles()
+    {
+        QFETCH(QByteArray, root);
+        QFETCH(QByteArray, path);
+        QFETCH(QString, file);
+        Workshop shop;
+        writeFile(shop.path(file.toUtf8()), "ours");
+        writeFile(shop.path("A/x.cfg"), "foreign");
+        auto *mapping = shop.mapping(withExtraFile(root, path), shop.path("A"));
+        auto disk = shop.disk();
+        disk.remove(file);
+        shop.controller().uninstallFromFlightSim(mapping);
+        QCOMPARE(shop.disk(), disk);
+    }
+
+    void aRootThatIsNotExactlyMinusOneIsANumber()
+    {
+        Workshop shop;
+        writeFile(shop.path("A\\x.cfg"), "foreign");
+        const auto disk = shop.disk().keys();
+        for (const char *root : {" -1", "-1 ", "-01", "99"}) {
+            shop.controller().uninstallFromFlightSim(
+                shop.mapping(withExtraFile(root, "x.cfg"), shop.path("A")));
+        }
+        QVERIFY(disk.contains(QStringLiteral("A\\x.cfg")));
+        QCOMPARE(readFile(shop.path("A\\x.cfg")), QByteArray("foreign"));
+    }
+
+    void theRecordsFolderTakesThePlaceOfTheMappings()
+    {
+        Workshop shop;
+        writeFile(shop.path("A\\x.cfg"), "foreign");
+        writeFile(shop.path("B\\x.cfg"), "ours");
+        auto *mapping = shop.mapping(withExtraFile("-1", "x.cfg"), shop.path("A"));
+        mapping->note = shop.path("B");
+        shop.controller().uninstallFromFlightSim(mapping);
+        QVERIFY(QFile::exists(shop.path("A\\x.cfg")));
+        QVERIFY(!QFile::exists(shop.path("B\\x.cfg")));
+    }
+
+    void deletesAllExtraFilesThatItCan()
+    {
+        Workshop shop;
+        writeFile(shop.path("home/folder/inside"), "precious");
+        writeFile(shop.path("home/two"), "ours");
+        auto *mapping = shop.mapping(R"({"name": "Sim A", "files": [{"destination": "one.dll"}],
+            "config": {"path": "dll.xml", "remove": {"files": [
+            {"root": "8", "path": "/missing"}, {"root": "8", "path": "/folder"}, 5,
+            {"root": "8", "path": "/two"}]}}})",
+                                     shop.folder("A"));
+        QVERIFY(shop.controller().uninstall(mapping, false, false));
+        QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
+        QCOMPARE(readFile(shop.path("home/folder/inside")), QByteArray("precious"));
+        QVERIFY(!QFile::exists(shop.path("home/two")));
+    }
+
+    void scansAgainBeforeItTells_data()
+    {
+        QTest::addColumn<bool>("removable");
+        QTest::newRow("success") << true;
+        QTest::newRow("failure") << false;
+    }
+
+    void scansAgainBeforeItTells()
+    {
+        QFETCH(bool, removable);
+        Workshop shop;
+        writeFile(shop.path(removable ? "A/Modules/one.dll" : "A/Modules/one.dll/inside"), "one");
+        shop.writeRecord(R"([{"name": "Sim A"}])");
+        shop.writeCatalogue(R"([{"name": "Row", "location": 1, "path": "$ROOT"}])");
+        const QString chosen = shop.folder("chosen");
+        auto *settings = ConfigurationController::instance();
+        settings->saveSettings(QStringLiteral("flightsim/Row"), chosen);
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
+        QStringList rows;
+        QString lines;
+        shop.answerer.whileOpen([&] {
+            rows = shop.rowPaths();
+            lines = shop.controller().m_errorMessage;
+        });
+        int recorded = -1;
+        shop.log.atEachDebugLine([&](const QString &line) {
+            if (line == QLatin1String("Scanning folders..."))
+                recorded = shop.record().size();
+        });
+        QCOMPARE(shop.controller().uninstall(mapping, false, true), removable);
+        // A folder that the user picked stays picked.
+        QCOMPARE(rows, QStringList(chosen));
+        QCOMPARE(recorded, 0);
+        QCOMPARE(lines.isEmpty(), removable);
+        QCOMPARE(shop.entryCount(), 2);
+        QCOMPARE(shop.boxes().size(), 1);
+        QVERIFY(shop.controller().mappings.isEmpty());
+    }
+
+    void aSilentScanInstallsAgainIntoWhatItFinds()
+    {
+        Workshop shop;
+        writeFile(shop.path("A/Modules/one.dll"), "old");
+        writeFile(shop.path("A/sim.exe"), "the simulator");
+        shop.writePayload("A/one.dll", "new");
+        const QByteArray entry = R"({"name": "Sim A", "type": 1, "location": 1, "path": "$ROOT/A",
+            "files": [{"source": "A/one.dll", "destination": "Modules/one.dll"}]})";
+        shop.writeCatalogue("[" + entry + "]");
+        QVERIFY(shop.controller().uninstall(shop.mapping(entry, shop.path("A")), true, true));
+        QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("new"));
+        QCOMPARE(shop.record().size(), 1);
+        QCOMPARE(shop.controller().mappings.size(), 1);
+        QVERIFY(shop.rowNames().isEmpty());
+        QVERIFY(shop.boxes().isEmpty());
+    }
+
+    void scansOnlyWhenAsked()
+    {
+        Workshop shop;
+        shop.writeCatalogue("[{}]");
+        auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
+        QVERIFY(shop.controller().uninstall(mapping, false, false));
+        QCOMPARE(shop.entryCount(), 1);
+        QVERIFY(shop.rowNames().isEmpty());
+    }
+
+    void showsTheBusyPointerWhileItWorks()
+    {
+        Workshop shop;
+        writeFile(shop.dataPath("Vendor/dll.xml"), "<a></a>");
+        shop.writeCatalogue(R"([{"location": 1}])");
+        auto *mapping = shop.mapping(configuredSimulator, shop.folder("A"));
+        int lines = 0;
+        int busy = 0;
+        shop.log.atEachDebugLine([&](const QString &) {
+            ++lines;
+            const auto *pointer = QApplication::overrideCursor();
+            busy += pointer && pointer->shape() == Qt::WaitCursor ? 1 : 0;
+        });
+        shop.controller().m_errorMessage = QStringLiteral("a line");
+        QVERIFY(!shop.controller().uninstall(mapping, false, true));
+        QVERIFY(shop.controller().uninstall(mapping, false, true));
+        QVERIFY(lines > 0);
+        QCOMPARE(busy, lines);
+        QVERIFY(!shop.answerer.boxes().constFirst().busyPointer);
+        QVERIFY(!shop.answerer.boxes().constLast().busyPointer);
+        QVERIFY(!QApplication::overrideCursor());
+        mapping->path.clear();
+        QVERIFY(!shop.controller().uninstall(mapping, false, true));
+        QVERIFY(!QApplication::overrideCursor());
+    }
+
+private:
+    SettingsHome m_settingsHome;
+
+    static QByteArray withExtraFile(const QByteArray &root, const QByteArray &path)
+    {
+        return QByteArray(R"({"config": {"path": "dll.xml", "remove": {"files": [
+            {"root": "$root", "path": "$path"}]}}})")
+            .replace("$root", root)
+            .replace("$path", path);
+    }
+};
+
+QTEST_MAIN(UninstallationTest)
+#include "tst_Uninstallation.moc"
