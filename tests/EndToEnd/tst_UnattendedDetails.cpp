@@ -25,6 +25,8 @@ private slots:
     void installsTheLaterOfTwoEntriesFirst();
     void showsAFailedCopyBeforeTheNextInstallation();
     void tellsOthersWhereTheProgramIs();
+    void looksAtTheComputer_data();
+    void looksAtTheComputer();
 
 private:
     const QString m_det = QStringLiteral("Det");
@@ -244,6 +246,29 @@ void UnattendedDetails::tellsOthersWhereTheProgramIs()
     m_computer->finish(&expected, {});
     put(&expected, m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping")), "");
     QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+void UnattendedDetails::looksAtTheComputer_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("times");
+    QTest::newRow("once to install") << quietInstallation() << 1;
+    QTest::newRow("and after each removal") << QStringList(QStringLiteral("--UNINSTALL")) << 3;
+    QTest::newRow("and each repair") << QStringList(QStringLiteral("--REPAIR")) << 5;
+}
+
+// Two simulators lack the plugin.
+void UnattendedDetails::looksAtTheComputer()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, times);
+    const QString other = QStringLiteral("Other");
+    m_computer->addSimulator(m_det);
+    m_computer->addSimulator(other);
+    m_computer->setCatalogue({m_computer->entry(m_det, 1), m_computer->entry(other, 1)});
+    m_computer->run(arguments);
+    const QByteArray line = "folder: " + m_computer->folder(m_det).toUtf8() + '\n';
+    QCOMPARE(m_computer->program().standardError().count(line), times);
 }
 
 QTEST_GUILESS_MAIN(UnattendedDetails)

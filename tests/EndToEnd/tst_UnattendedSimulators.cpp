@@ -18,6 +18,8 @@ private slots:
     void bringsBackALostFile();
     void leavesWhatIsCompleteAlone();
     void knowsAFolderByTheRecordAlone();
+    void findsAFolderByDetection_data();
+    void findsAFolderByDetection();
     void givesAFolderToOneOfTwoEntries_data();
     void givesAFolderToOneOfTwoEntries();
     void keepsTheConfigurationsOfTwoFoldersApart_data();
@@ -145,6 +147,39 @@ void UnattendedSimulators::knowsAFolderByTheRecordAlone()
     }
     QCOMPARE(m_computer->run(one("--REPAIR")), 0);
     QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+void UnattendedSimulators::findsAFolderByDetection_data()
+{
+    bringsBackALostFile_data();
+}
+
+// It comes before those that detection does not know.
+void UnattendedSimulators::findsAFolderByDetection()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, status);
+    const QString detected = QStringLiteral("Detected");
+    const QString other = QStringLiteral("Other");
+    QJsonObject entry = m_computer->hiddenEntry(detected, 1);
+    entry.insert(QStringLiteral("simcode"), QStringLiteral("XP12"));
+    m_computer->setCatalogue({entry, m_computer->entry(other, 1)});
+    m_computer->addSimulator(other);
+    m_computer->write(QStringLiteral("sims/Detected/X-Plane-x86_64"), "program");
+    m_computer->write(QStringLiteral("sims/Detected/Resources/plugins/other.txt"), "other");
+    for (const char *place : {".x-plane", "Library/Preferences"})
+        m_computer->write(
+            QStringLiteral("home/%1/x-plane_install_12.txt").arg(QLatin1String(place)),
+            m_computer->folder(detected).toUtf8() + "/\n");
+    Disk expected = m_computer->disk();
+
+    QCOMPARE(m_computer->run(arguments), status);
+    for (const QJsonObject &installed : {entry, m_computer->entry(other, 1)})
+        m_computer->putPlugin(&expected, installed);
+    m_computer->finish(
+        &expected,
+        {m_computer->recordFor(entry), m_computer->recordFor(m_computer->entry(other, 1))});
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
