@@ -72,7 +72,7 @@ QString XmlBlank::lineEndBefore(const QString &text, int place)
 
 QString XmlBlank::indent(const QString &line)
 {
-    const auto end = std::find_if_not(line.cbegin(), line.cend(), isLineEnd);
+    const auto *const end = std::find_if_not(line.cbegin(), line.cend(), isLineEnd);
     return line.mid(static_cast<int>(end - line.cbegin()));
 }
 

@@ -8,9 +8,10 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-XmlElement opened(const QXmlStreamReader &reader)
+template <typename Element>
+Element opened(const QXmlStreamReader &reader)
 {
-    XmlElement element;
+    Element element;
     element.name = reader.qualifiedName().toString();
     element.contentBegin = static_cast<int>(reader.characterOffset());
     return element;
@@ -24,7 +25,7 @@ XmlDocument::XmlDocument(const QString &text, const Filter &isWanted)
     read(isWanted);
     if (!m_problem.isEmpty())
         return;
-    locate(&m_root);
+    locateAll();
     if (!m_root.hasPlace)
         m_problem = problemAt(0, QStringLiteral("The root element is not where it should be."));
 }
@@ -77,11 +78,11 @@ void XmlDocument::begin(const QXmlStreamReader &reader)
 {
     ++m_depth;
     if (m_depth == 1)
-        m_root = opened(reader);
+        m_root = opened<XmlElement>(reader);
     else if (m_depth == 2)
-        m_entry = opened(reader);
+        m_entry = opened<XmlEntry>(reader);
     else if (m_depth == 3)
-        m_child = opened(reader);
+        m_child = opened<XmlElement>(reader);
     else
         m_child.isPlain = false;
 }
@@ -98,11 +99,21 @@ void XmlDocument::end(const QXmlStreamReader &reader, const Filter &isWanted)
         const int firstChild = isParent ? m_entry.children.constFirst().contentBegin : -1;
         m_outlines.append({m_entry.contentBegin, firstChild, place});
         if (isWanted(m_entry))
-            m_root.children.append(std::move(m_entry));
+            m_entries.append(std::move(m_entry));
     } else if (m_depth == 1) {
         m_root.end = place;
     }
     --m_depth;
+}
+
+void XmlDocument::locateAll()
+{
+    locate(&m_root);
+    for (XmlEntry &entry : m_entries) {
+        locate(&entry);
+        for (XmlElement &child : entry.children)
+            locate(&child);
+    }
 }
 
 void XmlDocument::locate(XmlElement *element) const
@@ -112,8 +123,6 @@ void XmlDocument::locate(XmlElement *element) const
     element->hasPlace = isTagAt(element->begin, u'<' + element->name)
         && (element->isSelfClosed()
             || isTagAt(element->contentEnd, QStringLiteral("</") + element->name));
-    for (XmlElement &child : element->children)
-        locate(&child);
 }
 
 bool XmlDocument::isTagAt(int place, const QString &tag) const

@@ -17,7 +17,7 @@ class XmlDocument
 {
 public:
     /// Sees an element's names and texts; its places are not known yet.
-    using Filter = std::function<bool(const XmlElement &)>;
+    using Filter = std::function<bool(const XmlEntry &)>;
 
     /// Where tags of a child of the root end; the place of what comes out of an entity is behind
     /// the reference to it.
@@ -41,8 +41,10 @@ public:
 
     const QString &text() const { return m_text; }
 
-    /// The root element; its children are the wanted ones.
     const XmlElement &root() const { return m_root; }
+
+    /// The wanted children of the root.
+    const QVector<XmlEntry> &entries() const { return m_entries; }
 
     /// All children of the root.
     const QVector<Outline> &outlines() const { return m_outlines; }
@@ -55,13 +57,15 @@ private:
     void read(const Filter &isWanted);
     void begin(const QXmlStreamReader &reader);
     void end(const QXmlStreamReader &reader, const Filter &isWanted);
+    void locateAll();
     void locate(XmlElement *element) const;
     bool isTagAt(int place, const QString &tag) const;
 
     const QString &m_text;
     QString m_problem;
     XmlElement m_root;
-    XmlElement m_entry;
+    QVector<XmlEntry> m_entries;
+    XmlEntry m_entry;
     XmlElement m_child;
     QVector<Outline> m_outlines;
     int m_depth = 0;

@@ -26,6 +26,11 @@ struct XmlElement
     int contentBegin = -1; ///< Behind the start tag.
     int contentEnd = -1; ///< Of the end tag.
     int end = -1; ///< Behind the end tag.
+};
+
+/// A child of the root, with its own children.
+struct XmlEntry : XmlElement
+{
     QVector<XmlElement> children;
 };
 

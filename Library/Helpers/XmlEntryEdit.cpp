@@ -19,7 +19,7 @@ XmlEntryEdit::XmlEntryEdit(const EncodedText &source, const XmlDocument &documen
 
 void XmlEntryEdit::insert(const Models::XmlInsertionModel &model)
 {
-    const QVector<XmlElement> &entries = m_document.root().children;
+    const QVector<XmlEntry> &entries = m_document.entries();
     if (entries.isEmpty())
         add(model);
     else
@@ -30,7 +30,7 @@ void XmlEntryEdit::insert(const Models::XmlInsertionModel &model)
 
 void XmlEntryEdit::remove(const Models::XmlConfigModel &model)
 {
-    for (const XmlElement &entry : m_document.root().children) {
+    for (const XmlEntry &entry : m_document.entries()) {
         if (model.deleteParent) {
             removeElement(entry);
             continue;
@@ -61,7 +61,7 @@ void XmlEntryEdit::add(const Models::XmlInsertionModel &model)
     }
 }
 
-void XmlEntryEdit::update(const XmlElement &entry, const Models::XmlValues &values)
+void XmlEntryEdit::update(const XmlEntry &entry, const Models::XmlValues &values)
 {
     // A new child goes behind the one that it follows in the model, on a line like that one's.
     int place = entry.contentBegin;
@@ -127,7 +127,7 @@ void XmlEntryEdit::removeElement(const XmlElement &element)
 
 QString XmlEntryEdit::newElement(const QString &name, const QString &text)
 {
-    const QString markup = XmlMarkup::element(name, text);
+    QString markup = XmlMarkup::element(name, text);
     if (markup.isNull())
         refuse(QStringLiteral("A name or a value is none that XML can hold."));
     else if (!m_source.canWrite(name))

@@ -16,6 +16,7 @@ namespace Quillmont::Library::Helpers {
 class EncodedText;
 class XmlDocument;
 struct XmlElement;
+struct XmlEntry;
 
 /// Works out which changes of a document's text add our entry or take it out. The document's
 /// wanted elements are the entries that the operation is about.
@@ -39,7 +40,7 @@ public:
 
 private:
     void add(const Models::XmlInsertionModel &model);
-    void update(const XmlElement &entry, const Models::XmlValues &values);
+    void update(const XmlEntry &entry, const Models::XmlValues &values);
     void replaceText(const XmlElement &child, const QString &text);
     void open(const XmlElement &element, const QString &content);
     void removeElement(const XmlElement &element);

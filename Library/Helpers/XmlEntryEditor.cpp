@@ -18,7 +18,7 @@ using Change = std::function<void(XmlEntryEdit *)>;
 QString problemAfterwards(const QByteArray &bytes)
 {
     const EncodedText source(bytes);
-    return XmlDocument(source.text(), [](const XmlElement &) { return false; }).problem();
+    return XmlDocument(source.text(), [](const XmlEntry &) { return false; }).problem();
 }
 
 QByteArray changed(const QByteArray &bytes,
@@ -53,7 +53,7 @@ QByteArray XmlEntryEditor::inserted(const QByteArray &bytes,
                                     const Models::XmlInsertionModel &model,
                                     QString *problem)
 {
-    const auto isOurs = [&model](const XmlElement &entry) {
+    const auto isOurs = [&model](const XmlEntry &entry) {
         return XmlEntryMatch::isOurs(entry, model) || XmlEntryMatch::isComplete(entry, model);
     };
     const auto insert = [&model](XmlEntryEdit *edit) {
@@ -66,7 +66,7 @@ QByteArray XmlEntryEditor::removed(const QByteArray &bytes,
                                    const Models::XmlConfigModel &model,
                                    QString *problem)
 {
-    const auto isOurs = [&model](const XmlElement &entry) {
+    const auto isOurs = [&model](const XmlEntry &entry) {
         return XmlEntryMatch::isOurs(entry, model);
     };
     const auto remove = [&model](XmlEntryEdit *edit) {

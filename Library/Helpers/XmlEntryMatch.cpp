@@ -21,7 +21,7 @@ bool XmlEntryMatch::isKey(const XmlElement &child, const Models::XmlConfigModel 
     return holds(child, model.key, model.value);
 }
 
-bool XmlEntryMatch::isOurs(const XmlElement &entry, const Models::XmlConfigModel &model)
+bool XmlEntryMatch::isOurs(const XmlEntry &entry, const Models::XmlConfigModel &model)
 {
     return entry.name == model.element
         && std::any_of(entry.children.cbegin(), entry.children.cend(), [&](const auto &child) {
@@ -29,7 +29,7 @@ bool XmlEntryMatch::isOurs(const XmlElement &entry, const Models::XmlConfigModel
            });
 }
 
-bool XmlEntryMatch::isComplete(const XmlElement &entry, const Models::XmlInsertionModel &model)
+bool XmlEntryMatch::isComplete(const XmlEntry &entry, const Models::XmlInsertionModel &model)
 {
     const auto stands = [&entry](const QPair<QString, QString> &value) {
         return std::any_of(entry.children.cbegin(), entry.children.cend(), [&](const auto &child) {

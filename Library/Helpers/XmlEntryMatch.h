@@ -13,6 +13,7 @@ class XmlInsertionModel;
 namespace Quillmont::Library::Helpers {
 
 struct XmlElement;
+struct XmlEntry;
 
 /// Compares elements of a document with what a model says. White space around a text does not
 /// count, everything else does.
@@ -23,11 +24,11 @@ public:
     static bool isKey(const XmlElement &child, const Models::XmlConfigModel &model);
 
     /// Whether @p entry is ours.
-    static bool isOurs(const XmlElement &entry, const Models::XmlConfigModel &model);
+    static bool isOurs(const XmlEntry &entry, const Models::XmlConfigModel &model);
 
     /// Whether @p entry says all that an entry of ours is to say. A model need not recognise what
     /// it writes; this keeps it from being written again and again.
-    static bool isComplete(const XmlElement &entry, const Models::XmlInsertionModel &model);
+    static bool isComplete(const XmlEntry &entry, const Models::XmlInsertionModel &model);
 
     /// The child that is to hold each of @p values, by index; -1 where there is none. One that
     /// holds the text already goes before one that has to change.

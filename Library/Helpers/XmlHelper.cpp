@@ -31,7 +31,7 @@ bool isMissing(const QString &path)
 QByteArray read(const QString &path, QString *problem)
 {
     // Configuration files have some kilobytes; what is bigger than this only eats up memory.
-    constexpr qint64 biggestSize = 32 * 1024 * 1024;
+    constexpr qint64 biggestSize = 32LL * 1024 * 1024;
     QFile file(path);
     // A pipe is not even opened: that would wait for somebody at its other end.
     if (!QFileInfo(path).isFile())
@@ -43,7 +43,7 @@ QByteArray read(const QString &path, QString *problem)
     if (!file.isOpen())
         return {};
 
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         *problem = file.errorString();
     return bytes;

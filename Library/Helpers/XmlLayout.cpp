@@ -52,7 +52,7 @@ QString lineBelowRoot(const XmlDocument &document)
 QString entryLine(const XmlDocument &document)
 {
     const Outline *last = neighbour(document, false);
-    const QString line = last ? lineBeforeTag(document, last->startTagEnd) : QString();
+    QString line = last ? lineBeforeTag(document, last->startTagEnd) : QString();
     if (XmlBlank::hasLineEnd(QStringRef(&line)))
         return line;
 

@@ -9,7 +9,6 @@ namespace Quillmont::Library::Models {
 XmlConfigModel::XmlConfigModel(QObject *parent, const QJsonObject &json)
     : QObject(parent)
     , path(json.value(QLatin1String("path")).toString().replace(u'\\', u'/'))
-    , deleteParent(true)
 {
     const QJsonValue removal = json.value(QLatin1String("remove"));
     if (removal.isObject())

@@ -25,7 +25,7 @@ public:
     QString element; ///< Name of our element, a child of the document's root element.
     QString key; ///< Name of the child element that recognises an element as ours.
     QString value; ///< That child's text, compared trimmed.
-    bool deleteParent; ///< Whether removal takes the whole element out, or only that child.
+    bool deleteParent = true; ///< Whether removal takes the whole element out, or only that child.
 };
 
 } // namespace Quillmont::Library::Models

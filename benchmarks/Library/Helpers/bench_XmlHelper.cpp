@@ -36,7 +36,7 @@ QByteArray document(int size, const QByteArray &encoding)
                     "        <Path>C:\\Program Files\\Tide &amp; Sons\\tide-%1.exe</Path>\r\n"
                     "    </Launch.Addon>\r\n")
                     .arg(i);
-    return codec->fromUnicode(text + QLatin1String("</SimBase.Document>\r\n"));
+    return codec->fromUnicode(text + QStringLiteral("</SimBase.Document>\r\n"));
 }
 
 double millisecondsToRead(const QByteArray &bytes)

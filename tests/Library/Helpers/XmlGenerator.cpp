@@ -28,11 +28,11 @@ QByteArray XmlGenerator::document()
     m_indent = oneOf(indents);
     m_hasEntities = chance(20);
     const QString codec = oneOf(codecs);
-    const bool isWide = codec.startsWith(QLatin1String("UTF-16"));
+    const bool isWide = codec.startsWith(QStringLiteral("UTF-16"));
     const QString root = oneOf(list("SimBase.Document|R|s:R|日本|_r-1"));
 
     QString text;
-    if (chance(80) || (codec != QLatin1String("UTF-8") && !isWide)) {
+    if (chance(80) || (codec != QStringLiteral("UTF-8") && !isWide)) {
         const QString label = isWide ? QStringLiteral("utf-16") : codec;
         text += QStringLiteral("<?xml version='1.0' encoding=\"%1\"%2?>")
                     .arg(label, oneOf(list("| | standalone='yes'")));
@@ -40,23 +40,23 @@ QByteArray XmlGenerator::document()
     text += misc() + doctype(root) + misc();
     const QString tag = root + attributes();
     if (chance(5))
-        text += u'<' + tag + QLatin1String("/>");
+        text += u'<' + tag + QStringLiteral("/>");
     else
-        text += u'<' + tag + u'>' + content(1) + QLatin1String("</") + root + blank() + u'>';
+        text += u'<' + tag + u'>' + content(1) + QStringLiteral("</") + root + blank() + u'>';
     text += misc() + oneOf({m_lineEnd, QString()});
 
     QTextCodec *encoder = QTextCodec::codecForName(codec.toLatin1());
     // What the encoding lacks becomes "?", which is no name; what it has to shift for cannot be
     // written once more at any place.
-    if (!encoder->canEncode(QStringLiteral("日本")) || codec == QLatin1String("ISO-2022-JP"))
+    if (!encoder->canEncode(QStringLiteral("日本")) || codec == QStringLiteral("ISO-2022-JP"))
         text.replace(QStringLiteral("日本"), QStringLiteral("nihon"));
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     const QByteArray bytes = encoder->fromUnicode(text.constData(), text.size(), &state);
-    if (codec == QLatin1String("UTF-16LE"))
+    if (codec == QStringLiteral("UTF-16LE"))
         return "\xff\xfe" + bytes;
-    if (codec == QLatin1String("UTF-16BE"))
+    if (codec == QStringLiteral("UTF-16BE"))
         return "\xfe\xff" + bytes;
-    return codec == QLatin1String("UTF-8") && chance(30) ? "\xef\xbb\xbf" + bytes : bytes;
+    return codec == QStringLiteral("UTF-8") && chance(30) ? "\xef\xbb\xbf" + bytes : bytes;
 }
 
 QByteArray XmlGenerator::broken(QByteArray bytes)
@@ -155,6 +155,8 @@ QString XmlGenerator::misc()
     return chance(70) ? m_lineEnd : m_lineEnd + oneOf(all) + m_lineEnd;
 }
 
+// Elements nest, up to a depth that content() bounds.
+// NOLINTNEXTLINE(misc-no-recursion)
 QString XmlGenerator::content(int depth)
 {
     static const QStringList sections = list(
@@ -175,6 +177,8 @@ QString XmlGenerator::content(int depth)
     return result + (chance(80) ? line(depth - 1) : QString());
 }
 
+// Elements nest, up to a depth that content() bounds.
+// NOLINTNEXTLINE(misc-no-recursion)
 QString XmlGenerator::element(int depth)
 {
     static const QStringList outer
@@ -183,9 +187,9 @@ QString XmlGenerator::element(int depth)
     const QString name = oneOf(depth == 1 ? outer : inner);
     const QString tag = name + attributes();
     if (chance(10))
-        return u'<' + tag + QLatin1String("/>");
+        return u'<' + tag + QStringLiteral("/>");
     const QString body = depth > 1 && chance(70) ? words() : content(depth + 1);
-    return u'<' + tag + u'>' + body + QLatin1String("</") + name + blank() + u'>';
+    return u'<' + tag + u'>' + body + QStringLiteral("</") + name + blank() + u'>';
 }
 
 QString XmlGenerator::doctype(const QString &root)

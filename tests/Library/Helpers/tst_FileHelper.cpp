@@ -29,7 +29,7 @@ private slots:
 private:
     QString folder() const { return m_sandbox.path(QStringLiteral("config")); }
 
-    QString path() const { return folder() + QLatin1String("/exe.xml"); }
+    QString path() const { return folder() + QStringLiteral("/exe.xml"); }
 
     Tests::Sandbox m_sandbox;
 };
@@ -112,11 +112,11 @@ void TestFileHelper::folderThatCannotBeMadeIsAFailure()
 
 void TestFileHelper::symbolicLinkStays()
 {
-    Tests::writeFile(folder() + QLatin1String("/target.xml"), "old");
+    Tests::writeFile(folder() + QStringLiteral("/target.xml"), "old");
     QVERIFY(QFile::link(QStringLiteral("target.xml"), path()));
     QVERIFY(FileHelper::saveText(path(), QStringLiteral("new"), QString()));
     QVERIFY(QFileInfo(path()).isSymLink());
-    QCOMPARE(Tests::readFile(folder() + QLatin1String("/target.xml")), QByteArray("new"));
+    QCOMPARE(Tests::readFile(folder() + QStringLiteral("/target.xml")), QByteArray("new"));
 }
 
 QTEST_APPLESS_MAIN(TestFileHelper)

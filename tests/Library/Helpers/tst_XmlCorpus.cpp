@@ -33,7 +33,7 @@ namespace {
 QMap<QString, QString> expectations(const QString &folder)
 {
     QMap<QString, QString> result;
-    QFile index(folder + QLatin1String("/INDEX.tsv"));
+    QFile index(folder + QStringLiteral("/INDEX.tsv"));
     if (!index.open(QIODevice::ReadOnly))
         return result;
     const QStringList lines = QString::fromUtf8(index.readAll()).split(u'\n', Qt::SkipEmptyParts);

@@ -202,7 +202,8 @@ void TestXmlEncodings::everyCodecKeepsItsPromises_data()
 {
     QTest::addColumn<QByteArray>("name");
     QSet<QByteArray> seen;
-    for (const QByteArray &alias : QTextCodec::availableCodecs()) {
+    const QList<QByteArray> aliases = QTextCodec::availableCodecs();
+    for (const QByteArray &alias : aliases) {
         const QByteArray name = QTextCodec::codecForName(alias)->name();
         if (!seen.contains(name))
             QTest::newRow(name.constData()) << name;
