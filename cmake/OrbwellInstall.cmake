@@ -6,9 +6,6 @@ if(NOT PROJECT_IS_TOP_LEVEL)
 endif()
 
 include(GNUInstallDirs)
-# Whatever the umask of the one who installs.
-set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 # The newest heading of the change log says when this version came out.
 file(STRINGS "${PROJECT_SOURCE_DIR}/CHANGELOG.md" release REGEX "^## ${PROJECT_VERSION} - " LIMIT_COUNT 1)
