@@ -9,7 +9,7 @@ namespace Tests {
 
 static QString sources(const QString &name)
 {
-    return QStringLiteral(ORBWELL_SOURCES "/") + name;
+    return QStringLiteral(ORBWELL_SOURCE "/") + name;
 }
 
 Document::Document(const QString &name)

@@ -4,7 +4,7 @@ namespace Tests {
 
 QString textListPath()
 {
-    return QStringLiteral(ORBWELL_SOURCES "/tests/Documents/texts.txt");
+    return QStringLiteral(ORBWELL_SOURCE "/tests/Documents/texts.txt");
 }
 
 static QString escaped(QString text)

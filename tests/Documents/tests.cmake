@@ -7,7 +7,7 @@ add_library(orbwell-documents STATIC
   Documents/Document.h
   Documents/TextList.cpp
   Documents/TextList.h)
-target_compile_definitions(orbwell-documents PUBLIC ORBWELL_SOURCES="${PROJECT_SOURCE_DIR}")
+target_compile_definitions(orbwell-documents PUBLIC ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
 target_link_libraries(orbwell-documents PUBLIC orbwell-test-support PRIVATE orbwell-options)
 
 foreach(story Links Messages Texts)

@@ -42,7 +42,7 @@ void Commands::initTestCase()
 {
     static const QRegularExpression remark(QStringLiteral("^(.*?)(?: {2,}# (.*))?$"));
     const QString list = QString::fromUtf8(
-        readFile(QStringLiteral(ORBWELL_SOURCES "/tests/Documents/commands.txt")));
+        readFile(QStringLiteral(ORBWELL_SOURCE "/tests/Documents/commands.txt")));
     QString heading;
     for (const QString &line : list.split(u'\n', Qt::SkipEmptyParts)) {
         if (line.startsWith(u'#'))

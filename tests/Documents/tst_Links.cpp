@@ -33,7 +33,7 @@ void Links::leadSomewhere()
 {
     QFETCH(QString, document);
     QFETCH(QString, target);
-    const QString sources = QStringLiteral(ORBWELL_SOURCES "/");
+    const QString sources = QStringLiteral(ORBWELL_SOURCE "/");
     const QString file = target.section(u'#', 0, 0);
     const QString anchor = target.section(u'#', 1);
     const QString name

@@ -24,7 +24,7 @@ static QString sources()
     static const QRegularExpression seam(QStringLiteral("\"\\s*\n\\s*\""));
     QString code;
     for (const char *folder : {"ViewControllers", "Views", "Widgets"}) {
-        QDirIterator it(QStringLiteral(ORBWELL_SOURCES "/") + QLatin1String(folder),
+        QDirIterator it(QStringLiteral(ORBWELL_SOURCE "/") + QLatin1String(folder),
                         {QStringLiteral("*.cpp")});
         while (it.hasNext())
             code += QString::fromUtf8(readFile(it.next()));

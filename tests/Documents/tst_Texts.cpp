@@ -79,7 +79,7 @@ void Texts::initTestCase()
                                           QStringLiteral("Widgets"),
                                           QStringLiteral("-ts"),
                                           file})
-                                     .in(QStringLiteral(ORBWELL_SOURCES))
+                                     .in(QStringLiteral(ORBWELL_SOURCE))
                                      .run();
     QVERIFY2(result.status == 0, result.errors.constData());
     QCOMPARE(result.errors, QByteArray());

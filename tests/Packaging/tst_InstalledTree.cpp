@@ -57,9 +57,9 @@ void InstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
 {
     QVERIFY(QFileInfo(path(m_together + QStringLiteral("QuillmontOrbwell"))).isExecutable());
     QCOMPARE(readFile(path(m_together + QStringLiteral("flightsims.json"))),
-             readFile(QStringLiteral(ORBWELL_SOURCES "/catalogue/flightsims.json")));
+             readFile(QStringLiteral(ORBWELL_SOURCE "/catalogue/flightsims.json")));
     QCOMPARE(treeOf(path(m_together + QStringLiteral("plugins"))),
-             treeOf(QStringLiteral(ORBWELL_SOURCES "/sample/plugins")));
+             treeOf(QStringLiteral(ORBWELL_SOURCE "/sample/plugins")));
 }
 
 void InstalledTree::leadsFromThePathToTheProgram()
@@ -148,7 +148,7 @@ void InstalledTree::hasAManualPage()
 void InstalledTree::tellsOneVersion()
 {
     const QByteArray version = ORBWELL_VERSION;
-    const QByteArray changes = readFile(QStringLiteral(ORBWELL_SOURCES "/CHANGELOG.md"));
+    const QByteArray changes = readFile(QStringLiteral(ORBWELL_SOURCE "/CHANGELOG.md"));
     const auto newest = QRegularExpression(QStringLiteral("^## (\\S+) - (\\d{4}-\\d\\d-\\d\\d)$"),
                                            QRegularExpression::MultilineOption)
                             .match(QString::fromUtf8(changes));
@@ -180,7 +180,7 @@ void InstalledTree::runsFromWhereverItLies()
               .run();
     QVERIFY2(result.status == 2, result.errors.constData());
     QCOMPARE(readFile(simulator + QStringLiteral("/Orbwell/about.txt")),
-             readFile(QStringLiteral(ORBWELL_SOURCES "/sample/plugins/X-Plane/about.txt")));
+             readFile(QStringLiteral(ORBWELL_SOURCE "/sample/plugins/X-Plane/about.txt")));
     // Straight below the maker's folder: started by its own name, it takes that name out of the
     // path.
     QVERIFY(QFile::exists(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping")));
