@@ -1,21 +1,25 @@
-# The program looks for the catalogue and the payload beside itself, so the three stay together;
-# on Linux a link in the folder of programs leads there.
+# What cmake --install places. The program looks for the catalogue and the payload beside itself, so
+# the three stay together; on Linux a link in the folder of programs leads there. The link has the
+# program's own name, since the program takes that name out of the paths to the user's files.
 if(NOT PROJECT_IS_TOP_LEVEL)
   return()
 endif()
 
 include(GNUInstallDirs)
+
+# The newest heading of the change log says when this version came out.
+file(STRINGS "${PROJECT_SOURCE_DIR}/CHANGELOG.md" release REGEX "^## ${PROJECT_VERSION} - " LIMIT_COUNT 1)
+string(REGEX MATCH "[0-9]+-[0-9]+-[0-9]+$" ORBWELL_RELEASE_DATE "${release}")
+if(NOT ORBWELL_RELEASE_DATE)
+  message(FATAL_ERROR "CHANGELOG.md has no heading \"## ${PROJECT_VERSION} - YEAR-MONTH-DAY\".")
+endif()
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/CHANGELOG.md")
+
 if(APPLE)
   set(together "QuillmontOrbwell.app/Contents/MacOS")
 else()
   set(together "${CMAKE_INSTALL_LIBDIR}/quillmont-orbwell")
-  file(RELATIVE_PATH link_target
-    "${CMAKE_INSTALL_FULL_BINDIR}"
-    "${CMAKE_INSTALL_FULL_LIBDIR}/quillmont-orbwell/QuillmontOrbwell")
-  set(link "${PROJECT_BINARY_DIR}/link/QuillmontOrbwell")
-  file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/link")
-  file(CREATE_LINK "${link_target}" "${link}" SYMBOLIC)
-  install(FILES "${link}" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  include(OrbwellDesktop)
 endif()
 
 install(TARGETS QuillmontOrbwell

@@ -1,0 +1,20 @@
+# What cpack makes of an installed tree: a Debian package and a tar archive, or a disk image.
+if(NOT PROJECT_IS_TOP_LEVEL)
+  return()
+endif()
+
+set(CPACK_PACKAGE_NAME quillmont-orbwell)
+set(CPACK_PACKAGE_VENDOR Quillmont)
+set(CPACK_PACKAGE_CONTACT "Quillmont <support@quillmont.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL "https://quillmont.example/orbwell")
+set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/folders.cmake")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+if(APPLE)
+  include(OrbwellBundle)
+else()
+  include(OrbwellDebian)
+endif()
+include(CPack)

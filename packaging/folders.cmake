@@ -1,0 +1,4 @@
+# Packed folders are open to everybody, whatever the umask of the one who packs.
+file(CHMOD_RECURSE "${CPACK_TEMPORARY_DIRECTORY}"
+  DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -1,0 +1,24 @@
+get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+get_filename_component(qt_tools "${qmake}" DIRECTORY)
+find_program(LUPDATE lupdate HINTS "${qt_tools}")
+
+add_library(orbwell-documents STATIC
+  Documents/Document.cpp
+  Documents/Document.h
+  Documents/TextList.cpp
+  Documents/TextList.h)
+target_compile_definitions(orbwell-documents PUBLIC ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
+target_link_libraries(orbwell-documents PUBLIC orbwell-test-support PRIVATE orbwell-options)
+
+foreach(story Links Messages Texts)
+  orbwell_add_test(Documents/${story})
+  target_link_libraries(tst_${story} PRIVATE orbwell-documents)
+endforeach()
+target_compile_definitions(tst_Texts PRIVATE ORBWELL_LUPDATE="${LUPDATE}")
+
+# The commands are written for Linux.
+if(NOT APPLE)
+  orbwell_add_test(Documents/Commands)
+  target_compile_definitions(tst_Commands PRIVATE ORBWELL_PROGRAM="$<TARGET_FILE:QuillmontOrbwell>")
+  target_link_libraries(tst_Commands PRIVATE orbwell-documents orbwell-program-support)
+endif()

@@ -1,0 +1,136 @@
+#include "tests/Documents/Document.h"
+#include "tests/support/Command.h"
+#include "tests/support/Files.h"
+#include "tests/support/Program.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QtTest>
+
+using namespace Tests;
+
+/// What the documents tell a reader to type works. script/documents-test tries the rest.
+class Commands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void areAllListed_data();
+    void areAllListed();
+    void startTheProgram_data();
+    void startTheProgram();
+    void runInAShell();
+
+private:
+    struct Entry
+    {
+        QString command;
+        QString remark;
+    };
+
+    static int expectedStatus(const QString &remark);
+
+    /// The list's entries by the first words of their heading.
+    QMap<QString, QVector<Entry>> m_entries;
+};
+
+void Commands::initTestCase()
+{
+    static const QRegularExpression remark(QStringLiteral("^(.*?)(?: {2,}# (.*))?$"));
+    const QString list = QString::fromUtf8(
+        readFile(QStringLiteral(ORBWELL_SOURCE "/tests/Documents/commands.txt")));
+    QString heading;
+    for (const QString &line : list.split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u'#'))
+            continue;
+        if (line.startsWith(u'[')) {
+            heading = line.mid(1).chopped(1).section(u':', 0, 0);
+            continue;
+        }
+        const auto parts = remark.match(line);
+        m_entries[heading].append({parts.captured(1), parts.captured(2)});
+    }
+}
+
+int Commands::expectedStatus(const QString &remark)
+{
+    static const QRegularExpression status(QStringLiteral("^status (\\d+)"));
+    return status.match(remark).captured(1).toInt();
+}
+
+void Commands::areAllListed_data()
+{
+    QTest::addColumn<QString>("command");
+    for (const Document &document : Document::all()) {
+        for (const QString &command : document.commands())
+            QTest::addRow("%s: %s", qPrintable(document.name()), qPrintable(command)) << command;
+    }
+}
+
+void Commands::areAllListed()
+{
+    QFETCH(QString, command);
+    bool listed = false;
+    for (const auto &entries : qAsConst(m_entries)) {
+        for (const Entry &entry : entries)
+            listed |= entry.command == command;
+    }
+    QVERIFY2(listed, "tests/Documents/commands.txt does not say how it is tried");
+    for (const Entry &entry : m_entries.value(QStringLiteral("not tried")))
+        QVERIFY2(!entry.remark.isEmpty(), "it is not tried, and nobody says why");
+}
+
+void Commands::startTheProgram_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("remark");
+    for (const Entry &entry : m_entries.value(QStringLiteral("the program")))
+        QTest::newRow(qPrintable(entry.command)) << entry.command << entry.remark;
+}
+
+void Commands::startTheProgram()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, remark);
+    const Sandbox sandbox;
+    Program program(sandbox);
+    const QString simulator = sandbox.path(QStringLiteral("Skylark"));
+    QDir().mkpath(simulator);
+    writeFile(program.folder() + QStringLiteral("/plugins/Orbwell.so"), "plugin");
+    writeFile(
+        program.folder() + QStringLiteral("/flightsims.json"),
+        QStringLiteral(R"([{"name": "Skylark", "location": 1, "path": "%1", "type": 1, "files": [)"
+                       R"({"source": "Orbwell.so", "destination": "Modules/Orbwell.so"}]}])")
+            .arg(simulator)
+            .toUtf8());
+
+    program.start(command.split(u' ').mid(1));
+    if (remark.endsWith(QLatin1String("box"))) {
+        program.box();
+        program.press(QStringLiteral("OK"));
+    }
+    QCOMPARE(program.exitStatus(), expectedStatus(remark));
+}
+
+void Commands::runInAShell()
+{
+    const Sandbox sandbox;
+    const QString path
+        = QFileInfo(QStringLiteral(ORBWELL_PROGRAM)).path() + u':' + qEnvironmentVariable("PATH");
+    for (const Entry &entry : m_entries.value(QStringLiteral("a shell"))) {
+        const CommandResult result
+            = Command(QStringLiteral("sh"), {QStringLiteral("-c"), entry.command})
+                  .with(QStringLiteral("PATH"), path)
+                  .in(sandbox.home())
+                  .run();
+        const QByteArray what = entry.command.toUtf8() + ": " + result.errors;
+        QVERIFY2(result.status == expectedStatus(entry.remark), what.constData());
+    }
+}
+
+QTEST_GUILESS_MAIN(Commands)
+#include "tst_Commands.moc"

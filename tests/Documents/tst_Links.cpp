@@ -1,0 +1,47 @@
+#include "tests/Documents/Document.h"
+
+#include <QFileInfo>
+#include <QtTest>
+
+using namespace Tests;
+
+/// A reader who follows a link inside the tree arrives.
+class Links : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void leadSomewhere_data();
+    void leadSomewhere();
+};
+
+void Links::leadSomewhere_data()
+{
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<QString>("target");
+    for (const Document &document : Document::all()) {
+        const QStringList targets = document.links();
+        for (const QString &target : targets) {
+            if (!target.contains(QLatin1String("://")))
+                QTest::addRow("%s: %s", qPrintable(document.name()), qPrintable(target))
+                    << document.name() << target;
+        }
+    }
+}
+
+void Links::leadSomewhere()
+{
+    QFETCH(QString, document);
+    QFETCH(QString, target);
+    const QString sources = QStringLiteral(ORBWELL_SOURCE "/");
+    const QString file = target.section(u'#', 0, 0);
+    const QString anchor = target.section(u'#', 1);
+    const QString name
+        = file.isEmpty() ? document : QDir::cleanPath(QFileInfo(document).path() + u'/' + file);
+    QVERIFY(QFileInfo::exists(sources + name));
+    if (!anchor.isEmpty())
+        QVERIFY(Document(name).anchors().contains(anchor));
+}
+
+QTEST_GUILESS_MAIN(Links)
+#include "tst_Links.moc"

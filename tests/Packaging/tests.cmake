@@ -1,0 +1,16 @@
+# macOS has neither this tree nor this package.
+if(APPLE)
+  return()
+endif()
+
+foreach(story InstalledTree Packages)
+  orbwell_add_test(Packaging/${story})
+  target_compile_definitions(tst_${story} PRIVATE
+    ORBWELL_BUILD="${PROJECT_BINARY_DIR}"
+    ORBWELL_CMAKE="${CMAKE_COMMAND}"
+    ORBWELL_CPACK="${CMAKE_CPACK_COMMAND}"
+    ORBWELL_LIBDIR="${CMAKE_INSTALL_LIBDIR}"
+    ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}"
+    ORBWELL_VERSION="${PROJECT_VERSION}")
+  add_dependencies(tst_${story} QuillmontOrbwell)
+endforeach()

@@ -1,0 +1,190 @@
+#include "tests/support/Command.h"
+#include "tests/support/Files.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QImage>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+using namespace Tests;
+
+/// What cmake --install places below a prefix.
+class InstalledTree : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void keepsCatalogueAndPayloadBesideTheProgram();
+    void leadsFromThePathToTheProgram();
+    void hasAnIconInEverySizeOfTheTheme();
+    void hasAMenuEntryThatStartsTheLauncher();
+    void hasAPageForTheSoftwareCentre();
+    void hasAManualPage();
+    void tellsOneVersion();
+    void runsFromWhereverItLies();
+
+private:
+    QString path(const QString &relative) const
+    {
+        return m_sandbox.path(QStringLiteral("moved/usr/") + relative);
+    }
+
+    Sandbox m_sandbox;
+    const QString m_together = QStringLiteral(ORBWELL_LIBDIR "/quillmont-orbwell/");
+};
+
+void InstalledTree::initTestCase()
+{
+    const CommandResult result
+        = Command(QStringLiteral(ORBWELL_CMAKE),
+                  {QStringLiteral("--install"),
+                   QStringLiteral(ORBWELL_BUILD),
+                   QStringLiteral("--prefix"),
+                   QStringLiteral("/usr")})
+              .with(QStringLiteral("DESTDIR"), m_sandbox.path(QStringLiteral("staged")))
+              .run();
+    QVERIFY2(result.status == 0, result.errors.constData());
+    QVERIFY(QDir().rename(m_sandbox.path(QStringLiteral("staged")),
+                          m_sandbox.path(QStringLiteral("moved"))));
+}
+
+void InstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
+{
+    QVERIFY(QFileInfo(path(m_together + QStringLiteral("QuillmontOrbwell"))).isExecutable());
+    QCOMPARE(readFile(path(m_together + QStringLiteral("flightsims.json"))),
+             readFile(QStringLiteral(ORBWELL_SOURCE "/catalogue/flightsims.json")));
+    QCOMPARE(treeOf(path(m_together + QStringLiteral("plugins"))),
+             treeOf(QStringLiteral(ORBWELL_SOURCE "/sample/plugins")));
+}
+
+void InstalledTree::leadsFromThePathToTheProgram()
+{
+    const QFileInfo launcher(path(QStringLiteral("bin/QuillmontOrbwell")));
+    QVERIFY(launcher.isSymLink());
+    QCOMPARE(launcher.canonicalFilePath(),
+             QFileInfo(path(m_together + QStringLiteral("QuillmontOrbwell"))).canonicalFilePath());
+}
+
+void InstalledTree::hasAnIconInEverySizeOfTheTheme()
+{
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
+        const QImage icon(
+            path(QStringLiteral("share/icons/hicolor/%1x%1/apps/quillmont-orbwell.png").arg(size)));
+        QCOMPARE(icon.size(), QSize(size, size));
+        QVERIFY(icon.hasAlphaChannel());
+    }
+    QVERIFY(QFile::exists(
+        path(QStringLiteral("share/icons/hicolor/scalable/apps/quillmont-orbwell.svg"))));
+}
+
+void InstalledTree::hasAMenuEntryThatStartsTheLauncher()
+{
+    const QString file = path(QStringLiteral("share/applications/QuillmontOrbwell.desktop"));
+    QSettings entry(file, QSettings::IniFormat);
+    entry.beginGroup(QStringLiteral("Desktop Entry"));
+    QCOMPARE(entry.value(QStringLiteral("Exec")).toString(), QStringLiteral("QuillmontOrbwell"));
+    QCOMPARE(entry.value(QStringLiteral("Icon")).toString(), QStringLiteral("quillmont-orbwell"));
+    // The window says its program's own name, and a panel finds the icon by it.
+    QCOMPARE(entry.value(QStringLiteral("StartupWMClass")).toString(),
+             QStringLiteral("QuillmontOrbwell"));
+
+    if (!Command::exists(QStringLiteral("desktop-file-validate")))
+        QSKIP("needs desktop-file-validate to see more");
+    const CommandResult result = Command(QStringLiteral("desktop-file-validate"), {file}).run();
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(result.status, 0);
+}
+
+void InstalledTree::hasAPageForTheSoftwareCentre()
+{
+    const QString file = path(QStringLiteral("share/metainfo/com.quillmont.orbwell.metainfo.xml"));
+    QXmlStreamReader page(readFile(file));
+    QString entry;
+    while (!page.atEnd()) {
+        if (page.readNext() == QXmlStreamReader::StartElement
+            && page.name() == QLatin1String("launchable"))
+            entry = page.readElementText();
+    }
+    QVERIFY2(!page.hasError(), qPrintable(page.errorString()));
+    QVERIFY(QFile::exists(path(QStringLiteral("share/applications/") + entry)));
+
+    if (!Command::exists(QStringLiteral("appstreamcli")))
+        QSKIP("needs appstreamcli to see more");
+    const CommandResult result
+        = Command(QStringLiteral("appstreamcli"),
+                  {QStringLiteral("validate"), QStringLiteral("--no-net"), file})
+              .run();
+    QVERIFY2(result.status == 0, result.output.constData());
+}
+
+static QByteArray manualPage(const QString &file)
+{
+    return Command(QStringLiteral("gzip"), {QStringLiteral("-dc"), file}).run().output;
+}
+
+void InstalledTree::hasAManualPage()
+{
+    const QString file = path(QStringLiteral("share/man/man1/QuillmontOrbwell.1.gz"));
+    const QByteArray page = manualPage(file);
+    for (const char *option : {"INSTALL", "REPAIR", "UNINSTALL"})
+        QVERIFY2(page.contains(QByteArray("\\-\\-") + option), option);
+    QVERIFY(!page.contains('@'));
+
+    if (!Command::exists(QStringLiteral("man")))
+        QSKIP("needs man to see more");
+    const CommandResult result
+        = Command(QStringLiteral("man"),
+                  {QStringLiteral("--warnings"), QStringLiteral("--local-file"), file})
+              .run();
+    QCOMPARE(result.errors, QByteArray());
+    QVERIFY(result.output.contains("NAME"));
+}
+
+void InstalledTree::tellsOneVersion()
+{
+    const QByteArray version = ORBWELL_VERSION;
+    const QByteArray changes = readFile(QStringLiteral(ORBWELL_SOURCE "/CHANGELOG.md"));
+    const auto newest = QRegularExpression(QStringLiteral("^## (\\S+) - (\\d{4}-\\d\\d-\\d\\d)$"),
+                                           QRegularExpression::MultilineOption)
+                            .match(QString::fromUtf8(changes));
+    QCOMPARE(newest.captured(1).toUtf8(), version);
+
+    const QByteArray metainfo
+        = readFile(path(QStringLiteral("share/metainfo/com.quillmont.orbwell.metainfo.xml")));
+    const QByteArray date = newest.captured(2).toUtf8();
+    QVERIFY(metainfo.contains("<release version=\"" + version + "\" date=\"" + date + "\"/>"));
+    QVERIFY(manualPage(path(QStringLiteral("share/man/man1/QuillmontOrbwell.1.gz")))
+                .contains(' ' + version + '"'));
+}
+
+void InstalledTree::runsFromWhereverItLies()
+{
+    const QString simulator = m_sandbox.path(QStringLiteral("Skylark"));
+    QDir().mkpath(simulator);
+    writeFile(
+        path(m_together + QStringLiteral("flightsims.json")),
+        QStringLiteral(R"([{"name": "Skylark", "location": 1, "path": "%1", "type": 1, "files": [)"
+                       R"({"source": "X-Plane/about.txt", "destination": "Orbwell/about.txt"}]}])")
+            .arg(simulator)
+            .toUtf8());
+
+    const CommandResult result
+        = Command(path(QStringLiteral("bin/QuillmontOrbwell")),
+                  {QStringLiteral("--INSTALL"), QStringLiteral("1")})
+              .with(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"))
+              .run();
+    QVERIFY2(result.status == 2, result.errors.constData());
+    QCOMPARE(readFile(simulator + QStringLiteral("/Orbwell/about.txt")),
+             readFile(QStringLiteral(ORBWELL_SOURCE "/sample/plugins/X-Plane/about.txt")));
+    // Straight below the maker's folder: started by its own name, it takes that name out of the
+    // path.
+    QVERIFY(QFile::exists(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping")));
+}
+
+QTEST_GUILESS_MAIN(InstalledTree)
+#include "tst_InstalledTree.moc"
