@@ -24,8 +24,8 @@ QString simulatorFolder(const FlightSimulatorMapping *mapping)
 
 QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destination)
 {
-    return QDir::toNativeSeparators(simulatorFolder(mapping)
-                                    + QString(destination).replace(u'\\', u'/'));
+    QString path = simulatorFolder(mapping) + destination;
+    return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
 }
 
 QString configurationFile(const FlightSimulatorMapping *mapping)

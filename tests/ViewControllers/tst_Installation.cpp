@@ -171,6 +171,18 @@ private slots:
                                                           + QStringLiteral("'.\r\n")));
     }
 
+    void turnsBackslashesOfTheWholeTargetRound()
+    {
+        Workshop shop;
+        writePayload(shop);
+        shop.folder("A");
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A\\"));
+        QVERIFY(shop.controller().install(mapping, true, false));
+        QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        QVERIFY(!QFile::exists(shop.path("A/Modules/one.dll")));
+    }
+
     void listsEveryFileThatItCouldNotCopy()
     {
         Workshop shop;
