@@ -54,8 +54,7 @@ void XmlEntryEdit::add(const Models::XmlInsertionModel &model)
 
     const XmlElement &root = m_document.root();
     if (root.isSelfClosed()) {
-        const QString endTag = QStringLiteral("</%1>").arg(root.name);
-        m_splices.append({root.end - 2, root.end, u'>' + entry + endTag});
+        open(root, entry);
     } else {
         const int place = XmlBlank::begin(m_document.text(), root.contentEnd);
         m_splices.append({place, place, entry});
@@ -103,10 +102,18 @@ void XmlEntryEdit::replaceText(const XmlElement &child, const QString &text)
     else if (!child.hasPlace)
         refuse(QStringLiteral("The element to change comes out of an entity."));
     else if (child.isSelfClosed())
-        m_splices.append(
-            {child.end - 2, child.end, u'>' + escaped + QStringLiteral("</%1>").arg(child.name)});
+        open(child, escaped);
     else
         m_splices.append({child.contentBegin, child.contentEnd, escaped});
+}
+
+/// Makes two tags with @p content between them out of one.
+void XmlEntryEdit::open(const XmlElement &element, const QString &content)
+{
+    if (!m_source.canWrite(element.name))
+        refuse(QStringLiteral("The file's encoding cannot hold an end tag."));
+    const QString endTag = QStringLiteral("</%1>").arg(element.name);
+    m_splices.append({element.end - 2, element.end, u'>' + content + endTag});
 }
 
 void XmlEntryEdit::removeElement(const XmlElement &element)

@@ -41,6 +41,7 @@ private:
     void add(const Models::XmlInsertionModel &model);
     void update(const XmlElement &entry, const Models::XmlValues &values);
     void replaceText(const XmlElement &child, const QString &text);
+    void open(const XmlElement &element, const QString &content);
     void removeElement(const XmlElement &element);
     QString newElement(const QString &name, const QString &text);
     void refuse(const QString &reason);

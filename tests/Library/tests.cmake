@@ -4,6 +4,8 @@ add_library(orbwell-xml-test-support STATIC
   Library/Helpers/RoundTrip.h
   Library/Helpers/XmlEditTest.cpp
   Library/Helpers/XmlEditTest.h
+  Library/Helpers/XmlGenerator.cpp
+  Library/Helpers/XmlGenerator.h
   Library/Helpers/XmlPromises.cpp
   Library/Helpers/XmlPromises.h)
 target_link_libraries(orbwell-xml-test-support
@@ -16,7 +18,7 @@ set_target_properties(orbwell-xml-test-support PROPERTIES AUTOMOC ON)
 orbwell_add_test(Library/Helpers/FileHelper)
 orbwell_add_test(Library/Helpers/FileWriter)
 orbwell_add_test(Library/Models/XmlConfigModel)
-foreach(class XmlBounds XmlCorpus XmlEncodings XmlFaults XmlHelper)
+foreach(class XmlBounds XmlCorpus XmlEncodings XmlFaults XmlHelper XmlProperties)
   orbwell_add_test(Library/Helpers/${class})
   target_link_libraries(tst_${class} PRIVATE orbwell-xml-test-support)
 endforeach()

@@ -6,6 +6,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/LogCatcher.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>

@@ -18,6 +18,7 @@ private slots:
     void otherBytesStay_data();
     void otherBytesStay();
     void nameThatTheEncodingLacksIsRefused();
+    void endTagThatTheEncodingLacksIsRefused();
     void everyCodecKeepsItsPromises_data();
     void everyCodecKeepsItsPromises();
     void secondMarkIsRefused();
@@ -188,6 +189,13 @@ void TestXmlEncodings::nameThatTheEncodingLacksIsRefused()
     QCOMPARE(content(), bytes);
     QVERIFY(insertInto("<R></R>", config));
     QCOMPARE(content(), QByteArray("<R><日><Name>x</Name></日></R>"));
+}
+
+void TestXmlEncodings::endTagThatTheEncodingLacksIsRefused()
+{
+    const QByteArray bytes = "<?xml version='1.0' encoding='ISO-2022-JP'?><\x1b$BF|\x1b(B/>";
+    QVERIFY(!insertInto(bytes));
+    QCOMPARE(content(), bytes);
 }
 
 void TestXmlEncodings::everyCodecKeepsItsPromises_data()

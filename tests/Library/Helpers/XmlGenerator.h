@@ -1,0 +1,48 @@
+#ifndef LIBRARY_HELPERS_XMLGENERATOR_H
+#define LIBRARY_HELPERS_XMLGENERATOR_H
+
+#include <QByteArray>
+#include <QRandomGenerator>
+#include <QString>
+#include <QStringList>
+
+namespace Tests {
+
+/// Makes well-formed documents out of all that XML offers, and breaks documents. The same seed
+/// gives the same ones in every run.
+class XmlGenerator
+{
+public:
+    explicit XmlGenerator(quint32 seed);
+
+    /// A well-formed document that holds no entry of ours.
+    QByteArray document();
+
+    /// @p bytes with some bytes changed, cut out, doubled or put in.
+    QByteArray broken(QByteArray bytes);
+
+private:
+    int number(int end) { return m_random.bounded(end); }
+
+    bool chance(int percent) { return number(100) < percent; }
+
+    QString oneOf(const QStringList &list) { return list.at(number(list.size())); }
+
+    QString words();
+    QString blank();
+    QString line(int depth);
+    QString attributes();
+    QString misc();
+    QString content(int depth);
+    QString element(int depth);
+    QString doctype(const QString &root);
+
+    QRandomGenerator m_random;
+    QString m_lineEnd;
+    QString m_indent;
+    bool m_hasEntities = false;
+};
+
+} // namespace Tests
+
+#endif

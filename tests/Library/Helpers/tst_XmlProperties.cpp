@@ -1,0 +1,93 @@
+#include "tests/Library/Helpers/RoundTrip.h"
+#include "tests/Library/Helpers/XmlGenerator.h"
+#include "tests/Library/Helpers/XmlPromises.h"
+#include "tests/support/Files.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDirIterator>
+#include <QtTest>
+
+using Tests::XmlGenerator;
+using Tests::XmlPromises;
+
+/// Holds the promises against very many documents, good and broken ones.
+class TestXmlProperties : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wellFormedDocumentsComeBackIdentical();
+    void brokenDocumentsStayOrComeBackIdentical();
+    void filesDoLikeBytes();
+
+private:
+    Tests::Sandbox m_sandbox;
+};
+
+namespace {
+
+constexpr quint32 seed = 20240131;
+
+QVector<QByteArray> corpus()
+{
+    QVector<QByteArray> files;
+    QStringList paths;
+    QDirIterator it(QStringLiteral(SOURCE_FOLDER "/tests/Library/corpus"),
+                    {QStringLiteral("*.xml")},
+                    QDir::Files,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        paths.append(it.next());
+    // A folder has no order, but the documents are to be the same in every run.
+    paths.sort();
+    for (const QString &path : paths)
+        files.append(Tests::readFile(path));
+    return files;
+}
+
+} // namespace
+
+void TestXmlProperties::wellFormedDocumentsComeBackIdentical()
+{
+    XmlGenerator generator(seed);
+    for (int i = 0; i < 8000; ++i) {
+        const QByteArray bytes = generator.document();
+        bool isAccepted = false;
+        const QString broken = XmlPromises::broken(bytes, &isAccepted);
+        QVERIFY2(broken.isEmpty(), (broken.toUtf8() + '\n' + bytes).constData());
+        QVERIFY2(isAccepted, bytes.constData());
+    }
+}
+
+void TestXmlProperties::brokenDocumentsStayOrComeBackIdentical()
+{
+    const QVector<QByteArray> files = corpus();
+    XmlGenerator generator(seed);
+    int accepted = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const bool isFromCorpus = i % 2 == 0;
+        const QByteArray whole
+            = isFromCorpus ? files.at(i / 2 % files.size()) : generator.document();
+        const QByteArray bytes = generator.broken(whole);
+        bool isAccepted = false;
+        const QString broken = XmlPromises::broken(bytes, &isAccepted);
+        QVERIFY2(broken.isEmpty(), (broken.toUtf8() + '\n' + bytes).constData());
+        accepted += isAccepted ? 1 : 0;
+    }
+    qInfo("%d of 20000 broken documents are documents still", accepted);
+}
+
+void TestXmlProperties::filesDoLikeBytes()
+{
+    XmlGenerator generator(seed);
+    Tests::RoundTrip roundTrip(m_sandbox.path(QStringLiteral("exe.xml")));
+    for (int i = 0; i < 100; ++i) {
+        const QByteArray bytes = generator.document();
+        QCOMPARE(roundTrip.broken(bytes), QString());
+        QVERIFY2(roundTrip.wasAccepted(), bytes.constData());
+        QCOMPARE(roundTrip.broken(generator.broken(bytes)), QString());
+    }
+}
+
+QTEST_APPLESS_MAIN(TestXmlProperties)
+#include "tst_XmlProperties.moc"
