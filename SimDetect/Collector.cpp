@@ -14,11 +14,9 @@ namespace {
 QString printable(const QString &path)
 {
     QString text = path.left(500);
-    for (auto &character : text) {
-        if (!character.isPrint() && !character.isSurrogate()) {
+    for (auto &character : text)
+        if (!character.isPrint() && !character.isSurrogate())
             character = u'?';
-        }
-    }
     return text;
 }
 
@@ -42,9 +40,8 @@ Collector::Collector(FolderLookup &lookup)
 void Collector::offer(const QString &code, const QVector<Candidate> &candidates, const Test &test)
 {
     for (const auto &candidate : candidates) {
-        if (has(code)) {
+        if (has(code))
             return;
-        }
         consider(code, candidate, test);
     }
 }
@@ -54,9 +51,8 @@ void Collector::consider(const QString &code, const Candidate &candidate, const 
     const QString folder
         = candidate.objection.isEmpty() ? m_lookup.find(candidate.path) : QString();
     const QString resolved = QFileInfo(folder).canonicalFilePath();
-    if (!isFirstOffer(code, resolved.isEmpty() ? candidate.path : resolved)) {
+    if (!isFirstOffer(code, resolved.isEmpty() ? candidate.path : resolved))
         return;
-    }
     if (!candidate.objection.isEmpty()) {
         turnDown(code, candidate.path, candidate.objection);
     } else if (folder.isEmpty()) {
@@ -73,17 +69,14 @@ QString
 Collector::objectionTo(const QString &folder, const QString &resolved, const Test &test) const
 {
     const QFileInfo info(folder);
-    if (!info.isDir()) {
+    if (!info.isDir())
         return QStringLiteral("not a folder");
-    }
     QString objection = test(folder);
     // Nothing is seen inside a closed folder, and "it lacks this or that" would mislead.
-    if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable())) {
+    if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable()))
         return QStringLiteral("no permission to look inside");
-    }
-    if (objection.isEmpty() && m_owners.contains(resolved)) {
+    if (objection.isEmpty() && m_owners.contains(resolved))
         return QStringLiteral("it is taken as %1").arg(m_owners.value(resolved));
-    }
     return objection;
 }
 

@@ -12,22 +12,19 @@ Environment Environment::current()
     environment.system = MacOS;
 #endif
     // Without HOME the toolkit answers "/", and the whole disk is nobody's home.
-    if (!qEnvironmentVariableIsEmpty("HOME")) {
+    if (!qEnvironmentVariableIsEmpty("HOME"))
         environment.home = QDir::homePath();
-    }
     const auto variables = QProcessEnvironment::systemEnvironment();
     const auto names = variables.keys();
-    for (const auto &name : names) {
+    for (const auto &name : names)
         environment.variables.insert(name, variables.value(name));
-    }
     return environment;
 }
 
 QString Environment::inHome(const QString &relative) const
 {
-    if (!home.startsWith(u'/')) {
+    if (!home.startsWith(u'/'))
         return {};
-    }
     return QDir::cleanPath(home + u'/' + relative);
 }
 

@@ -27,9 +27,8 @@ QString test(const QString &folder)
 {
     static const QRegularExpression version(QStringLiteral("^[0-9]+\\."));
     const QByteArray written = PlainFile::beginning(folder + QStringLiteral("/version"), 64);
-    if (!version.match(QString::fromLatin1(written)).hasMatch()) {
+    if (!version.match(QString::fromLatin1(written)).hasMatch())
         return QStringLiteral("no file \"version\" that begins with one");
-    }
     const auto has = [&folder](const char *name) {
         return QFileInfo(folder + u'/' + QLatin1String(name)).isFile();
     };
@@ -49,9 +48,8 @@ FlightGear::FlightGear(Collector &collector, FolderLookup &lookup, const Environ
 void FlightGear::find()
 {
     const QString chosen = m_environment.variables.value(QStringLiteral("FG_ROOT"));
-    if (!chosen.isEmpty()) {
+    if (!chosen.isEmpty())
         offer({chosen});
-    }
     QStringList present = packaged() + downloaded();
     present.erase(std::remove_if(present.begin(),
                                  present.end(),
@@ -83,26 +81,23 @@ QStringList FlightGear::downloaded()
         = m_environment.inHome(m_environment.system == Environment::MacOS
                                    ? QStringLiteral("Library/Application Support/FlightGear")
                                    : QStringLiteral(".fgfs"));
-    if (place.isEmpty()) {
+    if (place.isEmpty())
         return {};
-    }
     QStringList names
         = m_lookup.names(place).filter(QRegularExpression(QStringLiteral("^fgdata_")));
     std::stable_sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
         return versionIn(left) > versionIn(right);
     });
-    for (auto &name : names) {
+    for (auto &name : names)
         name.prepend(place + u'/');
-    }
     return names;
 }
 
 void FlightGear::offer(const QStringList &folders)
 {
     QVector<Candidate> candidates;
-    for (const auto &folder : folders) {
+    for (const auto &folder : folders)
         candidates.append({folder, {}});
-    }
     m_collector.offer(QStringLiteral("FGFS"), candidates, test);
 }
 

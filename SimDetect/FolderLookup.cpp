@@ -36,19 +36,16 @@ QString FolderLookup::find(const QString &path)
 
 QString FolderLookup::find(const QString &folder, const QString &relative)
 {
-    if (relative.size() > LongestPath || relative.contains(QChar::Null)) {
+    if (relative.size() > LongestPath || relative.contains(QChar::Null))
         return {};
-    }
     QString found = folder;
     const auto names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
     for (const auto &name : names) {
-        if (name == QLatin1String("..")) {
+        if (name == QLatin1String(".."))
             continue; // Only left at the very top, above which there is nothing.
-        }
         found = child(found, name);
-        if (found.isEmpty()) {
+        if (found.isEmpty())
             return {};
-        }
     }
     return found.isEmpty() ? QStringLiteral("/") : found;
 }
@@ -56,9 +53,8 @@ QString FolderLookup::find(const QString &folder, const QString &relative)
 QStringList FolderLookup::names(const QString &folder)
 {
     const auto known = m_names.constFind(folder);
-    if (known != m_names.constEnd()) {
+    if (known != m_names.constEnd())
         return *known;
-    }
     QStringList names;
     QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     while (it.hasNext() && names.size() < MostNames) {
@@ -74,18 +70,15 @@ QString FolderLookup::child(const QString &folder, const QString &name)
 {
     QString exact = folder + u'/' + name;
     const bool isThere = QFileInfo::exists(exact);
-    if (isThere && !isThereInOtherCase(folder, name)) {
+    if (isThere && !isThereInOtherCase(folder, name))
         return exact;
-    }
     const QStringList all = names(folder.isEmpty() ? QStringLiteral("/") : folder);
-    if (isThere && all.contains(name)) {
+    if (isThere && all.contains(name))
         return exact;
-    }
     for (const auto &spelling : all) {
         QString path = folder + u'/' + spelling;
-        if (spelling.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo::exists(path)) {
+        if (spelling.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo::exists(path))
             return path;
-        }
     }
     return isThere ? exact : QString();
 }

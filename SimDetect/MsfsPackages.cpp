@@ -21,9 +21,8 @@ QString decoded(const QByteArray &content)
 {
     auto *utf8 = QTextCodec::codecForName("UTF-8");
     QString text = QTextCodec::codecForUtfText(content, utf8)->toUnicode(content);
-    if (text.startsWith(QChar::ByteOrderMark)) {
+    if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
-    }
     return text;
 }
 
@@ -42,33 +41,28 @@ QString insidePrefix(const QString &prefix, const QString &path)
     static const QRegularExpression drive(QStringLiteral("^([A-Za-z]):/"));
     const QString slashed = QString(path).replace(u'\\', u'/');
     const QString letter = drive.match(slashed).captured(1).toLower();
-    if (letter.isEmpty()) {
+    if (letter.isEmpty())
         return {};
-    }
     const QString place = letter == QLatin1String("c")
         ? QStringLiteral("drive_c")
         : QStringLiteral("dosdevices/%1:").arg(letter);
     QString rest = QDir::cleanPath(slashed.mid(2));
-    while ((rest + u'/').startsWith(QLatin1String("/../"))) {
+    while ((rest + u'/').startsWith(QLatin1String("/../")))
         rest.remove(0, 3); // No way leads above a drive.
-    }
     return prefix + u'/' + place + rest;
 }
 
 Candidate candidateOf(const QString &file, const QString &prefix)
 {
     const PlainFile settings(file);
-    if (!settings.problem().isEmpty()) {
+    if (!settings.problem().isEmpty())
         return {file, settings.problem()};
-    }
     const QString written = packagesPath(decoded(settings.content()));
-    if (written.isEmpty()) {
+    if (written.isEmpty())
         return {file, QStringLiteral("no InstalledPackagesPath in it")};
-    }
     const QString path = insidePrefix(prefix, written);
-    if (path.isEmpty()) {
+    if (path.isEmpty())
         return {file, QStringLiteral("its InstalledPackagesPath is on no drive")};
-    }
     return {path, {}};
 }
 
@@ -100,14 +94,12 @@ QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString 
     for (const auto &library : m_steam.libraries()) {
         const QString prefix
             = m_lookup.find(library, QStringLiteral("compatdata/%1/pfx").arg(appId));
-        if (prefix.isEmpty()) {
+        if (prefix.isEmpty())
             continue;
-        }
         const QString roaming = QStringLiteral("drive_c/users/steamuser/AppData/Roaming/");
         const QString file = m_lookup.find(prefix, roaming + name + QStringLiteral("/UserCfg.opt"));
-        if (!file.isEmpty()) {
+        if (!file.isEmpty())
             candidates.append(candidateOf(file, prefix));
-        }
     }
     return candidates;
 }
@@ -115,9 +107,8 @@ QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString 
 QString MsfsPackages::test2020(const QString &folder)
 {
     if (hasFolder(folder, "Community") || hasFolder(folder, "Official/Steam")
-        || hasFolder(folder, "Official/OneStore")) {
+        || hasFolder(folder, "Official/OneStore"))
         return {};
-    }
     return QStringLiteral("no Community, Official/Steam or Official/OneStore");
 }
 
@@ -129,10 +120,8 @@ QString MsfsPackages::test2024(const QString &folder)
               return name.startsWith(QLatin1String("Community"), Qt::CaseInsensitive)
                   && QFileInfo(folder + u'/' + name).isDir();
           });
-    if (hasCommunity || hasFolder(folder, "Official2024")
-        || hasFolder(folder, "StreamedPackages")) {
+    if (hasCommunity || hasFolder(folder, "Official2024") || hasFolder(folder, "StreamedPackages"))
         return {};
-    }
     return QStringLiteral("no Community, Official2024 or StreamedPackages");
 }
 

@@ -8,23 +8,21 @@ namespace Quillmont::SimDetect {
 PlainFile::PlainFile(const QString &path, qint64 largest)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile()) {
+    if (!QFileInfo(path).isFile())
         m_problem = QStringLiteral("not a plain file");
-    } else if (!file.open(QIODevice::ReadOnly)) {
+    else if (!file.open(QIODevice::ReadOnly))
         m_problem = QStringLiteral("cannot be read");
-    } else if (file.size() > largest) {
+    else if (file.size() > largest)
         m_problem = QStringLiteral("too large");
-    } else {
+    else
         m_content = file.read(largest);
-    }
 }
 
 QByteArray PlainFile::beginning(const QString &path, int size)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
-    }
     return file.read(size);
 }
 

@@ -16,9 +16,8 @@ namespace {
 bool isNew(const QString &path, QSet<QString> &seen)
 {
     const QString resolved = QFileInfo(path).canonicalFilePath();
-    if (resolved.isEmpty() || seen.contains(resolved)) {
+    if (resolved.isEmpty() || seen.contains(resolved))
         return false;
-    }
     seen.insert(resolved);
     return true;
 }
@@ -29,11 +28,9 @@ Steam::Steam(const Environment &environment, FolderLookup &lookup)
     : m_lookup(lookup)
 {
     const auto roots = SteamRoot::all(environment);
-    for (const auto &root : roots) {
-        if (isNew(root.path, m_seen)) {
+    for (const auto &root : roots)
+        if (isNew(root.path, m_seen))
             addRoot(root);
-        }
-    }
 }
 
 QVector<Candidate> Steam::candidates(const QString &appId)
@@ -42,15 +39,13 @@ QVector<Candidate> Steam::candidates(const QString &appId)
     for (const auto &library : qAsConst(m_libraries)) {
         const QString path
             = m_lookup.find(library, QStringLiteral("appmanifest_%1.acf").arg(appId));
-        if (path.isEmpty()) {
+        if (path.isEmpty())
             continue;
-        }
         const SteamManifest manifest(path, appId);
-        if (manifest.objection().isEmpty()) {
+        if (manifest.objection().isEmpty())
             candidates.append({library + QLatin1String("/common/") + manifest.folderName(), {}});
-        } else {
+        else
             candidates.append({path, manifest.objection()});
-        }
     }
     return candidates;
 }
@@ -59,18 +54,16 @@ void Steam::addRoot(const SteamRoot &root)
 {
     addLibrary(root.path);
     const auto folders = listedBy(root);
-    for (const auto &folder : folders) {
+    for (const auto &folder : folders)
         addLibrary(m_lookup.find(root.outside(folder)));
-    }
 }
 
 void Steam::addLibrary(const QString &folder)
 {
     const QString library
         = folder.isEmpty() ? QString() : m_lookup.find(folder, QStringLiteral("steamapps"));
-    if (QFileInfo(library).isDir() && isNew(library, m_seen)) {
+    if (QFileInfo(library).isDir() && isNew(library, m_seen))
         m_libraries.append(library);
-    }
 }
 
 QStringList Steam::listedBy(const SteamRoot &root)
@@ -79,9 +72,8 @@ QStringList Steam::listedBy(const SteamRoot &root)
     for (const auto &place : {QStringLiteral("config"), QStringLiteral("steamapps")}) {
         const QString path
             = m_lookup.find(root.path, place + QStringLiteral("/libraryfolders.vdf"));
-        if (!isNew(path, m_seen)) {
+        if (!isNew(path, m_seen))
             continue;
-        }
         const SteamLibraryList list(path);
         if (!list.problem().isEmpty()) {
             qDebug().noquote().nospace()

@@ -42,9 +42,8 @@ SteamLibraryList::SteamLibraryList(const QString &path)
 {
     const PlainFile file(path, TextFormat::LargestFile);
     m_problem = file.problem();
-    if (m_problem.isEmpty()) {
+    if (m_problem.isEmpty())
         parse(file.content());
-    }
 }
 
 void SteamLibraryList::parse(const QByteArray &content)

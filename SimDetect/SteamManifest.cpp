@@ -21,12 +21,10 @@ QString objectionToFlags(const QString &written)
 {
     bool isReadable = false;
     const quint64 flags = written.trimmed().toULongLong(&isReadable);
-    if (isReadable && (flags & Uninstalled) != 0) {
+    if (isReadable && (flags & Uninstalled) != 0)
         return QStringLiteral("uninstalled (StateFlags %1)").arg(flags);
-    }
-    if (isReadable && (flags & FullyInstalled) == 0) {
+    if (isReadable && (flags & FullyInstalled) == 0)
         return QStringLiteral("not fully installed (StateFlags %1)").arg(flags);
-    }
     return {};
 }
 
@@ -36,12 +34,10 @@ SteamManifest::SteamManifest(const QString &path, const QString &appId)
 {
     const PlainFile file(path, TextFormat::LargestFile);
     m_objection = file.problem();
-    if (m_objection.isEmpty()) {
+    if (m_objection.isEmpty())
         m_objection = parse(file.content());
-    }
-    if (m_objection.isEmpty()) {
+    if (m_objection.isEmpty())
         m_objection = objectionToState(appId);
-    }
 }
 
 QString SteamManifest::parse(const QByteArray &content)
@@ -49,28 +45,23 @@ QString SteamManifest::parse(const QByteArray &content)
     TextFormat text(content);
     const bool isManifest = text.enter("AppState");
     while (isManifest && text.next()) {
-        for (const char *name : {"appid", "installdir", "stateflags"}) {
-            if (text.isKey(name) && !m_fields.contains(QLatin1String(name))) {
+        for (const char *name : {"appid", "installdir", "stateflags"})
+            if (text.isKey(name) && !m_fields.contains(QLatin1String(name)))
                 m_fields.insert(QLatin1String(name), text.value());
-            }
-        }
         text.skip();
     }
-    if (text.isBroken()) {
+    if (text.isBroken())
         return QStringLiteral("cut off, or not in Steam's text format");
-    }
     return isManifest ? QString() : QStringLiteral("no AppState in it");
 }
 
 QString SteamManifest::objectionToState(const QString &appId) const
 {
     const QString written = m_fields.value(QStringLiteral("appid"), appId).trimmed();
-    if (written != appId) {
+    if (written != appId)
         return QStringLiteral("it is about another game");
-    }
-    if (!isPlainName(folderName())) {
+    if (!isPlainName(folderName()))
         return QStringLiteral("installdir is not a plain name");
-    }
     return objectionToFlags(m_fields.value(QStringLiteral("stateflags")));
 }
 

@@ -14,9 +14,8 @@ constexpr auto NativeRoot = ".local/share/Steam";
 QString nativeRoot(const Environment &environment)
 {
     const QString data = environment.variables.value(QStringLiteral("XDG_DATA_HOME"));
-    if (data.startsWith(u'/')) {
+    if (data.startsWith(u'/'))
         return QDir::cleanPath(data + QStringLiteral("/Steam"));
-    }
     return environment.inHome(QLatin1String(NativeRoot));
 }
 
@@ -49,19 +48,16 @@ QVector<SteamRoot> linuxRoots(const Environment &environment)
 QString SteamRoot::outside(const QString &folder) const
 {
     const QString cleaned = QDir::cleanPath(folder);
-    for (const auto &name : inSandbox) {
-        if (cleaned == name || cleaned.startsWith(name + u'/')) {
+    for (const auto &name : inSandbox)
+        if (cleaned == name || cleaned.startsWith(name + u'/'))
             return path + cleaned.mid(name.size());
-        }
-    }
     return folder;
 }
 
 QVector<SteamRoot> SteamRoot::all(const Environment &environment)
 {
-    if (environment.system == Environment::MacOS) {
+    if (environment.system == Environment::MacOS)
         return {{environment.inHome(QStringLiteral("Library/Application Support/Steam")), {}}};
-    }
     return linuxRoots(environment);
 }
 

@@ -43,9 +43,8 @@ TextFormat::TextFormat(QByteArray text)
     , m_at(m_text.constData())
     , m_end(m_at + m_text.size())
 {
-    if (isAt("\xEF\xBB\xBF")) {
+    if (isAt("\xEF\xBB\xBF"))
         m_at += 3;
-    }
 }
 
 bool TextFormat::next()
@@ -55,19 +54,15 @@ bool TextFormat::next()
     m_isBlock = false;
     skipBlanks();
     skipCondition();
-    if (m_isBroken || (m_at == m_end && m_level == 0)) {
+    if (m_isBroken || (m_at == m_end && m_level == 0))
         return false;
-    }
-    if (*m_at == '}') {
+    if (*m_at == '}')
         return closeBlock();
-    }
-    if (!readToken(&m_key)) {
+    if (!readToken(&m_key))
         return fail();
-    }
     skipBlanks();
-    if (*m_at != '{') {
+    if (*m_at != '{')
         return readToken(&m_value) || fail();
-    }
     ++m_at;
     ++m_level;
     m_isBlock = true;
@@ -81,21 +76,18 @@ bool TextFormat::isKey(const char *key) const
 
 void TextFormat::skip()
 {
-    if (!m_isBlock) {
+    if (!m_isBlock)
         return;
-    }
     const int outside = m_level - 1;
-    while (m_level > outside && !m_isBroken) {
+    while (m_level > outside && !m_isBroken)
         next();
-    }
 }
 
 bool TextFormat::enter(const char *key)
 {
     while (next()) {
-        if (isKey(key)) {
+        if (isKey(key))
             return m_isBlock;
-        }
         skip();
     }
     return false;
@@ -109,9 +101,8 @@ bool TextFormat::fail()
 
 bool TextFormat::closeBlock()
 {
-    if (m_level == 0) {
+    if (m_level == 0)
         return fail();
-    }
     ++m_at;
     --m_level;
     return false;
@@ -119,15 +110,13 @@ bool TextFormat::closeBlock()
 
 void TextFormat::skipBlanks()
 {
-    while (m_at != m_end) {
-        if (isBlank(*m_at)) {
+    while (m_at != m_end)
+        if (isBlank(*m_at))
             ++m_at;
-        } else if (isAt("//")) {
+        else if (isAt("//"))
             m_at = std::find(m_at, m_end, '\n');
-        } else {
+        else
             return;
-        }
-    }
 }
 
 void TextFormat::skipCondition()
@@ -145,21 +134,18 @@ void TextFormat::skipCondition()
 
 bool TextFormat::readToken(std::string *token)
 {
-    if (m_at == m_end || *m_at == '{' || *m_at == '}') {
+    if (m_at == m_end || *m_at == '{' || *m_at == '}')
         return false;
-    }
     return *m_at == '"' ? readQuoted(token) : readBare(token);
 }
 
 bool TextFormat::readQuoted(std::string *token)
 {
     ++m_at;
-    while (m_at != m_end && *m_at != '"' && token->size() <= LongestToken) {
+    while (m_at != m_end && *m_at != '"' && token->size() <= LongestToken)
         readCharacter(token);
-    }
-    if (m_at == m_end || token->size() > LongestToken) {
+    if (m_at == m_end || token->size() > LongestToken)
         return false;
-    }
     ++m_at;
     return true;
 }
@@ -183,12 +169,10 @@ void TextFormat::readCharacter(std::string *token)
 bool TextFormat::readBare(std::string *token)
 {
     const char *start = m_at;
-    while (m_at != m_end && !endsBareToken(*m_at)) {
+    while (m_at != m_end && !endsBareToken(*m_at))
         ++m_at;
-    }
-    if (m_at - start > LongestToken) {
+    if (m_at - start > LongestToken)
         return false;
-    }
     token->assign(start, m_at);
     return true;
 }

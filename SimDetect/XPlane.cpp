@@ -64,9 +64,8 @@ void XPlane::offer(const Source &source)
     const bool isComplete = std::all_of(Versions.begin(), Versions.end(), [this](int version) {
         return m_collector.has(codeOf(version));
     });
-    if (isComplete) {
+    if (isComplete)
         return;
-    }
     QMap<int, QVector<Candidate>> named;
     for (const int version : Versions) {
         named.insert(version, source(version));
@@ -74,9 +73,8 @@ void XPlane::offer(const Source &source)
             return test(folder, version, version);
         });
     }
-    for (const int version : Versions) {
+    for (const int version : Versions)
         offerMisnamed(version, named);
-    }
 }
 
 void XPlane::offerMisnamed(int version, const QMap<int, QVector<Candidate>> &named)
@@ -85,9 +83,8 @@ void XPlane::offerMisnamed(int version, const QMap<int, QVector<Candidate>> &nam
         return test(folder, version, 0);
     };
     for (const int other : Versions) {
-        if (other == version || m_collector.has(codeOf(version))) {
+        if (other == version || m_collector.has(codeOf(version)))
             continue;
-        }
         QVector<Candidate> misnamed = named.value(other);
         const auto isOther = [this, isIt](const Candidate &candidate) {
             return !candidate.objection.isEmpty() || !isIt(m_lookup.find(candidate.path)).isEmpty();
@@ -118,23 +115,19 @@ QVector<Candidate> XPlane::wellKnown(int version) const
         folders << m_environment.inRoot(QStringLiteral("/opt") + name);
     }
     QVector<Candidate> candidates;
-    for (const auto &folder : qAsConst(folders)) {
-        if (QFileInfo::exists(folder)) {
+    for (const auto &folder : qAsConst(folders))
+        if (QFileInfo::exists(folder))
             candidates.append({folder, {}});
-        }
-    }
     return candidates;
 }
 
 QString XPlane::test(const QString &folder, int version, int otherwise)
 {
-    if (!QFileInfo(folder + QStringLiteral("/Resources/plugins")).isDir()) {
+    if (!QFileInfo(folder + QStringLiteral("/Resources/plugins")).isDir())
         return QStringLiteral("no Resources/plugins");
-    }
     const auto names = m_lookup.names(folder);
-    if (!std::any_of(names.cbegin(), names.cend(), isExecutable)) {
+    if (!std::any_of(names.cbegin(), names.cend(), isExecutable))
         return QStringLiteral("no X-Plane executable");
-    }
     const int told = m_version.in(folder);
     const int really = told != 0 ? told : otherwise;
     return really == version ? QString() : QStringLiteral("it is X-Plane %1").arg(really);

@@ -16,21 +16,18 @@ constexpr int MostFolders = 4096;
 
 QVector<Candidate> XPlaneList::read(const QString &path)
 {
-    if (!QFileInfo::exists(path)) {
+    if (!QFileInfo::exists(path))
         return {};
-    }
     const PlainFile file(path);
-    if (!file.problem().isEmpty()) {
+    if (!file.problem().isEmpty())
         return {{path, file.problem()}};
-    }
     QTextStream text(file.content());
     text.setCodec("UTF-8");
     QVector<Candidate> candidates;
     while (!text.atEnd() && candidates.size() < MostFolders) {
         const QString line = text.readLine().trimmed();
-        if (!line.isEmpty()) {
+        if (!line.isEmpty())
             candidates.append({line, {}});
-        }
     }
     return candidates;
 }

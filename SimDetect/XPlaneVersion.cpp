@@ -36,12 +36,10 @@ QString plistText(const QByteArray &content, const QString &key)
     while (isList && xml.readNextStartElement()) {
         const bool isKey = xml.name() == QLatin1String("key")
             && xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed() == key;
-        if (isKey && xml.readNextStartElement()) {
+        if (isKey && xml.readNextStartElement())
             return xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
-        }
-        if (xml.isStartElement()) {
+        if (xml.isStartElement())
             xml.skipCurrentElement();
-        }
     }
     return {};
 }
@@ -49,9 +47,8 @@ QString plistText(const QByteArray &content, const QString &key)
 int readBundle(const QString &folder)
 {
     const QString path = folder + QStringLiteral("/X-Plane.app/Contents/Info.plist");
-    if (!QFileInfo::exists(path)) {
+    if (!QFileInfo::exists(path))
         return 0;
-    }
     const QString version
         = plistText(PlainFile(path).content(), QStringLiteral("CFBundleShortVersionString"));
     return numberIn(version, QStringLiteral("^([0-9]+)"));
@@ -67,20 +64,17 @@ int XPlaneVersion::in(const QString &folder)
 {
     const QString resolved = QFileInfo(folder).canonicalFilePath();
     const auto known = m_known.constFind(resolved);
-    if (known != m_known.constEnd()) {
+    if (known != m_known.constEnd())
         return *known;
-    }
     return *m_known.insert(resolved, read(folder));
 }
 
 int XPlaneVersion::read(const QString &folder)
 {
-    if (const int version = readLog(folder); version != 0) {
+    if (const int version = readLog(folder); version != 0)
         return version;
-    }
-    if (const int version = readBundle(folder); version != 0) {
+    if (const int version = readBundle(folder); version != 0)
         return version;
-    }
     return readInstaller(folder);
 }
 

@@ -9,9 +9,8 @@ namespace {
 
 void expect(bool holds)
 {
-    if (!holds) {
+    if (!holds)
         __builtin_trap();
-    }
 }
 
 // Goes through all of it. Each step takes at least one byte, so there are no more than bytes.
@@ -41,9 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     readEverything(bytes);
 
     TextFormat skipped(bytes);
-    while (skipped.next()) {
+    while (skipped.next())
         skipped.skip();
-    }
     TextFormat entered(bytes);
     expect(!entered.enter("AppState") || entered.isBlock());
     return 0;

@@ -61,9 +61,8 @@ int main()
     Computer computer(Environment::Linux);
     makeHome(computer);
     QVector<double> times;
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < Rounds; ++round)
         times.append(millisecondsOnce(computer.environment));
-    }
     std::sort(times.begin(), times.end());
     const double median = times.at(Rounds / 2);
     QTextStream(stdout) << "detection in a normal home: " << median << " ms (median of " << Rounds

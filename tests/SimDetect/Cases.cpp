@@ -14,11 +14,9 @@ QString linesOf(const QString &text)
 {
     QStringList lines;
     const auto written = text.split(u'\n');
-    for (const auto &line : written) {
-        if (!line.trimmed().isEmpty()) {
+    for (const auto &line : written)
+        if (!line.trimmed().isEmpty())
             lines.append(line.trimmed());
-        }
-    }
     return lines.join(u'\n');
 }
 
@@ -30,9 +28,8 @@ void checkCaseOn(Environment::System system)
     Computer computer(system);
     computer.make(tree);
     QCOMPARE(computer.detect(), computer.expanded(linesOf(found)));
-    if (log != QLatin1String("*")) {
+    if (log != QLatin1String("*"))
         QCOMPARE(computer.log().join(u'\n'), computer.expanded(linesOf(log)));
-    }
 }
 
 } // namespace
@@ -58,12 +55,10 @@ void addCase(const QByteArray &name,
 void checkCase()
 {
     QFETCH(int, systems);
-    if ((systems & OnLinux) != 0) {
+    if ((systems & OnLinux) != 0)
         checkCaseOn(Environment::Linux);
-    }
-    if ((systems & OnMacOS) != 0 && !QTest::currentTestFailed()) {
+    if ((systems & OnMacOS) != 0 && !QTest::currentTestFailed())
         checkCaseOn(Environment::MacOS);
-    }
 }
 
 } // namespace Tests

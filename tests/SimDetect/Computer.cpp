@@ -42,9 +42,8 @@ QByteArray unescaped(const QString &text)
 
 void makeFolder(const QString &path)
 {
-    if (!QDir().mkpath(path)) {
+    if (!QDir().mkpath(path))
         qFatal("cannot make %s", qPrintable(path));
-    }
 }
 
 } // namespace
@@ -62,9 +61,8 @@ void Computer::make(const QString &description)
     static const QRegularExpression game(QStringLiteral("^(.+?) ([0-9]+) (.+)$"));
     const auto lines = expanded(description).split(u'\n');
     for (const auto &written : lines) {
-        if (written.trimmed().isEmpty()) {
+        if (written.trimmed().isEmpty())
             continue;
-        }
         const auto match = line.match(written.trimmed());
         const QString path = match.captured(2);
         if (match.captured(1) == QLatin1String("game")) {
@@ -78,26 +76,24 @@ void Computer::make(const QString &description)
 
 void Computer::makeOne(const QString &what, const QString &path, const QString &rest)
 {
-    if (path.startsWith(u'/')) {
+    if (path.startsWith(u'/'))
         makeFolder(QFileInfo(path).path());
-    }
-    if (what == QLatin1String("dir")) {
+    if (what == QLatin1String("dir"))
         makeFolder(path);
-    } else if (what == QLatin1String("file")) {
+    else if (what == QLatin1String("file"))
         writeFile(path, unescaped(rest));
-    } else if (what == QLatin1String("link")) {
+    else if (what == QLatin1String("link"))
         QFile::link(rest, path);
-    } else if (what == QLatin1String("fifo")) {
+    else if (what == QLatin1String("fifo"))
         mkfifo(QFile::encodeName(path).constData(), 0600);
-    } else if (what == QLatin1String("libraries")) {
+    else if (what == QLatin1String("libraries"))
         makeLibraries(path, rest.split(QStringLiteral(", ")));
-    } else if (what == QLatin1String("xplane")) {
+    else if (what == QLatin1String("xplane"))
         makeXPlane(path);
-    } else if (what == QLatin1String("variable")) {
+    else if (what == QLatin1String("variable"))
         environment.variables.insert(path, rest);
-    } else {
+    else
         qFatal("cannot make this: %s %s", qPrintable(what), qPrintable(path));
-    }
 }
 
 void Computer::makeGame(const QString &library, const QString &id, const QString &name)
@@ -125,11 +121,10 @@ void Computer::makeLibraries(const QString &root, const QStringList &libraries)
 void Computer::makeXPlane(const QString &path) const
 {
     makeFolder(path + QStringLiteral("/Resources/plugins"));
-    if (environment.system == Environment::MacOS) {
+    if (environment.system == Environment::MacOS)
         makeFolder(path + QStringLiteral("/X-Plane.app"));
-    } else {
+    else
         writeFile(path + QStringLiteral("/X-Plane-x86_64"), {});
-    }
 }
 
 QString Computer::expanded(const QString &text) const
@@ -155,9 +150,8 @@ QString Computer::detect()
     m_duration = timer.elapsed();
     m_log = catcher.debugLines() + catcher.warnings();
     QStringList lines;
-    for (auto it = paths.cbegin(); it != paths.cend(); ++it) {
+    for (auto it = paths.cbegin(); it != paths.cend(); ++it)
         lines.append(it.key() + QStringLiteral(": ") + it.value());
-    }
     return lines.join(u'\n');
 }
 

@@ -81,20 +81,17 @@ QStringList filesWithContent(const Computer &computer)
 {
     QStringList paths;
     const auto tree = treeOf(computer.environment.root);
-    for (auto it = tree.cbegin(); it != tree.cend(); ++it) {
-        if (!it->isEmpty()) {
+    for (auto it = tree.cbegin(); it != tree.cend(); ++it)
+        if (!it->isEmpty())
             paths.append(computer.environment.root + u'/' + it.key());
-        }
-    }
     return paths;
 }
 
 QByteArray randomBytes(QRandomGenerator &random, int size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
-    for (auto &byte : bytes) {
+    for (auto &byte : bytes)
         byte = char(random.bounded(256));
-    }
     return bytes;
 }
 
@@ -134,9 +131,8 @@ void tst_Robustness::findsNothingInRandomBytes()
     const auto paths = filesWithContent(computer);
     QRandomGenerator random(20260101);
     for (int round = 0; round < 50; ++round) {
-        for (const auto &path : paths) {
+        for (const auto &path : paths)
             writeFile(path, randomBytes(random, random.bounded(3000)));
-        }
         QCOMPARE(computer.detect(), QString());
     }
 }
@@ -157,9 +153,8 @@ void tst_Robustness::survivesDamagedFiles()
         }
         computer.detect();
         QVERIFY(computer.duration() < 2000);
-        for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        for (auto it = before.cbegin(); it != before.cend(); ++it)
             writeFile(it.key(), it.value());
-        }
     }
     QCOMPARE(computer.detect().split(u'\n'), found);
 }
@@ -244,9 +239,8 @@ void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
 {
     Computer computer(Environment::Linux);
     QByteArray lines;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < 100000; ++i)
         lines += computer.environment.root.toUtf8() + "/gone " + QByteArray::number(i) + '\n';
-    }
     for (const int version : {10, 11, 12}) {
         writeFile(computer.expanded(QStringLiteral("$L/x-plane_install_%1.txt").arg(version)),
                   lines);
@@ -262,9 +256,8 @@ void tst_Robustness::opensNoFileTwice()
     computer.make(Everything);
     const auto paths = filesWithContent(computer);
     const int watcher = inotify_init1(IN_NONBLOCK);
-    for (const auto &path : paths) {
+    for (const auto &path : paths)
         QVERIFY(inotify_add_watch(watcher, QFile::encodeName(path).constData(), IN_OPEN) > 0);
-    }
     computer.detect();
     QFile events;
     QVERIFY(
@@ -279,9 +272,8 @@ void tst_Robustness::opensNoFileTwice()
         ++opened[event.wd];
     }
     QVERIFY(opened.size() > 10);
-    for (auto it = opened.cbegin(); it != opened.cend(); ++it) {
+    for (auto it = opened.cbegin(); it != opened.cend(); ++it)
         QVERIFY2(*it == 1, qPrintable(paths.at(it.key() - 1)));
-    }
 #else
     QSKIP("Only Linux tells who opens a file.");
 #endif
@@ -289,9 +281,8 @@ void tst_Robustness::opensNoFileTwice()
 
 void tst_Robustness::saysThatAFolderIsClosed()
 {
-    if (geteuid() == 0) {
+    if (geteuid() == 0)
         QSKIP("Nothing is closed to root.");
-    }
     Computer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $R/closed

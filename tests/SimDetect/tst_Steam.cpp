@@ -304,9 +304,8 @@ void tst_Steam::refusesFoldersOutsideTheLibrary_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name :
-         {"", ".", "..", "../X", "/", "a/b", "a\\\\b", "..\\\\..", "$R/outside", "X\\0Y"}) {
+         {"", ".", "..", "../X", "/", "a/b", "a\\\\b", "..\\\\..", "$R/outside", "X\\0Y"})
         QTest::newRow(name) << QString::fromUtf8(name);
-    }
 }
 
 // Wherever the name could lead there is an X-Plane, so that taking it would show.

@@ -110,9 +110,8 @@ void tst_TextFormat::givesUp()
     QVERIFY2(understood(content).endsWith('!'), understood(content).constData());
     // Once broken it stays so.
     TextFormat text(content);
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < 10; ++i)
         text.next();
-    }
     QVERIFY(text.isBroken());
     QVERIFY(!text.next());
 }

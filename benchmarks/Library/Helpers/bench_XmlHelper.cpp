@@ -105,9 +105,8 @@ int main()
          {QStringLiteral("values"),
           QJsonArray{QJsonObject{{QStringLiteral("key"), QStringLiteral("Name")},
                                  {QStringLiteral("value"), QStringLiteral("Measured")}}}}});
-    for (const char *encoding : {"UTF-8", "windows-1252", "UTF-16", "Shift_JIS"}) {
+    for (const char *encoding : {"UTF-8", "windows-1252", "UTF-16", "Shift_JIS"})
         for (const int size : {20 * 1000, 2 * 1000 * 1000, 20 * 1000 * 1000})
             compare(folder.filePath(QStringLiteral("exe.xml")), size, encoding, &model);
-    }
     return 0;
 }
