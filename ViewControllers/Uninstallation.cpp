@@ -32,6 +32,14 @@ void removeIfEmpty(QDir folder)
         folder.removeRecursively();
 }
 
+// A number that the toolkit has no location for names no folder.
+QString numberedFolder(int number)
+{
+    if (number < QStandardPaths::DesktopLocation || number > QStandardPaths::AppConfigLocation)
+        return {};
+    return userDataRoot(static_cast<QStandardPaths::StandardLocation>(number));
+}
+
 QString extraFile(const FlightSimulatorMapping *mapping, const FileOperation *operation)
 {
     if (operation->root == QLatin1String("-1")) {
@@ -39,8 +47,7 @@ QString extraFile(const FlightSimulatorMapping *mapping, const FileOperation *op
         // Joined by a backslash on every system, as the catalogues' authors expect it.
         return QDir::toNativeSeparators(base + QDir::toNativeSeparators(u'\\' + operation->path));
     }
-    const auto location = static_cast<QStandardPaths::StandardLocation>(operation->root.toInt());
-    return QDir::toNativeSeparators(userDataRoot(location) + operation->path);
+    return QDir::toNativeSeparators(numberedFolder(operation->root.toInt()) + operation->path);
 }
 
 } // namespace

@@ -5,4 +5,4 @@ orbwell_add_test(Views/ScannerViewLayout Widgets/RowParts.cpp Widgets/RowParts.h
 add_test(NAME Views/ScannerViewLayout-HiDPI COMMAND tst_ScannerViewLayout)
 set_tests_properties(Views/ScannerViewLayout-HiDPI PROPERTIES
   TIMEOUT 300
-  ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_SCALE_FACTOR=2")
+  ENVIRONMENT "${orbwell_test_environment};QT_SCALE_FACTOR=2")
