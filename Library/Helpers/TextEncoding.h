@@ -14,7 +14,8 @@ namespace Quillmont::Library::Helpers {
 class TextEncoding
 {
 public:
-    /// Looks at the beginning of @p bytes. An unknown declared name counts as none.
+    /// Looks at the beginning of @p bytes. An unknown declared name counts as none;
+    /// the XML reader refuses such a file later on.
     explicit TextEncoding(const QByteArray &bytes);
 
     /// A decoder for what follows the byte-order mark; the caller's own.
