@@ -174,6 +174,9 @@ void PilotsComputer::getsThePluginInOneGo()
 {
     start();
     scanAndInstall();
+    // The README's picture of this computer is taken here.
+    if (qEnvironmentVariableIsSet("ORBWELL_PICTURE"))
+        m_program->grab(qEnvironmentVariable("ORBWELL_PICTURE"));
     QCOMPARE(m_program->row(QStringLiteral("X-Plane 12")).icon, QStringLiteral("check-green"));
     for (const QString &xplane : {m_home->xplane12(), m_home->xplane11()}) {
         for (const char *library : {"lin.xpl", "mac.xpl", "win.xpl"}) {
