@@ -11,6 +11,10 @@ endforeach()
 
 orbwell_add_test(EndToEnd/PilotsComputer EndToEnd/PilotsHome.cpp EndToEnd/PilotsHome.h)
 target_link_libraries(tst_PilotsComputer PRIVATE orbwell-simulators orbwell-catalogue-support)
+orbwell_add_test(EndToEnd/ForeignConfigurations)
+target_link_libraries(tst_ForeignConfigurations
+  PRIVATE orbwell-simulators orbwell-xml-test-support)
+
 add_library(orbwell-computer STATIC
   EndToEnd/Bookkeeping.cpp EndToEnd/Bookkeeping.h
   EndToEnd/Computer.cpp EndToEnd/Computer.h

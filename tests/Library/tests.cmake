@@ -1,5 +1,7 @@
 # What the tests of the XML library share.
 add_library(orbwell-xml-test-support STATIC
+  Library/Helpers/Corpus.cpp
+  Library/Helpers/Corpus.h
   Library/Helpers/RoundTrip.cpp
   Library/Helpers/RoundTrip.h
   Library/Helpers/XmlEditTest.cpp

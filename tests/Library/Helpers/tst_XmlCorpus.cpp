@@ -1,11 +1,12 @@
+#include "tests/Library/Helpers/Corpus.h"
 #include "tests/Library/Helpers/RoundTrip.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
-#include <QDir>
-#include <QDirIterator>
+#include <QFileInfo>
 #include <QtTest>
 
+using Tests::Corpus;
 using Tests::RoundTrip;
 
 /// Adds an entry to many files of the kind that simulators have, and takes it out again.
@@ -20,39 +21,14 @@ private slots:
     void foreignFiles();
 
 private:
-    static void addFiles(const QString &folder);
     void check();
 
     Tests::Sandbox m_sandbox;
 };
 
-namespace {
-
-/// What a folder's index expects of its files: the first column names a file, the last one says
-/// "accept", "refuse", or something else where either will do.
-QMap<QString, QString> expectations(const QString &folder)
-{
-    QMap<QString, QString> result;
-    QFile index(folder + QStringLiteral("/INDEX.tsv"));
-    if (!index.open(QIODevice::ReadOnly))
-        return result;
-    const QStringList lines = QString::fromUtf8(index.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    for (const QString &line : lines)
-        result.insert(line.section(u'\t', 0, 0), line.section(u'\t', -1).trimmed());
-    return result;
-}
-
-QString foreignFolder()
-{
-    const QString beside = QStringLiteral(SOURCE_FOLDER "/../shared/xml-corpus");
-    return qEnvironmentVariable("ORBWELL_XML_CORPUS", beside);
-}
-
-} // namespace
-
 void TestXmlCorpus::ownFiles_data()
 {
-    addFiles(QStringLiteral(SOURCE_FOLDER "/tests/Library/corpus"));
+    Corpus::addRows(Corpus::own());
 }
 
 void TestXmlCorpus::ownFiles()
@@ -62,27 +38,14 @@ void TestXmlCorpus::ownFiles()
 
 void TestXmlCorpus::foreignFiles_data()
 {
-    if (!QFileInfo::exists(foreignFolder()))
+    if (!QFileInfo::exists(Corpus::foreign()))
         QSKIP("no folder of files; ORBWELL_XML_CORPUS may name one");
-    addFiles(foreignFolder());
+    Corpus::addRows(Corpus::foreign());
 }
 
 void TestXmlCorpus::foreignFiles()
 {
     check();
-}
-
-void TestXmlCorpus::addFiles(const QString &folder)
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("expected");
-    const QMap<QString, QString> expected = expectations(folder);
-    QDirIterator it(folder, {QStringLiteral("*.xml")}, QDir::Files, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        const QString name = QDir(folder).relativeFilePath(path);
-        QTest::newRow(qPrintable(name)) << path << expected.value(name);
-    }
 }
 
 void TestXmlCorpus::check()
