@@ -7,7 +7,6 @@
 #include "tests/support/LogCatcher.h"
 
 #include <QDateTime>
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
