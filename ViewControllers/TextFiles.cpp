@@ -7,11 +7,22 @@
 
 namespace Quillmont::Utility::ViewControllers {
 
+namespace {
+
+// Opening a pipe that stands in a file's place would wait for its other end for ever.
+bool isSomethingElse(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile();
+}
+
+} // namespace
+
 QString ScanController::readFile(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(path);
     QFile file(native);
-    if (file.open(QIODevice::ReadOnly))
+    if (!isSomethingElse(native) && file.open(QIODevice::ReadOnly))
         return QTextStream(&file).readAll();
 
     // Says "empty" of a file that could not be opened: what support has been told to look for.
@@ -29,7 +40,7 @@ void ScanController::saveFile(const QString &path, const QString &content)
         folder.mkpath(folder.absolutePath());
 
     QFile file(native);
-    if (file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
+    if (!isSomethingElse(native) && file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
         QTextStream(&file) << content;
         return;
     }

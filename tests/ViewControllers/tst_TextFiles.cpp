@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using Tests::Workshop;
 using Tests::writeFile;
 
@@ -111,6 +113,16 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage,
                  QStringLiteral("before") + unableToWriteLine(below) + unableToWriteLine(folder));
         QCOMPARE(shop.disk(), disk);
+    }
+
+    void waitsForNobodyAtAPipe()
+    {
+        Workshop shop;
+        const QString pipe = shop.path("pipe");
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QCOMPARE(shop.controller().readFile(pipe), QString());
+        shop.controller().saveFile(pipe, QStringLiteral("text"));
+        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(pipe) + unableToWriteLine(pipe));
     }
 
     void backsUpBesideTheFileWithTheLocalTime_data()
