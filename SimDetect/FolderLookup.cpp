@@ -66,13 +66,25 @@ QStringList FolderLookup::names(const QString &folder)
     return names;
 }
 
+QStringList FolderLookup::spellings(const QString &folder, const QString &name)
+{
+    auto known = m_spellings.find(folder);
+    if (known == m_spellings.end()) {
+        known = m_spellings.insert(folder, {});
+        const QStringList all = names(folder);
+        for (const auto &one : all)
+            (*known)[one.toCaseFolded()].append(one);
+    }
+    return known->value(name.toCaseFolded());
+}
+
 QString FolderLookup::child(const QString &folder, const QString &name)
 {
     QString exact = folder + u'/' + name;
     const bool isThere = QFileInfo::exists(exact);
     if (isThere && !isThereInOtherCase(folder, name))
         return exact;
-    const QStringList all = names(folder.isEmpty() ? QStringLiteral("/") : folder);
+    const QStringList all = spellings(folder.isEmpty() ? QStringLiteral("/") : folder, name);
     if (isThere && all.contains(name))
         return exact;
     for (const auto &spelling : all) {

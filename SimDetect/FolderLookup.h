@@ -25,8 +25,11 @@ public:
 
 private:
     QString child(const QString &folder, const QString &name);
+    QStringList spellings(const QString &folder, const QString &name);
 
     QHash<QString, QStringList> m_names;
+    /// Of each folder: the names, by what they have in common in any letter case.
+    QHash<QString, QHash<QString, QStringList>> m_spellings;
 };
 
 } // namespace Quillmont::SimDetect

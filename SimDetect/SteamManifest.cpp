@@ -20,7 +20,10 @@ bool isPlainName(const QString &name)
 QString objectionToFlags(const QString &written)
 {
     bool isReadable = false;
-    const quint64 flags = written.trimmed().toULongLong(&isReadable);
+    // Written with a sign as well, the highest bit being one of them.
+    auto flags = static_cast<quint64>(written.trimmed().toLongLong(&isReadable));
+    if (!isReadable)
+        flags = written.trimmed().toULongLong(&isReadable);
     if (isReadable && (flags & Uninstalled) != 0)
         return QStringLiteral("uninstalled (StateFlags %1)").arg(flags);
     if (isReadable && (flags & FullyInstalled) == 0)

@@ -61,8 +61,14 @@ bool TextFormat::next()
     if (!readToken(&m_key))
         return fail();
     skipBlanks();
-    if (*m_at != '{')
+    const char *const value = m_at;
+    skipCondition();
+    if (m_isBroken)
+        return false;
+    if (*m_at != '{') {
+        m_at = value; // A condition belongs to a block here; before a plain value it is the value.
         return readToken(&m_value) || fail();
+    }
     ++m_at;
     ++m_level;
     m_isBlock = true;

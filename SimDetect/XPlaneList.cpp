@@ -10,7 +10,7 @@ namespace Quillmont::SimDetect {
 namespace {
 
 // Nobody installs it that often, and each costs a look at the disk.
-constexpr int MostFolders = 4096;
+constexpr int MostFolders = 256;
 
 } // namespace
 

@@ -13,13 +13,18 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-/// The file that a chain of symbolic links ends at, which need not exist.
+/// The file that a chain of symbolic links ends at, which need not exist. Where a link lies behind
+/// a linked folder, ".." in it means that folder's real parent.
 QString linkTarget(const QString &path)
 {
-    constexpr int longestChain = 40;
     QFileInfo info(path);
-    for (int i = 0; i < longestChain && info.isSymLink(); ++i)
-        info.setFile(info.symLinkTarget());
+    if (info.exists())
+        return info.canonicalFilePath();
+    constexpr int longestChain = 40;
+    for (int i = 0; i < longestChain && info.isSymLink(); ++i) {
+        const QFileInfo link(QFileInfo(info.path()).canonicalFilePath() + u'/' + info.fileName());
+        info.setFile(link.symLinkTarget());
+    }
     return info.filePath();
 }
 

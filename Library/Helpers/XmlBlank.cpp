@@ -44,6 +44,12 @@ int XmlBlank::end(const QString &text, int place)
     return place;
 }
 
+QString XmlBlank::trimmed(const QString &text)
+{
+    const int first = end(text, 0);
+    return text.mid(first, std::max(begin(text, text.size()) - first, 0));
+}
+
 QString XmlBlank::lineBefore(const QString &text, int place)
 {
     const int blank = begin(text, place);

@@ -15,6 +15,9 @@ public:
     /// Where the white space ends that begins at @p place.
     static int end(const QString &text, int place);
 
+    /// @p text without the white space at both its ends.
+    static QString trimmed(const QString &text);
+
     /// The white space in front of @p place from its last line end on, all of it where it holds
     /// none.
     static QString lineBefore(const QString &text, int place);

@@ -1,6 +1,8 @@
 #ifndef LIBRARY_HELPERS_XMLELEMENT_H
 #define LIBRARY_HELPERS_XMLELEMENT_H
 
+#include "Library/Helpers/XmlBlank.h"
+
 #include <QString>
 #include <QVector>
 
@@ -15,7 +17,7 @@ struct XmlElement
     /// Whether @p expected is what stands in it, white space around it aside.
     bool says(const QString &expected) const
     {
-        return isPlain && text.trimmed() == expected.trimmed();
+        return isPlain && XmlBlank::trimmed(text) == XmlBlank::trimmed(expected);
     }
 
     QString name; ///< As written, a prefix included.

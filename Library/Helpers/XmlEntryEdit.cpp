@@ -9,6 +9,7 @@
 #include "Library/Models/XmlInsertionModel.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Quillmont::Library::Helpers {
 
@@ -20,12 +21,17 @@ XmlEntryEdit::XmlEntryEdit(const EncodedText &source, const XmlDocument &documen
 void XmlEntryEdit::insert(const Models::XmlInsertionModel &model)
 {
     const QVector<XmlEntry> &entries = m_document.entries();
+    QVector<XmlEntry> ours;
+    std::copy_if(entries.cbegin(),
+                 entries.cend(),
+                 std::back_inserter(ours),
+                 [&model](const auto &entry) { return XmlEntryMatch::isOurs(entry, model); });
     if (entries.isEmpty())
         add(model);
-    else
-        update(entries.first(), model.values);
-    for (int i = 1; i < entries.size(); ++i)
-        removeElement(entries.at(i));
+    if (!ours.isEmpty())
+        update(ours.first(), model.values);
+    for (int i = 1; i < ours.size(); ++i)
+        removeElement(ours.at(i));
 }
 
 void XmlEntryEdit::remove(const Models::XmlConfigModel &model)

@@ -248,6 +248,7 @@ void tst_Steam::believesManifests_data()
     flags("", "");
     flags("0x2", "");
     flags("99999999999999999999999", "");
+    flags("-1", "uninstalled (StateFlags 18446744073709551615)");
     flags("0", "not fully installed (StateFlags 0)");
     flags("2", "not fully installed (StateFlags 2)");
     flags("1026", "not fully installed (StateFlags 1026)");

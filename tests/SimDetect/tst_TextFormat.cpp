@@ -71,6 +71,7 @@ void tst_TextFormat::readsEntries_data()
     row("a comment behind a quoted token", "\"k\"//x\n\"v\"//y", "k=v;");
     row("slashes in a quoted token", R"(k "//v")", "k=//v;");
     row("a condition", "k v [$WIN32] k2 v2", "k=v;k2=v2;");
+    row("a condition before a block", "k [$A] { a b } k2 v2", "k{a=b;}k2=v2;");
     row("a condition with an or", "k v [$A || $B] // why\n[!$C] k2 v2", "k=v;k2=v2;");
     row("a quoted value that looks like a condition", R"(k "[$A]" k2 v2)", "k=[$A];k2=v2;");
     row("an include takes one token",

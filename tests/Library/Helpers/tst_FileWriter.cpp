@@ -33,6 +33,7 @@ private slots:
     void ownerStays();
     void symbolicLinkStays_data();
     void symbolicLinkStays();
+    void linkBehindALinkedFolderStays();
     void danglingLinkGetsItsTarget();
     void circleOfLinksIsRefused();
     void otherHardLinkKeepsTheOldBytes();
@@ -190,6 +191,20 @@ void TestFileWriter::symbolicLinkStays()
     QVERIFY(!QFileInfo(path("real/target.xml")).isSymLink());
     QCOMPARE(Tests::readFile(path("real/target.xml")), QByteArray("new"));
     QCOMPARE(files(), before);
+}
+
+// "..", in a link, leads out of the folder that it really lies in.
+void TestFileWriter::linkBehindALinkedFolderStays()
+{
+    QVERIFY(QDir().mkpath(path("real/deep/folder")));
+    Tests::writeFile(path("real/deep/store/dll.xml"), "old");
+    Tests::writeFile(path("store/dll.xml"), "foreign");
+    QVERIFY(QFile::link(QStringLiteral("../store/dll.xml"), path("real/deep/folder/dll.xml")));
+    QVERIFY(QFile::link(QStringLiteral("real/deep/folder"), path("folder")));
+
+    QVERIFY(write(path("folder/dll.xml"), "new"));
+    QCOMPARE(Tests::readFile(path("real/deep/store/dll.xml")), QByteArray("new"));
+    QCOMPARE(Tests::readFile(path("store/dll.xml")), QByteArray("foreign"));
 }
 
 void TestFileWriter::danglingLinkGetsItsTarget()

@@ -31,6 +31,8 @@ private slots:
     void keyAloneGoes();
     void entryOutOfAnEntityIsRefused_data();
     void entryOutOfAnEntityIsRefused();
+    void completeButForeignEntriesStay();
+    void foreignBlanksAreNoWhiteSpace();
     void removalNeverBreaksADocument();
     void selfClosedRootIsOpened();
     void modelThatRecognisesSomethingElseIsWrittenOnce();
@@ -428,6 +430,24 @@ void TestXmlHelper::entryOutOfAnEntityIsRefused()
     QVERIFY(!insertInto(bytes));
     QCOMPARE(content(), bytes);
     QVERIFY(log.hasDebugLineWith(QStringLiteral("out of an entity")));
+}
+
+// A model need not recognise what it writes; what it does not recognise is not ours to remove.
+void TestXmlHelper::completeButForeignEntriesStay()
+{
+    const char *const config = R"({"parent": "Addon", "values": [{"key": "Name", "value": "Tide"}],
+        "remove": {"key": "Id", "value": "7", "delete_parent": true}})";
+    const QByteArray bytes = "<R><Addon><Name>Tide</Name></Addon>"
+                             "<Addon><Name>Tide</Name><Id>8</Id></Addon></R>";
+    QVERIFY(insertInto(bytes, config));
+    QCOMPARE(content(), bytes);
+}
+
+void TestXmlHelper::foreignBlanksAreNoWhiteSpace()
+{
+    const QByteArray bytes = "<R><Addon><Name>\xc2\xa0Tide</Name></Addon></R>";
+    QVERIFY(removeFrom(bytes));
+    QCOMPARE(content(), bytes);
 }
 
 void TestXmlHelper::removalNeverBreaksADocument()
