@@ -6,6 +6,7 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/ConfigurationLock.h"
 #include "ViewControllers/ResultBox.h"
 #include "ViewControllers/SimulatorFiles.h"
 
@@ -109,6 +110,7 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     }
     qDebug("hit reg search...");
 
+    const ConfigurationLock lock;
     const QString file = QDir::toNativeSeparators(configurationFile(mapping));
     if (QFile::exists(file))
         backUp(file, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));

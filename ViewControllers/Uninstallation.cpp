@@ -8,6 +8,7 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/ConfigurationLock.h"
 #include "ViewControllers/ResultBox.h"
 #include "ViewControllers/SimulatorFiles.h"
 
@@ -106,6 +107,7 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
     if (!mapping->scan->config)
         return;
 
+    const ConfigurationLock lock;
     const QString file = configurationFile(mapping);
     backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
     auto *helper = new XmlHelper(this, file);

@@ -25,7 +25,9 @@ class Program
 {
 public:
     /// Runs without a screen, or on @p display when there is one.
-    explicit Program(const Sandbox &sandbox, const Display *display = nullptr);
+    explicit Program(const Sandbox &sandbox,
+                     const Display *display = nullptr,
+                     const QString &folder = QStringLiteral("program"));
     ~Program();
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
