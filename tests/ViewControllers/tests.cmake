@@ -13,6 +13,7 @@ foreach(class
     Detection
     Installation
     InstallationRecord
+    Rescans
     ScanController
     ScanSession
     TextFiles
@@ -20,3 +21,4 @@ foreach(class
   orbwell_add_test(ViewControllers/${class})
   target_link_libraries(tst_${class} PRIVATE orbwell-workshop)
 endforeach()
+target_link_libraries(tst_Rescans PRIVATE orbwell-catalogue-support)
