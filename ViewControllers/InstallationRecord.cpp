@@ -28,9 +28,11 @@ QString recordPath()
 
 bool allExist(const QJsonArray &files)
 {
-    return std::all_of(files.begin(), files.end(), [](const QJsonValue &file) {
-        return QFile::exists(file.toString());
-    });
+    // Each is looked up, as isAddonInstalled() does it.
+    bool complete = true;
+    for (const QJsonValue &file : files)
+        complete &= QFile::exists(file.toString());
+    return complete;
 }
 
 QJsonObject recordOf(const FlightSimulatorMapping *mapping)

@@ -1,3 +1,4 @@
+#include "tests/Models/LookedUpPaths.h"
 #include "tests/ViewControllers/Unprivileged.h"
 #include "tests/ViewControllers/Workshop.h"
 
@@ -139,6 +140,19 @@ private slots:
         QCOMPARE(all.constFirst()->path, path);
         QCOMPARE(all.constFirst()->note, path == QLatin1String("old") ? QString() : path);
         QCOMPARE(readFile(shop.recordPath()), shop.expanded(record));
+    }
+
+    void looksUpEveryFileOfARecord()
+    {
+        if (!Tests::canSeeLookUps())
+            QSKIP("no view of what the toolkit looks up on this system");
+        Workshop shop;
+        shop.writeRecord(R"([{"name": "Sim A", "files": ["$ROOT/a", "$ROOT/b"]}])");
+        Tests::takeLookedUpPaths();
+        shop.controller().getUserSimulatorMapping();
+        const QStringList asked = Tests::takeLookedUpPaths();
+        QVERIFY(asked.contains(shop.path("a")));
+        QVERIFY(asked.contains(shop.path("b")));
     }
 
     void entriesWithoutANameMeetRecordsWithoutOne()
