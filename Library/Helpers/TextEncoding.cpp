@@ -10,8 +10,10 @@ namespace {
 
 QByteArray encode(const QTextCodec *codec, const QString &text)
 {
+    // The TSCII codec looks at what stands behind the last character, too.
+    const QString padded = text + QString(2, QChar());
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    return codec->fromUnicode(text.constData(), text.size(), &state);
+    return codec->fromUnicode(padded.constData(), text.size(), &state);
 }
 
 QString decode(const QTextCodec *codec, const QByteArray &bytes)
