@@ -20,6 +20,7 @@ private slots:
     void goesByTheFolderThatIsFound_data();
     void goesByTheFolderThatIsFound();
     void repairsNothingThatMissesAFile();
+    void putsItsWordIntoANameThatAsksForIt();
     void leavesTheEntryOutButTakesItOut();
     void takesTheLaterOfTwoEntriesInOneFolder();
     void installsTheLaterOfTwoEntriesFirst();
@@ -157,6 +158,19 @@ void UnattendedDetails::repairsNothingThatMissesAFile()
     QCOMPARE(m_computer->said(), QStringList());
     m_computer->finish(&expected, {m_computer->recordFor(entry)});
     QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+// The summary's lines are put in before its word.
+void UnattendedDetails::putsItsWordIntoANameThatAsksForIt()
+{
+    const QJsonObject entry = m_computer->hiddenEntry(QStringLiteral("Rec %1"), 1);
+    m_computer->setCatalogue({entry});
+    m_computer->addPlugin(QStringLiteral("Rec %1"), 1);
+    m_computer->setRecords({m_computer->recordFor(entry)});
+
+    QCOMPARE(m_computer->run({QStringLiteral("--REPAIR")}), 0);
+    QCOMPARE(m_computer->said().value(0).section(u'\n', -1),
+             QStringLiteral("Rec updated: Updated"));
 }
 
 void UnattendedDetails::leavesTheEntryOutButTakesItOut()
