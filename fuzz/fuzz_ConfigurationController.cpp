@@ -18,6 +18,17 @@ namespace {
 
 using Settings = QMap<QString, QVariant>;
 
+QString keyOf(const QString &name)
+{
+    return QStringLiteral("flightsim/") + QString(name).replace(u' ', u'_');
+}
+
+/// Slashes part a key into levels, however many stand in a row.
+QString levels(const QString &key)
+{
+    return key.split(u'/', Qt::SkipEmptyParts).join(u'/');
+}
+
 /// A settings file and the one object that works on it, for the whole run.
 class Store
 {
@@ -62,8 +73,11 @@ Settings Store::content() const
     const QSettings file(path(), QSettings::IniFormat);
     Settings content;
     const QStringList keys = file.allKeys();
-    for (const QString &key : keys)
-        content.insert(key, file.value(key));
+    // A line without a name makes a key that nobody can ask for.
+    for (const QString &key : keys) {
+        if (key == levels(key))
+            content.insert(key, file.value(key));
+    }
     return content;
 }
 
@@ -71,17 +85,6 @@ Store &store()
 {
     static Store store;
     return store;
-}
-
-/// A row's key. Slashes part it into levels, however many stand in a row.
-QString keyOf(const QString &name)
-{
-    return QStringLiteral("flightsim/") + QString(name).replace(u' ', u'_');
-}
-
-QString levels(const QString &key)
-{
-    return key.split(u'/', Qt::SkipEmptyParts).join(u'/');
 }
 
 void save(const QString &name, const QString &folder, Settings *expected)

@@ -150,13 +150,14 @@ void checkReading(const QByteArray &bytes)
     }
 }
 
-void checkWritten(const QByteArray &written, const QJsonArray &expected)
+/// Byte by byte: the toolkit's reader drops a byte-order mark at the beginning of a text.
+void checkWritten(const QJsonArray &expected)
 {
+    const QByteArray written = office().record();
     expect(QString::fromUtf8(written).toUtf8() == written, "the record is UTF-8");
-    const QJsonDocument document = QJsonDocument::fromJson(written);
-    expect(document.isArray(), "the record is a list");
-    expect(document.array() == expected, "the other records stay, and the new one is the last");
-    expect(document.toJson(QJsonDocument::Indented) == written, "the record is indented");
+    expect(QJsonDocument::fromJson(written).isArray(), "the record is a list");
+    expect(QJsonDocument(expected).toJson(QJsonDocument::Indented) == written,
+           "the other records stay, and the new one is the last");
 }
 
 void checkWriting(const QByteArray &bytes, FlightSimulatorMapping *mapping)
@@ -164,9 +165,8 @@ void checkWriting(const QByteArray &bytes, FlightSimulatorMapping *mapping)
     const QString folder = QStringLiteral("/sims/Bücher");
     const QString name = mapping->scan->name;
     mapping->path = folder;
-    const QJsonArray rest = without(records(bytes), name);
-    QJsonArray installed = rest;
-    installed.append(
+    QJsonArray expected = without(records(bytes), name);
+    expected.append(
         QJsonObject{{QStringLiteral("name"), name},
                     {QStringLiteral("path"), folder},
                     {QStringLiteral("files"),
@@ -174,9 +174,11 @@ void checkWriting(const QByteArray &bytes, FlightSimulatorMapping *mapping)
 
     office().setRecord(bytes);
     office().controller->saveInstallationInfo(mapping, false);
-    checkWritten(office().record(), installed);
+    checkWritten(expected);
+
+    expected = without(records(office().record()), name);
     office().controller->saveInstallationInfo(mapping, true);
-    checkWritten(office().record(), rest);
+    checkWritten(expected);
     expect(office().controller->m_errorMessage.isEmpty(), "nothing of it is an error");
 }
 
