@@ -1,5 +1,6 @@
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
 
 #include <QFileInfo>
 #include <QtTest>
@@ -26,6 +27,7 @@ private slots:
     void installsTheLaterOfTwoEntriesFirst();
     void showsAFailedCopyBeforeTheNextInstallation();
     void tellsOthersWhereTheProgramIs();
+    void tellsOthersOneBackslashForTwo();
     void looksAtTheComputer_data();
     void looksAtTheComputer();
 
@@ -260,6 +262,18 @@ void UnattendedDetails::tellsOthersWhereTheProgramIs()
     m_computer->finish(&expected, {});
     put(&expected, m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping")), "");
     QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+void UnattendedDetails::tellsOthersOneBackslashForTwo()
+{
+    const Sandbox sandbox;
+    Program program(sandbox, nullptr, QStringLiteral(R"(one\two\\\three)"));
+    writeFile(program.folder() + QLatin1String("/flightsims.json"), "[]");
+    program.start(quietInstallation());
+    QCOMPARE(program.exitStatus(), 2);
+    QCOMPARE(
+        QString::fromUtf8(readFile(sandbox.dataRoot() + QLatin1String("Quillmont/Orbwell/.path"))),
+        sandbox.path(QStringLiteral(R"(one\two\\three/QuillmontOrbwell.exe)")));
 }
 
 void UnattendedDetails::looksAtTheComputer_data()

@@ -44,8 +44,8 @@ static QProcessEnvironment plainEnvironment()
     return environment;
 }
 
-Program::Program(const Sandbox &sandbox, const Display *display)
-    : m_folder(sandbox.path(QStringLiteral("program")))
+Program::Program(const Sandbox &sandbox, const Display *display, const QString &folder)
+    : m_folder(sandbox.path(folder))
     , m_executable(copyOfProgram(m_folder))
     , m_environment(plainEnvironment())
 {

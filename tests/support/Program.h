@@ -24,8 +24,10 @@ class Sandbox;
 class Program
 {
 public:
-    /// Runs without a screen, or on @p display when there is one.
-    explicit Program(const Sandbox &sandbox, const Display *display = nullptr);
+    /// Runs without a screen, or on @p display when there is one, from @p folder of the sandbox.
+    explicit Program(const Sandbox &sandbox,
+                     const Display *display = nullptr,
+                     const QString &folder = QStringLiteral("program"));
     ~Program();
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
