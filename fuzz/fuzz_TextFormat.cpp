@@ -1,17 +1,13 @@
 #include "SimDetect/TextFormat.h"
+#include "fuzz/Expect.h"
 
 #include <cstddef>
 #include <cstdint>
 
+using Fuzz::expect;
 using Quillmont::SimDetect::TextFormat;
 
 namespace {
-
-void expect(bool holds)
-{
-    if (!holds)
-        __builtin_trap();
-}
 
 // Goes through all of it. Each step takes at least one byte, so there are no more than bytes.
 void readEverything(const QByteArray &bytes)
@@ -20,16 +16,16 @@ void readEverything(const QByteArray &bytes)
     int level = 0;
     int steps = 0;
     while (level >= 0 && !text.isBroken()) {
-        expect(++steps <= bytes.size() + 1);
+        expect(++steps <= bytes.size() + 1, "each step takes a byte");
         if (!text.next()) {
             --level;
         } else if (text.isBlock()) {
             ++level;
-            expect(text.value().isEmpty());
+            expect(text.value().isEmpty(), "a block has no value");
         }
-        expect(level <= 64 && text.key().size() <= 65536);
+        expect(level <= 64 && text.key().size() <= 65536, "levels and keys have their limits");
     }
-    expect(!text.next() || !text.isBroken());
+    expect(!text.next() || !text.isBroken(), "a broken text stays so");
 }
 
 } // namespace
@@ -43,6 +39,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     while (skipped.next())
         skipped.skip();
     TextFormat entered(bytes);
-    expect(!entered.enter("AppState") || entered.isBlock());
+    expect(!entered.enter("AppState") || entered.isBlock(), "what is entered is a block");
     return 0;
 }

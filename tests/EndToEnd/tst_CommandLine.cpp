@@ -59,6 +59,7 @@ void CommandLine::starts_data()
     addLine("a quiet one", line("--INSTALL 1"), "quiet install");
     addLine("quiet first", line("1 --INSTALL"), "quiet install");
     addLine("quiet, in between", line("--REPAIR 1 --install"), "quiet install");
+    addLine("twice quiet", line("1 --INSTALL 1"), "quiet install");
     addLine("quiet, whatever follows", line("--INSTALL 1 0"), "quiet install");
     addLine("quiet alone", line("1"), "window");
     addLine("a repair is never quiet", line("--REPAIR 1"), "repair");

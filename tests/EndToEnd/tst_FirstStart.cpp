@@ -21,6 +21,7 @@ private slots:
     void showsTheRowsOnAScreen();
     void keepsEverythingInsideTheWindow();
     void isDrawnAtTheScaleOfTheScreen();
+    void isDrawnAtTheDensityOfTheScreen();
     void startsAnEmptyRecordAndWritesNothingElse();
     void leavesAnOldRecordAlone();
     void hasNothingToComplainAbout();
@@ -139,6 +140,17 @@ void TestFirstStart::isDrawnAtTheScaleOfTheScreen()
     m_program->grab(picture);
     QCOMPARE(QImage(picture).size(), QSize(1280, 960));
     QCOMPARE(m_program->rows().value(1).icon, QStringLiteral("check-green"));
+}
+
+void TestFirstStart::isDrawnAtTheDensityOfTheScreen()
+{
+    const Display display(192);
+    if (!display.isUp())
+        QSKIP("needs Xvfb and xdotool");
+    start(&display);
+    const QString picture = m_sandbox->path(QStringLiteral("window.png"));
+    m_program->grab(picture);
+    QCOMPARE(QImage(picture).size(), QSize(1280, 960));
 }
 
 void TestFirstStart::startsAnEmptyRecordAndWritesNothingElse()

@@ -1,5 +1,6 @@
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
 
 #include <QFileInfo>
 #include <QtTest>
@@ -20,11 +21,13 @@ private slots:
     void goesByTheFolderThatIsFound_data();
     void goesByTheFolderThatIsFound();
     void repairsNothingThatMissesAFile();
+    void putsItsWordIntoANameThatAsksForIt();
     void leavesTheEntryOutButTakesItOut();
     void takesTheLaterOfTwoEntriesInOneFolder();
     void installsTheLaterOfTwoEntriesFirst();
     void showsAFailedCopyBeforeTheNextInstallation();
     void tellsOthersWhereTheProgramIs();
+    void tellsOthersOneBackslashForTwo();
     void looksAtTheComputer_data();
     void looksAtTheComputer();
 
@@ -159,6 +162,19 @@ void UnattendedDetails::repairsNothingThatMissesAFile()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
+// The summary's lines are put in before its word.
+void UnattendedDetails::putsItsWordIntoANameThatAsksForIt()
+{
+    const QJsonObject entry = m_computer->hiddenEntry(QStringLiteral("Rec %1"), 1);
+    m_computer->setCatalogue({entry});
+    m_computer->addPlugin(QStringLiteral("Rec %1"), 1);
+    m_computer->setRecords({m_computer->recordFor(entry)});
+
+    QCOMPARE(m_computer->run({QStringLiteral("--REPAIR")}), 0);
+    QCOMPARE(m_computer->said().value(0).section(u'\n', -1),
+             QStringLiteral("Rec updated: Updated"));
+}
+
 void UnattendedDetails::leavesTheEntryOutButTakesItOut()
 {
     const QJsonObject entry = with(m_computer->entry(m_det, 0), "root", QStringLiteral("1"));
@@ -246,6 +262,18 @@ void UnattendedDetails::tellsOthersWhereTheProgramIs()
     m_computer->finish(&expected, {});
     put(&expected, m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping")), "");
     QCOMPARE(difference(m_computer->disk(), expected), QString());
+}
+
+void UnattendedDetails::tellsOthersOneBackslashForTwo()
+{
+    const Sandbox sandbox;
+    Program program(sandbox, nullptr, QStringLiteral(R"(one\two\\\three)"));
+    writeFile(program.folder() + QLatin1String("/flightsims.json"), "[]");
+    program.start(quietInstallation());
+    QCOMPARE(program.exitStatus(), 2);
+    QCOMPARE(
+        QString::fromUtf8(readFile(sandbox.dataRoot() + QLatin1String("Quillmont/Orbwell/.path"))),
+        sandbox.path(QStringLiteral(R"(one\two\\three/QuillmontOrbwell.exe)")));
 }
 
 void UnattendedDetails::looksAtTheComputer_data()

@@ -26,12 +26,15 @@ private slots:
     void namesAFileThatCannotBeRemoved_data();
     void namesAFileThatCannotBeRemoved();
     void saysThatASimulatorIsNotUpdated();
+    void saysThatARecordedSimulatorIsNotUpdated();
+    void showsAFailedUpdateBeforeTheNextOne();
     void failsTheRunForOneSimulatorOfTwo();
     void namesAFolderThatCannotBeWritten();
 
 private:
     QString cannotRemove(const QString &simulator, const QString &lines) const;
     QString unwritableFolder() const;
+    QString installWithoutPayload() const;
 
     const QString m_det = QStringLiteral("Det");
     const QString m_rec = QStringLiteral("Rec");
@@ -194,6 +197,46 @@ void UnattendedFailures::saysThatASimulatorIsNotUpdated()
             {cannotRemove(m_det, line), cannotRemove(m_det, line), updated("Det: Not updated")}));
     QCOMPARE(m_computer->run(words("--INSTALL 1")), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotRemove(m_det, line)));
+}
+
+// The plugin is in a simulator that the record alone knows, so that nothing but the installation
+// itself can fail. Answers what it complains about.
+QString UnattendedFailures::installWithoutPayload() const
+{
+    const QString source
+        = m_computer->program().folder() + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll");
+    QFile::remove(source);
+    m_computer->addPlugin(m_rec, 0);
+    return QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have permission to "
+                          "folder '%3/'.\r\n")
+        .arg(source, m_computer->folder(m_rec) + m_module, m_computer->folder(m_rec));
+}
+
+void UnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
+{
+    const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
+    m_computer->setCatalogue({rec});
+    m_computer->setRecords({m_computer->recordFor(rec)});
+    installWithoutPayload();
+
+    QCOMPARE(m_computer->run(words("--REPAIR")), 2);
+    QCOMPARE(m_computer->said(), QStringList(updated("Rec: Not updated")));
+}
+
+// The lines of one installation come up with the next removal, which so fails as well.
+void UnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
+{
+    const QString other = QStringLiteral("Other");
+    const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
+    const QJsonObject last = m_computer->hiddenEntry(other, 1);
+    m_computer->setCatalogue({last, rec});
+    m_computer->setRecords({m_computer->recordFor(rec), m_computer->recordFor(last)});
+    m_computer->addPlugin(other, 1);
+    const QString line = installWithoutPayload();
+
+    QCOMPARE(m_computer->run(words("--REPAIR")), 2);
+    QCOMPARE(m_computer->said(),
+             QStringList({cannotRemove(other, line), updated("Rec: Not updated\nOther: Updated")}));
 }
 
 void UnattendedFailures::failsTheRunForOneSimulatorOfTwo()

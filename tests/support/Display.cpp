@@ -5,7 +5,7 @@
 
 namespace Tests {
 
-Display::Display()
+Display::Display(int dotsPerInch)
 {
     const QString server = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
     if (server.isEmpty() || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
@@ -17,6 +17,8 @@ Display::Display()
                     QStringLiteral("-screen"),
                     QStringLiteral("0"),
                     QStringLiteral("1280x1024x24"),
+                    QStringLiteral("-dpi"),
+                    QString::number(dotsPerInch),
                     QStringLiteral("-nolisten"),
                     QStringLiteral("tcp")});
     while (!m_server.canReadLine()) {

@@ -11,7 +11,7 @@ namespace Tests {
 class Display
 {
 public:
-    Display();
+    explicit Display(int dotsPerInch = 96);
     ~Display();
     Display(const Display &) = delete;
     Display &operator=(const Display &) = delete;

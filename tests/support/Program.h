@@ -24,7 +24,7 @@ class Sandbox;
 class Program
 {
 public:
-    /// Runs without a screen, or on @p display when there is one.
+    /// Runs without a screen, or on @p display when there is one, from @p folder of the sandbox.
     explicit Program(const Sandbox &sandbox,
                      const Display *display = nullptr,
                      const QString &folder = QStringLiteral("program"));

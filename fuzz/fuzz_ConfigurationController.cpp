@@ -1,0 +1,132 @@
+#include "Controllers/ConfigurationController.h"
+#include "fuzz/Expect.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMap>
+#include <QSettings>
+
+#include <cstddef>
+#include <cstdint>
+
+using Fuzz::expect;
+using Quillmont::Utility::Controllers::ConfigurationController;
+
+namespace {
+
+using Settings = QMap<QString, QVariant>;
+
+QString keyOf(const QString &name)
+{
+    return QStringLiteral("flightsim/") + QString(name).replace(u' ', u'_');
+}
+
+/// Slashes part a key into levels, however many stand in a row.
+QString levels(const QString &key)
+{
+    return key.split(u'/', Qt::SkipEmptyParts).join(u'/');
+}
+
+/// A settings file and the one object that works on it, for the whole run.
+class Store
+{
+public:
+    Store();
+
+    void setFile(const QByteArray &bytes) const;
+    Settings content() const;
+
+    ConfigurationController *settings = nullptr;
+
+private:
+    QString path() const
+    {
+        return m_sandbox.dataRoot() + QLatin1String("Quillmont/Vellum/.settings");
+    }
+
+    Tests::Sandbox m_sandbox;
+};
+
+Store::Store()
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int count = 1;
+    static char name[] = "fuzz_ConfigurationController";
+    static char *arguments[] = {name, nullptr};
+    new QGuiApplication(count, arguments);
+    settings = ConfigurationController::instance();
+    QDir().mkpath(QFileInfo(path()).path());
+}
+
+void Store::setFile(const QByteArray &bytes) const
+{
+    QFile file(path());
+    expect(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
+           "the settings can be prepared");
+}
+
+Settings Store::content() const
+{
+    const QSettings file(path(), QSettings::IniFormat);
+    Settings content;
+    const QStringList keys = file.allKeys();
+    // A line without a name makes a key that nobody can ask for.
+    for (const QString &key : keys) {
+        if (key == levels(key))
+            content.insert(key, file.value(key));
+    }
+    return content;
+}
+
+Store &store()
+{
+    static Store store;
+    return store;
+}
+
+void save(const QString &name, const QString &folder, Settings *expected)
+{
+    const QString key = keyOf(name);
+    store().settings->saveSettings(key, folder);
+    expected->insert(levels(key), folder);
+    expect(store().settings->getSettings(key, QString()).toString() == folder,
+           "what is saved reads back");
+}
+
+void remove(const QString &name, Settings *expected)
+{
+    const QString key = keyOf(name);
+    store().settings->removeSettings(key);
+    const QStringList keys = expected->keys();
+    for (const QString &one : keys) {
+        if (one == levels(key) || one.startsWith(levels(key) + u'/'))
+            expected->remove(one);
+    }
+    expect(!store().settings->getSettings(key).isValid(), "what is removed is gone");
+}
+
+} // namespace
+
+/// The input is a settings file up to a line "----", and then one row's work a line: "NAME=FOLDER"
+/// saves and "NAME" removes. A vertical tab stands for a line end.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    const int border = bytes.indexOf("----\n");
+    store().setFile(border < 0 ? QByteArray() : bytes.left(border));
+    Settings expected = store().content();
+    const QList<QByteArray> lines = bytes.mid(border < 0 ? 0 : border + 5).split('\n');
+    for (const QByteArray &line : lines.mid(0, 8)) {
+        const QString work = QString::fromUtf8(line).replace(u'\v', u'\n');
+        const int sign = work.indexOf(u'=');
+        if (sign < 0)
+            remove(work, &expected);
+        else
+            save(work.left(sign), work.mid(sign + 1), &expected);
+        expect(store().content() == expected, "all other settings stay");
+    }
+    return 0;
+}

@@ -1,0 +1,144 @@
+#include "SimDetect/Environment.h"
+#include "SimDetect/SimDetect.h"
+#include "fuzz/Expect.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+using Fuzz::expect;
+using Quillmont::SimDetect::Environment;
+
+namespace {
+
+/// A computer with a simulator of each kind, whose own and whose shops' files anybody may write.
+class Computer
+{
+public:
+    Computer();
+
+    void write(const QList<QByteArray> &contents) const;
+    void check(const QString &code, const QString &folder) const;
+
+    Environment environment;
+
+private:
+    void makeFolders() const;
+
+    QString path(const char *relative) const { return m_sandbox.path(QLatin1String(relative)); }
+
+    Tests::Sandbox m_sandbox;
+};
+
+constexpr auto Library = "home/.local/share/Steam";
+
+/// What is read of them, in the input's order.
+constexpr std::array<const char *, 7> Files = {
+    "home/.local/share/Steam/config/libraryfolders.vdf",
+    "home/.local/share/Steam/steamapps/appmanifest_314160.acf",
+    "home/.x-plane/x-plane_install_12.txt",
+    "home/.local/share/Steam/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/"
+    "Roaming/Microsoft Flight Simulator/UserCfg.opt",
+    "X-Plane/Log.txt",
+    "X-Plane/X-Plane.app/Contents/Info.plist",
+    "home/.fgfs/fgdata_2020_3/version",
+};
+
+Computer::Computer()
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    environment.home = m_sandbox.home();
+    environment.root = m_sandbox.root();
+    makeFolders();
+}
+
+void Computer::makeFolders() const
+{
+    const QString games = path(Library) + QLatin1String("/steamapps/");
+    const QString packages = QStringLiteral("compatdata/1250410/pfx/drive_c/Packages/Community");
+    for (const QString &folder : {games + QLatin1String("common/FSX/SimObjects"),
+                                  games + packages,
+                                  path("Drive/steamapps/common/FSX/SimObjects"),
+                                  path("X-Plane/Resources/plugins")})
+        QDir().mkpath(folder);
+    for (const char *file : Files)
+        QDir().mkpath(QFileInfo(path(file)).path());
+    for (const QString &file : {games + QLatin1String("common/FSX/fsx.exe"),
+                                path("Drive/steamapps/common/FSX/fsx.exe"),
+                                path("X-Plane/X-Plane-x86_64"),
+                                path("home/.fgfs/fgdata_2020_3/defaults.xml")})
+        QFile(file).open(QIODevice::WriteOnly);
+}
+
+void Computer::write(const QList<QByteArray> &contents) const
+{
+    for (std::size_t i = 0; i < Files.size(); ++i) {
+        QFile file(path(Files.at(i)));
+        QByteArray content = contents.value(static_cast<int>(i));
+        content.replace("$R", m_sandbox.root().toUtf8());
+        expect(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(),
+               "the files can be prepared");
+    }
+}
+
+/// Only what is there is found, and only under the name of what it is.
+void Computer::check(const QString &code, const QString &folder) const
+{
+    static const QMap<QString, const char *> marks{{QStringLiteral("XP10"), "Resources/plugins"},
+                                                   {QStringLiteral("XP11"), "Resources/plugins"},
+                                                   {QStringLiteral("XP12"), "Resources/plugins"},
+                                                   {QStringLiteral("FSXSE"), "fsx.exe"},
+                                                   {QStringLiteral("MSFS2020"), "Community"},
+                                                   {QStringLiteral("FGFS"), "defaults.xml"}};
+    expect(marks.contains(code), "nothing is found that is not there");
+    expect(folder.startsWith(u'/') && !folder.endsWith(u'/')
+               && !folder.contains(QLatin1String("//")),
+           "a folder is absolute and without a slash at its end");
+    const QString resolved = QFileInfo(folder).canonicalFilePath();
+    expect(resolved.startsWith(QFileInfo(m_sandbox.root()).canonicalFilePath() + u'/'),
+           "a folder lies on the computer");
+    expect(QFileInfo::exists(folder + u'/' + QLatin1String(marks.value(code))),
+           "a folder looks like its simulator");
+}
+
+Computer &computer()
+{
+    static Computer computer;
+    return computer;
+}
+
+QList<QByteArray> partsOf(QByteArray bytes)
+{
+    QList<QByteArray> parts;
+    while (parts.size() + 1 < static_cast<int>(Files.size()) && bytes.contains("----\n")) {
+        parts.append(bytes.left(bytes.indexOf("----\n")));
+        bytes.remove(0, parts.constLast().size() + 5);
+    }
+    return parts << bytes;
+}
+
+} // namespace
+
+/// The input is one file's content after the other, parted by lines "----"; "$R" in it stands for
+/// the folder that holds all. No file makes a simulator out of something else, or two out of one.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    computer().write(partsOf(bytes));
+    const auto found = Quillmont::SimDetect::simPaths(computer().environment);
+    QSet<QString> folders;
+    for (auto it = found.cbegin(); it != found.cend(); ++it) {
+        computer().check(it.key(), *it);
+        folders.insert(QFileInfo(*it).canonicalFilePath());
+    }
+    expect(folders.size() == found.size(), "no folder is two simulators");
+    expect(Quillmont::SimDetect::simPaths(computer().environment) == found,
+           "a second look finds the same");
+    return 0;
+}
