@@ -13,6 +13,7 @@ foreach(class
     Detection
     Installation
     InstallationRecord
+    ResultBox
     ScanController
     ScanSession
     TextFiles
