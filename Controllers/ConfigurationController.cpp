@@ -2,10 +2,38 @@
 
 #include "Controllers/UserDataRoot.h"
 
+#include <QFileInfo>
 #include <QMutex>
 #include <QSettings>
 
 namespace Quillmont::Utility::Controllers {
+
+namespace {
+
+// A folder a simulator is a few lines; what is bigger than this only eats up memory.
+constexpr qint64 biggestSize = 8LL * 1024 * 1024;
+
+// The toolkit would wait for ever at a pipe in the file's place.
+bool canRead(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.size() <= biggestSize;
+}
+
+bool isFileOrFree(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() || !(info.exists() || info.isSymLink());
+}
+
+// The toolkit reads the file before it writes it, and opens the lock file beside it.
+bool canWrite(const QString &path)
+{
+    return (canRead(path) || !QFileInfo::exists(path))
+        && isFileOrFree(path + QLatin1String(".lock"));
+}
+
+} // namespace
 
 ConfigurationController *ConfigurationController::m_instance = nullptr;
 
@@ -27,6 +55,8 @@ ConfigurationController *ConfigurationController::instance()
 
 QVariant ConfigurationController::getSettings(const QString &key) const
 {
+    if (!canRead(settingsFilePath))
+        return {};
     return QSettings(settingsFilePath, QSettings::IniFormat).value(key);
 }
 
@@ -39,12 +69,14 @@ QVariant ConfigurationController::getSettings(const QString &key,
 
 void ConfigurationController::saveSettings(const QString &key, const QVariant &value) const
 {
-    QSettings(settingsFilePath, QSettings::IniFormat).setValue(key, value);
+    if (canWrite(settingsFilePath))
+        QSettings(settingsFilePath, QSettings::IniFormat).setValue(key, value);
 }
 
 void ConfigurationController::removeSettings(const QString &key) const
 {
-    QSettings(settingsFilePath, QSettings::IniFormat).remove(key);
+    if (canWrite(settingsFilePath))
+        QSettings(settingsFilePath, QSettings::IniFormat).remove(key);
 }
 
 QString ConfigurationController::appDataPath()

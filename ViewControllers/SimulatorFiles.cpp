@@ -9,6 +9,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -39,7 +40,8 @@ void backUp(const QString &file, const QString &suffix)
         return;
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
-    const bool copied = QFile::copy(file, backup);
+    // Copying a pipe would wait for its other end for ever, and a device may have no end.
+    const bool copied = QFileInfo(file).isFile() && QFile::copy(file, backup);
     qDebug().noquote().nospace() << "file backups to '" << backup
                                  << "'. Result: " << (copied ? "succeed" : "error");
 }

@@ -9,6 +9,9 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
+// A record of a hundred thousand simulators is smaller; what is bigger only eats up memory.
+constexpr qint64 biggestSize = 64LL * 1024 * 1024;
+
 // Opening a pipe that stands in a file's place would wait for its other end for ever.
 bool isSomethingElse(const QString &path)
 {
@@ -22,7 +25,7 @@ QString ScanController::readFile(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(path);
     QFile file(native);
-    if (!isSomethingElse(native) && file.open(QIODevice::ReadOnly))
+    if (!isSomethingElse(native) && file.size() <= biggestSize && file.open(QIODevice::ReadOnly))
         return QTextStream(&file).readAll();
 
     // Says "empty" of a file that could not be opened: what support has been told to look for.

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTextDocument>
 #include <QToolButton>
 
 using Quillmont::Utility::Controllers::ConfigurationController;
@@ -121,7 +122,10 @@ void AddonListItem::showPath(const QString &path)
 {
     m_path->setText(path);
     m_path->setCursorPosition(0);
-    m_path->setToolTip(path);
+    // What the field took of it, which is no more than it can show. A tool tip would take a
+    // folder's name like "<b>" for markup.
+    const QString text = m_path->text();
+    m_path->setToolTip(Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text);
 }
 
 void AddonListItem::updateStatus()

@@ -6,9 +6,12 @@
 #include "tests/support/Sandbox.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QSettings>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Tests::readFile;
@@ -35,6 +38,9 @@ private slots:
     void removesAKeyAndWhatIsBelowIt();
     void readsAForeignFileAsEmpty();
     void losesAWriteThatFailsInSilence();
+    void waitsForNobodyAtAPipe_data();
+    void waitsForNobodyAtAPipe();
+    void leavesAFileAloneThatIsTooBig();
     void answersTheSharedDataFolder();
     void startsNothingWithTheSystem();
     void isAPlainObjectToTheMetaSystem();
@@ -179,6 +185,42 @@ void TestConfigurationController::losesAWriteThatFailsInSilence()
     m_settings->removeSettings(QStringLiteral("flightsim/B"));
     QVERIFY(QDir(settingsFile()).isEmpty());
     QCOMPARE(log.warnings() + log.debugLines(), QStringList());
+}
+
+void TestConfigurationController::waitsForNobodyAtAPipe_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the file") << QStringLiteral(".settings");
+    QTest::newRow("the toolkit's lock file") << QStringLiteral(".settings.lock");
+}
+
+void TestConfigurationController::waitsForNobodyAtAPipe()
+{
+    QFETCH(QString, name);
+    const QString key = QStringLiteral("flightsim/A");
+    const QString pipe = QFileInfo(settingsFile()).path() + u'/' + name;
+    QVERIFY(QDir().mkpath(QFileInfo(pipe).path()));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    m_settings->saveSettings(key, QStringLiteral("/a"));
+    m_settings->removeSettings(key);
+    QCOMPARE(m_settings->getSettings(key, QStringLiteral("/b")), QVariant(QStringLiteral("/b")));
+    QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
+}
+
+// A gigabyte that takes no room on the disk.
+void TestConfigurationController::leavesAFileAloneThatIsTooBig()
+{
+    const QString key = QStringLiteral("flightsim/A");
+    const QByteArray content = "[flightsim]\nA=/a\n";
+    constexpr qint64 size = 1024LL * 1024 * 1024;
+    writeFile(settingsFile(), content);
+    QVERIFY(QFile::resize(settingsFile(), size));
+    QVERIFY(!m_settings->getSettings(key).isValid());
+    m_settings->saveSettings(key, QStringLiteral("/b"));
+    m_settings->removeSettings(key);
+    QCOMPARE(QFileInfo(settingsFile()).size(), size);
+    QFile::resize(settingsFile(), content.size());
+    QCOMPARE(readFile(settingsFile()), content);
 }
 
 void TestConfigurationController::answersTheSharedDataFolder()

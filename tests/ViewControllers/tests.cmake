@@ -14,6 +14,7 @@ foreach(class
     Installation
     InstallationRecord
     Rescans
+    ResultBox
     ScanController
     ScanSession
     TextFiles

@@ -125,6 +125,21 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(pipe) + unableToWriteLine(pipe));
     }
 
+    // A gigabyte that takes no room on the disk. It counts as unreadable, and as any record that
+    // is no use it makes room for a new one.
+    void doesNotReadWhatIsTooBig()
+    {
+        Workshop shop;
+        const QString file = shop.path("big");
+        writeFile(file, {});
+        QVERIFY(QFile::resize(file, 1024LL * 1024 * 1024));
+        QCOMPARE(shop.controller().readFile(file), QString());
+        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(file));
+        shop.controller().saveFile(file, QStringLiteral("text"));
+        QCOMPARE(Tests::readFile(file), QByteArray("text"));
+        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(file));
+    }
+
     void backsUpBesideTheFileWithTheLocalTime_data()
     {
         QTest::addColumn<bool>("install");
@@ -187,6 +202,23 @@ private slots:
         QCOMPARE(countOfHelpers(shop), helpers + 1);
         QVERIFY(shop.controller().m_errorMessage.isEmpty());
         QVERIFY(shop.boxes().isEmpty());
+    }
+
+    void doesNotBackUpWhatIsNoFile_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
+
+    void doesNotBackUpWhatIsNoFile()
+    {
+        QFETCH(bool, install);
+        Workshop shop;
+        const QString pipe = shop.dataPath("Vendor/dll.xml");
+        QVERIFY(QDir().mkpath(QFileInfo(pipe).path()));
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        changeConfiguration(shop, install);
+        QVERIFY(shop.backups().isEmpty());
+        const auto lines = shop.log.debugLines().filter(QStringLiteral("file backups to '"));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.constFirst().endsWith(QLatin1String("'. Result: error")));
+        QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
     }
 
     void doesNotBackUpWhatIsNotThere_data() { backsUpBesideTheFileWithTheLocalTime_data(); }

@@ -20,6 +20,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 
 using Quillmont::Utility::Controllers::ConfigurationController;
@@ -71,6 +72,8 @@ private slots:
     void showsTheNameInBold_data();
     void showsTheNameInBold();
     void showsThePathFromItsStart();
+    void takesNoPathForMarkup();
+    void showsWhatFitsOfAnEndlessPath();
     void showsAPlaceholderWithoutAPath();
     void takesThePathFromSettingsOrScan_data();
     void takesThePathFromSettingsOrScan();
@@ -223,6 +226,27 @@ void TestAddonListItem::showsThePathFromItsStart()
     QCOMPARE(parts.path->cursorPosition(), 0);
     QVERIFY(parts.path->isReadOnly());
     QVERIFY(parts.path->isEnabled());
+}
+
+void TestAddonListItem::takesNoPathForMarkup()
+{
+    const QString path = QStringLiteral("/sims/<b>bold</b> &lt; <img src=/x>");
+    const AddonListItem row(nullptr, mapping(path), false);
+    const RowParts parts(&row);
+    QCOMPARE(parts.path->text(), path);
+    QCOMPARE(QTextDocumentFragment::fromHtml(parts.path->toolTip()).toPlainText(), path);
+}
+
+// A tool tip of that length would keep the toolkit busy for minutes.
+void TestAddonListItem::showsWhatFitsOfAnEndlessPath()
+{
+    const QString path = QStringLiteral("/a").repeated(4 * 1024 * 1024);
+    const AddonListItem row(nullptr, mapping(path), false);
+    const RowParts parts(&row);
+    QVERIFY(path.startsWith(parts.path->text()));
+    QCOMPARE(parts.path->toolTip(), parts.path->text());
+    QVERIFY(parts.path->text().size() < 100000);
+    QVERIFY(!parts.action->isEnabled());
 }
 
 void TestAddonListItem::showsAPlaceholderWithoutAPath()
