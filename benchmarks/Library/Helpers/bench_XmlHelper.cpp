@@ -1,20 +1,21 @@
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
+#include "benchmarks/support/Quiet.h"
+#include "benchmarks/support/Table.h"
+#include "tests/support/Files.h"
 
-#include <QElapsedTimer>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <QTextCodec>
-#include <QTextStream>
 #include <QXmlStreamReader>
 
-#include <algorithm>
-#include <vector>
+using namespace Benchmarks;
+using Tests::writeFile;
 
-// Compares adding and removing an entry with reading the same bytes once. Both grow with the file
-// alike, so the ratio says whether a big file is slow because of us.
+// Compares adding an entry with reading the same bytes once. Both grow with the file alike, so the
+// ratio says whether a big file is slow because of us.
 
 namespace {
 
@@ -39,66 +40,53 @@ QByteArray document(int size, const QByteArray &encoding)
     return codec->fromUnicode(text + QStringLiteral("</SimBase.Document>\r\n"));
 }
 
-double millisecondsToRead(const QByteArray &bytes)
+Cost costOfReading(const QByteArray &bytes)
 {
-    QElapsedTimer timer;
-    timer.start();
-    QXmlStreamReader reader(bytes);
-    while (!reader.atEnd())
-        reader.readNext();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    return costOf([&bytes] {
+        QXmlStreamReader reader(bytes);
+        while (!reader.atEnd())
+            reader.readNext();
+    });
 }
 
-template <typename Operation>
-double millisecondsToRun(const Operation &operation)
+Cost costOfInsertion(const QString &path, const QByteArray &bytes, XmlInsertionModel *model)
 {
-    QElapsedTimer timer;
-    timer.start();
-    if (!operation())
-        qFatal("the edit failed");
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values.at(values.size() / 2);
-}
-
-void compare(const QString &path, int size, const QByteArray &encoding, XmlInsertionModel *model)
-{
-    constexpr int pairs = 7;
-    const QByteArray bytes = document(size, encoding);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-    file.close();
-
+    writeFile(path, bytes);
     XmlHelper helper(nullptr, path);
-    std::vector<double> read;
-    std::vector<double> insertion;
-    std::vector<double> removal;
-    for (int i = 0; i < pairs; ++i) {
-        read.push_back(millisecondsToRead(bytes));
-        insertion.push_back(millisecondsToRun([&] { return helper.insertValues(model); })
-                            / read.back());
-        removal.push_back(millisecondsToRun([&] { return helper.removeConfig(model); })
-                          / read.back());
+    return costOf([&] {
+        if (!helper.insertValues(model))
+            qFatal("the edit failed");
+    });
+}
+
+void compareSizes(const QByteArray &encoding, XmlInsertionModel *model, int pairs)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("exe.xml"));
+    const QString what = QStringLiteral("XML insertion, %1").arg(QLatin1String(encoding));
+    const int part = pairs > 1 ? 1 : 100;
+    QVector<double> sizes;
+    QVector<double> costs;
+    for (const int kilobytes : {20, 2000, 20000}) {
+        const QByteArray bytes = document(1000 * kilobytes / part, encoding);
+        const Comparison result = compare(
+            pairs,
+            [&] { return costOfInsertion(path, bytes, model); },
+            [&] { return costOfReading(bytes); });
+        const QString size = QLocale::c().toString(kilobytes);
+        Table::compare(QStringLiteral("%1, %2 KB").arg(what, size), &Cost::cpu, result, 2);
+        sizes.append(kilobytes);
+        costs.append(result.ours.cpu);
     }
-    QTextStream(stdout)
-        << QStringLiteral("%1 %2 bytes: read %3 ms, insertion %4 times that, removal %5 times\n")
-               .arg(QLatin1String(encoding), -12)
-               .arg(bytes.size(), 9)
-               .arg(median(read), 8, 'f', 2)
-               .arg(median(insertion), 0, 'f', 2)
-               .arg(median(removal), 0, 'f', 2);
+    Table::growth(what, sizes, costs);
 }
 
 } // namespace
 
-int main()
+int main(int argc, char *argv[])
 {
-    const QTemporaryDir folder;
+    beQuiet();
+    const int pairs = Table::pairs(argc, argv);
     XmlInsertionModel model(
         nullptr,
         {{QStringLiteral("parent"), QStringLiteral("Launch.Addon")},
@@ -106,7 +94,9 @@ int main()
           QJsonArray{QJsonObject{{QStringLiteral("key"), QStringLiteral("Name")},
                                  {QStringLiteral("value"), QStringLiteral("Measured")}}}}});
     for (const char *encoding : {"UTF-8", "windows-1252", "UTF-16", "Shift_JIS"})
-        for (const int size : {20 * 1000, 2 * 1000 * 1000, 20 * 1000 * 1000})
-            compare(folder.filePath(QStringLiteral("exe.xml")), size, encoding, &model);
+        compareSizes(encoding, &model, pairs);
+    Table::explain(QStringLiteral(
+        "XML insertion: one entry into a file of so many others, reading and writing the file "
+        "included. Floor: QXmlStreamReader reads the same bytes once."));
     return 0;
 }

@@ -1,0 +1,21 @@
+#ifndef FIRSTPAINT_FIRSTPAINTPLUGIN_H
+#define FIRSTPAINT_FIRSTPAINTPLUGIN_H
+
+#include <QGenericPlugin>
+
+namespace Benchmarks {
+
+/// Watches a program that knows nothing of it: the toolkit loads this plugin when
+/// QT_QPA_GENERIC_PLUGINS names "orbwell-first-paint".
+class FirstPaintPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "first-paint.json")
+
+public:
+    QObject *create(const QString &name, const QString &specification) override;
+};
+
+} // namespace Benchmarks
+
+#endif
