@@ -8,9 +8,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTextDocument>
 #include <QToolButton>
 
 using Quillmont::Utility::Controllers::ConfigurationController;
@@ -23,6 +25,15 @@ static void registerArtwork()
 Q_COREAPP_STARTUP_FUNCTION(registerArtwork)
 
 namespace Quillmont::Utility::Widgets {
+
+// A tool tip takes tags for its own, and a long plain one runs out of the screen.
+static QString literalToolTip(const QString &text)
+{
+    const bool fits = text.size() < 120 && !Qt::mightBeRichText(text);
+    return fits
+        ? text
+        : QStringLiteral("<p style='white-space: pre-wrap'>%0</p>").arg(text.toHtmlEscaped());
+}
 
 AddonListItem::AddonListItem(QWidget *parent,
                              Models::FlightSimulatorMapping *mapping,
@@ -48,6 +59,7 @@ AddonListItem::AddonListItem(QWidget *parent,
     m_action->setMinimumSize(128, 24);
 
     arrange();
+    nameControls();
 
     connect(m_browse, &QToolButton::clicked, this, &AddonListItem::browsePath);
     connect(
@@ -73,6 +85,19 @@ void AddonListItem::arrange()
     pathLine->addWidget(m_path, 0);
     pathLine->addWidget(m_browse, 2);
     pathLine->addWidget(m_action, 2);
+}
+
+// A screen reader says these without the row around them.
+void AddonListItem::nameControls()
+{
+    const QString &simulator = m_mapping->scan->name;
+    setAccessibleName(simulator);
+    m_path->setAccessibleName(tr("Folder of %0").arg(simulator));
+    m_browse->setAccessibleName(tr("Choose the folder of %0").arg(simulator));
+
+    m_path->setObjectName(QStringLiteral("path"));
+    m_browse->setObjectName(QStringLiteral("browse"));
+    m_action->setObjectName(QStringLiteral("action"));
 }
 
 void AddonListItem::applyMappedPath(bool updateDefault)
@@ -121,7 +146,7 @@ void AddonListItem::showPath(const QString &path)
 {
     m_path->setText(path);
     m_path->setCursorPosition(0);
-    m_path->setToolTip(path);
+    m_path->setToolTip(literalToolTip(path));
 }
 
 void AddonListItem::updateStatus()
@@ -134,6 +159,32 @@ void AddonListItem::updateStatus()
                                               : QStringLiteral("icon-check-grey-44")));
     m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
     m_action->setEnabled(exists);
+
+    const QString state = stateInWords(exists, installed);
+    setAccessibleDescription(state);
+    m_path->setAccessibleDescription(state);
+    m_icon->setAccessibleName(tr("%0: %1").arg(m_mapping->scan->name, state));
+    m_icon->setToolTip(state);
+    m_action->setAccessibleName(tr("%0: %1").arg(m_action->text(), m_mapping->scan->name));
+}
+
+QString AddonListItem::stateInWords(bool exists, bool installed) const
+{
+    if (!exists)
+        return m_mapping->path.isEmpty() ? tr("Folder not known") : tr("Folder not found");
+    return installed ? tr("Orbwell is installed") : tr("Orbwell is not installed");
+}
+
+// A tool button knows the space bar only.
+void AddonListItem::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    for (auto *button : {m_browse, m_action}) {
+        // A key that is held down must not go on to answer, and then to undo.
+        if (enter && button->hasFocus() && !event->isAutoRepeat())
+            return button->click();
+    }
+    QWidget::keyPressEvent(event);
 }
 
 QPixmap AddonListItem::artwork(const QString &name) const

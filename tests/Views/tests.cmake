@@ -1,3 +1,5 @@
+orbwell_add_test(Views/Accessibility Widgets/RowParts.cpp Widgets/RowParts.h)
+orbwell_add_test(Views/Keyboard Widgets/RowParts.cpp Widgets/RowParts.h)
 orbwell_add_test(Views/ScannerView Widgets/RowParts.cpp Widgets/RowParts.h)
 orbwell_add_test(Views/ScannerViewLayout Widgets/RowParts.cpp Widgets/RowParts.h)
 

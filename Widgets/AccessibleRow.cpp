@@ -1,0 +1,40 @@
+#include "Widgets/AccessibleRow.h"
+
+#include <QListWidget>
+
+namespace Quillmont::Utility::Widgets {
+
+AccessibleRow::AccessibleRow(QWidget *row)
+    : QAccessibleWidget(row, QAccessible::ListItem)
+{ }
+
+QListWidget *AccessibleRow::list() const
+{
+    QWidget *above = widget()->parentWidget();
+    while (above && !qobject_cast<QListWidget *>(above))
+        above = above->parentWidget();
+    return qobject_cast<QListWidget *>(above);
+}
+
+QAccessibleInterface *AccessibleRow::parent() const
+{
+    auto *holder = list();
+    return holder ? QAccessible::queryAccessibleInterface(holder) : QAccessibleWidget::parent();
+}
+
+QAccessible::State AccessibleRow::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    const auto *holder = list();
+    if (!holder)
+        return state;
+    const auto *current = holder->currentItem();
+    const bool isCurrent = current && holder->itemWidget(holder->currentItem()) == widget();
+    state.focusable = true;
+    state.selectable = true;
+    state.focused = isCurrent && holder->hasFocus();
+    state.selected = isCurrent && current->isSelected();
+    return state;
+}
+
+} // namespace Quillmont::Utility::Widgets
