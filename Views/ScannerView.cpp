@@ -54,6 +54,10 @@ ScannerView::ScannerView(QWidget *parent)
 
     m_list = new QListWidget(this);
     m_list->setAccessibleName(tr("Simulators"));
+    // A row has buttons of its own; marking it would only drown its name and icon in colour.
+    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->verticalScrollBar()->setSingleStep(21); // a wheel's notch is three: a row
     layout->addWidget(m_list);
 
     auto *buttons = new QHBoxLayout;
@@ -95,8 +99,7 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
             ++found;
     }
     moveButtonsBehindRows();
-    m_list->doItemsLayout();
-    m_list->verticalScrollBar()->setValue(scrolled);
+    scrollTo(scrolled);
     focusControl(focused);
     if (!updateDefault && !quiet)
         showCount(found);
@@ -147,10 +150,19 @@ void ScannerView::focusControl(const RowControl &wanted)
             continue;
         auto *control = row->findChild<QWidget *>(wanted.control);
         // Without a folder there is only one to be chosen.
-        return (control->isEnabled() ? control
-                                     : row->findChild<QWidget *>(QStringLiteral("browse")))
-            ->setFocus();
+        if (!control->isEnabled())
+            control = row->findChild<QWidget *>(QStringLiteral("browse"));
+        control->setFocus();
+        return;
     }
+}
+
+void ScannerView::scrollTo(int position)
+{
+    if (position == 0)
+        return;
+    m_list->doItemsLayout(); // or the scroll bar does not reach that far yet
+    m_list->verticalScrollBar()->setValue(position);
 }
 
 void ScannerView::moveButtonsBehindRows()

@@ -44,6 +44,7 @@ private:
     void showRowAround(const QWidget *widget);
     RowControl focusedControl() const;
     void focusControl(const RowControl &wanted);
+    void scrollTo(int position);
     void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);
     void moveButtonsBehindRows();
     void showCount(int count);

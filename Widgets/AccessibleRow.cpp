@@ -26,14 +26,9 @@ QAccessible::State AccessibleRow::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
     const auto *holder = list();
-    if (!holder)
-        return state;
-    const auto *current = holder->currentItem();
-    const bool isCurrent = current && holder->itemWidget(holder->currentItem()) == widget();
     state.focusable = true;
-    state.selectable = true;
-    state.focused = isCurrent && holder->hasFocus();
-    state.selected = isCurrent && current->isSelected();
+    state.focused = holder && holder->hasFocus() && holder->currentItem()
+        && holder->itemWidget(holder->currentItem()) == widget();
     return state;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
+#include "Widgets/NameItem.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -52,6 +53,8 @@ AddonListItem::AddonListItem(QWidget *parent,
     m_path->setPlaceholderText(tr("Path not set"));
     m_path->setMinimumHeight(24);
     m_path->setReadOnly(true);
+    // It takes what the buttons leave, however large the letters on them are.
+    m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     applyMappedPath(updateDefault);
 
     m_browse->setMinimumSize(24, 24);
@@ -78,7 +81,7 @@ void AddonListItem::arrange()
 
     auto *column = new QVBoxLayout;
     outer->addLayout(column, 0);
-    column->addWidget(m_name, 0);
+    column->addItem(new NameItem(m_name));
 
     auto *pathLine = new QHBoxLayout;
     column->addLayout(pathLine, 0);
@@ -181,17 +184,24 @@ void AddonListItem::keyPressEvent(QKeyEvent *event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     for (auto *button : {m_browse, m_action}) {
         // A key that is held down must not go on to answer, and then to undo.
-        if (enter && button->hasFocus() && !event->isAutoRepeat())
-            return button->click();
+        if (enter && button->hasFocus() && !event->isAutoRepeat()) {
+            button->click();
+            return;
+        }
     }
     QWidget::keyPressEvent(event);
 }
 
 QPixmap AddonListItem::artwork(const QString &name) const
 {
-    // A label's pixmap is not looked up by the screen's scale, as an icon's would be.
-    const QLatin1String detail(devicePixelRatioF() > 1 ? "@2x" : "");
-    return {QStringLiteral(":/assets/Quillmont Orbwell/%1%2.png").arg(name, detail)};
+    // A label neither looks a pixmap up by the screen's scale nor smooths one that does not fit it.
+    const qreal scale = devicePixelRatioF();
+    const QLatin1String detail(scale > 1 ? "@2x" : "");
+    const QPixmap drawn(QStringLiteral(":/assets/Quillmont Orbwell/%1%2.png").arg(name, detail));
+    QPixmap fitting
+        = drawn.scaled(QSize(44, 44) * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    fitting.setDevicePixelRatio(scale);
+    return fitting;
 }
 
 QString AddonListItem::settingsKey() const
