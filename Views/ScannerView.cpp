@@ -1,24 +1,47 @@
 #include "Views/ScannerView.h"
 
+#include "Views/AccessibleList.h"
+#include "Widgets/AccessibleButton.h"
+#include "Widgets/AccessibleRow.h"
 #include "Widgets/AddonListItem.h"
 #include "Widgets/AddonListItemDelegate.h"
 
-#include <QCoreApplication>
+#include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QToolButton>
 
 using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::Widgets::AccessibleButton;
+using Quillmont::Utility::Widgets::AccessibleRow;
 using Quillmont::Utility::Widgets::AddonListItem;
 using Quillmont::Utility::Widgets::AddonListItemDelegate;
 
 namespace Quillmont::Utility::Views {
 
+static QAccessibleInterface *accessiblePart(const QString &, QObject *object)
+{
+    if (auto *row = qobject_cast<AddonListItem *>(object))
+        return new AccessibleRow(row);
+    auto *button = qobject_cast<QToolButton *>(object);
+    if (button && qobject_cast<AddonListItem *>(button->parentWidget()))
+        return new AccessibleButton(button);
+    auto *list = qobject_cast<QListWidget *>(object);
+    if (list && qobject_cast<ScannerView *>(list->parentWidget()))
+        return new AccessibleList(list);
+    return nullptr;
+}
+
 ScannerView::ScannerView(QWidget *parent)
     : QWidget(parent)
 {
+    // Before the first part says anything: what was asked for once is kept.
+    QAccessible::installFactory(accessiblePart);
     auto *layout = new QVBoxLayout(this);
 
     m_introduction = new QLabel(
@@ -30,6 +53,11 @@ ScannerView::ScannerView(QWidget *parent)
     layout->addWidget(m_introduction);
 
     m_list = new QListWidget(this);
+    m_list->setAccessibleName(tr("Simulators"));
+    // A row has buttons of its own; marking it would only drown its name and icon in colour.
+    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->verticalScrollBar()->setSingleStep(21); // a wheel's notch is three: a row
     layout->addWidget(m_list);
 
     auto *buttons = new QHBoxLayout;
@@ -38,6 +66,13 @@ ScannerView::ScannerView(QWidget *parent)
     buttons->addWidget(m_scanAndInstall);
     m_close = new QPushButton(tr("Close"), this);
     buttons->addWidget(m_close);
+
+    // Enter presses the button that has the focus, as it does in a dialog.
+    m_scanAndInstall->setAutoDefault(true);
+    m_close->setAutoDefault(true);
+    connect(qApp, &QApplication::focusChanged, m_list, [this](QWidget *, const QWidget *now) {
+        showRowAround(now);
+    });
 
     connect(m_close, &QPushButton::clicked, this, [] { QCoreApplication::exit(0); });
     connect(m_scanAndInstall, &QPushButton::clicked, this, &ScannerView::scanRequested);
@@ -51,6 +86,11 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
                                 bool updateDefault,
                                 bool quiet)
 {
+    const RowControl focused = focusedControl();
+    const int scrolled = m_list->verticalScrollBar()->value();
+    // Or the focus would run through all the rows that go.
+    if (!focused.control.isEmpty())
+        m_list->setFocus();
     m_list->clear();
     int found = 0;
     for (auto *mapping : qAsConst(mappings)) {
@@ -59,6 +99,8 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
             ++found;
     }
     moveButtonsBehindRows();
+    scrollTo(scrolled);
+    focusControl(focused);
     if (!updateDefault && !quiet)
         showCount(found);
 }
@@ -71,6 +113,56 @@ void ScannerView::addRow(FlightSimulatorMapping *mapping, bool updateDefault)
     m_list->setItemWidget(item, row);
     connect(row, &AddonListItem::install, this, &ScannerView::install);
     connect(row, &AddonListItem::uninstall, this, &ScannerView::uninstall);
+}
+
+int ScannerView::rowAround(const QWidget *widget) const
+{
+    if (!m_list->isAncestorOf(widget))
+        return -1;
+    for (int i = 0; i < m_list->count(); ++i) {
+        const auto *row = m_list->itemWidget(m_list->item(i));
+        if (row && row->isAncestorOf(widget))
+            return i;
+    }
+    return -1;
+}
+
+void ScannerView::showRowAround(const QWidget *widget)
+{
+    if (auto *item = m_list->item(rowAround(widget)))
+        m_list->scrollToItem(item);
+}
+
+ScannerView::RowControl ScannerView::focusedControl() const
+{
+    const auto *control = focusWidget();
+    const auto *row = m_list->itemWidget(m_list->item(rowAround(control)));
+    if (!row)
+        return {};
+    return {row->accessibleName(), control->objectName()};
+}
+
+void ScannerView::focusControl(const RowControl &wanted)
+{
+    for (int i = 0; !wanted.control.isEmpty() && i < m_list->count(); ++i) {
+        const auto *row = m_list->itemWidget(m_list->item(i));
+        if (row->accessibleName() != wanted.simulator)
+            continue;
+        auto *control = row->findChild<QWidget *>(wanted.control);
+        // Without a folder there is only one to be chosen.
+        if (!control->isEnabled())
+            control = row->findChild<QWidget *>(QStringLiteral("browse"));
+        control->setFocus();
+        return;
+    }
+}
+
+void ScannerView::scrollTo(int position)
+{
+    if (position == 0)
+        return;
+    m_list->doItemsLayout(); // or the scroll bar does not reach that far yet
+    m_list->verticalScrollBar()->setValue(position);
 }
 
 void ScannerView::moveButtonsBehindRows()

@@ -20,7 +20,8 @@ class ScannerView : public QWidget
 public:
     explicit ScannerView(QWidget *parent);
 
-    /// Replaces the rows by one for each of @p mappings, which stay their owner's. With
+    /// Replaces the rows by one for each of @p mappings, which stay their owner's. The list stays
+    /// scrolled as it was, and a control that had the focus hands it to its successor. With
     /// @p updateDefault folders that the user picked earlier come back into the mappings. With
     /// neither flag a box says how many simulators have a folder.
     void
@@ -32,6 +33,18 @@ signals:
     void uninstall(Quillmont::Utility::Models::FlightSimulatorMapping *);
 
 private:
+    /// A control of a row, by what outlives the row.
+    struct RowControl
+    {
+        QString simulator;
+        QString control;
+    };
+
+    int rowAround(const QWidget *widget) const;
+    void showRowAround(const QWidget *widget);
+    RowControl focusedControl() const;
+    void focusControl(const RowControl &wanted);
+    void scrollTo(int position);
     void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);
     void moveButtonsBehindRows();
     void showCount(int count);

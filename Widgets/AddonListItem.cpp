@@ -2,12 +2,14 @@
 
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
+#include "Widgets/NameItem.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -24,6 +26,15 @@ static void registerArtwork()
 Q_COREAPP_STARTUP_FUNCTION(registerArtwork)
 
 namespace Quillmont::Utility::Widgets {
+
+// A tool tip takes tags for its own, and a long plain one runs out of the screen.
+static QString literalToolTip(const QString &text)
+{
+    const bool fits = text.size() < 120 && !Qt::mightBeRichText(text);
+    return fits
+        ? text
+        : QStringLiteral("<p style='white-space: pre-wrap'>%0</p>").arg(text.toHtmlEscaped());
+}
 
 AddonListItem::AddonListItem(QWidget *parent,
                              Models::FlightSimulatorMapping *mapping,
@@ -42,6 +53,8 @@ AddonListItem::AddonListItem(QWidget *parent,
     m_path->setPlaceholderText(tr("Path not set"));
     m_path->setMinimumHeight(24);
     m_path->setReadOnly(true);
+    // It takes what the buttons leave, however large the letters on them are.
+    m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     applyMappedPath(updateDefault);
 
     m_browse->setMinimumSize(24, 24);
@@ -49,6 +62,7 @@ AddonListItem::AddonListItem(QWidget *parent,
     m_action->setMinimumSize(128, 24);
 
     arrange();
+    nameControls();
 
     connect(m_browse, &QToolButton::clicked, this, &AddonListItem::browsePath);
     connect(
@@ -67,13 +81,26 @@ void AddonListItem::arrange()
 
     auto *column = new QVBoxLayout;
     outer->addLayout(column, 0);
-    column->addWidget(m_name, 0);
+    column->addItem(new NameItem(m_name));
 
     auto *pathLine = new QHBoxLayout;
     column->addLayout(pathLine, 0);
     pathLine->addWidget(m_path, 0);
     pathLine->addWidget(m_browse, 2);
     pathLine->addWidget(m_action, 2);
+}
+
+// A screen reader says these without the row around them.
+void AddonListItem::nameControls()
+{
+    const QString &simulator = m_mapping->scan->name;
+    setAccessibleName(simulator);
+    m_path->setAccessibleName(tr("Folder of %0").arg(simulator));
+    m_browse->setAccessibleName(tr("Choose the folder of %0").arg(simulator));
+
+    m_path->setObjectName(QStringLiteral("path"));
+    m_browse->setObjectName(QStringLiteral("browse"));
+    m_action->setObjectName(QStringLiteral("action"));
 }
 
 void AddonListItem::applyMappedPath(bool updateDefault)
@@ -122,10 +149,8 @@ void AddonListItem::showPath(const QString &path)
 {
     m_path->setText(path);
     m_path->setCursorPosition(0);
-    // What the field took of it, which is no more than it can show. A tool tip would take a
-    // folder's name like "<b>" for markup.
-    const QString text = m_path->text();
-    m_path->setToolTip(Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text);
+    // What the field took of it, which is no more than it can show.
+    m_path->setToolTip(literalToolTip(m_path->text()));
 }
 
 void AddonListItem::updateStatus()
@@ -138,13 +163,46 @@ void AddonListItem::updateStatus()
                                               : QStringLiteral("icon-check-grey-44")));
     m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
     m_action->setEnabled(exists);
+
+    const QString state = stateInWords(exists, installed);
+    setAccessibleDescription(state);
+    m_path->setAccessibleDescription(state);
+    m_icon->setAccessibleName(tr("%0: %1").arg(m_mapping->scan->name, state));
+    m_icon->setToolTip(state);
+    m_action->setAccessibleName(tr("%0: %1").arg(m_action->text(), m_mapping->scan->name));
+}
+
+QString AddonListItem::stateInWords(bool exists, bool installed) const
+{
+    if (!exists)
+        return m_mapping->path.isEmpty() ? tr("Folder not known") : tr("Folder not found");
+    return installed ? tr("Orbwell is installed") : tr("Orbwell is not installed");
+}
+
+// A tool button knows the space bar only.
+void AddonListItem::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    for (auto *button : {m_browse, m_action}) {
+        // A key that is held down must not go on to answer, and then to undo.
+        if (enter && button->hasFocus() && !event->isAutoRepeat()) {
+            button->click();
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }
 
 QPixmap AddonListItem::artwork(const QString &name) const
 {
-    // A label's pixmap is not looked up by the screen's scale, as an icon's would be.
-    const QLatin1String detail(devicePixelRatioF() > 1 ? "@2x" : "");
-    return {QStringLiteral(":/assets/Quillmont Orbwell/%1%2.png").arg(name, detail)};
+    // A label neither looks a pixmap up by the screen's scale nor smooths one that does not fit it.
+    const qreal scale = devicePixelRatioF();
+    const QLatin1String detail(scale > 1 ? "@2x" : "");
+    const QPixmap drawn(QStringLiteral(":/assets/Quillmont Orbwell/%1%2.png").arg(name, detail));
+    QPixmap fitting
+        = drawn.scaled(QSize(44, 44) * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    fitting.setDevicePixelRatio(scale);
+    return fitting;
 }
 
 QString AddonListItem::settingsKey() const

@@ -14,7 +14,8 @@ namespace Quillmont::Utility::Widgets {
 
 /// One row of the simulator list: the state of the plugin in a simulator, the simulator's name
 /// and folder, and the button that installs or uninstalls. The row only asks for that work; the
-/// one thing it does itself is to keep a folder that the user picks.
+/// one thing it does itself is to keep a folder that the user picks. Its accessible name is the
+/// simulator's, its accessible description the state in words.
 class AddonListItem : public QWidget
 {
     Q_OBJECT
@@ -32,6 +33,9 @@ public slots:
     /// Lets the user pick the simulator's folder, and keeps it for later runs.
     void browsePath();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QString getMappedPath();
     void savePath();
@@ -40,7 +44,9 @@ private:
 
     QPixmap artwork(const QString &name) const;
     QString settingsKey() const;
+    QString stateInWords(bool exists, bool installed) const;
     void arrange();
+    void nameControls();
     void applyMappedPath(bool updateDefault);
     void showPath(const QString &path);
     void requestAction();

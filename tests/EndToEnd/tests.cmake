@@ -31,3 +31,10 @@ foreach(story
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()
 target_link_libraries(tst_Unattended PRIVATE orbwell-computer)
+
+# Where screen readers talk to programs over a bus of their own.
+if(NOT APPLE)
+  orbwell_add_test(EndToEnd/ScreenReader)
+  target_compile_definitions(tst_ScreenReader PRIVATE ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
+  target_link_libraries(tst_ScreenReader PRIVATE orbwell-simulators)
+endif()

@@ -39,6 +39,7 @@ private slots:
 
     void keepsEveryControlInSight_data();
     void keepsEveryControlInSight();
+    void givesEveryTextItsRoom_data();
     void givesEveryTextItsRoom();
     void givesSpareWidthToThePath();
     void showsTheIconAsSharpAsTheScreen();
@@ -142,20 +143,32 @@ void TestScannerViewLayout::keepsEveryControlInSight()
         for (int j = 0; j < i; ++j)
             QVERIFY(!controls.at(i)->geometry().intersects(controls.at(j)->geometry()));
     }
+    for (const QToolButton *button : {parts.browse, parts.action})
+        QVERIFY(button->width() >= button->sizeHint().width());
     QVERIFY(parts.path->width() >= 160);
     QVERIFY(parts.name->width() >= 320);
 }
 
+void TestScannerViewLayout::givesEveryTextItsRoom_data()
+{
+    QTest::addColumn<qreal>("fontScale");
+    QTest::newRow("usual letters") << 1.0;
+    QTest::newRow("larger letters") << 1.25;
+}
+
 void TestScannerViewLayout::givesEveryTextItsRoom()
 {
+    QFETCH(qreal, fontScale);
+    QFont font = m_font;
+    font.setPointSizeF(m_font.pointSizeF() * fontScale);
+    QApplication::setFont(font);
     showRows(QStringLiteral("Simulator"), QStringLiteral("/very long folder").repeated(40), 30);
     const RowParts parts = row(0);
-    for (const QToolButton *button : {parts.browse, parts.action})
-        QVERIFY(button->width() >= button->sizeHint().width());
     const QString tall = QStringLiteral("Mgjpqy");
     const QVector<QWidget *> controls = controlsOf(parts);
     for (const QWidget *control : controls)
         QVERIFY(control->height() >= control->fontMetrics().tightBoundingRect(tall).height());
+    QVERIFY(parts.name->height() >= parts.name->sizeHint().height());
 }
 
 void TestScannerViewLayout::givesSpareWidthToThePath()

@@ -222,7 +222,7 @@ void TestAddonListItem::showsThePathFromItsStart()
     const AddonListItem row(nullptr, mapping(path), false);
     const RowParts parts(&row);
     QCOMPARE(parts.path->text(), path);
-    QCOMPARE(parts.path->toolTip(), path);
+    QVERIFY(parts.path->toolTip().contains(path));
     QCOMPARE(parts.path->cursorPosition(), 0);
     QVERIFY(parts.path->isReadOnly());
     QVERIFY(parts.path->isEnabled());

@@ -1,0 +1,248 @@
+#include "Views/ScannerView.h"
+
+#include "Models/FlightSimScan.h"
+#include "tests/Widgets/RowParts.h"
+#include "tests/support/Files.h"
+#include "tests/support/Json.h"
+#include "tests/support/Sandbox.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+using Quillmont::Utility::Models::FlightSimScan;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::Views::ScannerView;
+using Tests::RowParts;
+
+// The window for somebody without a mouse.
+class TestKeyboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void pressesEveryButtonByKey_data();
+    void pressesEveryButtonByKey();
+    void takesAKeyHeldDownForOnePress();
+    void leavesABoxByKey_data();
+    void leavesABoxByKey();
+    void bringsTheRowWithTheFocusIntoSight();
+    void keepsTheFocusOnTheSameSimulator_data();
+    void keepsTheFocusOnTheSameSimulator();
+    void keepsTheFocusInTheRowOfAFolderThatIsGone();
+    void leavesTheFocusOutsideTheListAlone();
+    void keepsTheListScrolled();
+
+private:
+    FlightSimulatorMapping *mapping(const QString &name, const QString &path);
+    void showRows(const QStringList &names);
+    RowParts row(int index) const;
+    QPushButton *button(const QString &text) const;
+
+    Tests::Sandbox m_sandbox;
+    std::unique_ptr<QObject> m_models;
+    std::unique_ptr<ScannerView> m_view;
+    QListWidget *m_list = nullptr;
+};
+
+static QStringList numbered(int count)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i)
+        names.append(QStringLiteral("Simulator %1").arg(i));
+    return names;
+}
+
+void TestKeyboard::init()
+{
+    m_models = std::make_unique<QObject>();
+    m_view = std::make_unique<ScannerView>(nullptr);
+    m_list = m_view->findChild<QListWidget *>();
+    m_view->show();
+    QApplication::setActiveWindow(m_view.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
+}
+
+void TestKeyboard::cleanup()
+{
+    m_view.reset();
+}
+
+FlightSimulatorMapping *TestKeyboard::mapping(const QString &name, const QString &path)
+{
+    QJsonObject entry = Tests::json(R"({"files": [{"destination": "orbwell.dll"}]})");
+    entry.insert(QStringLiteral("name"), name);
+    return new FlightSimulatorMapping(new FlightSimScan(m_models.get(), entry), path);
+}
+
+void TestKeyboard::showRows(const QStringList &names)
+{
+    QList<FlightSimulatorMapping *> mappings;
+    for (const QString &name : names)
+        mappings.append(mapping(name, m_sandbox.root()));
+    m_view->setScanResult(mappings, false, true);
+}
+
+RowParts TestKeyboard::row(int index) const
+{
+    return RowParts(m_list->itemWidget(m_list->item(index)));
+}
+
+QPushButton *TestKeyboard::button(const QString &text) const
+{
+    const auto buttons = m_view->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->text() == text)
+            return button;
+    }
+    return nullptr;
+}
+
+void TestKeyboard::pressesEveryButtonByKey_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("space bar") << Qt::Key_Space;
+    QTest::newRow("return") << Qt::Key_Return;
+    QTest::newRow("enter on the number pad") << Qt::Key_Enter;
+}
+
+void TestKeyboard::pressesEveryButtonByKey()
+{
+    QFETCH(Qt::Key, key);
+    showRows(numbered(2));
+    for (QAbstractButton *each :
+         std::initializer_list<QAbstractButton *>{row(1).browse,
+                                                  row(1).action,
+                                                  button(QStringLiteral("Scan && Install")),
+                                                  button(QStringLiteral("Close"))}) {
+        each->disconnect(); // what it does is another matter
+        QSignalSpy clicked(each, &QAbstractButton::clicked);
+        each->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(clicked.count(), 1);
+    }
+    QSignalSpy install(m_view.get(), &ScannerView::install);
+    row(0).action->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), key);
+    QCOMPARE(install.count(), 1);
+}
+
+void TestKeyboard::takesAKeyHeldDownForOnePress()
+{
+    showRows(numbered(1));
+    QSignalSpy install(m_view.get(), &ScannerView::install);
+    row(0).action->setFocus();
+    for (const bool repeated : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, repeated);
+        QApplication::sendEvent(row(0).action, &press);
+    }
+    QCOMPARE(install.count(), 1);
+}
+
+void TestKeyboard::leavesABoxByKey_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("escape") << Qt::Key_Escape;
+    QTest::newRow("return") << Qt::Key_Return;
+    QTest::newRow("space bar") << Qt::Key_Space;
+}
+
+void TestKeyboard::leavesABoxByKey()
+{
+    QFETCH(Qt::Key, key);
+    int boxes = 0;
+    QTimer::singleShot(0, this, [key, &boxes] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        ++boxes;
+        QTest::keyClick(box->focusWidget(), key);
+    });
+    m_view->setScanResult({}, false, false);
+    QCOMPARE(boxes, 1);
+}
+
+void TestKeyboard::bringsTheRowWithTheFocusIntoSight()
+{
+    showRows(numbered(30));
+    for (const int index : {29, 0, 15}) {
+        row(index).action->setFocus(Qt::TabFocusReason);
+        QVERIFY(m_list->viewport()->rect().contains(
+            m_list->itemWidget(m_list->item(index))->geometry()));
+    }
+}
+
+void TestKeyboard::keepsTheFocusOnTheSameSimulator_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::newRow("the folder") << QStringLiteral("path");
+    QTest::newRow("choosing the folder") << QStringLiteral("browse");
+    QTest::newRow("installing") << QStringLiteral("action");
+}
+
+// All rows are new then.
+void TestKeyboard::keepsTheFocusOnTheSameSimulator()
+{
+    QFETCH(QString, control);
+    const QString name = QStringLiteral("Simulator 25");
+    QStringList names = numbered(30);
+    showRows(names);
+    m_list->itemWidget(m_list->item(25))->findChild<QWidget *>(control)->setFocus();
+
+    names.move(25, 2);
+    showRows(names);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto *after = m_list->itemWidget(m_list->item(2));
+    QCOMPARE(QApplication::focusWidget(), after->findChild<QWidget *>(control));
+    QVERIFY(m_list->viewport()->rect().contains(after->geometry()));
+
+    showRows(numbered(10));
+    QVERIFY(m_view->isAncestorOf(QApplication::focusWidget()));
+}
+
+void TestKeyboard::keepsTheFocusInTheRowOfAFolderThatIsGone()
+{
+    showRows(numbered(3));
+    row(1).action->setFocus();
+    m_view->setScanResult({mapping(QStringLiteral("Simulator 0"), m_sandbox.root()),
+                           mapping(QStringLiteral("Simulator 1"), QString())},
+                          false,
+                          true);
+    QCOMPARE(QApplication::focusWidget(), row(1).browse);
+}
+
+void TestKeyboard::leavesTheFocusOutsideTheListAlone()
+{
+    showRows(numbered(3));
+    auto *scan = button(QStringLiteral("Scan && Install"));
+    scan->setFocus();
+    showRows(numbered(3));
+    QCOMPARE(QApplication::focusWidget(), scan);
+}
+
+void TestKeyboard::keepsTheListScrolled()
+{
+    showRows(numbered(50));
+    QScrollBar *bar = m_list->verticalScrollBar();
+    bar->setValue(bar->maximum() / 2);
+    const int before = bar->value();
+    QVERIFY(before > 0);
+    showRows(numbered(50));
+    QCOMPARE(bar->value(), before);
+    QApplication::processEvents();
+    QCOMPARE(bar->value(), before);
+    showRows(numbered(2));
+    QCOMPARE(bar->value(), 0);
+}
+
+QTEST_MAIN(TestKeyboard)
+#include "tst_Keyboard.moc"
