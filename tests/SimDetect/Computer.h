@@ -40,7 +40,8 @@ public:
     /// What the last detection wrote to the log, debug lines first.
     const QStringList &log() const { return m_log; }
 
-    /// How long the last detection took, in milliseconds.
+    /// The processor's time that the last detection took, in milliseconds: a busy machine does not
+    /// make it longer.
     qint64 duration() const { return m_duration; }
 
     /// What is told of the computer.

@@ -244,7 +244,8 @@ void TestAddonListItem::showsWhatFitsOfAnEndlessPath()
     const AddonListItem row(nullptr, mapping(path), false);
     const RowParts parts(&row);
     QVERIFY(path.startsWith(parts.path->text()));
-    QCOMPARE(parts.path->toolTip(), parts.path->text());
+    QCOMPARE(QTextDocumentFragment::fromHtml(parts.path->toolTip()).toPlainText(),
+             parts.path->text());
     QVERIFY(parts.path->text().size() < 100000);
     QVERIFY(!parts.action->isEnabled());
 }
