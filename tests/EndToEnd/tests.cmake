@@ -30,3 +30,8 @@ foreach(story
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()
 target_link_libraries(tst_Unattended PRIVATE orbwell-computer)
+
+orbwell_add_test(EndToEnd/RealConditions
+  EndToEnd/Mounts.cpp EndToEnd/Mounts.h
+  ViewControllers/Unprivileged.cpp ViewControllers/Unprivileged.h)
+target_link_libraries(tst_RealConditions PRIVATE orbwell-computer)
