@@ -24,7 +24,7 @@ target_link_libraries(orbwell-computer
   PRIVATE orbwell-options)
 
 foreach(story
-    CommandLine RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
+    CommandLine HostileData RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
     UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
