@@ -1,15 +1,20 @@
+#include "Library/Helpers/FileSizeSignal.h"
 #include "ViewControllers/ScanController.h"
 
 #include <QApplication>
 #include <QTextCodec>
 #include <QtGlobal>
 
+using Quillmont::Library::Helpers::FileSizeSignal;
 using Quillmont::Utility::ViewControllers::ScanController;
 
 int main(int argc, char *argv[])
 {
     // Catalogue, record and paths are UTF-8, whatever locale a launcher or a script hands us.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+
+    // A plugin file that is over the limit is told of like any other that cannot be copied.
+    const FileSizeSignal ignored;
 
     // A window of labels and buttons needs no OpenGL; loading it would take most of the start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))

@@ -4,6 +4,8 @@
 #include <QDirIterator>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace Quillmont::SimDetect {
 
 namespace {
@@ -27,6 +29,14 @@ bool isThereInOtherCase(const QString &folder, const QString &name)
     return other != name && QFileInfo::exists(folder + u'/' + other);
 }
 
+// Behind a link that is the real parent, as the system has it; above the top there is nothing.
+QString parent(const QString &folder)
+{
+    const QFileInfo info(folder);
+    const QString real = info.isSymLink() ? info.canonicalFilePath() : folder;
+    return real.left(std::max(0, real.lastIndexOf(u'/')));
+}
+
 } // namespace
 
 QString FolderLookup::find(const QString &path)
@@ -39,12 +49,13 @@ QString FolderLookup::find(const QString &folder, const QString &relative)
     if (relative.size() > LongestPath || relative.contains(QChar::Null))
         return {};
     QString found = folder;
-    const auto names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
+    const auto names = relative.split(u'/', Qt::SkipEmptyParts);
     for (const auto &name : names) {
-        if (name == QLatin1String(".."))
-            continue; // Only left at the very top, above which there is nothing.
-        found = child(found, name);
-        if (found.isEmpty())
+        if (name == QLatin1String("."))
+            continue;
+        const bool isUp = name == QLatin1String("..");
+        found = isUp ? parent(found) : child(found, name);
+        if (found.isEmpty() && !isUp)
             return {};
     }
     return found.isEmpty() ? QStringLiteral("/") : found;

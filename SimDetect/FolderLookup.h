@@ -23,10 +23,14 @@ public:
     /// The names in @p folder, hidden ones too, sorted; none where it cannot be listed.
     QStringList names(const QString &folder);
 
+    /// How many bytes of files may still be read: many files of a tolerable size are too much.
+    qint64 &allowance() { return m_allowance; }
+
 private:
     QString child(const QString &folder, const QString &name);
     QStringList spellings(const QString &folder, const QString &name);
 
+    qint64 m_allowance = 16LL * 1024 * 1024;
     QHash<QString, QStringList> m_names;
     /// Of each folder: the names, by what they have in common in any letter case.
     QHash<QString, QHash<QString, QStringList>> m_spellings;

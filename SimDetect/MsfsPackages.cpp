@@ -52,9 +52,9 @@ QString insidePrefix(const QString &prefix, const QString &path)
     return prefix + u'/' + place + rest;
 }
 
-Candidate candidateOf(const QString &file, const QString &prefix)
+Candidate candidateOf(const QString &file, const QString &prefix, qint64 &allowance)
 {
-    const PlainFile settings(file);
+    const PlainFile settings(file, allowance);
     if (!settings.problem().isEmpty())
         return {file, settings.problem()};
     const QString written = packagesPath(decoded(settings.content()));
@@ -99,7 +99,7 @@ QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString 
         const QString roaming = QStringLiteral("drive_c/users/steamuser/AppData/Roaming/");
         const QString file = m_lookup.find(prefix, roaming + name + QStringLiteral("/UserCfg.opt"));
         if (!file.isEmpty())
-            candidates.append(candidateOf(file, prefix));
+            candidates.append(candidateOf(file, prefix, m_lookup.allowance()));
     }
     return candidates;
 }

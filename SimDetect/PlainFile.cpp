@@ -3,9 +3,11 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace Quillmont::SimDetect {
 
-PlainFile::PlainFile(const QString &path, qint64 largest)
+PlainFile::PlainFile(const QString &path, qint64 &allowance, qint64 largest)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile())
@@ -14,8 +16,11 @@ PlainFile::PlainFile(const QString &path, qint64 largest)
         m_problem = QStringLiteral("cannot be read");
     else if (file.size() > largest)
         m_problem = QStringLiteral("too large");
+    else if (file.size() > allowance)
+        m_problem = QStringLiteral("too much to read altogether");
     else
-        m_content = file.read(largest);
+        m_content = file.read(std::min(largest, allowance));
+    allowance -= m_content.size();
 }
 
 QByteArray PlainFile::beginning(const QString &path, int size)

@@ -41,7 +41,7 @@ QVector<Candidate> Steam::candidates(const QString &appId)
             = m_lookup.find(library, QStringLiteral("appmanifest_%1.acf").arg(appId));
         if (path.isEmpty())
             continue;
-        const SteamManifest manifest(path, appId);
+        const SteamManifest manifest(path, appId, m_lookup.allowance());
         if (manifest.objection().isEmpty())
             candidates.append({library + QLatin1String("/common/") + manifest.folderName(), {}});
         else
@@ -74,7 +74,7 @@ QStringList Steam::listedBy(const SteamRoot &root)
             = m_lookup.find(root.path, place + QStringLiteral("/libraryfolders.vdf"));
         if (!isNew(path, m_seen))
             continue;
-        const SteamLibraryList list(path);
+        const SteamLibraryList list(path, m_lookup.allowance());
         if (!list.problem().isEmpty()) {
             qDebug().noquote().nospace()
                 << "Steam's libraries not read: " << path << ": " << list.problem();

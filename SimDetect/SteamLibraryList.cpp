@@ -38,9 +38,9 @@ QString readPath(TextFormat &text)
 
 } // namespace
 
-SteamLibraryList::SteamLibraryList(const QString &path)
+SteamLibraryList::SteamLibraryList(const QString &path, qint64 &allowance)
 {
-    const PlainFile file(path, TextFormat::LargestFile);
+    const PlainFile file(path, allowance, TextFormat::LargestFile);
     m_problem = file.problem();
     if (m_problem.isEmpty())
         parse(file.content());

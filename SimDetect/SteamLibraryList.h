@@ -12,8 +12,9 @@ namespace Quillmont::SimDetect {
 class SteamLibraryList
 {
 public:
-    /// Reads the file at @p path, in the form of today or that of before June 2021.
-    explicit SteamLibraryList(const QString &path);
+    /// Reads the file at @p path, in the form of today or that of before June 2021, within the
+    /// @p allowance.
+    SteamLibraryList(const QString &path, qint64 &allowance);
 
     /// Why the file is of no use; empty where it is.
     const QString &problem() const { return m_problem; }

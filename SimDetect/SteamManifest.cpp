@@ -33,9 +33,9 @@ QString objectionToFlags(const QString &written)
 
 } // namespace
 
-SteamManifest::SteamManifest(const QString &path, const QString &appId)
+SteamManifest::SteamManifest(const QString &path, const QString &appId, qint64 &allowance)
 {
-    const PlainFile file(path, TextFormat::LargestFile);
+    const PlainFile file(path, allowance, TextFormat::LargestFile);
     m_objection = file.problem();
     if (m_objection.isEmpty())
         m_objection = parse(file.content());

@@ -12,8 +12,8 @@ namespace Quillmont::SimDetect {
 class SteamManifest
 {
 public:
-    /// Reads the file at @p path, which belongs to the game @p appId.
-    SteamManifest(const QString &path, const QString &appId);
+    /// Reads the file at @p path, which belongs to the game @p appId, within the @p allowance.
+    SteamManifest(const QString &path, const QString &appId, qint64 &allowance);
 
     /// Why the game is not there to use; empty where it is.
     const QString &objection() const { return m_objection; }

@@ -99,8 +99,8 @@ QVector<Candidate> XPlane::listed(int version) const
     const QString folder = m_environment.system == Environment::MacOS
         ? QStringLiteral("Library/Preferences")
         : QStringLiteral(".x-plane");
-    return XPlaneList::read(
-        m_environment.inHome(QStringLiteral("%1/x-plane_install_%2.txt").arg(folder).arg(version)));
+    const QString file = QStringLiteral("%1/x-plane_install_%2.txt").arg(folder).arg(version);
+    return XPlaneList::read(m_environment.inHome(file), m_lookup.allowance());
 }
 
 QVector<Candidate> XPlane::wellKnown(int version) const

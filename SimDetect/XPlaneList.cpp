@@ -14,11 +14,11 @@ constexpr int MostFolders = 256;
 
 } // namespace
 
-QVector<Candidate> XPlaneList::read(const QString &path)
+QVector<Candidate> XPlaneList::read(const QString &path, qint64 &allowance)
 {
     if (!QFileInfo::exists(path))
         return {};
-    const PlainFile file(path);
+    const PlainFile file(path, allowance);
     if (!file.problem().isEmpty())
         return {{path, file.problem()}};
     QTextStream text(file.content());

@@ -13,8 +13,8 @@ class XPlaneList
 {
 public:
     /// The folders that the file at @p path lists, in its order. A missing file lists none; one
-    /// that cannot be read is the only candidate, with its objection.
-    static QVector<Candidate> read(const QString &path);
+    /// that cannot be read within the @p allowance is the only candidate, with its objection.
+    static QVector<Candidate> read(const QString &path, qint64 &allowance);
 };
 
 } // namespace Quillmont::SimDetect

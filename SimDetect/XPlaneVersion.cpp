@@ -44,13 +44,13 @@ QString plistText(const QByteArray &content, const QString &key)
     return {};
 }
 
-int readBundle(const QString &folder)
+int readBundle(const QString &folder, qint64 &allowance)
 {
     const QString path = folder + QStringLiteral("/X-Plane.app/Contents/Info.plist");
     if (!QFileInfo::exists(path))
         return 0;
-    const QString version
-        = plistText(PlainFile(path).content(), QStringLiteral("CFBundleShortVersionString"));
+    const QString version = plistText(PlainFile(path, allowance).content(),
+                                      QStringLiteral("CFBundleShortVersionString"));
     return numberIn(version, QStringLiteral("^([0-9]+)"));
 }
 
@@ -73,7 +73,7 @@ int XPlaneVersion::read(const QString &folder)
 {
     if (const int version = readLog(folder); version != 0)
         return version;
-    if (const int version = readBundle(folder); version != 0)
+    if (const int version = readBundle(folder, m_lookup.allowance()); version != 0)
         return version;
     return readInstaller(folder);
 }

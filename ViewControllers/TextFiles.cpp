@@ -9,8 +9,8 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// A record of a hundred thousand simulators is smaller; what is bigger only eats up memory.
-constexpr qint64 biggestSize = 64LL * 1024 * 1024;
+// Hundreds of thousands of records have less; what is bigger only eats up memory.
+constexpr qint64 biggestSize = 96LL * 1024 * 1024;
 
 // Opening a pipe that stands in a file's place would wait for its other end for ever.
 bool isSomethingElse(const QString &path)

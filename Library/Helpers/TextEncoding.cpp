@@ -60,6 +60,8 @@ TextEncoding::TextEncoding(const QByteArray &bytes)
         m_codec = declared;
     else if (declared)
         m_asciiOnly = !m_codec->name().startsWith(declared->name());
+    if (m_asciiOnly && !marked && decode(declared, "<") == bracket)
+        m_shifting = declared;
     m_unit = encoded(bracket).size();
 }
 
@@ -90,6 +92,8 @@ QString TextEncoding::writable(const QString &text) const
 bool TextEncoding::hasCharacter(const QString &character) const
 {
     if (m_asciiOnly && character.at(0) >= QChar(0x80))
+        return false;
+    if (m_shifting && decode(m_shifting, character.toLatin1()) != character)
         return false;
     // In an encoding with shift states two in a row are shorter than twice one.
     const QByteArray bytes = encoded(character);

@@ -41,6 +41,9 @@ private:
     int m_unit = 1;
     /// Mark and declaration contradict each other; ASCII is what every reading agrees on.
     bool m_asciiOnly = false;
+    /// What the declaration says, where it is ASCII but for some characters that shift to another
+    /// state: these are not written. Null otherwise.
+    QTextCodec *m_shifting = nullptr;
 };
 
 } // namespace Quillmont::Library::Helpers

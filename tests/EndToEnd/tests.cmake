@@ -25,7 +25,7 @@ target_link_libraries(orbwell-computer
   PRIVATE orbwell-options)
 
 foreach(story
-    CommandLine RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
+    CommandLine HostileData RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
     UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
@@ -38,3 +38,7 @@ if(NOT APPLE)
   target_compile_definitions(tst_ScreenReader PRIVATE ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
   target_link_libraries(tst_ScreenReader PRIVATE orbwell-simulators)
 endif()
+orbwell_add_test(EndToEnd/RealConditions
+  EndToEnd/Mounts.cpp EndToEnd/Mounts.h
+  ViewControllers/Unprivileged.cpp ViewControllers/Unprivileged.h)
+target_link_libraries(tst_RealConditions PRIVATE orbwell-computer)

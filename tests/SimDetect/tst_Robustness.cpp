@@ -34,6 +34,7 @@ private slots:
     void answersSoonWhateverIsThere();
     void answersSoonWithAllOfItAtOnce();
     void looksAtNoMoreFoldersThanMakeSense();
+    void readsNoMoreThanMakesSense();
     void opensNoFileTwice();
     void saysThatAFolderIsClosed();
 };
@@ -247,6 +248,32 @@ void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
     }
     QCOMPARE(computer.detect(), QString());
     QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
+}
+
+// Each of a tolerable size, and with nothing wrong up to the last brace.
+void tst_Robustness::readsNoMoreThanMakesSense()
+{
+    Computer computer(Environment::Linux);
+    computer.make(QStringLiteral("xplane $R/sims/X-Plane 12\n"
+                                 "file $L/x-plane_install_12.txt = $R/sims/X-Plane 12\\n\n"
+                                 "file $R/manifest ="));
+    const QString manifest = computer.environment.root + QLatin1String("/manifest");
+    writeFile(manifest, "AppState { " + QByteArray("a b ").repeated(2 * 1024 * 1024 - 10) + "}");
+    QByteArray list = "libraryfolders {";
+    for (int i = 0; i < 150; ++i) {
+        const QString library = QStringLiteral("%1/drive%2").arg(computer.environment.root).arg(i);
+        list += " \"" + QByteArray::number(i) + "\" \"" + library.toUtf8() + '"';
+        QDir().mkpath(library + QLatin1String("/steamapps"));
+        for (const char *id : {"269950", "292180", "314160", "1995890"}) {
+            QFile::link(
+                manifest,
+                QStringLiteral("%1/steamapps/appmanifest_%2.acf").arg(library, QLatin1String(id)));
+        }
+    }
+    writeFile(computer.expanded(QStringLiteral("$S/config/libraryfolders.vdf")), list + " }");
+    QCOMPARE(computer.detect(), computer.expanded(QStringLiteral("XP12: $R/sims/X-Plane 12")));
+    // A second as the program ships; gigabytes would take minutes.
+    QVERIFY2(computer.duration() < 15000, qPrintable(QString::number(computer.duration())));
 }
 
 void tst_Robustness::opensNoFileTwice()

@@ -68,8 +68,17 @@ void tst_XPlane::readsItsLists_data()
     addCase("a path that is not clean",
             OnBoth,
             R"(xplane $R/sims/good
+               dir $R/sims/other
                file $L/x-plane_install_12.txt = $R//sims/./other/../good//)",
             "XP12: $R/sims/good");
+    addCase("a path back from behind a link",
+            OnBoth,
+            R"(xplane $R/real/X-Plane
+               dir $R/real/inside
+               link $R/link -> $R/real/inside
+               xplane $R/X-Plane
+               file $L/x-plane_install_12.txt = $R/link/../X-Plane)",
+            "XP12: $R/real/X-Plane");
     addCase("a path that begins above everything",
             OnBoth,
             R"(xplane $R/good

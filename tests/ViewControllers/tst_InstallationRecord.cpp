@@ -341,6 +341,21 @@ private slots:
         QCOMPARE(all.constFirst()->path, shop.path("My Sims/плагин"));
     }
 
+    // Somebody kept them for years, or wrote them closer than the program does.
+    void keepsFiftyMegabytesOfRecords()
+    {
+        Workshop shop;
+        const QByteArray other
+            = R"({"files": ["/gone/Resources/plugins/Orbwell/64/lin.xpl"], "name": "Other"},)";
+        const int count = 50 * 1024 * 1024 / other.size();
+        shop.writeRecord('[' + other.repeated(count).chopped(1) + ']');
+        auto *mapping = shop.mapping(simulator, shop.path("A"));
+        shop.controller().saveInstallationInfo(mapping, false);
+        shop.controller().saveInstallationInfo(mapping, true);
+        QCOMPARE(shop.controller().m_errorMessage, QString());
+        QCOMPARE(shop.record().size(), count);
+    }
+
 private:
     // Makes the controller's current mappings, each in the folder "old".
     static QList<FlightSimulatorMapping *> mappings(Workshop &shop,

@@ -41,6 +41,9 @@ public:
     /// What the next start calls the program, in place of its path.
     void setCalledAs(const QString &name) { m_calledAs = name; }
 
+    /// Has @p prepare done in the next process before it becomes the program.
+    void prepare(std::function<void()> prepare) { m_process.prepare = std::move(prepare); }
+
     /// Starts it; the arguments are its command line's.
     void start(const QStringList &arguments = {});
 
@@ -83,6 +86,19 @@ public:
     QByteArray standardError();
 
 private:
+    class Process : public QProcess
+    {
+    public:
+        std::function<void()> prepare;
+
+    protected:
+        void setupChildProcess() override
+        {
+            if (prepare)
+                prepare();
+        }
+    };
+
     QJsonObject ask(const QJsonObject &question);
     void order(const QJsonObject &deed);
 
@@ -90,7 +106,7 @@ private:
     const QString m_executable;
     QString m_calledAs;
     QProcessEnvironment m_environment;
-    QProcess m_process;
+    Process m_process;
 };
 
 } // namespace Tests

@@ -19,6 +19,7 @@ private slots:
     void otherBytesStay();
     void nameThatTheEncodingLacksIsRefused();
     void endTagThatTheEncodingLacksIsRefused();
+    void nothingShiftsToAnotherState();
     void everyCodecKeepsItsPromises_data();
     void everyCodecKeepsItsPromises();
     void secondMarkIsRefused();
@@ -189,6 +190,17 @@ void TestXmlEncodings::nameThatTheEncodingLacksIsRefused()
     QCOMPARE(content(), bytes);
     QVERIFY(insertInto("<R></R>", config));
     QCOMPARE(content(), QByteArray("<R><日><Name>x</Name></日></R>"));
+}
+
+/// In such an encoding a tilde and a brace begin two-byte characters.
+void TestXmlEncodings::nothingShiftsToAnotherState()
+{
+    const QByteArray bytes = "<?xml version='1.0' encoding='HZ-GB-2312'?><R></R>";
+    QVERIFY(insertInto(bytes, R"({"parent": "A", "values": [{"key": "Name", "value": "~{x"}]})"));
+    QCOMPARE(content(), QByteArray(bytes).replace("</R>", "<A><Name>&#126;{x</Name></A></R>"));
+    QVERIFY(
+        removeFrom(content(), R"({"parent": "A", "values": [{"key": "Name", "value": "~{x"}]})"));
+    QCOMPARE(content(), bytes);
 }
 
 void TestXmlEncodings::endTagThatTheEncodingLacksIsRefused()

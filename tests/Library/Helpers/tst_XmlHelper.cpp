@@ -243,6 +243,7 @@ void TestXmlHelper::entryElsewhereIsNotOurs_data()
     row("one level down", "<A><Addon><Name>Tide</Name></Addon></A>");
     row("key one level down", "<Addon><A><Name>Tide</Name></A></Addon>");
     row("key with an element in it", "<Addon><Name>Ti<b/>de</Name></Addon>");
+    row("key with an element behind its text", "<Addon><Name>Tide<b/></Name></Addon>");
     row("key in a comment", "<Addon><!--<Name>Tide</Name>--></Addon>");
     row("key in an attribute", "<Addon Name='Tide'/>");
     row("another element's name", "<addon><Name>Tide</Name></addon>");

@@ -1,0 +1,316 @@
+#include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QTextDocument>
+#include <QtTest>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// Puts something at a path.
+using Maker = std::function<void(const QString &path)>;
+Q_DECLARE_METATYPE(Maker)
+
+using namespace Tests;
+
+// Files and folders made by somebody who wants to do harm: a run ends, soon and within a bound of
+// memory, installs where it can, and touches nothing but what it is about.
+class HostileData : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void endsWhateverIsThere_data();
+    void endsWhateverIsThere();
+
+    void showsItsWindowWhateverIsThere_data();
+
+    void showsItsWindowWhateverIsThere();
+    void endsWhateverTheRecordSays_data();
+    void endsWhateverTheRecordSays();
+    void staysInsideTheSimulator_data();
+    void staysInsideTheSimulator();
+    void worksInAFolderOfAnyName_data();
+    void worksInAFolderOfAnyName();
+
+private:
+    QJsonObject entry() const { return m_computer->entry(m_det, 0); }
+
+    QString place() const { return m_computer->folder(m_det) + m_module; }
+
+    bool isInstalled() const
+    {
+        return QFileInfo(place()).isFile() && readFile(place()) == "module";
+    }
+
+    const QString m_det = QStringLiteral("Det");
+    const QString m_module = QStringLiteral("/Gauges/QuillmontOrbwell_64.dll");
+    QScopedPointer<Computer> m_computer;
+};
+
+static const QStringList repair{QStringLiteral("--REPAIR")};
+
+// Big files take no room on the disk, and no copy of one gets far. A sanitizer needs all of the
+// addresses for itself.
+static void limit()
+{
+    constexpr rlim_t mega = 1024 * 1024;
+    const struct rlimit file = {100 * mega, 100 * mega};
+    bool done = setrlimit(RLIMIT_FSIZE, &file) == 0;
+#ifndef __SANITIZE_ADDRESS__
+    const struct rlimit memory = {1536 * mega, 1536 * mega};
+    done = done && setrlimit(RLIMIT_AS, &memory) == 0;
+#endif
+    if (!done)
+        _exit(99);
+}
+
+void HostileData::init()
+{
+    m_computer.reset(new Computer);
+    m_computer->setCatalogue({entry()});
+    m_computer->addSimulator(m_det);
+    m_computer->write(m_computer->configuration(m_det), othersConfiguration());
+    m_computer->write(QStringLiteral("precious/file"), "precious");
+    m_computer->program().prepare(limit);
+}
+
+void HostileData::cleanup()
+{
+    m_computer.reset();
+}
+
+static void addPlaces(const QStringList &places)
+{
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<Maker>("make");
+    const QVector<QPair<const char *, Maker>> makers{
+        {"a pipe",
+         [](const QString &path) {
+             mkfifo(QFile::encodeName(path).constData(), 0600);
+         }},
+        {"a folder",
+         [](const QString &path) {
+             QDir().mkpath(path + QLatin1String("/in"));
+         }},
+        {"a link to itself",
+         [](const QString &path) {
+             QFile::link(path, path);
+         }},
+        {"a link to nowhere",
+         [](const QString &path) {
+             QFile::link(QStringLiteral("/nowhere/at/all"), path);
+         }},
+        {"an endless device",
+         [](const QString &path) {
+             QFile::link(QStringLiteral("/dev/zero"), path);
+         }},
+        {"a full device",
+         [](const QString &path) {
+             QFile::link(QStringLiteral("/dev/full"), path);
+         }},
+        {"a gigabyte",
+         [](const QString &path) {
+             writeFile(path, "[");
+             QFile::resize(path, 1024LL * 1024 * 1024);
+         }},
+        {"deep nesting",
+         [](const QString &path) {
+             writeFile(path, QByteArray(5000000, '['));
+         }},
+        {"deep elements",
+         [](const QString &path) {
+             writeFile(path, QByteArray("<a>").repeated(2000000));
+         }},
+        {"one line",
+         [](const QString &path) {
+             writeFile(path, QByteArray(5000000, '='));
+         }},
+        {"zeros",
+         [](const QString &path) {
+             writeFile(path, QByteArray(5000000, '\0'));
+         }},
+    };
+    for (const QString &place : places) {
+        for (const auto &[name, make] : makers)
+            QTest::addRow("%s as %s", name, qPrintable(place)) << place << make;
+    }
+}
+
+void HostileData::endsWhateverIsThere_data()
+{
+    addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
+               QStringLiteral("Quillmont/Orbwell/.path"),
+               QStringLiteral("Quillmont/Orbwell"),
+               QStringLiteral("Quillmont/Vellum/.settings"),
+               QStringLiteral("Quillmont/Vellum/.settings.lock"),
+               QStringLiteral("Maker/Det/dll.xml"),
+               QStringLiteral("Maker/Det")});
+}
+
+void HostileData::endsWhateverIsThere()
+{
+    QFETCH(const QString, place);
+    QFETCH(const Maker, make);
+    const QString path = m_computer->absolute(m_computer->data(place));
+    QDir().mkpath(QFileInfo(path).path());
+    QDir(path).removeRecursively();
+    QFile::remove(path);
+    make(path);
+
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    const int status = m_computer->run(repair);
+    QVERIFY2(status == 0 || status == 2, qPrintable(QString::number(status)));
+    QVERIFY2(sinceStart.elapsed() < 25000, qPrintable(QString::number(sinceStart.elapsed())));
+    QVERIFY(isInstalled());
+}
+
+void HostileData::showsItsWindowWhateverIsThere_data()
+{
+    addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
+               QStringLiteral("Quillmont/Vellum/.settings"),
+               QStringLiteral("Maker/Det/dll.xml")});
+}
+
+void HostileData::showsItsWindowWhateverIsThere()
+{
+    QFETCH(const QString, place);
+    QFETCH(const Maker, make);
+    const QString path = m_computer->absolute(m_computer->data(place));
+    QDir().mkpath(QFileInfo(path).path());
+    QDir(path).removeRecursively();
+    QFile::remove(path);
+    make(path);
+
+    m_computer->program().start();
+    m_computer->program().window();
+    m_computer->program().pressAction(m_det);
+    m_computer->program().box();
+    QVERIFY(isInstalled());
+    m_computer->program().press(QStringLiteral("OK"));
+    QCOMPARE(m_computer->program().row(m_det).action.text, QStringLiteral("Uninstall Orbwell"));
+    m_computer->program().press(QStringLiteral("Close"));
+    QCOMPARE(m_computer->program().exitStatus(), 0);
+}
+
+void HostileData::endsWhateverTheRecordSays_data()
+{
+    QTest::addColumn<QByteArray>("path");
+    QTest::addColumn<QByteArray>("files");
+    QTest::newRow("an endless folder") << QByteArray("/a").repeated(1000000) << QByteArray();
+    QTest::newRow("many lines") << QByteArray("\\n").repeated(1000000) << QByteArray();
+    QTest::newRow("much markup") << QByteArray("<b>").repeated(1000000) << QByteArray();
+    QTest::newRow("many placeholders") << QByteArray("%1").repeated(100000) << QByteArray();
+    QTest::newRow("a pipe's folder") << QByteArray("/dev/null/x") << QByteArray();
+    QTest::newRow("no characters") << QByteArray("\\u0000\\ud800") << QByteArray();
+    QTest::newRow("many files") << QByteArray("/gone") << QByteArray("\"/\",").repeated(300000);
+    QTest::newRow("endless files")
+        << QByteArray("/gone") << '"' + QByteArray("/a").repeated(3000000) + "\",";
+}
+
+// Its folder counts, and nothing can be installed there; what is told fits on a screen.
+void HostileData::endsWhateverTheRecordSays()
+{
+    QFETCH(const QByteArray, path);
+    QFETCH(const QByteArray, files);
+    m_computer->setCatalogue({m_computer->hiddenEntry(m_det, 0)});
+    m_computer->write(m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping")),
+                      R"([{"name": "Det", "path": ")" + path + R"(", "files": [)"
+                          + (files + "\"/\"") + "]}]");
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    const int status = m_computer->run(repair);
+    QVERIFY2(status == 0 || status == 2, qPrintable(QString::number(status)));
+    QVERIFY2(sinceStart.elapsed() < 25000, qPrintable(QString::number(sinceStart.elapsed())));
+    for (const QString &said : m_computer->said())
+        QVERIFY(said.size() < 30000);
+    QVERIFY(!isInstalled());
+}
+
+void HostileData::staysInsideTheSimulator_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::newRow("a link") << Maker([](const QString &path) {
+        QFile::link(
+            QFileInfo(path + QLatin1String("/../../../../precious/file")).absoluteFilePath(), path);
+    });
+    QTest::newRow("a link to nothing") << Maker([](const QString &path) {
+        QFile::link(QFileInfo(path + QLatin1String("/../../../../precious/new")).absoluteFilePath(),
+                    path);
+    });
+    QTest::newRow("a link to itself")
+        << Maker([](const QString &path) { QFile::link(path, path); });
+    QTest::newRow("a pipe") << Maker(
+        [](const QString &path) { mkfifo(QFile::encodeName(path).constData(), 0600); });
+    QTest::newRow("a device") << Maker(
+        [](const QString &path) { QFile::link(QStringLiteral("/dev/full"), path); });
+    QTest::newRow("a folder") << Maker(
+        [](const QString &path) { writeFile(path + QLatin1String("/in"), "in"); });
+    QTest::newRow("a link to a folder") << Maker([](const QString &path) {
+        QFile::link(QFileInfo(path + QLatin1String("/../../../../precious")).absoluteFilePath(),
+                    path);
+    });
+    QTest::newRow("a second name of a file") << Maker([](const QString &path) {
+        const QString precious
+            = QFileInfo(path + QLatin1String("/../../../../precious/file")).absoluteFilePath();
+        QCOMPARE(::link(QFile::encodeName(QDir::cleanPath(precious)).constData(),
+                        QFile::encodeName(path).constData()),
+                 0);
+    });
+}
+
+// In the place of the plugin's file; installed or not, what it leads to stays as it was.
+void HostileData::staysInsideTheSimulator()
+{
+    QFETCH(const Maker, make);
+    make(place());
+    for (const char *argument : {"--INSTALL", "--REPAIR", "--UNINSTALL"}) {
+        const int status = m_computer->run({QLatin1String(argument), QStringLiteral("1")});
+        QVERIFY2(status == 0 || status == 2, qPrintable(QString::number(status)));
+        QCOMPARE(treeOf(m_computer->absolute(QStringLiteral("precious"))),
+                 (QMap<QString, QByteArray>{{QStringLiteral("file"), "precious"}}));
+    }
+}
+
+void HostileData::worksInAFolderOfAnyName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("markup") << QStringLiteral("<b>bold</b> & <img src=x>");
+    QTest::newRow("placeholders") << QStringLiteral("%1 %0 %2 %n %L1");
+    QTest::newRow("lines") << QStringLiteral("a\nb\r\nc\td");
+    QTest::newRow("quotes") << QStringLiteral("'\"`$(x);");
+    QTest::newRow("the other way round") << QString::fromUtf8("a\u202etxt.exe");
+}
+
+// The name comes out of every text as it is, and as text.
+void HostileData::worksInAFolderOfAnyName()
+{
+    QFETCH(const QString, name);
+    const QString folder = m_computer->folder(name);
+    QJsonObject record = m_computer->recordFor(entry());
+    record.insert(QStringLiteral("path"), folder);
+    record.insert(QStringLiteral("files"), QJsonArray());
+    m_computer->setCatalogue({m_computer->hiddenEntry(m_det, 0)});
+    m_computer->setRecords({record});
+    writeFile(folder + m_module + QLatin1String("/kept"), "kept");
+
+    QCOMPARE(m_computer->run(repair), 2);
+    const QString line = QStringLiteral("Unable to remove file '") + folder + m_module
+        + QStringLiteral("' from Det. Please remove the file manually.\r\n");
+    QVERIFY2(m_computer->said().constFirst().endsWith(QLatin1String("\r\n\r\n") + line),
+             qUtf8Printable(m_computer->said().constFirst()));
+    QVERIFY(!Qt::mightBeRichText(m_computer->boxes().constFirst().text));
+    QCOMPARE(readFile(folder + m_module + QLatin1String("/kept")), QByteArray("kept"));
+}
+
+QTEST_GUILESS_MAIN(HostileData)
+#include "tst_HostileData.moc"

@@ -1,0 +1,425 @@
+#include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/Mounts.h"
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/ViewControllers/Unprivileged.h"
+#include "tests/support/Files.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QtTest>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#ifdef Q_OS_LINUX
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#endif
+
+using namespace Tests;
+
+// Disks that are full or may only be read, files that nobody may change, users who may not write,
+// and a computer without a screen: as they are, not as a test pretends.
+class RealConditions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void namesAFolderThatIsNotTheUsers();
+    void leavesAConfigurationThatIsNotTheUsers();
+    void worksWithoutADataFolder_data();
+    void worksWithoutADataFolder();
+    void opensItsWindowWithoutADataFolder();
+    void namesWhatASmallDiskDoesNotTake();
+    void leavesAConfigurationOnAFullDisk();
+    void namesWhatIsOverTheLimit();
+    void leavesAConfigurationOverTheLimit();
+    void namesAReadOnlyDisk();
+    void worksWithAReadOnlyDataFolder();
+    void leavesAnImmutableConfiguration();
+    void namesAnImmutablePluginFile();
+    void leavesAConfigurationThatIsAMountPoint();
+    void namesAPluginFileThatIsAMountPoint();
+    void endsWithoutAScreen_data();
+    void endsWithoutAScreen();
+
+private:
+    void installInto(int type, const QByteArray &payload);
+
+    QString place() const { return m_computer->folder(m_det) + m_module; }
+
+    QString cannotCopy() const;
+    QString cannotRecord(const QString &dataRoot) const;
+    QString cannotInstall(const QString &lines) const;
+    QString configuration() const;
+    void forbid(const QString &folder);
+    void becomeAUser();
+    void limitFiles(rlim_t size);
+    bool makeImmutable(const QString &path);
+
+    const QString m_det = QStringLiteral("Det");
+    const QString m_module = QStringLiteral("/Gauges/QuillmontOrbwell_64.dll");
+    QStringList m_immutable;
+    QScopedPointer<Computer> m_computer;
+    QScopedPointer<Mounts> m_mounts;
+    QScopedPointer<Unprivileged> m_user;
+};
+
+static const QStringList quietInstall{QStringLiteral("--INSTALL"), QStringLiteral("1")};
+
+static const char *const noMount = "needs the right to mount something";
+
+static bool setImmutable(const QString &path, bool on)
+{
+#ifdef Q_OS_LINUX
+    const int handle = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    unsigned long flags = 0;
+    bool done = ioctl(handle, FS_IOC_GETFLAGS, &flags) == 0;
+    flags = on ? flags | FS_IMMUTABLE_FL : flags & ~static_cast<unsigned long>(FS_IMMUTABLE_FL);
+    done = done && ioctl(handle, FS_IOC_SETFLAGS, &flags) == 0;
+    close(handle);
+    return done;
+#else
+    Q_UNUSED(path)
+    Q_UNUSED(on)
+    return false;
+#endif
+}
+
+void RealConditions::init()
+{
+    m_computer.reset(new Computer);
+    m_mounts.reset(new Mounts);
+}
+
+void RealConditions::cleanup()
+{
+    m_user.reset();
+    for (const QString &path : qAsConst(m_immutable))
+        setImmutable(path, false);
+    m_immutable.clear();
+    m_mounts.reset();
+    m_computer.reset();
+}
+
+// One simulator, found in its folder, and how big its plugin file is.
+void RealConditions::installInto(int type, const QByteArray &payload)
+{
+    QJsonObject entry = m_computer->entry(m_det, 0);
+    entry.insert(QStringLiteral("type"), type);
+    m_computer->setCatalogue({entry});
+    writeFile(m_computer->program().folder()
+                  + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll"),
+              payload);
+    m_computer->addSimulator(m_det);
+}
+
+QString RealConditions::cannotCopy() const
+{
+    return QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have permission to "
+                          "folder '%3/'.\r\n")
+        .arg(m_computer->program().folder() + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll"),
+             place(),
+             m_computer->folder(m_det));
+}
+
+// Reading and writing it are told of together, and have no line end.
+QString RealConditions::cannotRecord(const QString &dataRoot) const
+{
+    return QStringLiteral("The file '%1' is empty. Quillmont Orbwell installer was not able to "
+                          "change your configuration.Unable to write configuration to file '%1'. "
+                          "Please check if you have permission to that file.")
+        .arg(dataRoot + QLatin1String("//Quillmont/Orbwell/.mapping"));
+}
+
+QString RealConditions::cannotInstall(const QString &lines) const
+{
+    return QStringLiteral("Uninstall: Quillmont Orbwell was not able to uninstall your Orbwell "
+                          "plugin from Det.\r\n\r\nPlease see the list below for details:\r\n\r\n")
+        + lines;
+}
+
+QString RealConditions::configuration() const
+{
+    return m_computer->absolute(m_computer->configuration(m_det));
+}
+
+void RealConditions::forbid(const QString &folder)
+{
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+}
+
+// Root may write anywhere; the program gets another user then.
+void RealConditions::becomeAUser()
+{
+    m_user.reset(new Unprivileged(m_computer->absolute(QString()).chopped(1)));
+    const uid_t user = geteuid();
+    m_computer->program().prepare([user] {
+        if (setreuid(user, user) != 0)
+            _exit(99);
+    });
+}
+
+void RealConditions::limitFiles(rlim_t size)
+{
+    m_computer->program().prepare([size] {
+        const struct rlimit limit = {size, size};
+        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+            _exit(99);
+    });
+}
+
+bool RealConditions::makeImmutable(const QString &path)
+{
+    m_immutable.append(path);
+    return setImmutable(path, true);
+}
+
+void RealConditions::namesAFolderThatIsNotTheUsers()
+{
+    installInto(1, "module");
+    becomeAUser();
+    const QString gauges = m_computer->folder(m_det) + QLatin1String("/Gauges");
+    forbid(gauges);
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
+    QCOMPARE(QDir(gauges).entryList(QDir::Files | QDir::Hidden),
+             QStringList(QStringLiteral("other.dll")));
+    QCOMPARE(m_computer->records().size(), 1);
+}
+
+void RealConditions::leavesAConfigurationThatIsNotTheUsers()
+{
+    installInto(0, "module");
+    m_computer->write(m_computer->configuration(m_det), othersConfiguration());
+    becomeAUser();
+    QVERIFY(QFile::setPermissions(configuration(), QFile::ReadOwner));
+    forbid(QFileInfo(configuration()).path());
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(treeOf(QFileInfo(configuration()).path()),
+             (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), othersConfiguration()}}));
+    QCOMPARE(readFile(place()), QByteArray("module"));
+    QCOMPARE(m_computer->records().size(), 1);
+}
+
+void RealConditions::worksWithoutADataFolder_data()
+{
+    QTest::addColumn<QString>("home");
+    QTest::newRow("a home that may only be read") << QStringLiteral("closed");
+    QTest::newRow("a home that does not exist") << QStringLiteral("closed/gone");
+}
+
+// The plugin gets in all the same.
+void RealConditions::worksWithoutADataFolder()
+{
+    QFETCH(const QString, home);
+    installInto(1, "module");
+    const QString closed = m_computer->absolute(QStringLiteral("closed"));
+    QVERIFY(QDir().mkpath(closed));
+    becomeAUser();
+    forbid(closed);
+    m_computer->program().setVariable("HOME", m_computer->absolute(home));
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    const QString dataRoot = m_computer->absolute(home) + QLatin1String("/.local/share");
+    QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotRecord(dataRoot))));
+    QCOMPARE(readFile(place()), QByteArray("module"));
+    QCOMPARE(treeOf(closed), (QMap<QString, QByteArray>()));
+    QCOMPARE(treeOf(m_computer->absolute(QStringLiteral("home"))), (QMap<QString, QByteArray>()));
+}
+
+void RealConditions::opensItsWindowWithoutADataFolder()
+{
+    installInto(1, "module");
+    becomeAUser();
+    m_computer->program().setVariable("HOME", QStringLiteral("/nobody's/home"));
+    QCOMPARE(m_computer->run({}), 0);
+    QVERIFY(m_computer->showedTheWindow());
+    QCOMPARE(m_computer->said(), QStringList());
+    QVERIFY(!QFileInfo::exists(QStringLiteral("/nobody's")));
+}
+
+void RealConditions::namesWhatASmallDiskDoesNotTake()
+{
+    if (!m_mounts->addDisk(m_computer->folder(m_det), 100))
+        QSKIP(noMount);
+    installInto(1, QByteArray(200 * 1024, 'x'));
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
+    QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
+             QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
+}
+
+void RealConditions::leavesAConfigurationOnAFullDisk()
+{
+    const QString folder = QFileInfo(configuration()).path();
+    if (!m_mounts->addDisk(folder, 100))
+        QSKIP(noMount);
+    installInto(0, "module");
+    const QByteArray content
+        = othersConfiguration() + "<!--" + QByteArray(70 * 1024, 'x') + "-->\r\n";
+    writeFile(configuration(), content);
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(readFile(configuration()), content);
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden),
+             QStringList(QStringLiteral("dll.xml")));
+    QCOMPARE(readFile(place()), QByteArray("module"));
+}
+
+void RealConditions::namesWhatIsOverTheLimit()
+{
+    installInto(1, QByteArray(200 * 1024, 'x'));
+    limitFiles(100 * 1024);
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
+    QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
+             QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
+    QCOMPARE(m_computer->records().size(), 1);
+}
+
+void RealConditions::leavesAConfigurationOverTheLimit()
+{
+    installInto(0, "module");
+    const QByteArray content
+        = othersConfiguration() + "<!--" + QByteArray(200 * 1024, 'x') + "-->\r\n";
+    m_computer->write(m_computer->configuration(m_det), content);
+    limitFiles(100 * 1024);
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(treeOf(QFileInfo(configuration()).path()),
+             (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), content}}));
+}
+
+void RealConditions::namesAReadOnlyDisk()
+{
+    installInto(1, "module");
+    if (!m_mounts->protect(m_computer->folder(m_det)))
+        QSKIP(noMount);
+    const Disk before = treeOf(m_computer->folder(m_det));
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
+    QCOMPARE(treeOf(m_computer->folder(m_det)), before);
+}
+
+void RealConditions::worksWithAReadOnlyDataFolder()
+{
+    installInto(0, "module");
+    m_computer->write(m_computer->configuration(m_det), othersConfiguration());
+    const QString dataRoot = m_computer->absolute(m_computer->data({})).chopped(1);
+    if (!m_mounts->protect(dataRoot))
+        QSKIP(noMount);
+    const Disk before = treeOf(dataRoot);
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotRecord(dataRoot))));
+    QCOMPARE(treeOf(dataRoot), before);
+    QCOMPARE(readFile(place()), QByteArray("module"));
+}
+
+void RealConditions::leavesAnImmutableConfiguration()
+{
+    installInto(0, "module");
+    m_computer->write(m_computer->configuration(m_det), othersConfiguration());
+    if (!makeImmutable(configuration()))
+        QSKIP("needs root and a file system with immutable files");
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(readFile(configuration()), othersConfiguration());
+    // The backup, and nothing that was meant to take the file's place.
+    const QStringList files
+        = QFileInfo(configuration()).dir().entryList(QDir::Files | QDir::Hidden);
+    QCOMPARE(files.size(),
+             1 + backupsOf(configuration(), QStringLiteral("installation")).size()
+                 + backupsOf(configuration(), QStringLiteral("uninstallation")).size());
+    QVERIFY(files.size() > 1);
+}
+
+void RealConditions::namesAnImmutablePluginFile()
+{
+    QJsonObject entry = m_computer->entry(m_det, 1);
+    m_computer->setCatalogue({entry});
+    m_computer->addPlugin(m_det, 1);
+    const QString about
+        = m_computer->folder(m_det) + QLatin1String("/Resources/plugins/Orbwell/about.txt");
+    if (!makeImmutable(about))
+        QSKIP("needs root and a file system with immutable files");
+    QCOMPARE(m_computer->run({QStringLiteral("--REPAIR")}), 2);
+    QVERIFY(m_computer->said().constFirst().startsWith(
+        cannotInstall(QStringLiteral("Unable to remove file '%1' from Det. Please remove the file "
+                                     "manually.\r\n")
+                          .arg(about))));
+    QVERIFY(m_computer->said().constLast().endsWith(QLatin1String("Det: Not updated")));
+    QCOMPARE(readFile(about), QByteArray("old"));
+}
+
+// Nothing can be renamed over it.
+void RealConditions::leavesAConfigurationThatIsAMountPoint()
+{
+    installInto(0, "module");
+    m_computer->write(m_computer->configuration(m_det), othersConfiguration());
+    m_computer->write(QStringLiteral("elsewhere"), othersConfiguration());
+    if (!m_mounts->show(m_computer->absolute(QStringLiteral("elsewhere")), configuration()))
+        QSKIP(noMount);
+    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->said(), QStringList());
+    QCOMPARE(readFile(configuration()), othersConfiguration());
+    QCOMPARE(QFileInfo(configuration()).dir().entryList({QStringLiteral("dll.xml.*")}),
+             QStringList());
+}
+
+void RealConditions::namesAPluginFileThatIsAMountPoint()
+{
+    installInto(1, "module");
+    writeFile(place(), "old");
+    m_computer->write(QStringLiteral("elsewhere"), "precious");
+    if (!m_mounts->show(m_computer->absolute(QStringLiteral("elsewhere")), place()))
+        QSKIP(noMount);
+    QCOMPARE(m_computer->run({QStringLiteral("--REPAIR")}), 2);
+    QVERIFY(m_computer->said().constLast().endsWith(QLatin1String("Det: Not updated")));
+    QCOMPARE(readFile(place()), QByteArray("precious"));
+}
+
+void RealConditions::endsWithoutAScreen_data()
+{
+    QTest::addColumn<QString>("platform");
+    QTest::addColumn<QStringList>("arguments");
+    for (const char *platform : {"xcb", "nothing like it"}) {
+        const QString name = QLatin1String(platform);
+        QTest::newRow(platform) << name << QStringList();
+        QTest::newRow(qPrintable(name + QLatin1String(", unattended"))) << name << quietInstall;
+    }
+}
+
+// It says so, and touches nothing.
+void RealConditions::endsWithoutAScreen()
+{
+    QFETCH(const QString, platform);
+    QFETCH(const QStringList, arguments);
+    installInto(1, "module");
+    m_computer->program().setVariable("QT_QPA_PLATFORM", platform);
+    m_computer->program().setVariable("DISPLAY", QStringLiteral(":nowhere"));
+    m_computer->program().prepare([] {
+        const struct rlimit none = {0, 0};
+        setrlimit(RLIMIT_CORE, &none);
+    });
+    const Disk before = m_computer->disk();
+    QVERIFY(m_computer->run(arguments) != 0);
+    const QByteArray said = m_computer->program().standardError();
+    QVERIFY2(said.contains("no Qt platform plugin could be initialized"), said.constData());
+    QCOMPARE(difference(m_computer->disk(), before), QString());
+    QCOMPARE(treeOf(m_computer->absolute(QStringLiteral("home"))), (QMap<QString, QByteArray>()));
+}
+
+int main(int argc, char *argv[])
+{
+    Mounts::separate();
+    QCoreApplication application(argc, argv);
+    RealConditions test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_RealConditions.moc"
