@@ -30,3 +30,9 @@ foreach(story
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()
 target_link_libraries(tst_Unattended PRIVATE orbwell-computer)
+
+orbwell_add_test(EndToEnd/Faults
+  EndToEnd/Patient.cpp EndToEnd/Patient.h
+  EndToEnd/Tracer.cpp EndToEnd/Tracer.h)
+target_link_libraries(tst_Faults PRIVATE orbwell-computer)
+target_compile_definitions(tst_Faults PRIVATE SANITIZERS="${ORBWELL_SANITIZE}")

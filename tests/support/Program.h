@@ -39,6 +39,9 @@ public:
     /// What the next start calls the program, in place of its path.
     void setCalledAs(const QString &name) { m_calledAs = name; }
 
+    /// A command that the next start runs the program under: a tracer and its options.
+    void setTracer(const QStringList &command) { m_tracer = command; }
+
     /// Starts it; the arguments are its command line's.
     void start(const QStringList &arguments = {});
 
@@ -87,6 +90,7 @@ private:
     const QString m_folder;
     const QString m_executable;
     QString m_calledAs;
+    QStringList m_tracer;
     QProcessEnvironment m_environment;
     QProcess m_process;
 };
