@@ -112,10 +112,11 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
 
     const ConfigurationLock lock;
     const QString file = QDir::toNativeSeparators(configurationFile(mapping));
-    if (QFile::exists(file))
-        backUp(file, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
-    else
+    // A file that only cannot be looked at now must not be replaced.
+    if (FileHelper::isMissing(file))
         FileHelper::saveText(file, launchDocument(), QStringLiteral("Windows-1252"));
+    else
+        backUp(file, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
 
     auto *helper = new XmlHelper(this, file);
     helper->insertValues(mapping->scan->config);

@@ -68,7 +68,7 @@ void ScanController::createMappingFile()
 
     QFile file(path);
     if (!file.exists())
-        file.open(QIODevice::WriteOnly);
+        file.open(QIODevice::Append); // empties nothing, should it be there after all
 }
 
 void ScanController::getUserSimulatorMapping()

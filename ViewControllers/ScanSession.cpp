@@ -1,9 +1,11 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Library/Helpers/FileWriter.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
 #include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/SimulatorFiles.h"
 #include "Views/ScannerView.h"
 
 #include <QCoreApplication>
@@ -14,6 +16,7 @@
 #include <QMultiMap>
 #include <QTextStream>
 
+using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -39,8 +42,12 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
 
     QList<FlightSimulatorMapping *> result;
     const auto entries = catalogueEntries(content);
-    for (auto *entry : entries)
+    for (auto *entry : entries) {
         result.append(mappingFor(entry));
+        // A run may have been ended while it changed this simulator's configuration.
+        if (entry->config)
+            FileWriter::clearUnfinished(configurationFile(result.constLast()));
+    }
     sloveConflict(result);
 
     if (mode == ModeScanAndInstall || silent) {

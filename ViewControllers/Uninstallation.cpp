@@ -16,6 +16,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <system_error>
+
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FileOperation;
@@ -25,11 +28,35 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
+// Hidden files, dangling links and devices do not count; what cannot be looked at does.
+bool isVisible(const std::filesystem::directory_entry &entry)
+{
+    using std::filesystem::file_type;
+
+    std::error_code ignored;
+    const auto type = entry.status(ignored).type();
+    return entry.path().filename().native().front() != '.'
+        && (type == file_type::regular || type == file_type::directory || type == file_type::none
+            || type == file_type::unknown);
+}
+
+// The toolkit's own listing takes a folder that cannot be listed for an empty one.
+bool isSurelyEmpty(const QDir &folder)
+{
+    std::error_code failure;
+    std::filesystem::directory_iterator it(QFile::encodeName(folder.path()).toStdString(), failure);
+    for (; !failure && it != std::filesystem::directory_iterator(); it.increment(failure)) {
+        if (isVisible(*it))
+            return false;
+    }
+    return !failure;
+}
+
 // Only what the user can see counts: a folder that holds nothing but hidden files is left over
 // from us and goes with them.
 void removeIfEmpty(QDir folder)
 {
-    if (folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Unsorted).isEmpty())
+    if (isSurelyEmpty(folder))
         folder.removeRecursively();
 }
 

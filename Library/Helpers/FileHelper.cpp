@@ -7,6 +7,10 @@
 #include <QFileInfo>
 #include <QTextCodec>
 
+#include <filesystem>
+#include <string>
+#include <system_error>
+
 namespace Quillmont::Library::Helpers {
 
 namespace {
@@ -34,6 +38,13 @@ bool FileHelper::saveText(const QString &path, const QString &text, const QStrin
     if (!problem.isEmpty())
         qDebug().noquote().nospace() << "file not written: " << path << ": " << problem;
     return problem.isEmpty();
+}
+
+bool FileHelper::isMissing(const QString &path)
+{
+    std::error_code ignored;
+    const std::string name = QFile::encodeName(path).toStdString();
+    return std::filesystem::status(name, ignored).type() == std::filesystem::file_type::not_found;
 }
 
 } // namespace Quillmont::Library::Helpers

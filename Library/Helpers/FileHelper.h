@@ -5,7 +5,7 @@ class QString;
 
 namespace Quillmont::Library::Helpers {
 
-/// Writes whole text files.
+/// Looks after whole text files.
 class FileHelper
 {
 public:
@@ -13,6 +13,9 @@ public:
     /// (empty: UTF-8), making missing folders. All or nothing: on failure, an unknown encoding
     /// included, the answer is false and the file is as it was.
     static bool saveText(const QString &path, const QString &text, const QString &encoding);
+
+    /// Whether there surely is no such file; one that cannot be looked at may well be there.
+    static bool isMissing(const QString &path);
 };
 
 } // namespace Quillmont::Library::Helpers

@@ -6,6 +6,8 @@
 #include <QSaveFile>
 
 #include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,6 +69,76 @@ bool isOnDisk(int handle)
     return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
+bool fill(QFileDevice *file, const QString &target, const QByteArray &bytes)
+{
+    // Not every file device notices by itself that the rest of its buffer found no room.
+    return keepStatus(file->handle(), target) && file->write(bytes) == bytes.size() && file->flush()
+        && isOnDisk(file->handle());
+}
+
+/// The name that new bytes bear from when they are complete until they are in their place. It is
+/// always the same, so that the next process can tell what a killed one left from others' files.
+QByteArray unfinishedName(const QString &target)
+{
+    return QFile::encodeName(target + QStringLiteral("_quillmont_unfinished"));
+}
+
+/// Opens a file without a name in the folder of @p target, gone by itself with its process. Not
+/// every system and file system has such files.
+bool openNameless(QFile *file, const QString &target)
+{
+#ifdef O_TMPFILE
+    constexpr mode_t usual = 0666;
+    const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
+    const int handle = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, usual);
+    return handle >= 0 && file->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
+#else
+    Q_UNUSED(file)
+    Q_UNUSED(target)
+    return false;
+#endif
+}
+
+bool giveName(int handle, const QByteArray &name)
+{
+    const QByteArray self = "/proc/self/fd/" + QByteArray::number(handle);
+    const auto give = [&] {
+        return linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW)
+            == 0;
+    };
+    return give() || (errno == EEXIST && unlink(name.constData()) == 0 && give());
+}
+
+bool putInPlace(int handle, const QString &target)
+{
+    const QByteArray name = unfinishedName(target);
+    if (!giveName(handle, name))
+        return false;
+    if (std::rename(name.constData(), QFile::encodeName(target).constData()) == 0)
+        return true;
+    unlink(name.constData());
+    return false;
+}
+
+/// A process that is killed on the way leaves nothing, or what clearUnfinished() takes away.
+bool writeNameless(const QString &target, const QByteArray &bytes)
+{
+    const QFileInfo info(target);
+    QFile file;
+    return (!info.exists() || info.isWritable()) && openNameless(&file, target)
+        && fill(&file, target, bytes) && putInPlace(file.handle(), target);
+}
+
+/// The way for all systems; a killed process can leave a file of any name here.
+bool writeNamed(const QString &target, const QByteArray &bytes, QString *problem)
+{
+    QSaveFile file(target);
+    if (file.open(QIODevice::WriteOnly) && fill(&file, target, bytes) && file.commit())
+        return true;
+    *problem = QStringLiteral("cannot be written: %1").arg(file.errorString());
+    return false;
+}
+
 } // namespace
 
 bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *problem)
@@ -78,15 +150,12 @@ bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *pr
         *problem = QStringLiteral("not a regular file");
         return false;
     }
+    return writeNameless(target, bytes) || writeNamed(target, bytes, problem);
+}
 
-    QSaveFile file(target);
-    // commit() does not notice by itself that the rest of its buffer found no room.
-    if (file.open(QIODevice::WriteOnly) && keepStatus(file.handle(), target)
-        && file.write(bytes) == bytes.size() && file.flush() && isOnDisk(file.handle())
-        && file.commit())
-        return true;
-    *problem = QStringLiteral("cannot be written: %1").arg(file.errorString());
-    return false;
+void FileWriter::clearUnfinished(const QString &path)
+{
+    unlink(unfinishedName(linkTarget(path)).constData());
 }
 
 } // namespace Quillmont::Library::Helpers

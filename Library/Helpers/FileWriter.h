@@ -16,6 +16,10 @@ public:
     /// keeps the old bytes. On failure the answer is false, the file is as it was and @p problem
     /// says why.
     static bool write(const QString &path, const QByteArray &bytes, QString *problem);
+
+    /// Takes away what a process that was killed while it wrote the file at @p path has left
+    /// beside it. The name of that is our own; no other file is touched.
+    static void clearUnfinished(const QString &path);
 };
 
 } // namespace Quillmont::Library::Helpers

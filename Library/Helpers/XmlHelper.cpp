@@ -1,5 +1,6 @@
 #include "Library/Helpers/XmlHelper.h"
 
+#include "Library/Helpers/FileHelper.h"
 #include "Library/Helpers/FileWriter.h"
 #include "Library/Helpers/XmlEntryEditor.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -8,24 +9,13 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
 #include <functional>
-#include <string>
-#include <system_error>
 
 namespace Quillmont::Library::Helpers {
 
 namespace {
 
 using Edit = std::function<QByteArray(const QByteArray &, QString *)>;
-
-/// Whether there surely is no such file; one that cannot be looked at may well be there.
-bool isMissing(const QString &path)
-{
-    std::error_code ignored;
-    const std::string name = QFile::encodeName(path).toStdString();
-    return std::filesystem::status(name, ignored).type() == std::filesystem::file_type::not_found;
-}
 
 /// The content of the file at @p path; on failure @p problem says why.
 QByteArray read(const QString &path, QString *problem)
@@ -80,7 +70,7 @@ bool XmlHelper::insertValues(Models::XmlInsertionModel *model)
 
 bool XmlHelper::removeConfig(Models::XmlConfigModel *model)
 {
-    if (!model || !model->describesEntry() || isMissing(m_path))
+    if (!model || !model->describesEntry() || FileHelper::isMissing(m_path))
         return true;
     return change(m_path, [model](const QByteArray &bytes, QString *problem) {
         return XmlEntryEditor::removed(bytes, *model, problem);

@@ -42,3 +42,8 @@ orbwell_add_test(EndToEnd/RealConditions
   EndToEnd/Mounts.cpp EndToEnd/Mounts.h
   ViewControllers/Unprivileged.cpp ViewControllers/Unprivileged.h)
 target_link_libraries(tst_RealConditions PRIVATE orbwell-computer)
+orbwell_add_test(EndToEnd/Faults
+  EndToEnd/Patient.cpp EndToEnd/Patient.h
+  EndToEnd/Tracer.cpp EndToEnd/Tracer.h)
+target_link_libraries(tst_Faults PRIVATE orbwell-computer)
+target_compile_definitions(tst_Faults PRIVATE SANITIZERS="${ORBWELL_SANITIZE}")

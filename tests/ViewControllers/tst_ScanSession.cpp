@@ -176,6 +176,16 @@ private slots:
         QCOMPARE(shop.rowPaths(), QStringList({folder, QString(), QString()}));
     }
 
+    void clearsWhatAKilledRunLeftBesideAConfiguration()
+    {
+        Workshop shop;
+        const QString left = shop.dataPath("Maker/dll.xml_quillmont_unfinished");
+        writeFile(left, "half");
+        shop.writeCatalogue(R"([{"name": "One", "config": {"path": "Maker\\dll.xml"}}])");
+        startScan(shop);
+        QVERIFY(!QFile::exists(left));
+    }
+
     void scansInTheOrderOfItsResult()
     {
         Workshop shop;

@@ -137,6 +137,16 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("A/Modules")));
     }
 
+    void aDanglingLinkDoesNotKeepItsFolder()
+    {
+        Workshop shop;
+        writePlugin(shop);
+        QVERIFY(QFile::link(QStringLiteral("nothing"), shop.path("A/Modules/link")));
+        QVERIFY(
+            shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
+        QVERIFY(!QFile::exists(shop.path("A/Modules")));
+    }
+
     void aMissingFileIsNoErrorAndItsEmptyFolderGoes()
     {
         Workshop shop;

@@ -79,7 +79,9 @@ void Program::start(const QStringList &arguments)
 {
     m_process.setProcessEnvironment(m_environment);
     if (m_calledAs.isEmpty()) {
-        m_process.start(m_executable, arguments);
+        QStringList command = m_tracer + QStringList(m_executable) + arguments;
+        const QString first = command.takeFirst();
+        m_process.start(first, command);
     } else {
         // Only a shell can call a program by a name that is not its own.
         const QStringList shell{QStringLiteral("-c"),

@@ -44,6 +44,9 @@ public:
     /// Has @p prepare done in the next process before it becomes the program.
     void prepare(std::function<void()> prepare) { m_process.prepare = std::move(prepare); }
 
+    /// A command that the next start runs the program under: a tracer and its options.
+    void setTracer(const QStringList &command) { m_tracer = command; }
+
     /// Starts it; the arguments are its command line's.
     void start(const QStringList &arguments = {});
 
@@ -105,6 +108,7 @@ private:
     const QString m_folder;
     const QString m_executable;
     QString m_calledAs;
+    QStringList m_tracer;
     QProcessEnvironment m_environment;
     Process m_process;
 };

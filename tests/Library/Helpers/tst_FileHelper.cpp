@@ -25,6 +25,7 @@ private slots:
     void whatCannotBeWrittenChangesNothing();
     void folderThatCannotBeMadeIsAFailure();
     void symbolicLinkStays();
+    void onlyWhatIsSurelyNotThereIsMissing();
 
 private:
     QString folder() const { return m_sandbox.path(QStringLiteral("config")); }
@@ -117,6 +118,17 @@ void TestFileHelper::symbolicLinkStays()
     QVERIFY(FileHelper::saveText(path(), QStringLiteral("new"), QString()));
     QVERIFY(QFileInfo(path()).isSymLink());
     QCOMPARE(Tests::readFile(folder() + QStringLiteral("/target.xml")), QByteArray("new"));
+}
+
+void TestFileHelper::onlyWhatIsSurelyNotThereIsMissing()
+{
+    Tests::writeFile(path(), "text");
+    QVERIFY(QFile::link(QStringLiteral("nothing"), folder() + QStringLiteral("/link")));
+    QVERIFY(FileHelper::isMissing(folder() + QStringLiteral("/link")));
+    QVERIFY(FileHelper::isMissing(folder() + QStringLiteral("/other/exe.xml")));
+    QVERIFY(!FileHelper::isMissing(path()));
+    // The system refuses to look for a name of that length.
+    QVERIFY(!FileHelper::isMissing(folder() + u'/' + QString(300, u'x')));
 }
 
 QTEST_APPLESS_MAIN(TestFileHelper)

@@ -39,6 +39,10 @@ private slots:
     void otherHardLinkKeepsTheOldBytes();
     void openReaderKeepsTheOldBytes();
     void leftOversDoNotDisturb();
+    void unfinishedFileOfAKilledProcessGoes_data();
+    void unfinishedFileOfAKilledProcessGoes();
+    void nothingElseIsCleared();
+    void folderInThePlaceOfTheUnfinishedFileDoesNotDisturb();
     void fileSizeLimitLeavesTheOldBytes_data();
     void fileSizeLimitLeavesTheOldBytes();
     void fullDiskLeavesTheOldBytes_data();
@@ -254,6 +258,46 @@ void TestFileWriter::leftOversDoNotDisturb()
     QVERIFY(write(path(), "new"));
     QCOMPARE(Tests::readFile(path()), QByteArray("new"));
     QCOMPARE(Tests::readFile(path("exe.xml.AbCdEf")), QByteArray("half"));
+}
+
+void TestFileWriter::unfinishedFileOfAKilledProcessGoes_data()
+{
+    QTest::addColumn<bool>("written");
+    QTest::newRow("with the next change") << true;
+    QTest::newRow("by itself") << false;
+}
+
+void TestFileWriter::unfinishedFileOfAKilledProcessGoes()
+{
+    QFETCH(const bool, written);
+    Tests::writeFile(path("store/exe.xml"), "old");
+    Tests::writeFile(path("store/exe.xml_quillmont_unfinished"), "half");
+    QVERIFY(QFile::link(QStringLiteral("store/exe.xml"), path()));
+    if (written)
+        QVERIFY(write(path(), "new"));
+    else
+        FileWriter::clearUnfinished(path());
+    QCOMPARE(files().join(u' '), QStringLiteral("exe.xml store/ store/exe.xml"));
+    QCOMPARE(Tests::readFile(path()), QByteArray(written ? "new" : "old"));
+}
+
+void TestFileWriter::nothingElseIsCleared()
+{
+    for (const char *name : {"exe.xml", "exe.xml.AbCdEf", "other.xml_quillmont_unfinished"})
+        Tests::writeFile(path(name), "foreign");
+    QVERIFY(QDir().mkpath(path("exe.xml_quillmont_unfinished")));
+    const auto before = Tests::treeOf(m_sandbox.path(QStringLiteral("config")));
+    FileWriter::clearUnfinished(path());
+    QCOMPARE(Tests::treeOf(m_sandbox.path(QStringLiteral("config"))), before);
+}
+
+void TestFileWriter::folderInThePlaceOfTheUnfinishedFileDoesNotDisturb()
+{
+    Tests::writeFile(path(), "old");
+    QVERIFY(QDir().mkpath(path("exe.xml_quillmont_unfinished")));
+    QVERIFY(write(path(), "new"));
+    QCOMPARE(Tests::readFile(path()), QByteArray("new"));
+    QCOMPARE(files().size(), 2);
 }
 
 void TestFileWriter::fileSizeLimitLeavesTheOldBytes_data()

@@ -1,0 +1,273 @@
+#include "tests/EndToEnd/Patient.h"
+#include "tests/EndToEnd/Tracer.h"
+
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace Tests;
+
+// Unattended runs that are killed, or that one system call fails, at every point from where they
+// first touch what belongs to the user. script/faults tries them all; without its variables each
+// test takes a sample.
+class Faults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+    void killedRunLosesNothing_data() { addRuns(); }
+
+    void killedRunLosesNothing();
+
+    void failingCallLosesNothing_data() { addRuns(); }
+
+    void failingCallLosesNothing();
+
+private:
+    /// A system call and what happens in its place.
+    using Fault = QPair<SystemCall, QString>;
+
+    static void addRuns();
+    void runUndisturbed();
+    bool isOnUserData(const SystemCall &call) const;
+    QVector<Fault> kills() const;
+    QVector<Fault> failures() const;
+
+    QString log() const { return m_patient->computer().absolute(QStringLiteral("calls")); }
+
+    int runWith(const Fault &fault);
+    QStringList wrongAfterKill(const Disk &left);
+    QStringList wrongAfterFailure(const SystemCall &call, int status) const;
+    QStringList untold(const QString &simulator, int status) const;
+    void report(const Fault &fault, const QStringList &wrong);
+    void summarise(int points) const;
+
+    QScopedPointer<Patient> m_patient;
+    QStringList m_arguments;
+    QVector<SystemCall> m_calls;
+    int m_usualStatus = -1;
+    Disk m_usual;
+    QVector<Disk> m_overcome; ///< what killed runs left and the next run made good
+    int m_fellShort = 0;
+};
+
+static QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(u' ');
+}
+
+static bool isLook(const SystemCall &call)
+{
+    static const QStringList names = words("access getdents64 newfstatat read readlink statx");
+    return names.contains(call.name);
+}
+
+template <typename Item>
+static QVector<Item> sample(const QVector<Item> &all)
+{
+    bool chosen = false;
+    const int stride = qEnvironmentVariableIntValue("ORBWELL_FAULTS_STRIDE", &chosen);
+    const int offset = qEnvironmentVariableIntValue("ORBWELL_FAULTS_OFFSET");
+    constexpr int ample = 6;
+    QVector<Item> some;
+    for (int i = offset; i < all.size(); i += chosen ? qMax(1, stride) : all.size() / ample)
+        some.append(all.at(i));
+    return some;
+}
+
+void Faults::initTestCase()
+{
+    if (QByteArray(SANITIZERS).size() > 0)
+        QSKIP("a sanitizer makes calls of its own, and ends the process when they fail");
+    if (!Tracer::works())
+        QSKIP("needs strace, and the right to trace a process");
+}
+
+void Faults::cleanup()
+{
+    m_patient.reset();
+    m_overcome.clear();
+    m_fellShort = 0;
+}
+
+void Faults::addRuns()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("beginning");
+    QTest::newRow("install") << words("--INSTALL 1") << int(Patient::PartlyInstalled);
+    QTest::newRow("repair") << words("--REPAIR") << int(Patient::Installed);
+    QTest::newRow("uninstall") << words("--UNINSTALL") << int(Patient::Installed);
+    QTest::newRow("uninstall by record") << words("--UNINSTALL") << int(Patient::OnlyRecorded);
+}
+
+bool Faults::isOnUserData(const SystemCall &call) const
+{
+    const Computer &computer = m_patient->computer();
+    return call.text.contains(computer.absolute(QStringLiteral("sims/")))
+        || call.text.contains(computer.absolute(computer.data({})));
+}
+
+void Faults::runUndisturbed()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, beginning);
+    m_arguments = arguments;
+    m_patient.reset(new Patient(Patient::Beginning(beginning)));
+    Computer &computer = m_patient->computer();
+
+    computer.program().setTracer(Tracer::recording(log()));
+    m_usualStatus = computer.run(m_arguments);
+    QCOMPARE(m_patient->harm() + m_patient->leftovers(), QStringList());
+    m_usual = m_patient->outcome();
+
+    const QVector<SystemCall> all = Tracer::callsIn(log());
+    const auto ours = [this](const SystemCall &call) {
+        return isOnUserData(call);
+    };
+    m_calls = QVector<SystemCall>(std::find_if(all.cbegin(), all.cend(), ours),
+                                  std::find_if(all.crbegin(), all.crend(), ours).base());
+    QVERIFY2(m_calls.size() > 100, "the tracer saw hardly anything");
+}
+
+QVector<Faults::Fault> Faults::kills() const
+{
+    QVector<Fault> faults;
+    for (const SystemCall &call : m_calls)
+        faults.append({call, QStringLiteral("signal=KILL")});
+    return faults;
+}
+
+QVector<Faults::Fault> Faults::failures() const
+{
+    static const QStringList changing = words(
+        "openat write sendfile rename linkat mkdir unlink rmdir ftruncate fchmod chmod fsync");
+    QVector<Fault> faults;
+    for (const SystemCall &call : m_calls) {
+        QStringList errors;
+        if (changing.contains(call.name))
+            errors = words("ENOSPC EIO EACCES EMFILE EROFS");
+        else if (isLook(call))
+            errors = words("EIO EACCES");
+        for (const QString &error : qAsConst(errors)) {
+            if (isOnUserData(call))
+                faults.append({call, QStringLiteral("error=") + error});
+        }
+    }
+    return faults;
+}
+
+int Faults::runWith(const Fault &fault)
+{
+    m_patient->reset();
+    m_patient->computer().program().setTracer(Tracer::disturbing(fault.first, fault.second, log()));
+    return m_patient->computer().run(m_arguments);
+}
+
+void Faults::report(const Fault &fault, const QStringList &wrong)
+{
+    if (wrong.isEmpty())
+        return;
+    ++m_fellShort;
+    qWarning().noquote() << fault.second << "at" << fault.first.text
+                         << QStringLiteral("\n  ") + wrong.join(QLatin1String("\n  "));
+}
+
+// script/faults adds these lines up.
+void Faults::summarise(int points) const
+{
+    qInfo("%d points, %d fell short", points, m_fellShort);
+    QCOMPARE(m_fellShort, 0);
+}
+
+void Faults::killedRunLosesNothing()
+{
+    runUndisturbed();
+    if (QTest::currentTestFailed())
+        return;
+    int killed = 0;
+    const auto faults = sample(kills());
+    for (const Fault &fault : faults) {
+        killed += runWith(fault) == -1 ? 1 : 0;
+        report(fault, wrongAfterKill(m_patient->computer().disk()));
+    }
+    // Memory is not always asked for as often as the time before.
+    QVERIFY(killed >= faults.size() * 9 / 10);
+    summarise(faults.size());
+}
+
+// The next run goes by what it finds, so it has to be made only once for the same disk.
+QStringList Faults::wrongAfterKill(const Disk &left)
+{
+    QStringList wrong = m_patient->harm();
+    if (m_overcome.contains(left))
+        return wrong;
+
+    const Disk expected = m_patient->expectedAfter(left, m_usual);
+    m_patient->computer().program().setTracer({});
+    if (m_patient->computer().run(m_arguments) != m_usualStatus)
+        wrong.append(QStringLiteral("the next run ends with another status"));
+    const QString difference = Tests::difference(m_patient->outcome(), expected);
+    if (!difference.isEmpty())
+        wrong.append(difference);
+    wrong += m_patient->harm();
+    if (wrong.isEmpty())
+        m_overcome.append(left);
+    return wrong;
+}
+
+void Faults::failingCallLosesNothing()
+{
+    runUndisturbed();
+    if (QTest::currentTestFailed())
+        return;
+    const auto faults = sample(failures());
+    for (const Fault &fault : faults) {
+        const int status = runWith(fault);
+        report(fault, wrongAfterFailure(fault.first, status));
+    }
+    summarise(faults.size());
+}
+
+QStringList Faults::wrongAfterFailure(const SystemCall &call, int status) const
+{
+    QStringList wrong = m_patient->harm() + m_patient->leftovers();
+    if (status != 0 && status != 2)
+        wrong.append(QStringLiteral("ended with status %1").arg(status));
+    // What cannot be looked at is taken for missing, and that is no failure to tell of.
+    if (isLook(call))
+        return wrong;
+    const QStringList simulators = Patient::simulators();
+    for (const QString &simulator : simulators)
+        wrong += untold(simulator, status);
+    const QString record = m_patient->recordPath();
+    if (!Tracer::disturbedIn(log()).contains(QLatin1String("/.mapping"))
+        && m_patient->outcome().value(record) != m_usual.value(record))
+        wrong.append(QStringLiteral("another record"));
+    return wrong;
+}
+
+// What the user is not told of a simulator that is not as the run should make it.
+QStringList Faults::untold(const QString &simulator, int status) const
+{
+    QFETCH(const int, beginning);
+    const QString said = m_patient->computer().said().join(u'\n');
+    const QStringList remaining = m_patient->remaining(simulator);
+    QStringList wrong;
+    if (m_arguments.contains(QLatin1String("--REPAIR")) && !m_patient->isWhole(simulator)
+        && (status != 2 || !said.contains(simulator + QStringLiteral(": Not updated"))))
+        wrong.append(QStringLiteral("silent about ") + simulator);
+    if (beginning == Patient::OnlyRecorded
+        && remaining.size() < m_patient->pluginFilesOf(simulator).size()) {
+        for (const QString &path : remaining) {
+            if (status != 2 || !said.contains(m_patient->computer().absolute(path)))
+                wrong.append(QStringLiteral("silent about ") + path);
+        }
+    }
+    return wrong;
+}
+
+QTEST_GUILESS_MAIN(Faults)
+#include "tst_Faults.moc"
