@@ -19,6 +19,7 @@ private slots:
     void otherBytesStay();
     void nameThatTheEncodingLacksIsRefused();
     void endTagThatTheEncodingLacksIsRefused();
+    void halfACharacterBehindTheRootIsRefused();
     void everyCodecKeepsItsPromises_data();
     void everyCodecKeepsItsPromises();
     void secondMarkIsRefused();
@@ -194,6 +195,13 @@ void TestXmlEncodings::nameThatTheEncodingLacksIsRefused()
 void TestXmlEncodings::endTagThatTheEncodingLacksIsRefused()
 {
     const QByteArray bytes = "<?xml version='1.0' encoding='ISO-2022-JP'?><\x1b$BF|\x1b(B/>";
+    QVERIFY(!insertInto(bytes));
+    QCOMPARE(content(), bytes);
+}
+
+void TestXmlEncodings::halfACharacterBehindTheRootIsRefused()
+{
+    const QByteArray bytes = "<R></R>\xc3";
     QVERIFY(!insertInto(bytes));
     QCOMPARE(content(), bytes);
 }
