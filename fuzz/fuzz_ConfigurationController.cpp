@@ -1,10 +1,10 @@
 #include "Controllers/ConfigurationController.h"
+#include "fuzz/Application.h"
 #include "fuzz/Expect.h"
 #include "tests/support/Sandbox.h"
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QMap>
 #include <QSettings>
 
@@ -43,7 +43,7 @@ public:
 private:
     QString path() const
     {
-        return m_sandbox.dataRoot() + QLatin1String("Quillmont/Vellum/.settings");
+        return m_sandbox.dataRoot() + QStringLiteral("Quillmont/Vellum/.settings");
     }
 
     Tests::Sandbox m_sandbox;
@@ -51,12 +51,7 @@ private:
 
 Store::Store()
 {
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "fuzz_ConfigurationController";
-    static char *arguments[] = {name, nullptr};
-    new QGuiApplication(count, arguments);
+    Fuzz::makeApplication();
     settings = ConfigurationController::instance();
     QDir().mkpath(QFileInfo(path()).path());
 }
@@ -119,8 +114,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     store().setFile(border < 0 ? QByteArray() : bytes.left(border));
     Settings expected = store().content();
     const QList<QByteArray> lines = bytes.mid(border < 0 ? 0 : border + 5).split('\n');
-    for (const QByteArray &line : lines.mid(0, 8)) {
-        const QString work = QString::fromUtf8(line).replace(u'\v', u'\n');
+    for (int i = 0; i < qMin(lines.size(), 8); ++i) {
+        const QString work = QString::fromUtf8(lines.at(i)).replace(u'\v', u'\n');
         const int sign = work.indexOf(u'=');
         if (sign < 0)
             remove(work, &expected);

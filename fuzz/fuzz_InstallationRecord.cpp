@@ -1,15 +1,14 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/ScanController.h"
+#include "fuzz/Application.h"
 #include "fuzz/Expect.h"
 #include "tests/support/Sandbox.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextCodec>
 #include <QTextStream>
 
 #include <cstddef>
@@ -37,18 +36,17 @@ public:
 private:
     void addSimulator(const QString &name) const;
 
+    QString path() const
+    {
+        return m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping");
+    }
+
     Tests::Sandbox m_sandbox;
 };
 
 Office::Office()
 {
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    static int count = 1;
-    static char name[] = "fuzz_InstallationRecord";
-    static char *arguments[] = {name, nullptr};
-    new QApplication(count, arguments);
+    Fuzz::makeApplication();
     controller = new ScanController(nullptr, nullptr);
     for (const char *simulator : {"Sim A", "", "Sim \xd0\x91", "Sim A"})
         addSimulator(QString::fromUtf8(simulator));
@@ -73,14 +71,14 @@ void Office::forgetFolders() const
 
 void Office::setRecord(const QByteArray &bytes) const
 {
-    QFile file(m_sandbox.dataRoot() + QLatin1String("Quillmont/Orbwell/.mapping"));
+    QFile file(path());
     expect(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
            "the record can be prepared");
 }
 
 QByteArray Office::record() const
 {
-    QFile file(m_sandbox.dataRoot() + QLatin1String("Quillmont/Orbwell/.mapping"));
+    QFile file(path());
     expect(file.open(QIODevice::ReadOnly), "there is a record");
     return file.readAll();
 }
@@ -124,7 +122,8 @@ QString folderOf(const QJsonArray &all, const QString &name)
     QString folder;
     for (const QJsonValue &record : all) {
         bool isComplete = true;
-        for (const QJsonValue &file : record[QLatin1String("files")].toArray())
+        const QJsonArray files = record[QLatin1String("files")].toArray();
+        for (const QJsonValue &file : files)
             isComplete &= QFile::exists(file.toString());
         if (isComplete && record[QLatin1String("name")].toString() == name)
             folder = record[QLatin1String("path")].toString();
@@ -183,12 +182,6 @@ void checkWriting(const QByteArray &bytes, FlightSimulatorMapping *mapping)
 }
 
 } // namespace
-
-/// The toolkit's JSON reader loses memory over text that is not UTF-8.
-extern "C" const char *__lsan_default_suppressions()
-{
-    return "leak:libQt5Core.so";
-}
 
 /// Any bytes read as records or as none, and other programs' records survive ours.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

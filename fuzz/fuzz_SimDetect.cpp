@@ -31,7 +31,7 @@ public:
 private:
     void makeFolders() const;
 
-    QString path(const char *relative) const { return m_sandbox.path(QLatin1String(relative)); }
+    QString path(const char *relative) const { return m_sandbox.path(QString::fromUtf8(relative)); }
 
     Tests::Sandbox m_sandbox;
 };

@@ -136,6 +136,12 @@ void tst_Steam::findsItsLibraries_data()
     list(
         "paths that are none",
         R"("libraryfolders" { "0" "" "1" "." "2" "drive" "3" { } "4" { "path" { } } "5" "C:\\Steam" "6" "$R/drive" })");
+    addCase(
+        "a library that has no number",
+        OnBoth,
+        game
+            + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "label" "$R/drive" "1a" { "path" "$R/drive" } })",
+        "");
     addCase("the other place of the list",
             OnBoth,
             game + R"(file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" })",

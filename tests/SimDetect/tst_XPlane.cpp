@@ -65,6 +65,18 @@ void tst_XPlane::readsItsLists_data()
             R"(xplane $R/good
                file $L/x-plane_install_12.txt = \xEF\xBB\xBF \t$R/good/ \t\r\n)",
             "XP12: $R/good");
+    addCase("a list that is too large",
+            OnBoth,
+            "xplane $R/good\nfile $L/x-plane_install_12.txt = $R/good/\\n"
+                + QByteArray(1024 * 1024, '#'),
+            "",
+            "XP12 not taken: $L/x-plane_install_12.txt: too large");
+    addCase("a line end of another kind inside a line",
+            OnBoth,
+            R"(xplane $R/good
+               file $L/x-plane_install_12.txt = $R/a\rb\x07\n$R/good/)",
+            "XP12: $R/good",
+            "XP12 not taken: $R/a?b?: no such folder");
     addCase("a path that is not clean",
             OnBoth,
             R"(xplane $R/sims/good

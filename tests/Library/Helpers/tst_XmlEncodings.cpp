@@ -20,6 +20,7 @@ private slots:
     void nameThatTheEncodingLacksIsRefused();
     void endTagThatTheEncodingLacksIsRefused();
     void nothingShiftsToAnotherState();
+    void halfACharacterBehindTheRootIsRefused();
     void everyCodecKeepsItsPromises_data();
     void everyCodecKeepsItsPromises();
     void secondMarkIsRefused();
@@ -206,6 +207,13 @@ void TestXmlEncodings::nothingShiftsToAnotherState()
 void TestXmlEncodings::endTagThatTheEncodingLacksIsRefused()
 {
     const QByteArray bytes = "<?xml version='1.0' encoding='ISO-2022-JP'?><\x1b$BF|\x1b(B/>";
+    QVERIFY(!insertInto(bytes));
+    QCOMPARE(content(), bytes);
+}
+
+void TestXmlEncodings::halfACharacterBehindTheRootIsRefused()
+{
+    const QByteArray bytes = "<R></R>\xc3";
     QVERIFY(!insertInto(bytes));
     QCOMPARE(content(), bytes);
 }

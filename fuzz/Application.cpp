@@ -1,0 +1,23 @@
+#include "fuzz/Application.h"
+
+#include <QApplication>
+#include <QTextCodec>
+
+#include <array>
+#include <string>
+
+namespace Fuzz {
+
+void makeApplication()
+{
+    // The program takes its name out of paths wherever it stands.
+    static std::string name("OrbwellFuzzing");
+    static std::array<char *, 2> arguments{name.data(), nullptr};
+    static int count = 1;
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    new QApplication(count, arguments.data());
+}
+
+} // namespace Fuzz
