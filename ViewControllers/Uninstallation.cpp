@@ -28,7 +28,7 @@ namespace {
 // from us and goes with them.
 void removeIfEmpty(QDir folder)
 {
-    if (folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Unsorted).isEmpty())
+    if (folder.isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot))
         folder.removeRecursively();
 }
 
