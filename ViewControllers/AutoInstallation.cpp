@@ -37,12 +37,13 @@ void ScanController::autoInstall(QList<FlightSimulatorMapping *> mappings,
 {
     QString installedNames;
     for (auto *mapping : qAsConst(mappings)) {
-        if (!mapping->path.isEmpty() && !mapping->isAddonInstalled()) {
+        const bool isInstalled = mapping->isAddonInstalled();
+        if (!mapping->path.isEmpty() && !isInstalled) {
             uninstall(mapping, true, false);
             install(mapping, true, mode == ModeScanAndInstall);
             installedNames += u' ' + mapping->scan->name;
             saveInstallationInfo(mapping, false);
-        } else if (mapping->isAddonInstalled()) {
+        } else if (isInstalled) {
             saveInstallationInfo(mapping, false);
         }
     }

@@ -19,6 +19,15 @@ bool isSomethingElse(const QString &path)
     return info.exists() && !info.isFile();
 }
 
+// Handed over in one, the stream would first copy the whole text and then all its bytes.
+void writeInPieces(const QString &content, QFile *file)
+{
+    constexpr int size = 16 * 1024;
+    QTextStream stream(file);
+    for (int begin = 0; begin < content.size(); begin += size)
+        stream << content.midRef(begin, size);
+}
+
 } // namespace
 
 QString ScanController::readFile(const QString &path)
@@ -44,7 +53,7 @@ void ScanController::saveFile(const QString &path, const QString &content)
 
     QFile file(native);
     if (!isSomethingElse(native) && file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
-        QTextStream(&file) << content;
+        writeInPieces(content, &file);
         return;
     }
     m_errorMessage += tr("Unable to write configuration to file '%0'. Please check if you have "

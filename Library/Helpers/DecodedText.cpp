@@ -37,7 +37,7 @@ DecodedText::DecodedText(const QByteArray &bytes, const TextEncoding &encoding)
 void DecodedText::decode()
 {
     // Long enough to be quick, short enough to be searched character by character.
-    constexpr int pieceSize = 4096;
+    constexpr int pieceSize = 512;
     const QScopedPointer<QTextDecoder> decoder(m_encoding.makeDecoder());
     m_text.reserve(m_bytes.size() / m_encoding.unit());
     for (int begin = m_encoding.markSize(), end = 0; begin < m_bytes.size(); begin = end) {

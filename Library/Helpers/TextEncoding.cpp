@@ -1,5 +1,6 @@
 #include "Library/Helpers/TextEncoding.h"
 
+#include <QHash>
 #include <QTextCodec>
 #include <QVector>
 #include <QXmlStreamReader>
@@ -22,6 +23,17 @@ QString decode(const QTextCodec *codec, const QByteArray &bytes)
     return codec->toUnicode(bytes.constData(), bytes.size(), &state);
 }
 
+/// The toolkit compares a name with all aliases of all its codecs, which takes as long as reading a
+/// small file, and does not remember the answer.
+QTextCodec *codecNamed(const QByteArray &name)
+{
+    static QHash<QByteArray, QTextCodec *> known;
+    QTextCodec *codec = known.value(name);
+    if (!codec && (codec = QTextCodec::codecForName(name)))
+        known.insert(name, codec);
+    return codec;
+}
+
 /// What a byte-order mark says, or the zero in the first character of a file that lacks one.
 QTextCodec *markedCodec(const QByteArray &bytes)
 {
@@ -36,7 +48,7 @@ QTextCodec *declaredCodec(const QString &head)
 {
     QXmlStreamReader reader(head);
     reader.readNext();
-    return QTextCodec::codecForName(reader.documentEncoding().toLatin1());
+    return codecNamed(reader.documentEncoding().toLatin1());
 }
 
 } // namespace
@@ -46,7 +58,7 @@ TextEncoding::TextEncoding(const QByteArray &bytes)
 {
     const bool marked = m_codec != nullptr;
     if (!marked)
-        m_codec = QTextCodec::codecForName("UTF-8");
+        m_codec = codecNamed("UTF-8");
     const QByteArray mark = encoded(QString(QChar(QChar::ByteOrderMark)));
     if (bytes.startsWith(mark))
         m_markSize = mark.size();
@@ -78,10 +90,13 @@ QByteArray TextEncoding::encoded(const QString &text) const
 QString TextEncoding::writable(const QString &text) const
 {
     QString result;
+    QHash<QString, bool> known;
     for (int i = 0, size = 0; i < text.size(); i += size) {
         size = text.at(i).isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
         const QString character = text.mid(i, size);
-        if (hasCharacter(character))
+        if (!known.contains(character))
+            known.insert(character, hasCharacter(character));
+        if (known.value(character))
             result += character;
         else
             result += QStringLiteral("&#%1;").arg(character.toUcs4().constFirst());

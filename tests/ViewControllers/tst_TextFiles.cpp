@@ -90,6 +90,17 @@ private slots:
         QVERIFY(shop.controller().m_errorMessage.isEmpty());
     }
 
+    void writesALongTextWithoutALossAtAnyPlace()
+    {
+        Workshop shop;
+        // One character more in front moves the pairs over every possible joint.
+        for (const QString &begin : {QString(), QStringLiteral("-")}) {
+            const QString text = begin + QStringLiteral(u"😀").repeated(20000);
+            shop.controller().saveFile(shop.path("long"), text);
+            QVERIFY(Tests::readFile(shop.path("long")) == text.toUtf8());
+        }
+    }
+
     void leavesNoTailOfALongerText()
     {
         Workshop shop;
