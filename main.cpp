@@ -1,9 +1,11 @@
+#include "Controllers/ActionLog.h"
 #include "ViewControllers/ScanController.h"
 
 #include <QApplication>
 #include <QTextCodec>
 #include <QtGlobal>
 
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::ViewControllers::ScanController;
 
 int main(int argc, char *argv[])
@@ -21,5 +23,7 @@ int main(int argc, char *argv[])
     ScanController controller(nullptr, nullptr);
     controller.startScan(true, false, ScanController::ModeNone);
 
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    qCDebug(actionLog) << "end with status" << status;
+    return status;
 }

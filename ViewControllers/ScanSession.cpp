@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
@@ -14,17 +15,33 @@
 #include <QMultiMap>
 #include <QTextStream>
 
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
+namespace {
+
+void reportFolder(const FlightSimulatorMapping *mapping)
+{
+    if (mapping->path.isEmpty())
+        qCDebug(actionLog) << "simulator" << mapping->scan->name << "not found";
+    else
+        qCDebug(actionLog) << "simulator" << mapping->scan->name << "in" << mapping->path;
+}
+
+} // namespace
+
 QString ScanController::getJsonContent()
 {
     QFile file(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                         + QStringLiteral("/flightsims.json")));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCDebug(actionLog) << "catalogue" << file.fileName() << "not read:" << file.errorString();
         return {};
+    }
+    qCDebug(actionLog) << "catalogue" << file.fileName() << "read";
     return QTextStream(&file).readAll();
 }
 
@@ -42,6 +59,9 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
     for (auto *entry : entries)
         result.append(mappingFor(entry));
     sloveConflict(result);
+    qCDebug(actionLog) << "entries in the catalogue:" << result.size();
+    for (const auto *mapping : qAsConst(result))
+        reportFolder(mapping);
 
     if (mode == ModeScanAndInstall || silent) {
         mappings = result;
