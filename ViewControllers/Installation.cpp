@@ -52,9 +52,9 @@ void makeFolder(const QDir &folder)
 
 void removeOldFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.exists())
+    if (!QFile::exists(path))
         return;
+    QFile file(path);
     if (file.remove())
         qCDebug(actionLog) << "old file removed:" << path;
     else

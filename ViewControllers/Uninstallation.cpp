@@ -45,7 +45,7 @@ void reportRemoval(const QFile &file, bool removed)
 void removeExtraFile(const QString &path)
 {
     QFile file(path);
-    const bool existed = file.exists();
+    const bool existed = QFile::exists(path);
     const bool removed = file.remove();
     if (existed)
         reportRemoval(file, removed);
@@ -104,8 +104,8 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
 
 void ScanController::removePluginFile(const QString &target, const QString &simulatorName)
 {
-    QFile file(target);
-    if (file.exists()) {
+    if (QFile::exists(target)) {
+        QFile file(target);
         const bool removed = file.remove();
         reportRemoval(file, removed);
         if (!removed) {

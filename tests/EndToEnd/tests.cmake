@@ -4,7 +4,7 @@ target_link_libraries(orbwell-simulators
   PRIVATE orbwell-options)
 
 foreach(story
-    AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice Unattended)
+    ActionLog AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice Unattended)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()
