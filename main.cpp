@@ -1,3 +1,4 @@
+#include "Controllers/ActionLog.h"
 #include "Library/Helpers/FileSizeSignal.h"
 #include "ViewControllers/ScanController.h"
 
@@ -6,6 +7,7 @@
 #include <QtGlobal>
 
 using Quillmont::Library::Helpers::FileSizeSignal;
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::ViewControllers::ScanController;
 
 int main(int argc, char *argv[])
@@ -26,5 +28,7 @@ int main(int argc, char *argv[])
     ScanController controller(nullptr, nullptr);
     controller.startScan(true, false, ScanController::ModeNone);
 
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    qCDebug(actionLog) << "end with status" << status;
+    return status;
 }

@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Controllers/ConfigurationController.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 
 using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -25,8 +27,10 @@ void writeLauncherPath()
     const QString path = QDir::toNativeSeparators(QStringLiteral("%0.path").arg(folder));
     const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                                      + QStringLiteral("/QuillmontOrbwell.exe"));
-    FileHelper::saveText(
+    const bool written = FileHelper::saveText(
         path, QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\")), QString());
+    qCDebug(actionLog) << (written ? "launcher path written:" : "launcher path not written:")
+                       << path;
 }
 
 } // namespace

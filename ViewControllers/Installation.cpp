@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -18,6 +19,7 @@
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Helpers::XmlHelper;
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
@@ -41,6 +43,33 @@ QString launchDocument()
                           "</SimBase.Document>\r\n");
 }
 
+void makeFolder(const QDir &folder)
+{
+    if (folder.exists())
+        return;
+    const bool made = folder.mkpath(folder.absolutePath());
+    qCDebug(actionLog) << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
+}
+
+void removeOldFile(const QString &path)
+{
+    if (!QFile::exists(path))
+        return;
+    QFile file(path);
+    if (file.remove())
+        qCDebug(actionLog) << "old file removed:" << path;
+    else
+        qCDebug(actionLog) << "old file not removed:" << path << file.errorString();
+}
+
+void writeLaunchDocument(const QString &path)
+{
+    const bool written
+        = FileHelper::saveText(path, launchDocument(), QStringLiteral("Windows-1252"));
+    qCDebug(actionLog) << (written ? "launch document written:" : "launch document not written:")
+                       << path;
+}
+
 } // namespace
 
 bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool rescan)
@@ -49,6 +78,7 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
         return false;
 
     const BusyPointer busy;
+    qCDebug(actionLog) << "install into" << mapping->scan->name << "in" << mapping->path;
     m_errorMessage.clear();
     const QString payload = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins/");
     const auto &files = mapping->scan->files;
@@ -73,12 +103,13 @@ void ScanController::copyPluginFile(const QString &source,
                                     const QString &target,
                                     const QString &folder)
 {
-    const QDir targetFolder = QFileInfo(target).dir();
-    if (!targetFolder.exists())
-        targetFolder.mkpath(targetFolder.absolutePath());
-    if (QFile::exists(target))
-        QFile::remove(target);
-    if (!QFile::copy(source, target)) {
+    makeFolder(QFileInfo(target).dir());
+    removeOldFile(target);
+    QFile file(source);
+    if (file.copy(target)) {
+        qCDebug(actionLog) << "file copied:" << source << "to" << target;
+    } else {
+        qCDebug(actionLog) << "file not copied:" << source << "to" << target << file.errorString();
         m_errorMessage += tr("Unable to copy '%0' to '%1'. Please check if you have permission to "
                              "folder '%2'.\r\n")
                               .arg(source, target, folder);
@@ -114,12 +145,13 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     const QString file = QDir::toNativeSeparators(configurationFile(mapping));
     // A file that only cannot be looked at now must not be replaced.
     if (FileHelper::isMissing(file))
-        FileHelper::saveText(file, launchDocument(), QStringLiteral("Windows-1252"));
+        writeLaunchDocument(file);
     else
         backUp(file, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
 
     auto *helper = new XmlHelper(this, file);
-    helper->insertValues(mapping->scan->config);
+    const bool inPlace = helper->insertValues(mapping->scan->config);
+    qCDebug(actionLog) << (inPlace ? "entry is in:" : "entry not added to:") << file;
 }
 
 void ScanController::installToXPlane(FlightSimulatorMapping *) { }

@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Controllers/UserDataRoot.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -86,6 +88,8 @@ void ScanController::getUserSimulatorMapping()
         });
         if (it == mappings.cend())
             continue;
+        qCDebug(actionLog) << "folder from the record:" << name
+                           << record.value(QLatin1String("path")).toString();
         (*it)->path = record.value(QLatin1String("path")).toString();
         (*it)->note = (*it)->path;
     }
@@ -101,7 +105,12 @@ void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool 
     removeLastRecord(records, mapping->scan->name);
     if (!uninstalled)
         records.append(recordOf(mapping));
+
+    const QString errorsBefore = m_errorMessage;
     saveFile(path, QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented)));
+    qCDebug(actionLog) << (m_errorMessage == errorsBefore ? "record written:"
+                                                          : "record not written:")
+                       << mapping->scan->name << (uninstalled ? "is out" : "is in");
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
@@ -7,13 +8,25 @@
 #include "Views/ScannerView.h"
 
 #include <QCoreApplication>
+#include <QMetaEnum>
 
 #include <cstdlib>
 
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Views::ScannerView;
 
 namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+[[noreturn]] void endProcess(int status)
+{
+    qCDebug(actionLog) << "end with status" << status;
+    std::exit(status);
+}
+
+} // namespace
 
 ScanController::ScanController(QObject *parent, QWidget *parentWidget)
     : QObject(parent)
@@ -24,6 +37,8 @@ ScanController::ScanController(QObject *parent, QWidget *parentWidget)
     qRegisterMetaType<InstallationMode>("InstallationMode");
 
     const Request request = commandLineRequest();
+    qCDebug(actionLog) << "start of version" << ORBWELL_VERSION << "in"
+                       << QMetaEnum::fromType<InstallationMode>().valueToKey(request.mode);
     createMappingFile();
 
     switch (request.mode) {
@@ -86,7 +101,7 @@ void ScanController::runInstallation(bool quiet)
     getUserSimulatorMapping();
     autoInstall(mappings, true, ModeNone);
     // 2 whatever the outcome: callers tell an installation run from a repair run by it.
-    std::exit(2);
+    endProcess(2);
 }
 
 void ScanController::runRemoval(InstallationMode mode)
@@ -112,7 +127,7 @@ void ScanController::runRemoval(InstallationMode mode)
     }
     if (!lines.isEmpty())
         showSummary(lines, mode);
-    std::exit(succeeded ? 0 : 2);
+    endProcess(succeeded ? 0 : 2);
 }
 
 void ScanController::showSummary(const QStringList &lines, InstallationMode mode)

@@ -1,10 +1,12 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Library/Helpers/FileWriter.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
 #include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/ConfigurationLock.h"
 #include "ViewControllers/SimulatorFiles.h"
 #include "Views/ScannerView.h"
 
@@ -17,17 +19,43 @@
 #include <QTextStream>
 
 using Quillmont::Library::Helpers::FileWriter;
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
+namespace {
+
+void reportFolder(const FlightSimulatorMapping *mapping)
+{
+    if (mapping->path.isEmpty())
+        qCDebug(actionLog) << "simulator" << mapping->scan->name << "not found";
+    else
+        qCDebug(actionLog) << "simulator" << mapping->scan->name << "in" << mapping->path;
+}
+
+// An earlier run may have been ended in the middle of a change. One that is still at it has the lock.
+void clearUnfinishedChanges(const QList<FlightSimulatorMapping *> &mappings)
+{
+    const ConfigurationLock lock;
+    for (const auto *mapping : mappings) {
+        if (mapping->scan->config)
+            FileWriter::clearUnfinished(configurationFile(mapping));
+    }
+}
+
+} // namespace
+
 QString ScanController::getJsonContent()
 {
     QFile file(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                         + QStringLiteral("/flightsims.json")));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCDebug(actionLog) << "catalogue" << file.fileName() << "not read:" << file.errorString();
         return {};
+    }
+    qCDebug(actionLog) << "catalogue" << file.fileName() << "read";
     return QTextStream(&file).readAll();
 }
 
@@ -42,13 +70,13 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
 
     QList<FlightSimulatorMapping *> result;
     const auto entries = catalogueEntries(content);
-    for (auto *entry : entries) {
+    for (auto *entry : entries)
         result.append(mappingFor(entry));
-        // A run may have been ended while it changed this simulator's configuration.
-        if (entry->config)
-            FileWriter::clearUnfinished(configurationFile(result.constLast()));
-    }
     sloveConflict(result);
+    clearUnfinishedChanges(result);
+    qCDebug(actionLog) << "entries in the catalogue:" << result.size();
+    for (const auto *mapping : qAsConst(result))
+        reportFolder(mapping);
 
     if (mode == ModeScanAndInstall || silent) {
         mappings = result;

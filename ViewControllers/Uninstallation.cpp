@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
 #include "Controllers/UserDataRoot.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -20,6 +21,7 @@
 #include <system_error>
 
 using Quillmont::Library::Helpers::XmlHelper;
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FileOperation;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -60,6 +62,23 @@ void removeIfEmpty(QDir folder)
         folder.removeRecursively();
 }
 
+void reportRemoval(const QFile &file, bool removed)
+{
+    if (removed)
+        qCDebug(actionLog) << "file removed:" << file.fileName();
+    else
+        qCDebug(actionLog) << "file not removed:" << file.fileName() << file.errorString();
+}
+
+void removeExtraFile(const QString &path)
+{
+    QFile file(path);
+    const bool existed = QFile::exists(path);
+    const bool removed = file.remove();
+    if (existed)
+        reportRemoval(file, removed);
+}
+
 // A number that the toolkit has no location for names no folder.
 QString numberedFolder(int number)
 {
@@ -88,6 +107,7 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
     // Unlike install, this starts from the lines that are there: errors of a silent installation
     // just before are shown here.
     const BusyPointer busy;
+    qCDebug(actionLog) << "uninstall from" << mapping->scan->name << "in" << mapping->path;
     const auto &files = mapping->scan->files;
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
         removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
@@ -112,12 +132,21 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
 
 void ScanController::removePluginFile(const QString &target, const QString &simulatorName)
 {
-    if (QFile::exists(target) && !QFile::remove(target)) {
-        m_errorMessage += tr("Unable to remove file '%0' from %1. Please remove the file "
-                             "manually.\r\n")
-                              .arg(target, simulatorName);
+    if (QFile::exists(target)) {
+        QFile file(target);
+        const bool removed = file.remove();
+        reportRemoval(file, removed);
+        if (!removed) {
+            m_errorMessage += tr("Unable to remove file '%0' from %1. Please remove the file "
+                                 "manually.\r\n")
+                                  .arg(target, simulatorName);
+        }
     }
-    removeIfEmpty(QFileInfo(target).dir());
+    const QDir folder = QFileInfo(target).dir();
+    const bool existed = folder.exists();
+    removeIfEmpty(folder);
+    if (existed && !folder.exists())
+        qCDebug(actionLog) << "folder removed:" << folder.path();
 }
 
 void ScanController::showRemovalFailure(const QString &simulatorName)
@@ -138,11 +167,12 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
     const QString file = configurationFile(mapping);
     backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
     auto *helper = new XmlHelper(this, file);
-    helper->removeConfig(mapping->scan->config);
+    const bool gone = helper->removeConfig(mapping->scan->config);
+    qCDebug(actionLog) << (gone ? "entry is not in:" : "entry not removed from:") << file;
 
     if (const auto *removal = mapping->scan->remove) {
         for (const auto *operation : removal->files)
-            QFile::remove(extraFile(mapping, operation));
+            removeExtraFile(extraFile(mapping, operation));
     }
 }
 

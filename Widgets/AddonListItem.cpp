@@ -1,5 +1,6 @@
 #include "Widgets/AddonListItem.h"
 
+#include "Controllers/ActionLog.h"
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
 #include "Widgets/NameItem.h"
@@ -16,6 +17,7 @@
 #include <QTextDocument>
 #include <QToolButton>
 
+using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Controllers::ConfigurationController;
 
 // The icons lie in a static library: nothing would register them by itself.
@@ -132,6 +134,7 @@ void AddonListItem::browsePath()
         QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (chosen.isEmpty())
         return;
+    qCDebug(actionLog) << "folder chosen for" << m_mapping->scan->name << chosen;
 
     if (QDir(chosen).exists()) {
         m_mapping->updateFlightSimPath(QDir::toNativeSeparators(chosen));

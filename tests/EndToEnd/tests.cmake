@@ -4,8 +4,8 @@ target_link_libraries(orbwell-simulators
   PRIVATE orbwell-options)
 
 foreach(story
-    AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice TwoAtOnce
-    Unattended)
+    ActionLog AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice
+    TwoAtOnce Unattended)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()

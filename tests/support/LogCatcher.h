@@ -17,8 +17,11 @@ public:
     LogCatcher(const LogCatcher &) = delete;
     LogCatcher &operator=(const LogCatcher &) = delete;
 
-    /// The debug lines so far, in order.
+    /// The debug lines so far, in order, without those of the category "orbwell".
     QStringList debugLines() const { return m_debugLines; }
+
+    /// The lines of the category "orbwell" so far, in order.
+    QStringList actions() const { return m_actions; }
 
     /// The warnings and worse so far, in order.
     QStringList warnings() const { return m_warnings; }
@@ -33,6 +36,7 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &line);
 
     QStringList m_debugLines;
+    QStringList m_actions;
     QStringList m_warnings;
     QtMessageHandler m_before;
     std::function<void(const QString &)> m_look;

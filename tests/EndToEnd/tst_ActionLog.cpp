@@ -1,0 +1,155 @@
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
+#include "tests/support/Program.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QtTest>
+
+using namespace Tests;
+
+// What a maker's support reads of a run.
+class ActionLog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void tellsAnInstallation();
+    void tellsARemoval();
+    void tellsWhyAFileWasNotCopied();
+    void tellsWhyAFileWasNotRemoved();
+    void tellsOfAConfigurationThatIsLeftAlone();
+    void tellsThatThereIsNoCatalogue();
+    void canBeTurnedOff();
+
+private:
+    QStringList run(const QStringList &arguments, int boxes = 0);
+
+    std::unique_ptr<Sandbox> m_sandbox;
+    std::unique_ptr<Program> m_program;
+    QString m_folder;
+};
+
+void ActionLog::init()
+{
+    // One home at a time: the old one puts the environment back when it goes.
+    m_program.reset();
+    m_sandbox.reset();
+    m_sandbox = std::make_unique<Sandbox>();
+    m_program = std::make_unique<Program>(*m_sandbox);
+    m_folder = m_sandbox->path(QStringLiteral("Skylark"));
+    QDir().mkpath(m_folder);
+    place(*m_program,
+          {launcherEntry(QStringLiteral("Skylark"), m_folder, QStringLiteral("Maker\\dll.xml")),
+           pluginFolderEntry(QStringLiteral("Gone"), m_sandbox->path(QStringLiteral("gone")))});
+}
+
+// The lines of one run, whose boxes are answered; places in them begin with "$".
+QStringList ActionLog::run(const QStringList &arguments, int boxes)
+{
+    m_program->start(arguments);
+    for (int i = 0; i < boxes; ++i) {
+        m_program->box();
+        m_program->press(QStringLiteral("OK"));
+    }
+    m_program->exitStatus();
+    QString log = QString::fromUtf8(m_program->standardError());
+    log.replace(QStringLiteral("//"), QStringLiteral("/"));
+    log.replace(m_program->folder(), QStringLiteral("$PROGRAM"));
+    log.replace(m_sandbox->dataRoot(), QStringLiteral("$DATA/"));
+    log.replace(m_sandbox->root(), QStringLiteral("$ROOT"));
+    const QStringList lines
+        = log.split(u'\n').filter(QRegularExpression(QStringLiteral("^orbwell: ")));
+    return QStringList(lines).replaceInStrings(QStringLiteral("orbwell: "), QString());
+}
+
+void ActionLog::tellsAnInstallation()
+{
+    const QStringList lines = run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    QVERIFY(lines.first().startsWith(QLatin1String("start of version ")));
+    QVERIFY(lines.first().endsWith(QLatin1String(" in ModeInstall")));
+    QCOMPARE(lines.mid(1).join(u'\n'), QStringLiteral(R"(catalogue "$PROGRAM/flightsims.json" read
+entries in the catalogue: 2
+simulator "Gone" not found
+simulator "Skylark" in "$ROOT/Skylark"
+uninstall from "Skylark" in "$ROOT/Skylark"
+entry is not in: "$DATA/Maker/dll.xml"
+record written: "Skylark" is out
+install into "Skylark" in "$ROOT/Skylark"
+folder made: "$ROOT/Skylark/Gauges"
+file copied: "$PROGRAM/plugins/FSX/QuillmontOrbwell_64.dll" to "$ROOT/Skylark/Gauges/QuillmontOrbwell_64.dll"
+launch document written: "$DATA/Maker/dll.xml"
+entry is in: "$DATA/Maker/dll.xml"
+record written: "Skylark" is in
+record written: "Skylark" is in
+launcher path written: "$DATA/Quillmont/Orbwell/.path"
+folder from the record: "Skylark" "$ROOT/Skylark"
+record written: "Skylark" is in
+launcher path written: "$DATA/Quillmont/Orbwell/.path"
+end with status 2)"));
+}
+
+void ActionLog::tellsARemoval()
+{
+    run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    const QStringList lines = run({QStringLiteral("--UNINSTALL")});
+    QVERIFY(lines.first().endsWith(QLatin1String(" in ModeUninstall")));
+    const QString plugin = QStringLiteral("$ROOT/Skylark/Gauges");
+    for (const QString &line :
+         {QStringLiteral("uninstall from \"Skylark\" in \"$ROOT/Skylark\""),
+          QStringLiteral("file removed: \"%1/QuillmontOrbwell_64.dll\"").arg(plugin),
+          QStringLiteral("folder removed: \"%1\"").arg(plugin),
+          QStringLiteral("entry is not in: \"$DATA/Maker/dll.xml\""),
+          QStringLiteral("record written: \"Skylark\" is out")})
+        QVERIFY2(lines.contains(line), qPrintable(line));
+    QCOMPARE(lines.last(), QStringLiteral("end with status 0"));
+}
+
+void ActionLog::tellsWhyAFileWasNotCopied()
+{
+    QDir(m_program->folder() + QStringLiteral("/plugins")).removeRecursively();
+    const QStringList lines
+        = run({QStringLiteral("--UNINSTALL")}, 2).filter(QStringLiteral("not copied"));
+    QVERIFY(!lines.isEmpty());
+    QVERIFY(lines.first().contains(QLatin1String("to \"$ROOT/Skylark/Gauges/")));
+    QVERIFY2(lines.first().contains(QLatin1String("\" \"Cannot open ")), qPrintable(lines.first()));
+}
+
+void ActionLog::tellsWhyAFileWasNotRemoved()
+{
+    const QString module = QStringLiteral("/Gauges/QuillmontOrbwell_64.dll");
+    QDir().mkpath(m_folder + module + QStringLiteral("/inside"));
+    const QStringList lines
+        = run({QStringLiteral("--UNINSTALL")}, 1).filter(QStringLiteral("file not removed"));
+    const QString start = QStringLiteral("file not removed: \"$ROOT/Skylark%1\" \"").arg(module);
+    QVERIFY(!lines.isEmpty());
+    QVERIFY2(lines.first().startsWith(start), qPrintable(lines.first()));
+    QVERIFY(lines.first().size() > start.size() + 5);
+}
+
+void ActionLog::tellsOfAConfigurationThatIsLeftAlone()
+{
+    writeFile(m_sandbox->dataRoot() + QStringLiteral("Maker/dll.xml"), "not XML, and secret");
+    const QStringList lines = run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    QVERIFY(lines.contains(QStringLiteral("entry not added to: \"$DATA/Maker/dll.xml\"")));
+    QVERIFY(!m_program->standardError().contains("secret"));
+}
+
+void ActionLog::tellsThatThereIsNoCatalogue()
+{
+    QFile::remove(m_program->folder() + QStringLiteral("/flightsims.json"));
+    const QStringList lines = run({QStringLiteral("--REPAIR")});
+    QVERIFY(lines.contains(QStringLiteral("catalogue \"$PROGRAM/flightsims.json\" not read: "
+                                          "\"No such file or directory\"")));
+}
+
+void ActionLog::canBeTurnedOff()
+{
+    m_program->setVariable("QT_LOGGING_RULES", QStringLiteral("orbwell.debug=false"));
+    QCOMPARE(run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), QStringList());
+}
+
+QTEST_GUILESS_MAIN(ActionLog)
+#include "tst_ActionLog.moc"
