@@ -35,7 +35,8 @@ void reportFolder(const FlightSimulatorMapping *mapping)
         qCDebug(actionLog) << "simulator" << mapping->scan->name << "in" << mapping->path;
 }
 
-// An earlier run may have been ended in the middle of a change. One that is still at it has the lock.
+// An earlier run may have been ended in the middle of a change; one that is still at it has the
+// lock.
 void clearUnfinishedChanges(const QList<FlightSimulatorMapping *> &mappings)
 {
     const ConfigurationLock lock;
