@@ -7,7 +7,7 @@
 #include <QtGlobal>
 
 using Quillmont::Library::Helpers::FileSizeSignal;
-using Quillmont::Utility::Controllers::actionLog;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::ViewControllers::ScanController;
 
 int main(int argc, char *argv[])
@@ -29,6 +29,6 @@ int main(int argc, char *argv[])
     controller.startScan(true, false, ScanController::ModeNone);
 
     const int status = QApplication::exec();
-    qCDebug(actionLog) << "end with status" << status;
+    logAction() << "end with status" << status;
     return status;
 }

@@ -1,7 +1,13 @@
 #include "Controllers/ActionLog.h"
 
+#include <QLoggingCategory>
+
 namespace Quillmont::Utility::Controllers {
 
-Q_LOGGING_CATEGORY(actionLog, "orbwell")
+QDebug logAction()
+{
+    static const QLoggingCategory category("orbwell");
+    return QMessageLogger().debug(category);
+}
 
 } // namespace Quillmont::Utility::Controllers

@@ -1,13 +1,13 @@
 #ifndef CONTROLLERS_ACTIONLOG_H
 #define CONTROLLERS_ACTIONLOG_H
 
-#include <QLoggingCategory>
+#include <QDebug>
 
 namespace Quillmont::Utility::Controllers {
 
-/// Where the program writes down what it does, a line an action, for support: the category
-/// "orbwell". Paths and names are written in quotes, and what files hold is never written.
-Q_DECLARE_LOGGING_CATEGORY(actionLog)
+/// Where the program writes down what it does, a line an action, for support: the debug log's
+/// category "orbwell". Names and paths come out in quotes; what files hold is never written.
+QDebug logAction();
 
 } // namespace Quillmont::Utility::Controllers
 

@@ -11,8 +11,8 @@
 #include <QDir>
 
 using Quillmont::Library::Helpers::FileHelper;
-using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
@@ -29,8 +29,7 @@ void writeLauncherPath()
                                                      + QStringLiteral("/QuillmontOrbwell.exe"));
     const bool written = FileHelper::saveText(
         path, QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\")), QString());
-    qCDebug(actionLog) << (written ? "launcher path written:" : "launcher path not written:")
-                       << path;
+    logAction() << (written ? "launcher path written:" : "launcher path not written:") << path;
 }
 
 } // namespace

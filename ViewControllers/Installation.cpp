@@ -19,7 +19,7 @@
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Helpers::XmlHelper;
-using Quillmont::Utility::Controllers::actionLog;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
@@ -48,7 +48,7 @@ void makeFolder(const QDir &folder)
     if (folder.exists())
         return;
     const bool made = folder.mkpath(folder.absolutePath());
-    qCDebug(actionLog) << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
+    logAction() << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
 }
 
 void removeOldFile(const QString &path)
@@ -57,17 +57,16 @@ void removeOldFile(const QString &path)
         return;
     QFile file(path);
     if (file.remove())
-        qCDebug(actionLog) << "old file removed:" << path;
+        logAction() << "old file removed:" << path;
     else
-        qCDebug(actionLog) << "old file not removed:" << path << file.errorString();
+        logAction() << "old file not removed:" << path << file.errorString();
 }
 
 void writeLaunchDocument(const QString &path)
 {
     const bool written
         = FileHelper::saveText(path, launchDocument(), QStringLiteral("Windows-1252"));
-    qCDebug(actionLog) << (written ? "launch document written:" : "launch document not written:")
-                       << path;
+    logAction() << (written ? "launch document written:" : "launch document not written:") << path;
 }
 
 } // namespace
@@ -78,7 +77,7 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
         return false;
 
     const BusyPointer busy;
-    qCDebug(actionLog) << "install into" << mapping->scan->name << "in" << mapping->path;
+    logAction() << "install into" << mapping->scan->name << "in" << mapping->path;
     m_errorMessage.clear();
     const QString payload = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins/");
     const auto &files = mapping->scan->files;
@@ -107,9 +106,9 @@ void ScanController::copyPluginFile(const QString &source,
     removeOldFile(target);
     QFile file(source);
     if (file.copy(target)) {
-        qCDebug(actionLog) << "file copied:" << source << "to" << target;
+        logAction() << "file copied:" << source << "to" << target;
     } else {
-        qCDebug(actionLog) << "file not copied:" << source << "to" << target << file.errorString();
+        logAction() << "file not copied:" << source << "to" << target << file.errorString();
         m_errorMessage += tr("Unable to copy '%0' to '%1'. Please check if you have permission to "
                              "folder '%2'.\r\n")
                               .arg(source, target, folder);
@@ -151,7 +150,7 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
 
     auto *helper = new XmlHelper(this, file);
     const bool inPlace = helper->insertValues(mapping->scan->config);
-    qCDebug(actionLog) << (inPlace ? "entry is in:" : "entry not added to:") << file;
+    logAction() << (inPlace ? "entry is in:" : "entry not added to:") << file;
 }
 
 void ScanController::installToXPlane(FlightSimulatorMapping *) { }

@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-using Quillmont::Utility::Controllers::actionLog;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -88,8 +88,8 @@ void ScanController::getUserSimulatorMapping()
         });
         if (it == mappings.cend())
             continue;
-        qCDebug(actionLog) << "folder from the record:" << name
-                           << record.value(QLatin1String("path")).toString();
+        logAction() << "folder from the record:" << name
+                    << record.value(QLatin1String("path")).toString();
         (*it)->path = record.value(QLatin1String("path")).toString();
         (*it)->note = (*it)->path;
     }
@@ -108,9 +108,8 @@ void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool 
 
     const QString errorsBefore = m_errorMessage;
     saveFile(path, QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented)));
-    qCDebug(actionLog) << (m_errorMessage == errorsBefore ? "record written:"
-                                                          : "record not written:")
-                       << mapping->scan->name << (uninstalled ? "is out" : "is in");
+    logAction() << (m_errorMessage == errorsBefore ? "record written:" : "record not written:")
+                << mapping->scan->name << (uninstalled ? "is out" : "is in");
 }
 
 } // namespace Quillmont::Utility::ViewControllers

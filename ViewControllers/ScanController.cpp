@@ -12,7 +12,7 @@
 
 #include <cstdlib>
 
-using Quillmont::Utility::Controllers::actionLog;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Views::ScannerView;
 
@@ -22,7 +22,7 @@ namespace {
 
 [[noreturn]] void endProcess(int status)
 {
-    qCDebug(actionLog) << "end with status" << status;
+    logAction() << "end with status" << status;
     std::exit(status);
 }
 
@@ -37,8 +37,8 @@ ScanController::ScanController(QObject *parent, QWidget *parentWidget)
     qRegisterMetaType<InstallationMode>("InstallationMode");
 
     const Request request = commandLineRequest();
-    qCDebug(actionLog) << "start of version" << ORBWELL_VERSION << "in"
-                       << QMetaEnum::fromType<InstallationMode>().valueToKey(request.mode);
+    logAction() << "start of version" << ORBWELL_VERSION << "in"
+                << QMetaEnum::fromType<InstallationMode>().valueToKey(request.mode);
     createMappingFile();
 
     switch (request.mode) {

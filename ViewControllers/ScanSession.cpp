@@ -19,7 +19,7 @@
 #include <QTextStream>
 
 using Quillmont::Library::Helpers::FileWriter;
-using Quillmont::Utility::Controllers::actionLog;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -30,9 +30,9 @@ namespace {
 void reportFolder(const FlightSimulatorMapping *mapping)
 {
     if (mapping->path.isEmpty())
-        qCDebug(actionLog) << "simulator" << mapping->scan->name << "not found";
+        logAction() << "simulator" << mapping->scan->name << "not found";
     else
-        qCDebug(actionLog) << "simulator" << mapping->scan->name << "in" << mapping->path;
+        logAction() << "simulator" << mapping->scan->name << "in" << mapping->path;
 }
 
 // An earlier run may have been ended in the middle of a change; one that is still at it has the
@@ -53,10 +53,10 @@ QString ScanController::getJsonContent()
     QFile file(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                         + QStringLiteral("/flightsims.json")));
     if (!file.open(QIODevice::ReadOnly)) {
-        qCDebug(actionLog) << "catalogue" << file.fileName() << "not read:" << file.errorString();
+        logAction() << "catalogue" << file.fileName() << "not read:" << file.errorString();
         return {};
     }
-    qCDebug(actionLog) << "catalogue" << file.fileName() << "read";
+    logAction() << "catalogue" << file.fileName() << "read";
     return QTextStream(&file).readAll();
 }
 
@@ -75,7 +75,7 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
         result.append(mappingFor(entry));
     sloveConflict(result);
     clearUnfinishedChanges(result);
-    qCDebug(actionLog) << "entries in the catalogue:" << result.size();
+    logAction() << "entries in the catalogue:" << result.size();
     for (const auto *mapping : qAsConst(result))
         reportFolder(mapping);
 

@@ -21,7 +21,7 @@
 #include <system_error>
 
 using Quillmont::Library::Helpers::XmlHelper;
-using Quillmont::Utility::Controllers::actionLog;
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FileOperation;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -65,9 +65,9 @@ void removeIfEmpty(QDir folder)
 void reportRemoval(const QFile &file, bool removed)
 {
     if (removed)
-        qCDebug(actionLog) << "file removed:" << file.fileName();
+        logAction() << "file removed:" << file.fileName();
     else
-        qCDebug(actionLog) << "file not removed:" << file.fileName() << file.errorString();
+        logAction() << "file not removed:" << file.fileName() << file.errorString();
 }
 
 void removeExtraFile(const QString &path)
@@ -107,7 +107,7 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
     // Unlike install, this starts from the lines that are there: errors of a silent installation
     // just before are shown here.
     const BusyPointer busy;
-    qCDebug(actionLog) << "uninstall from" << mapping->scan->name << "in" << mapping->path;
+    logAction() << "uninstall from" << mapping->scan->name << "in" << mapping->path;
     const auto &files = mapping->scan->files;
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
         removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
@@ -146,7 +146,7 @@ void ScanController::removePluginFile(const QString &target, const QString &simu
     const bool existed = folder.exists();
     removeIfEmpty(folder);
     if (existed && !folder.exists())
-        qCDebug(actionLog) << "folder removed:" << folder.path();
+        logAction() << "folder removed:" << folder.path();
 }
 
 void ScanController::showRemovalFailure(const QString &simulatorName)
@@ -168,7 +168,7 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
     backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
     auto *helper = new XmlHelper(this, file);
     const bool gone = helper->removeConfig(mapping->scan->config);
-    qCDebug(actionLog) << (gone ? "entry is not in:" : "entry not removed from:") << file;
+    logAction() << (gone ? "entry is not in:" : "entry not removed from:") << file;
 
     if (const auto *removal = mapping->scan->remove) {
         for (const auto *operation : removal->files)

@@ -17,8 +17,8 @@
 #include <QTextDocument>
 #include <QToolButton>
 
-using Quillmont::Utility::Controllers::actionLog;
 using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Controllers::logAction;
 
 // The icons lie in a static library: nothing would register them by itself.
 static void registerArtwork()
@@ -134,7 +134,7 @@ void AddonListItem::browsePath()
         QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (chosen.isEmpty())
         return;
-    qCDebug(actionLog) << "folder chosen for" << m_mapping->scan->name << chosen;
+    logAction() << "folder chosen for" << m_mapping->scan->name << chosen;
 
     if (QDir(chosen).exists()) {
         m_mapping->updateFlightSimPath(QDir::toNativeSeparators(chosen));

@@ -193,7 +193,6 @@ void TestKeyboard::keepsTheFocusOnTheSameSimulator_data()
 void TestKeyboard::keepsTheFocusOnTheSameSimulator()
 {
     QFETCH(QString, control);
-    const QString name = QStringLiteral("Simulator 25");
     QStringList names = numbered(30);
     showRows(names);
     m_list->itemWidget(m_list->item(25))->findChild<QWidget *>(control)->setFocus();
