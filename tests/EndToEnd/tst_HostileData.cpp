@@ -62,7 +62,7 @@ static const QStringList repair{QStringLiteral("--REPAIR")};
 // addresses for itself.
 static void limit()
 {
-    constexpr rlim_t mega = 1024 * 1024;
+    constexpr rlim_t mega = 1U << 20U;
     const struct rlimit file = {100 * mega, 100 * mega};
     bool done = setrlimit(RLIMIT_FSIZE, &file) == 0;
 #ifndef __SANITIZE_ADDRESS__
@@ -288,7 +288,7 @@ void HostileData::worksInAFolderOfAnyName_data()
     QTest::newRow("placeholders") << QStringLiteral("%1 %0 %2 %n %L1");
     QTest::newRow("lines") << QStringLiteral("a\nb\r\nc\td");
     QTest::newRow("quotes") << QStringLiteral("'\"`$(x);");
-    QTest::newRow("the other way round") << QString::fromUtf8("a\u202etxt.exe");
+    QTest::newRow("the other way round") << QStringLiteral("a%1txt.exe").arg(QChar(0x202e));
 }
 
 // The name comes out of every text as it is, and as text.

@@ -274,7 +274,7 @@ void RealConditions::leavesAConfigurationOnAFullDisk()
 void RealConditions::namesWhatIsOverTheLimit()
 {
     installInto(1, QByteArray(200 * 1024, 'x'));
-    limitFiles(100 * 1024);
+    limitFiles(100000);
     QCOMPARE(m_computer->run(quietInstall), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
@@ -288,7 +288,7 @@ void RealConditions::leavesAConfigurationOverTheLimit()
     const QByteArray content
         = othersConfiguration() + "<!--" + QByteArray(200 * 1024, 'x') + "-->\r\n";
     m_computer->write(m_computer->configuration(m_det), content);
-    limitFiles(100 * 1024);
+    limitFiles(100000);
     QCOMPARE(m_computer->run(quietInstall), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(treeOf(QFileInfo(configuration()).path()),
