@@ -30,7 +30,7 @@ bool isFileOrFree(const QString &path)
 bool canWrite(const QString &path)
 {
     return (canRead(path) || !QFileInfo::exists(path))
-        && isFileOrFree(path + QLatin1String(".lock"));
+        && isFileOrFree(path + QStringLiteral(".lock"));
 }
 
 } // namespace
