@@ -106,10 +106,8 @@ void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool 
     if (!uninstalled)
         records.append(recordOf(mapping));
 
-    const QString errorsBefore = m_errorMessage;
+    logAction() << "record:" << mapping->scan->name << (uninstalled ? "is out" : "is in");
     saveFile(path, QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented)));
-    logAction() << (m_errorMessage == errorsBefore ? "record written:" : "record not written:")
-                << mapping->scan->name << (uninstalled ? "is out" : "is in");
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -89,8 +89,8 @@ public:
     /// m_errorMessage.
     QString readFile(const QString &path);
 
-    /// Makes @p content the whole text of a file, making missing folders. A failure leaves a line
-    /// in m_errorMessage.
+    /// Makes @p content the whole text of a file, making missing folders. One that cannot be opened
+    /// leaves a line in m_errorMessage.
     void saveFile(const QString &path, const QString &content);
 
     // For other platforms; they do nothing here.

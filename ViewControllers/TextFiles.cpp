@@ -1,9 +1,13 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Controllers/ActionLog.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
+
+using Quillmont::Utility::Controllers::logAction;
 
 namespace Quillmont::Utility::ViewControllers {
 
@@ -20,12 +24,14 @@ bool isSomethingElse(const QString &path)
 }
 
 // Handed over in one, the stream would first copy the whole text and then all its bytes.
-void writeInPieces(const QString &content, QFile *file)
+bool writeInPieces(const QString &content, QFile *file)
 {
     constexpr int size = 16 * 1024;
     QTextStream stream(file);
     for (int begin = 0; begin < content.size(); begin += size)
         stream << content.midRef(begin, size);
+    stream.flush();
+    return file->flush() && file->error() == QFileDevice::NoError;
 }
 
 } // namespace
@@ -53,9 +59,13 @@ void ScanController::saveFile(const QString &path, const QString &content)
 
     QFile file(native);
     if (!isSomethingElse(native) && file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
-        writeInPieces(content, &file);
+        if (writeInPieces(content, &file))
+            logAction() << "written:" << native;
+        else
+            logAction() << "not wholly written:" << native << file.errorString();
         return;
     }
+    logAction() << "not written:" << native << file.errorString();
     m_errorMessage += tr("Unable to write configuration to file '%0'. Please check if you have "
                          "permission to that file.")
                           .arg(native);

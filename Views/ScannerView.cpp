@@ -24,7 +24,9 @@ using Quillmont::Utility::Widgets::AddonListItemDelegate;
 
 namespace Quillmont::Utility::Views {
 
-static QAccessibleInterface *accessiblePart(const QString &, QObject *object)
+namespace {
+
+QAccessibleInterface *accessiblePart(const QString &, QObject *object)
 {
     if (auto *row = qobject_cast<AddonListItem *>(object))
         return new AccessibleRow(row);
@@ -36,6 +38,8 @@ static QAccessibleInterface *accessiblePart(const QString &, QObject *object)
         return new AccessibleList(list);
     return nullptr;
 }
+
+} // namespace
 
 ScannerView::ScannerView(QWidget *parent)
     : QWidget(parent)

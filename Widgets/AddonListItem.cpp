@@ -20,7 +20,8 @@
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Quillmont::Utility::Controllers::logAction;
 
-// The icons lie in a static library: nothing would register them by itself.
+// The icons lie in a static library: nothing would register them by itself. What does must not be
+// in a namespace.
 static void registerArtwork()
 {
     Q_INIT_RESOURCE(quillmontorbwellsetup);
@@ -29,14 +30,18 @@ Q_COREAPP_STARTUP_FUNCTION(registerArtwork)
 
 namespace Quillmont::Utility::Widgets {
 
+namespace {
+
 // A tool tip takes tags for its own, and a long plain one runs out of the screen.
-static QString literalToolTip(const QString &text)
+QString literalToolTip(const QString &text)
 {
     const bool fits = text.size() < 120 && !Qt::mightBeRichText(text);
     return fits
         ? text
         : QStringLiteral("<p style='white-space: pre-wrap'>%0</p>").arg(text.toHtmlEscaped());
 }
+
+} // namespace
 
 AddonListItem::AddonListItem(QWidget *parent,
                              Models::FlightSimulatorMapping *mapping,

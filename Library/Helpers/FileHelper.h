@@ -5,7 +5,7 @@ class QString;
 
 namespace Quillmont::Library::Helpers {
 
-/// Looks after whole text files.
+/// Writes text files, and tells whether a file is there.
 class FileHelper
 {
 public:

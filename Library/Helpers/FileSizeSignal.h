@@ -1,6 +1,8 @@
 #ifndef LIBRARY_HELPERS_FILESIZESIGNAL_H
 #define LIBRARY_HELPERS_FILESIZESIGNAL_H
 
+#include <QtGlobal>
+
 #include <csignal>
 
 namespace Quillmont::Library::Helpers {
@@ -11,8 +13,7 @@ class FileSizeSignal
 public:
     FileSizeSignal();
     ~FileSizeSignal();
-    FileSizeSignal(const FileSizeSignal &) = delete;
-    FileSizeSignal &operator=(const FileSizeSignal &) = delete;
+    Q_DISABLE_COPY(FileSizeSignal)
 
 private:
     struct sigaction m_before = {};

@@ -76,17 +76,21 @@ simulator "Gone" not found
 simulator "Skylark" in "$ROOT/Skylark"
 uninstall from "Skylark" in "$ROOT/Skylark"
 entry is not in: "$DATA/Maker/dll.xml"
-record written: "Skylark" is out
+record: "Skylark" is out
+written: "$DATA/Quillmont/Orbwell/.mapping"
 install into "Skylark" in "$ROOT/Skylark"
 folder made: "$ROOT/Skylark/Gauges"
 file copied: "$PROGRAM/plugins/FSX/QuillmontOrbwell_64.dll" to "$ROOT/Skylark/Gauges/QuillmontOrbwell_64.dll"
 launch document written: "$DATA/Maker/dll.xml"
 entry is in: "$DATA/Maker/dll.xml"
-record written: "Skylark" is in
-record written: "Skylark" is in
+record: "Skylark" is in
+written: "$DATA/Quillmont/Orbwell/.mapping"
+record: "Skylark" is in
+written: "$DATA/Quillmont/Orbwell/.mapping"
 launcher path written: "$DATA/Quillmont/Orbwell/.path"
 folder from the record: "Skylark" "$ROOT/Skylark"
-record written: "Skylark" is in
+record: "Skylark" is in
+written: "$DATA/Quillmont/Orbwell/.mapping"
 launcher path written: "$DATA/Quillmont/Orbwell/.path"
 end with status 2)"));
 }
@@ -102,7 +106,7 @@ void ActionLog::tellsARemoval()
           QStringLiteral("file removed: \"%1/QuillmontOrbwell_64.dll\"").arg(plugin),
           QStringLiteral("folder removed: \"%1\"").arg(plugin),
           QStringLiteral("entry is not in: \"$DATA/Maker/dll.xml\""),
-          QStringLiteral("record written: \"Skylark\" is out")})
+          QStringLiteral("record: \"Skylark\" is out")})
         QVERIFY2(lines.contains(line), qPrintable(line));
     QCOMPARE(lines.last(), QStringLiteral("end with status 0"));
 }
