@@ -74,7 +74,7 @@ ScannerView::ScannerView(QWidget *parent)
     // Enter presses the button that has the focus, as it does in a dialog.
     m_scanAndInstall->setAutoDefault(true);
     m_close->setAutoDefault(true);
-    connect(qApp, &QApplication::focusChanged, m_list, [this](QWidget *, const QWidget *now) {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) {
         showRowAround(now);
     });
 
@@ -84,6 +84,12 @@ ScannerView::ScannerView(QWidget *parent)
     m_list->setItemDelegate(new AddonListItemDelegate(m_list));
     setMinimumSize(640, 480);
     setWindowTitle(tr("Quillmont Orbwell Settings"));
+}
+
+ScannerView::~ScannerView()
+{
+    // The focus moves on from one part to the next while they go.
+    disconnect(qApp, &QApplication::focusChanged, this, nullptr);
 }
 
 void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
@@ -172,7 +178,9 @@ void ScannerView::scrollTo(int position)
 void ScannerView::moveButtonsBehindRows()
 {
     // The toolkit hangs new rows on the end of the tab order, behind the buttons below them.
-    setTabOrder(previousInFocusChain(), m_scanAndInstall);
+    const auto *lastRow = m_list->itemWidget(m_list->item(m_list->count() - 1));
+    auto *last = lastRow ? lastRow->findChild<QWidget *>(QStringLiteral("action")) : m_list;
+    setTabOrder(last, m_scanAndInstall);
     setTabOrder(m_scanAndInstall, m_close);
 }
 

@@ -19,6 +19,7 @@ class ScannerView : public QWidget
 
 public:
     explicit ScannerView(QWidget *parent);
+    ~ScannerView() override;
 
     /// Replaces the rows by one for each of @p mappings, which stay their owner's. The list stays
     /// scrolled as it was, and a control that had the focus hands it to its successor. With

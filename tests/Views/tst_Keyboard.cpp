@@ -42,6 +42,7 @@ private slots:
     void keepsTheFocusInTheRowOfAFolderThatIsGone();
     void leavesTheFocusOutsideTheListAlone();
     void keepsTheListScrolled();
+    void leadsFromTheLastRowToTheButtonsInAWindowOfMore();
 
 private:
     FlightSimulatorMapping *mapping(const QString &name, const QString &path);
@@ -241,6 +242,19 @@ void TestKeyboard::keepsTheListScrolled()
     QCOMPARE(bar->value(), before);
     showRows(numbered(2));
     QCOMPARE(bar->value(), 0);
+}
+
+void TestKeyboard::leadsFromTheLastRowToTheButtonsInAWindowOfMore()
+{
+    QWidget window;
+    QLineEdit others(&window);
+    m_view = std::make_unique<ScannerView>(&window);
+    m_list = m_view->findChild<QListWidget *>();
+    showRows(numbered(2));
+    QCOMPARE(row(1).action->nextInFocusChain(), button(QStringLiteral("Scan && Install")));
+    QCOMPARE(button(QStringLiteral("Scan && Install"))->nextInFocusChain(),
+             button(QStringLiteral("Close")));
+    m_view.reset();
 }
 
 QTEST_MAIN(TestKeyboard)
