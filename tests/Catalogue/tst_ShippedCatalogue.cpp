@@ -7,7 +7,7 @@
 #include "Views/ScannerView.h"
 #include "tests/Catalogue/CatalogueSchema.h"
 #include "tests/Catalogue/Catalogues.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
@@ -175,7 +175,7 @@ void ShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
 
 void ShippedCatalogue::namesWhatDetectionKnows()
 {
-    Computer computer(Quillmont::SimDetect::Environment::Linux);
+    DescribedComputer computer(Quillmont::SimDetect::Environment::Linux);
     computer.make(QLatin1String(everySimulator));
     QStringList detected;
     const QStringList lines = computer.detect().split(u'\n');

@@ -1,4 +1,4 @@
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
 #include <QDir>
@@ -78,7 +78,7 @@ const auto EverythingFound
                      "XP11: $R/drive/steamapps/common/X-Plane 11\n"
                      "XP12: $R/sims/X-Plane 12");
 
-QStringList filesWithContent(const Computer &computer)
+QStringList filesWithContent(const DescribedComputer &computer)
 {
     QStringList paths;
     const auto tree = treeOf(computer.environment.root);
@@ -126,7 +126,7 @@ void tst_Robustness::findsNothingInRandomBytes_data()
 void tst_Robustness::findsNothingInRandomBytes()
 {
     QFETCH(int, system);
-    Computer computer(static_cast<Environment::System>(system));
+    DescribedComputer computer(static_cast<Environment::System>(system));
     computer.make(Everything);
     QCOMPARE(computer.detect(), computer.expanded(EverythingFound));
     const auto paths = filesWithContent(computer);
@@ -140,7 +140,7 @@ void tst_Robustness::findsNothingInRandomBytes()
 
 void tst_Robustness::survivesDamagedFiles()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
     const QStringList found = computer.detect().split(u'\n');
     const auto paths = filesWithContent(computer);
@@ -192,7 +192,7 @@ void tst_Robustness::answersSoonWhateverIsThere_data()
 void tst_Robustness::answersSoonWhateverIsThere()
 {
     QFETCH(Maker, make);
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
     const auto paths = filesWithContent(computer);
     for (const auto &path : paths) {
@@ -205,7 +205,7 @@ void tst_Robustness::answersSoonWhateverIsThere()
 
 void tst_Robustness::answersSoonWithAllOfItAtOnce()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         fifo $L/x-plane_install_10.txt
         dir $L/x-plane_install_11.txt
@@ -238,7 +238,7 @@ void tst_Robustness::answersSoonWithAllOfItAtOnce()
 
 void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     QByteArray lines;
     for (int i = 0; i < 100000; ++i)
         lines += computer.environment.root.toUtf8() + "/gone " + QByteArray::number(i) + '\n';
@@ -253,7 +253,7 @@ void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
 // Each of a tolerable size, and with nothing wrong up to the last brace.
 void tst_Robustness::readsNoMoreThanMakesSense()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral("xplane $R/sims/X-Plane 12\n"
                                  "file $L/x-plane_install_12.txt = $R/sims/X-Plane 12\\n\n"
                                  "file $R/manifest ="));
@@ -279,7 +279,7 @@ void tst_Robustness::readsNoMoreThanMakesSense()
 void tst_Robustness::opensNoFileTwice()
 {
 #ifdef Q_OS_LINUX
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
     const auto paths = filesWithContent(computer);
     const int watcher = inotify_init1(IN_NONBLOCK);
@@ -310,7 +310,7 @@ void tst_Robustness::saysThatAFolderIsClosed()
 {
     if (geteuid() == 0)
         QSKIP("Nothing is closed to root.");
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $R/closed
         xplane $R/good

@@ -2,7 +2,7 @@
 
 #include "SimDetect/Environment.h"
 #include "tests/SimDetect/Cases.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
 #include <QDir>
@@ -91,7 +91,7 @@ void tst_SimDetect::findsNothingWithoutAHome()
 {
     QFETCH(QString, home);
     for (const auto system : {Environment::Linux, Environment::MacOS}) {
-        Computer computer(system);
+        DescribedComputer computer(system);
         computer.environment.home = home;
         QCOMPARE(computer.detect(), QString());
         QCOMPARE(computer.log(), QStringList());
@@ -123,7 +123,7 @@ void tst_SimDetect::takesNoHomeForNoHome()
 
 void tst_SimDetect::givesOneFolderToOneSimulator()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         file $H/packages/version = 2020.3
         file $H/packages/defaults.xml =
@@ -142,7 +142,7 @@ void tst_SimDetect::givesOneFolderToOneSimulator()
 
 void tst_SimDetect::writesNothing()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $R/sims/X-Plane 12
         file $L/x-plane_install_12.txt = $R/sims/X-Plane 12/\n

@@ -1,5 +1,5 @@
 #include "tests/SimDetect/Cases.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 
 #include <QDir>
 #include <QTest>
@@ -319,7 +319,7 @@ void tst_Steam::refusesFoldersOutsideTheLibrary_data()
 void tst_Steam::refusesFoldersOutsideTheLibrary()
 {
     QFETCH(QString, name);
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $S/steamapps/common
         xplane $S/steamapps
@@ -387,7 +387,7 @@ void tst_Steam::wantsTheGamesMarks_data()
 // A home folder that is itself a link, as some systems have it: Steam writes where it leads.
 void tst_Steam::keepsThePartsOfAHomeApart()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         link $R/var -> $H
         game $H/.var/app/com.valvesoftware.Steam/data/Steam/more 2014780 X-Plane 12
