@@ -6,7 +6,7 @@
 using namespace Tests;
 
 // Which run a command line starts, told by what a user sees of it.
-class CommandLine : public QObject
+class TestCommandLine : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ static QStringList line(const char *words)
     return QString::fromUtf8(words).split(u' ');
 }
 
-void CommandLine::starts_data()
+void TestCommandLine::starts_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("expected");
@@ -83,7 +83,7 @@ void CommandLine::starts_data()
     addLine("empty ones around", {QString(), QStringLiteral("--INSTALL"), QString()}, "install");
 }
 
-void CommandLine::starts()
+void TestCommandLine::starts()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, expected);
@@ -91,7 +91,7 @@ void CommandLine::starts()
     QCOMPARE(seen(), expected);
 }
 
-void CommandLine::countsItsOwnName_data()
+void TestCommandLine::countsItsOwnName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("arguments");
@@ -111,7 +111,7 @@ void CommandLine::countsItsOwnName_data()
     add("something else", "setup", {}, "window");
 }
 
-void CommandLine::countsItsOwnName()
+void TestCommandLine::countsItsOwnName()
 {
     QFETCH(const QString, name);
     QFETCH(const QStringList, arguments);
@@ -121,7 +121,7 @@ void CommandLine::countsItsOwnName()
 }
 
 // One simulator that is found and lacks the plugin, one that the record alone knows.
-void CommandLine::run(const QStringList &arguments, const QString &calledAs)
+void TestCommandLine::run(const QStringList &arguments, const QString &calledAs)
 {
     m_computer.reset(new Computer);
     const QString found = QStringLiteral("Det");
@@ -134,7 +134,7 @@ void CommandLine::run(const QStringList &arguments, const QString &calledAs)
     m_status = m_computer->run(arguments);
 }
 
-QString CommandLine::seen() const
+QString TestCommandLine::seen() const
 {
     const QString file = QStringLiteral("/Resources/plugins/Orbwell/about.txt");
     const bool foundHasIt = QFileInfo::exists(m_computer->folder(QStringLiteral("Det")) + file);
@@ -156,5 +156,5 @@ QString CommandLine::seen() const
     return is(2, 0, "") ? QStringLiteral("quiet install") : QStringLiteral("something else");
 }
 
-QTEST_GUILESS_MAIN(CommandLine)
+QTEST_GUILESS_MAIN(TestCommandLine)
 #include "tst_CommandLine.moc"

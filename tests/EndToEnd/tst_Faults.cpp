@@ -10,7 +10,7 @@ using namespace Tests;
 // Unattended runs that are killed, or that one system call fails, at every point from where they
 // first touch what belongs to the user. script/faults tries them all; without its variables each
 // test takes a sample.
-class Faults : public QObject
+class TestFaults : public QObject
 {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ static QVector<Item> sample(const QVector<Item> &all)
     return some;
 }
 
-void Faults::initTestCase()
+void TestFaults::initTestCase()
 {
     if (QByteArray(SANITIZERS).size() > 0)
         QSKIP("a sanitizer makes calls of its own, and ends the process when they fail");
@@ -86,14 +86,14 @@ void Faults::initTestCase()
         QSKIP("needs strace, and the right to trace a process");
 }
 
-void Faults::cleanup()
+void TestFaults::cleanup()
 {
     m_patient.reset();
     m_overcome.clear();
     m_fellShort = 0;
 }
 
-void Faults::addRuns()
+void TestFaults::addRuns()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("beginning");
@@ -103,14 +103,14 @@ void Faults::addRuns()
     QTest::newRow("uninstall by record") << words("--UNINSTALL") << int(Patient::OnlyRecorded);
 }
 
-bool Faults::isOnUserData(const SystemCall &call) const
+bool TestFaults::isOnUserData(const SystemCall &call) const
 {
     const Computer &computer = m_patient->computer();
     return call.text.contains(computer.absolute(QStringLiteral("sims/")))
         || call.text.contains(computer.absolute(computer.data({})));
 }
 
-void Faults::runUndisturbed()
+void TestFaults::runUndisturbed()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, beginning);
@@ -132,7 +132,7 @@ void Faults::runUndisturbed()
     QVERIFY2(m_calls.size() > 100, "the tracer saw hardly anything");
 }
 
-QVector<Faults::Fault> Faults::kills() const
+QVector<TestFaults::Fault> TestFaults::kills() const
 {
     QVector<Fault> faults;
     for (const SystemCall &call : m_calls)
@@ -140,7 +140,7 @@ QVector<Faults::Fault> Faults::kills() const
     return faults;
 }
 
-QVector<Faults::Fault> Faults::failures() const
+QVector<TestFaults::Fault> TestFaults::failures() const
 {
     static const QStringList changing = words(
         "openat write sendfile rename linkat mkdir unlink rmdir ftruncate fchmod chmod fsync");
@@ -159,14 +159,14 @@ QVector<Faults::Fault> Faults::failures() const
     return faults;
 }
 
-int Faults::runWith(const Fault &fault)
+int TestFaults::runWith(const Fault &fault)
 {
     m_patient->reset();
     m_patient->computer().program().setTracer(Tracer::disturbing(fault.first, fault.second, log()));
     return m_patient->computer().run(m_arguments);
 }
 
-void Faults::report(const Fault &fault, const QStringList &wrong)
+void TestFaults::report(const Fault &fault, const QStringList &wrong)
 {
     if (wrong.isEmpty())
         return;
@@ -176,13 +176,13 @@ void Faults::report(const Fault &fault, const QStringList &wrong)
 }
 
 // script/faults adds these lines up.
-void Faults::summarise(int points) const
+void TestFaults::summarise(int points) const
 {
     qInfo("%d points, %d fell short", points, m_fellShort);
     QCOMPARE(m_fellShort, 0);
 }
 
-void Faults::killedRunLosesNothing()
+void TestFaults::killedRunLosesNothing()
 {
     runUndisturbed();
     if (QTest::currentTestFailed())
@@ -199,7 +199,7 @@ void Faults::killedRunLosesNothing()
 }
 
 // The next run goes by what it finds, so it has to be made only once for the same disk.
-QStringList Faults::wrongAfterKill(const Disk &left)
+QStringList TestFaults::wrongAfterKill(const Disk &left)
 {
     QStringList wrong = m_patient->harm();
     if (m_overcome.contains(left))
@@ -218,7 +218,7 @@ QStringList Faults::wrongAfterKill(const Disk &left)
     return wrong;
 }
 
-void Faults::failingCallLosesNothing()
+void TestFaults::failingCallLosesNothing()
 {
     runUndisturbed();
     if (QTest::currentTestFailed())
@@ -231,7 +231,7 @@ void Faults::failingCallLosesNothing()
     summarise(faults.size());
 }
 
-QStringList Faults::wrongAfterFailure(const SystemCall &call, int status) const
+QStringList TestFaults::wrongAfterFailure(const SystemCall &call, int status) const
 {
     QStringList wrong = m_patient->harm() + m_patient->leftovers();
     if (status != 0 && status != 2)
@@ -250,7 +250,7 @@ QStringList Faults::wrongAfterFailure(const SystemCall &call, int status) const
 }
 
 // What the user is not told of a simulator that is not as the run should make it.
-QStringList Faults::untold(const QString &simulator, int status) const
+QStringList TestFaults::untold(const QString &simulator, int status) const
 {
     QFETCH(const int, beginning);
     const QString said = m_patient->computer().said().join(u'\n');
@@ -269,5 +269,5 @@ QStringList Faults::untold(const QString &simulator, int status) const
     return wrong;
 }
 
-QTEST_GUILESS_MAIN(Faults)
+QTEST_GUILESS_MAIN(TestFaults)
 #include "tst_Faults.moc"

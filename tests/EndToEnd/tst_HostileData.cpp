@@ -20,7 +20,7 @@ using namespace Tests;
 
 // Files and folders made by somebody who wants to do harm: a run ends, soon and within a bound of
 // memory, installs where it can, and touches nothing but what it is about.
-class HostileData : public QObject
+class TestHostileData : public QObject
 {
     Q_OBJECT
 
@@ -73,7 +73,7 @@ static void limit()
         _exit(99);
 }
 
-void HostileData::init()
+void TestHostileData::init()
 {
     m_computer.reset(new Computer);
     m_computer->setCatalogue({entry()});
@@ -83,7 +83,7 @@ void HostileData::init()
     m_computer->program().prepare(limit);
 }
 
-void HostileData::cleanup()
+void TestHostileData::cleanup()
 {
     m_computer.reset();
 }
@@ -145,7 +145,7 @@ static void addPlaces(const QStringList &places)
     }
 }
 
-void HostileData::endsWhateverIsThere_data()
+void TestHostileData::endsWhateverIsThere_data()
 {
     addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
                QStringLiteral("Quillmont/Orbwell/.path"),
@@ -156,7 +156,7 @@ void HostileData::endsWhateverIsThere_data()
                QStringLiteral("Maker/Det")});
 }
 
-void HostileData::endsWhateverIsThere()
+void TestHostileData::endsWhateverIsThere()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
@@ -174,14 +174,14 @@ void HostileData::endsWhateverIsThere()
     QVERIFY(isInstalled());
 }
 
-void HostileData::showsItsWindowWhateverIsThere_data()
+void TestHostileData::showsItsWindowWhateverIsThere_data()
 {
     addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
                QStringLiteral("Quillmont/Vellum/.settings"),
                QStringLiteral("Maker/Det/dll.xml")});
 }
 
-void HostileData::showsItsWindowWhateverIsThere()
+void TestHostileData::showsItsWindowWhateverIsThere()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
@@ -202,7 +202,7 @@ void HostileData::showsItsWindowWhateverIsThere()
     QCOMPARE(m_computer->program().exitStatus(), 0);
 }
 
-void HostileData::endsWhateverTheRecordSays_data()
+void TestHostileData::endsWhateverTheRecordSays_data()
 {
     QTest::addColumn<QByteArray>("path");
     QTest::addColumn<QByteArray>("files");
@@ -218,7 +218,7 @@ void HostileData::endsWhateverTheRecordSays_data()
 }
 
 // Its folder counts, and nothing can be installed there; what is told fits on a screen.
-void HostileData::endsWhateverTheRecordSays()
+void TestHostileData::endsWhateverTheRecordSays()
 {
     QFETCH(const QByteArray, path);
     QFETCH(const QByteArray, files);
@@ -236,7 +236,7 @@ void HostileData::endsWhateverTheRecordSays()
     QVERIFY(!isInstalled());
 }
 
-void HostileData::staysInsideTheSimulator_data()
+void TestHostileData::staysInsideTheSimulator_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::newRow("a link") << Maker([](const QString &path) {
@@ -269,7 +269,7 @@ void HostileData::staysInsideTheSimulator_data()
 }
 
 // In the place of the plugin's file; installed or not, what it leads to stays as it was.
-void HostileData::staysInsideTheSimulator()
+void TestHostileData::staysInsideTheSimulator()
 {
     QFETCH(const Maker, make);
     make(place());
@@ -281,7 +281,7 @@ void HostileData::staysInsideTheSimulator()
     }
 }
 
-void HostileData::worksInAFolderOfAnyName_data()
+void TestHostileData::worksInAFolderOfAnyName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("markup") << QStringLiteral("<b>bold</b> & <img src=x>");
@@ -292,7 +292,7 @@ void HostileData::worksInAFolderOfAnyName_data()
 }
 
 // The name comes out of every text as it is, and as text.
-void HostileData::worksInAFolderOfAnyName()
+void TestHostileData::worksInAFolderOfAnyName()
 {
     QFETCH(const QString, name);
     const QString folder = m_computer->folder(name);
@@ -312,5 +312,5 @@ void HostileData::worksInAFolderOfAnyName()
     QCOMPARE(readFile(folder + m_module + QLatin1String("/kept")), QByteArray("kept"));
 }
 
-QTEST_GUILESS_MAIN(HostileData)
+QTEST_GUILESS_MAIN(TestHostileData)
 #include "tst_HostileData.moc"

@@ -21,7 +21,7 @@ using namespace Tests;
 
 // Disks that are full or may only be read, files that nobody may change, users who may not write,
 // and a computer without a screen: as they are, not as a test pretends.
-class RealConditions : public QObject
+class TestRealConditions : public QObject
 {
     Q_OBJECT
 
@@ -90,13 +90,13 @@ static bool setImmutable(const QString &path, bool on)
 #endif
 }
 
-void RealConditions::init()
+void TestRealConditions::init()
 {
     m_computer.reset(new Computer);
     m_mounts.reset(new Mounts);
 }
 
-void RealConditions::cleanup()
+void TestRealConditions::cleanup()
 {
     m_user.reset();
     for (const QString &path : qAsConst(m_immutable))
@@ -107,7 +107,7 @@ void RealConditions::cleanup()
 }
 
 // One simulator, found in its folder, and how big its plugin file is.
-void RealConditions::installInto(int type, const QByteArray &payload)
+void TestRealConditions::installInto(int type, const QByteArray &payload)
 {
     QJsonObject entry = m_computer->entry(m_det, 0);
     entry.insert(QStringLiteral("type"), type);
@@ -118,7 +118,7 @@ void RealConditions::installInto(int type, const QByteArray &payload)
     m_computer->addSimulator(m_det);
 }
 
-QString RealConditions::cannotCopy() const
+QString TestRealConditions::cannotCopy() const
 {
     return QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have permission to "
                           "folder '%3/'.\r\n")
@@ -128,7 +128,7 @@ QString RealConditions::cannotCopy() const
 }
 
 // Reading and writing it are told of together, and have no line end.
-QString RealConditions::cannotRecord(const QString &dataRoot) const
+QString TestRealConditions::cannotRecord(const QString &dataRoot) const
 {
     return QStringLiteral("The file '%1' is empty. Quillmont Orbwell installer was not able to "
                           "change your configuration.Unable to write configuration to file '%1'. "
@@ -136,25 +136,25 @@ QString RealConditions::cannotRecord(const QString &dataRoot) const
         .arg(dataRoot + QLatin1String("//Quillmont/Orbwell/.mapping"));
 }
 
-QString RealConditions::cannotInstall(const QString &lines) const
+QString TestRealConditions::cannotInstall(const QString &lines) const
 {
     return QStringLiteral("Uninstall: Quillmont Orbwell was not able to uninstall your Orbwell "
                           "plugin from Det.\r\n\r\nPlease see the list below for details:\r\n\r\n")
         + lines;
 }
 
-QString RealConditions::configuration() const
+QString TestRealConditions::configuration() const
 {
     return m_computer->absolute(m_computer->configuration(m_det));
 }
 
-void RealConditions::forbid(const QString &folder)
+void TestRealConditions::forbid(const QString &folder)
 {
     QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
 }
 
 // Root may write anywhere; the program gets another user then.
-void RealConditions::becomeAUser()
+void TestRealConditions::becomeAUser()
 {
     m_user.reset(new Unprivileged(m_computer->absolute(QString()).chopped(1)));
     const uid_t user = geteuid();
@@ -164,7 +164,7 @@ void RealConditions::becomeAUser()
     });
 }
 
-void RealConditions::limitFiles(rlim_t size)
+void TestRealConditions::limitFiles(rlim_t size)
 {
     m_computer->program().prepare([size] {
         const struct rlimit limit = {size, size};
@@ -173,13 +173,13 @@ void RealConditions::limitFiles(rlim_t size)
     });
 }
 
-bool RealConditions::makeImmutable(const QString &path)
+bool TestRealConditions::makeImmutable(const QString &path)
 {
     m_immutable.append(path);
     return setImmutable(path, true);
 }
 
-void RealConditions::namesAFolderThatIsNotTheUsers()
+void TestRealConditions::namesAFolderThatIsNotTheUsers()
 {
     installInto(1, "module");
     becomeAUser();
@@ -192,7 +192,7 @@ void RealConditions::namesAFolderThatIsNotTheUsers()
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void RealConditions::leavesAConfigurationThatIsNotTheUsers()
+void TestRealConditions::leavesAConfigurationThatIsNotTheUsers()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -207,7 +207,7 @@ void RealConditions::leavesAConfigurationThatIsNotTheUsers()
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void RealConditions::worksWithoutADataFolder_data()
+void TestRealConditions::worksWithoutADataFolder_data()
 {
     QTest::addColumn<QString>("home");
     QTest::newRow("a home that may only be read") << QStringLiteral("closed");
@@ -215,7 +215,7 @@ void RealConditions::worksWithoutADataFolder_data()
 }
 
 // The plugin gets in all the same.
-void RealConditions::worksWithoutADataFolder()
+void TestRealConditions::worksWithoutADataFolder()
 {
     QFETCH(const QString, home);
     installInto(1, "module");
@@ -232,7 +232,7 @@ void RealConditions::worksWithoutADataFolder()
     QCOMPARE(treeOf(m_computer->absolute(QStringLiteral("home"))), (QMap<QString, QByteArray>()));
 }
 
-void RealConditions::opensItsWindowWithoutADataFolder()
+void TestRealConditions::opensItsWindowWithoutADataFolder()
 {
     installInto(1, "module");
     becomeAUser();
@@ -243,7 +243,7 @@ void RealConditions::opensItsWindowWithoutADataFolder()
     QVERIFY(!QFileInfo::exists(QStringLiteral("/nobody's")));
 }
 
-void RealConditions::namesWhatASmallDiskDoesNotTake()
+void TestRealConditions::namesWhatASmallDiskDoesNotTake()
 {
     if (!m_mounts->addDisk(m_computer->folder(m_det), 100))
         QSKIP(noMount);
@@ -254,7 +254,7 @@ void RealConditions::namesWhatASmallDiskDoesNotTake()
              QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
 }
 
-void RealConditions::leavesAConfigurationOnAFullDisk()
+void TestRealConditions::leavesAConfigurationOnAFullDisk()
 {
     const QString folder = QFileInfo(configuration()).path();
     if (!m_mounts->addDisk(folder, 100))
@@ -271,7 +271,7 @@ void RealConditions::leavesAConfigurationOnAFullDisk()
     QCOMPARE(readFile(place()), QByteArray("module"));
 }
 
-void RealConditions::namesWhatIsOverTheLimit()
+void TestRealConditions::namesWhatIsOverTheLimit()
 {
     installInto(1, QByteArray(200 * 1024, 'x'));
     limitFiles(100000);
@@ -282,7 +282,7 @@ void RealConditions::namesWhatIsOverTheLimit()
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void RealConditions::leavesAConfigurationOverTheLimit()
+void TestRealConditions::leavesAConfigurationOverTheLimit()
 {
     installInto(0, "module");
     const QByteArray content
@@ -295,7 +295,7 @@ void RealConditions::leavesAConfigurationOverTheLimit()
              (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), content}}));
 }
 
-void RealConditions::namesAReadOnlyDisk()
+void TestRealConditions::namesAReadOnlyDisk()
 {
     installInto(1, "module");
     if (!m_mounts->protect(m_computer->folder(m_det)))
@@ -306,7 +306,7 @@ void RealConditions::namesAReadOnlyDisk()
     QCOMPARE(treeOf(m_computer->folder(m_det)), before);
 }
 
-void RealConditions::worksWithAReadOnlyDataFolder()
+void TestRealConditions::worksWithAReadOnlyDataFolder()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -320,7 +320,7 @@ void RealConditions::worksWithAReadOnlyDataFolder()
     QCOMPARE(readFile(place()), QByteArray("module"));
 }
 
-void RealConditions::leavesAnImmutableConfiguration()
+void TestRealConditions::leavesAnImmutableConfiguration()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -338,7 +338,7 @@ void RealConditions::leavesAnImmutableConfiguration()
     QVERIFY(files.size() > 1);
 }
 
-void RealConditions::namesAnImmutablePluginFile()
+void TestRealConditions::namesAnImmutablePluginFile()
 {
     QJsonObject entry = m_computer->entry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -357,7 +357,7 @@ void RealConditions::namesAnImmutablePluginFile()
 }
 
 // Nothing can be renamed over it.
-void RealConditions::leavesAConfigurationThatIsAMountPoint()
+void TestRealConditions::leavesAConfigurationThatIsAMountPoint()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -371,7 +371,7 @@ void RealConditions::leavesAConfigurationThatIsAMountPoint()
              QStringList());
 }
 
-void RealConditions::namesAPluginFileThatIsAMountPoint()
+void TestRealConditions::namesAPluginFileThatIsAMountPoint()
 {
     installInto(1, "module");
     writeFile(place(), "old");
@@ -383,7 +383,7 @@ void RealConditions::namesAPluginFileThatIsAMountPoint()
     QCOMPARE(readFile(place()), QByteArray("precious"));
 }
 
-void RealConditions::endsWithoutAScreen_data()
+void TestRealConditions::endsWithoutAScreen_data()
 {
     QTest::addColumn<QString>("platform");
     QTest::addColumn<QStringList>("arguments");
@@ -395,7 +395,7 @@ void RealConditions::endsWithoutAScreen_data()
 }
 
 // It says so, and touches nothing.
-void RealConditions::endsWithoutAScreen()
+void TestRealConditions::endsWithoutAScreen()
 {
     QFETCH(const QString, platform);
     QFETCH(const QStringList, arguments);
@@ -418,7 +418,7 @@ int main(int argc, char *argv[])
 {
     Mounts::separate();
     QCoreApplication application(argc, argv);
-    RealConditions test;
+    TestRealConditions test;
     return QTest::qExec(&test, argc, argv);
 }
 

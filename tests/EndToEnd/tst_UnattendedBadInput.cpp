@@ -10,7 +10,7 @@
 using namespace Tests;
 
 // Records and configuration files that somebody damaged, or that became something else.
-class UnattendedBadInput : public QObject
+class TestUnattendedBadInput : public QObject
 {
     Q_OBJECT
 
@@ -46,24 +46,24 @@ static QStringList one(const char *argument)
     return {QLatin1String(argument)};
 }
 
-void UnattendedBadInput::init()
+void TestUnattendedBadInput::init()
 {
     m_computer.reset(new Computer);
     m_computer->setCatalogue({m_computer->hiddenEntry(m_rec, 1)});
 }
 
-void UnattendedBadInput::cleanup()
+void TestUnattendedBadInput::cleanup()
 {
     m_computer.reset();
 }
 
-QString UnattendedBadInput::file(const QString &simulator) const
+QString TestUnattendedBadInput::file(const QString &simulator) const
 {
     return m_computer->folder(simulator) + QLatin1String("/Resources/plugins/Orbwell/about.txt");
 }
 
 // Says of "Rec" that it lies in the folder.
-QJsonObject UnattendedBadInput::recordIn(const QString &folder) const
+QJsonObject TestUnattendedBadInput::recordIn(const QString &folder) const
 {
     QJsonObject record = m_computer->recordFor(m_computer->entry(folder, 1));
     record.insert(QStringLiteral("name"), m_rec);
@@ -71,7 +71,7 @@ QJsonObject UnattendedBadInput::recordIn(const QString &folder) const
 }
 
 // The first counts in the next run.
-void UnattendedBadInput::takesTheLastOfTwoRecords()
+void TestUnattendedBadInput::takesTheLastOfTwoRecords()
 {
     const QString a = QStringLiteral("A");
     const QString b = QStringLiteral("B");
@@ -90,7 +90,7 @@ void UnattendedBadInput::takesTheLastOfTwoRecords()
 }
 
 // And takes out the last, whichever counted.
-void UnattendedBadInput::takesTheRecordWhoseFilesAreThere()
+void TestUnattendedBadInput::takesTheRecordWhoseFilesAreThere()
 {
     const QString a = QStringLiteral("A");
     m_computer->addPlugin(a, 1);
@@ -100,7 +100,7 @@ void UnattendedBadInput::takesTheRecordWhoseFilesAreThere()
     QCOMPARE(m_computer->records(), QJsonArray{recordIn(a)});
 }
 
-void UnattendedBadInput::keepsForeignRecords()
+void TestUnattendedBadInput::keepsForeignRecords()
 {
     const QJsonArray foreign{5,
                              QStringLiteral("text"),
@@ -120,7 +120,7 @@ void UnattendedBadInput::keepsForeignRecords()
     QCOMPARE(m_computer->records(), foreign);
 }
 
-void UnattendedBadInput::ignoresRecordsOfWrongTypes_data()
+void TestUnattendedBadInput::ignoresRecordsOfWrongTypes_data()
 {
     QTest::addColumn<QByteArray>("record");
     QTest::newRow("a name that is a number")
@@ -137,7 +137,7 @@ void UnattendedBadInput::ignoresRecordsOfWrongTypes_data()
         << QByteArray(R"({"name": "Rec", "path": "%", "files": [""]})");
 }
 
-void UnattendedBadInput::ignoresRecordsOfWrongTypes()
+void TestUnattendedBadInput::ignoresRecordsOfWrongTypes()
 {
     QFETCH(QByteArray, record);
     m_computer->addPlugin(m_rec, 1);
@@ -156,7 +156,7 @@ void UnattendedBadInput::ignoresRecordsOfWrongTypes()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedBadInput::startsAnUnreadableRecordAnew_data()
+void TestUnattendedBadInput::startsAnUnreadableRecordAnew_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("cut off") << QByteArray(R"([{"name": "Rec", )");
@@ -165,7 +165,7 @@ void UnattendedBadInput::startsAnUnreadableRecordAnew_data()
     QTest::newRow("blank") << QByteArray("\n");
 }
 
-void UnattendedBadInput::startsAnUnreadableRecordAnew()
+void TestUnattendedBadInput::startsAnUnreadableRecordAnew()
 {
     QFETCH(const QByteArray, content);
     const QJsonObject entry = m_computer->entry(m_det, 1);
@@ -180,7 +180,7 @@ void UnattendedBadInput::startsAnUnreadableRecordAnew()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedBadInput::sparesAFileInPlaceOfTheFolder()
+void TestUnattendedBadInput::sparesAFileInPlaceOfTheFolder()
 {
     m_computer->write(QStringLiteral("sims/Rec"), "precious");
     const QJsonObject record{{QStringLiteral("name"), m_rec},
@@ -196,7 +196,7 @@ void UnattendedBadInput::sparesAFileInPlaceOfTheFolder()
 }
 
 // Both messages speak of the file and have no line end; the plugin gets installed all the same.
-void UnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
+void TestUnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
 {
     m_computer->setCatalogue({m_computer->entry(m_det, 1)});
     m_computer->addSimulator(m_det);
@@ -218,7 +218,7 @@ void UnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
     QVERIFY(QFileInfo(m_computer->absolute(record)).isDir());
 }
 
-void UnattendedBadInput::leavesAMalformedConfigurationAlone_data()
+void TestUnattendedBadInput::leavesAMalformedConfigurationAlone_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("cut off") << othersConfiguration().chopped(10);
@@ -228,7 +228,7 @@ void UnattendedBadInput::leavesAMalformedConfigurationAlone_data()
     QTest::newRow("an unescaped ampersand") << othersConfiguration().replace("Somebody's", "A & B");
 }
 
-void UnattendedBadInput::leavesAMalformedConfigurationAlone()
+void TestUnattendedBadInput::leavesAMalformedConfigurationAlone()
 {
     QFETCH(const QByteArray, content);
     const QJsonObject entry = m_computer->entry(m_det, 0);
@@ -249,7 +249,7 @@ void UnattendedBadInput::leavesAMalformedConfigurationAlone()
 }
 
 // Whether it can be changed depends on who asks; nobody else's line may get lost.
-void UnattendedBadInput::worksWithAReadOnlyConfiguration()
+void TestUnattendedBadInput::worksWithAReadOnlyConfiguration()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
@@ -273,7 +273,7 @@ void UnattendedBadInput::worksWithAReadOnlyConfiguration()
              QFileInfo(path).dir().entryList(QDir::Files | QDir::Hidden).mid(1));
 }
 
-void UnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()
+void TestUnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
@@ -286,5 +286,5 @@ void UnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-QTEST_GUILESS_MAIN(UnattendedBadInput)
+QTEST_GUILESS_MAIN(TestUnattendedBadInput)
 #include "tst_UnattendedBadInput.moc"

@@ -11,7 +11,7 @@
 using namespace Tests;
 
 // What a run says, and how it ends, when something fails or there is nothing to do.
-class UnattendedFailures : public QObject
+class TestUnattendedFailures : public QObject
 {
     Q_OBJECT
 
@@ -54,24 +54,24 @@ static QString updated(const char *lines)
         .arg(QLatin1String(lines));
 }
 
-void UnattendedFailures::init()
+void TestUnattendedFailures::init()
 {
     m_computer.reset(new Computer);
 }
 
-void UnattendedFailures::cleanup()
+void TestUnattendedFailures::cleanup()
 {
     m_computer.reset();
 }
 
-QString UnattendedFailures::cannotRemove(const QString &simulator, const QString &lines) const
+QString TestUnattendedFailures::cannotRemove(const QString &simulator, const QString &lines) const
 {
     return QStringLiteral("Uninstall: Quillmont Orbwell was not able to uninstall your Orbwell "
                           "plugin from %1.\r\n\r\nPlease see the list below for details:\r\n\r\n%2")
         .arg(simulator, lines);
 }
 
-void UnattendedFailures::doesNothingWithoutACatalogue_data()
+void TestUnattendedFailures::doesNothingWithoutACatalogue_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -82,7 +82,7 @@ void UnattendedFailures::doesNothingWithoutACatalogue_data()
 }
 
 // Only an installation says where the program is.
-void UnattendedFailures::doesNothingWithoutACatalogue()
+void TestUnattendedFailures::doesNothingWithoutACatalogue()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -101,7 +101,7 @@ void UnattendedFailures::doesNothingWithoutACatalogue()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
+void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<bool>("emptyCatalogue");
@@ -123,7 +123,7 @@ void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
     QTest::newRow("uninstall") << words("--UNINSTALL") << false << 0 << QStringList();
 }
 
-void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
+void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const bool, emptyCatalogue);
@@ -139,7 +139,7 @@ void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedFailures::namesAFileThatCannotBeRemoved_data()
+void TestUnattendedFailures::namesAFileThatCannotBeRemoved_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("summary");
@@ -149,7 +149,7 @@ void UnattendedFailures::namesAFileThatCannotBeRemoved_data()
 
 // In the place of the file stands a folder with something in it. It stays; the other simulator
 // is done as ever.
-void UnattendedFailures::namesAFileThatCannotBeRemoved()
+void TestUnattendedFailures::namesAFileThatCannotBeRemoved()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, summary);
@@ -177,7 +177,7 @@ void UnattendedFailures::namesAFileThatCannotBeRemoved()
 }
 
 // Two looks at the computer try to install as well and complain on the way.
-void UnattendedFailures::saysThatASimulatorIsNotUpdated()
+void TestUnattendedFailures::saysThatASimulatorIsNotUpdated()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
@@ -201,7 +201,7 @@ void UnattendedFailures::saysThatASimulatorIsNotUpdated()
 
 // The plugin is in a simulator that the record alone knows, so that nothing but the installation
 // itself can fail. Answers what it complains about.
-QString UnattendedFailures::installWithoutPayload() const
+QString TestUnattendedFailures::installWithoutPayload() const
 {
     const QString source
         = m_computer->program().folder() + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll");
@@ -212,7 +212,7 @@ QString UnattendedFailures::installWithoutPayload() const
         .arg(source, m_computer->folder(m_rec) + m_module, m_computer->folder(m_rec));
 }
 
-void UnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
+void TestUnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
 {
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
     m_computer->setCatalogue({rec});
@@ -224,7 +224,7 @@ void UnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
 }
 
 // The lines of one installation come up with the next removal, which so fails as well.
-void UnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
+void TestUnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
 {
     const QString other = QStringLiteral("Other");
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
@@ -239,7 +239,7 @@ void UnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
              QStringList({cannotRemove(other, line), updated("Rec: Not updated\nOther: Updated")}));
 }
 
-void UnattendedFailures::failsTheRunForOneSimulatorOfTwo()
+void TestUnattendedFailures::failsTheRunForOneSimulatorOfTwo()
 {
     const QString other = QStringLiteral("Other");
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
@@ -257,7 +257,7 @@ void UnattendedFailures::failsTheRunForOneSimulatorOfTwo()
 }
 
 // Nobody may write there, not even an administrator.
-QString UnattendedFailures::unwritableFolder() const
+QString TestUnattendedFailures::unwritableFolder() const
 {
     if (::geteuid() == 0)
         return QStringLiteral("/proc");
@@ -267,7 +267,7 @@ QString UnattendedFailures::unwritableFolder() const
     return folder;
 }
 
-void UnattendedFailures::namesAFolderThatCannotBeWritten()
+void TestUnattendedFailures::namesAFolderThatCannotBeWritten()
 {
     const QString folder = unwritableFolder();
     if (!QFileInfo::exists(folder))
@@ -287,5 +287,5 @@ void UnattendedFailures::namesAFolderThatCannotBeWritten()
     QCOMPARE(m_computer->said().constLast(), updated("Det: Not updated"));
 }
 
-QTEST_GUILESS_MAIN(UnattendedFailures)
+QTEST_GUILESS_MAIN(TestUnattendedFailures)
 #include "tst_UnattendedFailures.moc"

@@ -22,7 +22,7 @@ using namespace Quillmont::SimDetect;
 using namespace Tests;
 
 /// Whatever lies on the disk, the answer comes soon and is never a wrong one.
-class tst_Robustness : public QObject
+class TestRobustness : public QObject
 {
     Q_OBJECT
 
@@ -116,14 +116,14 @@ QByteArray damaged(const QByteArray &content, QRandomGenerator &random)
 
 } // namespace
 
-void tst_Robustness::findsNothingInRandomBytes_data()
+void TestRobustness::findsNothingInRandomBytes_data()
 {
     QTest::addColumn<int>("system");
     QTest::newRow("Linux") << int(Environment::Linux);
     QTest::newRow("macOS") << int(Environment::MacOS);
 }
 
-void tst_Robustness::findsNothingInRandomBytes()
+void TestRobustness::findsNothingInRandomBytes()
 {
     QFETCH(int, system);
     DescribedComputer computer(static_cast<Environment::System>(system));
@@ -138,7 +138,7 @@ void tst_Robustness::findsNothingInRandomBytes()
     }
 }
 
-void tst_Robustness::survivesDamagedFiles()
+void TestRobustness::survivesDamagedFiles()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
@@ -160,7 +160,7 @@ void tst_Robustness::survivesDamagedFiles()
     QCOMPARE(computer.detect().split(u'\n'), found);
 }
 
-void tst_Robustness::answersSoonWhateverIsThere_data()
+void TestRobustness::answersSoonWhateverIsThere_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::newRow("pipes") << Maker(
@@ -189,7 +189,7 @@ void tst_Robustness::answersSoonWhateverIsThere_data()
     row("1 MiB of elements", "<plist><dict>" + QByteArray("<dict>").repeated(most / 6 - 10));
 }
 
-void tst_Robustness::answersSoonWhateverIsThere()
+void TestRobustness::answersSoonWhateverIsThere()
 {
     QFETCH(Maker, make);
     DescribedComputer computer(Environment::Linux);
@@ -203,7 +203,7 @@ void tst_Robustness::answersSoonWhateverIsThere()
     QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
 }
 
-void tst_Robustness::answersSoonWithAllOfItAtOnce()
+void TestRobustness::answersSoonWithAllOfItAtOnce()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
@@ -236,7 +236,7 @@ void tst_Robustness::answersSoonWithAllOfItAtOnce()
     QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
+void TestRobustness::looksAtNoMoreFoldersThanMakeSense()
 {
     DescribedComputer computer(Environment::Linux);
     QByteArray lines;
@@ -251,7 +251,7 @@ void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
 }
 
 // Each of a tolerable size, and with nothing wrong up to the last brace.
-void tst_Robustness::readsNoMoreThanMakesSense()
+void TestRobustness::readsNoMoreThanMakesSense()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral("xplane $R/sims/X-Plane 12\n"
@@ -276,7 +276,7 @@ void tst_Robustness::readsNoMoreThanMakesSense()
     QVERIFY2(computer.duration() < 15000, qPrintable(QString::number(computer.duration())));
 }
 
-void tst_Robustness::opensNoFileTwice()
+void TestRobustness::opensNoFileTwice()
 {
 #ifdef Q_OS_LINUX
     DescribedComputer computer(Environment::Linux);
@@ -306,7 +306,7 @@ void tst_Robustness::opensNoFileTwice()
 #endif
 }
 
-void tst_Robustness::saysThatAFolderIsClosed()
+void TestRobustness::saysThatAFolderIsClosed()
 {
     if (geteuid() == 0)
         QSKIP("Nothing is closed to root.");
@@ -325,5 +325,5 @@ void tst_Robustness::saysThatAFolderIsClosed()
                  QStringLiteral("XP12 not taken: $R/closed: no permission to look inside"))});
 }
 
-QTEST_GUILESS_MAIN(tst_Robustness)
+QTEST_GUILESS_MAIN(TestRobustness)
 #include "tst_Robustness.moc"

@@ -73,7 +73,7 @@ void writePayload(const Workshop &shop)
 
 } // namespace
 
-class InstallationTest : public QObject
+class TestInstallation : public QObject
 {
     Q_OBJECT
 
@@ -619,5 +619,5 @@ private:
     }
 };
 
-QTEST_MAIN(InstallationTest)
+QTEST_MAIN(TestInstallation)
 #include "tst_Installation.moc"

@@ -21,7 +21,7 @@ const char *const simulator = R"({"name": "Sim A", "files": [
 
 } // namespace
 
-class InstallationRecordTest : public QObject
+class TestInstallationRecord : public QObject
 {
     Q_OBJECT
 
@@ -377,5 +377,5 @@ private:
     }
 };
 
-QTEST_MAIN(InstallationRecordTest)
+QTEST_MAIN(TestInstallationRecord)
 #include "tst_InstallationRecord.moc"

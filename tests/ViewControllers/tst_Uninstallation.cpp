@@ -61,7 +61,7 @@ void writePlugin(const Workshop &shop)
 
 } // namespace
 
-class UninstallationTest : public QObject
+class TestUninstallation : public QObject
 {
     Q_OBJECT
 
@@ -614,5 +614,5 @@ private:
     }
 };
 
-QTEST_MAIN(UninstallationTest)
+QTEST_MAIN(TestUninstallation)
 #include "tst_Uninstallation.moc"
