@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_PATIENT_H
-#define ENDTOEND_PATIENT_H
+#ifndef TESTS_ENDTOEND_PATIENT_H
+#define TESTS_ENDTOEND_PATIENT_H
 
 #include "tests/EndToEnd/Computer.h"
 

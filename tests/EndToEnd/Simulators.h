@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_SIMULATORS_H
-#define ENDTOEND_SIMULATORS_H
+#ifndef TESTS_ENDTOEND_SIMULATORS_H
+#define TESTS_ENDTOEND_SIMULATORS_H
 
 #include <QByteArray>
 #include <QJsonArray>
