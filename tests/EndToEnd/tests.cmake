@@ -43,7 +43,7 @@ orbwell_add_test(EndToEnd/RealConditions
   ViewControllers/Unprivileged.cpp ViewControllers/Unprivileged.h)
 target_link_libraries(tst_RealConditions PRIVATE orbwell-computer)
 orbwell_add_test(EndToEnd/Faults
-  EndToEnd/Patient.cpp EndToEnd/Patient.h
+  EndToEnd/DisturbedComputer.cpp EndToEnd/DisturbedComputer.h
   EndToEnd/Tracer.cpp EndToEnd/Tracer.h)
 target_link_libraries(tst_Faults PRIVATE orbwell-computer)
 target_compile_definitions(tst_Faults PRIVATE SANITIZERS="${ORBWELL_SANITIZE}")
