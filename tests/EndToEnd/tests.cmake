@@ -39,8 +39,7 @@ if(NOT APPLE)
   target_link_libraries(tst_ScreenReader PRIVATE orbwell-simulators)
 endif()
 orbwell_add_test(EndToEnd/RealConditions
-  EndToEnd/Mounts.cpp EndToEnd/Mounts.h
-  ViewControllers/Unprivileged.cpp ViewControllers/Unprivileged.h)
+  EndToEnd/Mounts.cpp EndToEnd/Mounts.h)
 target_link_libraries(tst_RealConditions PRIVATE orbwell-computer)
 orbwell_add_test(EndToEnd/Faults
   EndToEnd/DisturbedComputer.cpp EndToEnd/DisturbedComputer.h

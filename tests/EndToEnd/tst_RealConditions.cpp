@@ -1,8 +1,8 @@
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/Mounts.h"
 #include "tests/EndToEnd/Simulators.h"
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/support/Files.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QFileInfo>

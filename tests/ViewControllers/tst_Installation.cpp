@@ -1,5 +1,5 @@
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Unprivileged.h"
 
 #include "Controllers/ConfigurationController.h"
 #include "Library/Helpers/XmlHelper.h"

@@ -1,6 +1,6 @@
 #include "tests/Models/LookedUpPaths.h"
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDateTime>
 #include <QDir>
