@@ -67,7 +67,7 @@ QStringList TestActionLog::run(const QStringList &arguments, int boxes)
 
 void TestActionLog::tellsAnInstallation()
 {
-    const QStringList lines = run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    const QStringList lines = run(quietInstallation());
     QVERIFY(lines.first().startsWith(QLatin1String("start of version ")));
     QVERIFY(lines.first().endsWith(QLatin1String(" in ModeInstall")));
     QCOMPARE(lines.mid(1).join(u'\n'), QStringLiteral(R"(catalogue "$PROGRAM/flightsims.json" read
@@ -93,7 +93,7 @@ end with status 2)"));
 
 void TestActionLog::tellsARemoval()
 {
-    run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    run(quietInstallation());
     const QStringList lines = run({QStringLiteral("--UNINSTALL")});
     QVERIFY(lines.first().endsWith(QLatin1String(" in ModeUninstall")));
     const QString plugin = QStringLiteral("$ROOT/Skylark/Gauges");
@@ -132,7 +132,7 @@ void TestActionLog::tellsWhyAFileWasNotRemoved()
 void TestActionLog::tellsOfAConfigurationThatIsLeftAlone()
 {
     writeFile(m_sandbox->dataRoot() + QStringLiteral("Maker/dll.xml"), "not XML, and secret");
-    const QStringList lines = run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    const QStringList lines = run(quietInstallation());
     QVERIFY(lines.contains(QStringLiteral("entry not added to: \"$DATA/Maker/dll.xml\"")));
     QVERIFY(!m_program->standardError().contains("secret"));
 }
@@ -148,7 +148,7 @@ void TestActionLog::tellsThatThereIsNoCatalogue()
 void TestActionLog::canBeTurnedOff()
 {
     m_program->setVariable("QT_LOGGING_RULES", QStringLiteral("orbwell.debug=false"));
-    QCOMPARE(run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), QStringList());
+    QCOMPARE(run(quietInstallation()), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestActionLog)

@@ -1,4 +1,5 @@
 #include "tests/EndToEnd/DisturbedComputer.h"
+#include "tests/EndToEnd/Simulators.h"
 #include "tests/EndToEnd/Tracer.h"
 
 #include <QtTest>
@@ -54,11 +55,6 @@ private:
     int m_fellShort = 0;
 };
 
-static QStringList words(const char *text)
-{
-    return QString::fromLatin1(text).split(u' ');
-}
-
 static bool isLook(const SystemCall &call)
 {
     static const QStringList names = words("access getdents64 newfstatat read readlink statx");
@@ -97,7 +93,7 @@ void TestFaults::addRuns()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("beginning");
-    QTest::newRow("install") << words("--INSTALL 1") << int(DisturbedComputer::PartlyInstalled);
+    QTest::newRow("install") << quietInstallation() << int(DisturbedComputer::PartlyInstalled);
     QTest::newRow("repair") << words("--REPAIR") << int(DisturbedComputer::Installed);
     QTest::newRow("uninstall") << words("--UNINSTALL") << int(DisturbedComputer::Installed);
     QTest::newRow("uninstall by record")

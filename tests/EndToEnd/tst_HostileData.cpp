@@ -42,6 +42,8 @@ private slots:
     void worksInAFolderOfAnyName();
 
 private:
+    void putAt(const QString &dataPath, const Maker &make) const;
+
     QJsonObject entry() const { return m_computer->entry(m_det, 0); }
 
     QString place() const { return m_computer->folder(m_det) + m_module; }
@@ -88,56 +90,67 @@ void TestHostileData::cleanup()
     m_computer.reset();
 }
 
+// In place of whatever is there.
+void TestHostileData::putAt(const QString &dataPath, const Maker &make) const
+{
+    const QString path = m_computer->absolute(m_computer->data(dataPath));
+    QDir().mkpath(QFileInfo(path).path());
+    QDir(path).removeRecursively();
+    QFile::remove(path);
+    make(path);
+}
+
+static void makePipe(const QString &path)
+{
+    mkfifo(QFile::encodeName(path).constData(), 0600);
+}
+
+static void makeFolder(const QString &path)
+{
+    QDir().mkpath(path + QLatin1String("/in"));
+}
+
+static void linkToItself(const QString &path)
+{
+    QFile::link(path, path);
+}
+
+static Maker linkTo(const char *target)
+{
+    return [target](const QString &path) {
+        QFile::link(QLatin1String(target), path);
+    };
+}
+
+static void makeGigabyte(const QString &path)
+{
+    writeFile(path, "[");
+    QFile::resize(path, 1024LL * 1024 * 1024);
+}
+
+static Maker repeated(const QByteArray &piece, int times)
+{
+    return [piece, times](const QString &path) {
+        writeFile(path, piece.repeated(times));
+    };
+}
+
 static void addPlaces(const QStringList &places)
 {
     QTest::addColumn<QString>("place");
     QTest::addColumn<Maker>("make");
     const QVector<QPair<const char *, Maker>> makers{
-        {"a pipe",
-         [](const QString &path) {
-             mkfifo(QFile::encodeName(path).constData(), 0600);
-         }},
-        {"a folder",
-         [](const QString &path) {
-             QDir().mkpath(path + QLatin1String("/in"));
-         }},
-        {"a link to itself",
-         [](const QString &path) {
-             QFile::link(path, path);
-         }},
-        {"a link to nowhere",
-         [](const QString &path) {
-             QFile::link(QStringLiteral("/nowhere/at/all"), path);
-         }},
-        {"an endless device",
-         [](const QString &path) {
-             QFile::link(QStringLiteral("/dev/zero"), path);
-         }},
-        {"a full device",
-         [](const QString &path) {
-             QFile::link(QStringLiteral("/dev/full"), path);
-         }},
-        {"a gigabyte",
-         [](const QString &path) {
-             writeFile(path, "[");
-             QFile::resize(path, 1024LL * 1024 * 1024);
-         }},
-        {"deep nesting",
-         [](const QString &path) {
-             writeFile(path, QByteArray(5000000, '['));
-         }},
-        {"deep elements",
-         [](const QString &path) {
-             writeFile(path, QByteArray("<a>").repeated(2000000));
-         }},
-        {"one line",
-         [](const QString &path) {
-             writeFile(path, QByteArray(5000000, '='));
-         }},
-        {"zeros",
-         [](const QString &path) {
-             writeFile(path, QByteArray(5000000, '\0'));
-         }},
+        {"a pipe", makePipe},
+        {"a folder", makeFolder},
+        {"a link to itself", linkToItself},
+        {"a link to nowhere", linkTo("/nowhere/at/all")},
+        {"an endless device", linkTo("/dev/zero")},
+        {"a full device", linkTo("/dev/full")},
+        {"a gigabyte", makeGigabyte},
+        {"deep nesting", repeated("[", 5000000)},
+        {"deep elements", repeated("<a>", 2000000)},
+        {"one line", repeated("=", 5000000)},
+        {"zeros", repeated(QByteArray(1, '\0'), 5000000)},
     };
     for (const QString &place : places) {
         for (const auto &[name, make] : makers)
@@ -160,11 +173,7 @@ void TestHostileData::endsWhateverIsThere()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
-    const QString path = m_computer->absolute(m_computer->data(place));
-    QDir().mkpath(QFileInfo(path).path());
-    QDir(path).removeRecursively();
-    QFile::remove(path);
-    make(path);
+    putAt(place, make);
 
     QElapsedTimer sinceStart;
     sinceStart.start();
@@ -185,11 +194,7 @@ void TestHostileData::showsItsWindowWhateverIsThere()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
-    const QString path = m_computer->absolute(m_computer->data(place));
-    QDir().mkpath(QFileInfo(path).path());
-    QDir(path).removeRecursively();
-    QFile::remove(path);
-    make(path);
+    putAt(place, make);
 
     m_computer->program().start();
     m_computer->program().window();
@@ -247,12 +252,9 @@ void TestHostileData::staysInsideTheSimulator_data()
         QFile::link(QFileInfo(path + QLatin1String("/../../../../precious/new")).absoluteFilePath(),
                     path);
     });
-    QTest::newRow("a link to itself")
-        << Maker([](const QString &path) { QFile::link(path, path); });
-    QTest::newRow("a pipe") << Maker(
-        [](const QString &path) { mkfifo(QFile::encodeName(path).constData(), 0600); });
-    QTest::newRow("a device") << Maker(
-        [](const QString &path) { QFile::link(QStringLiteral("/dev/full"), path); });
+    QTest::newRow("a link to itself") << Maker(linkToItself);
+    QTest::newRow("a pipe") << Maker(makePipe);
+    QTest::newRow("a device") << linkTo("/dev/full");
     QTest::newRow("a folder") << Maker(
         [](const QString &path) { writeFile(path + QLatin1String("/in"), "in"); });
     QTest::newRow("a link to a folder") << Maker([](const QString &path) {

@@ -69,8 +69,6 @@ private:
     QScopedPointer<Unprivileged> m_user;
 };
 
-static const QStringList quietInstall{QStringLiteral("--INSTALL"), QStringLiteral("1")};
-
 static const char *const noMount = "needs the right to mount something";
 
 static bool setImmutable(const QString &path, bool on)
@@ -185,7 +183,7 @@ void TestRealConditions::namesAFolderThatIsNotTheUsers()
     becomeAUser();
     const QString gauges = m_computer->folder(m_det) + QLatin1String("/Gauges");
     forbid(gauges);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(QDir(gauges).entryList(QDir::Files | QDir::Hidden),
              QStringList(QStringLiteral("other.dll")));
@@ -199,7 +197,7 @@ void TestRealConditions::leavesAConfigurationThatIsNotTheUsers()
     becomeAUser();
     QVERIFY(QFile::setPermissions(configuration(), QFile::ReadOwner));
     forbid(QFileInfo(configuration()).path());
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(treeOf(QFileInfo(configuration()).path()),
              (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), othersConfiguration()}}));
@@ -224,7 +222,7 @@ void TestRealConditions::worksWithoutADataFolder()
     becomeAUser();
     forbid(closed);
     m_computer->program().setVariable("HOME", m_computer->absolute(home));
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     const QString dataRoot = m_computer->absolute(home) + QLatin1String("/.local/share");
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotRecord(dataRoot))));
     QCOMPARE(readFile(place()), QByteArray("module"));
@@ -248,7 +246,7 @@ void TestRealConditions::namesWhatASmallDiskDoesNotTake()
     if (!m_mounts->addDisk(m_computer->folder(m_det), 100))
         QSKIP(noMount);
     installInto(1, QByteArray(200 * 1024, 'x'));
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
              QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
@@ -263,7 +261,7 @@ void TestRealConditions::leavesAConfigurationOnAFullDisk()
     const QByteArray content
         = othersConfiguration() + "<!--" + QByteArray(70 * 1024, 'x') + "-->\r\n";
     writeFile(configuration(), content);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), content);
     QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden),
@@ -275,7 +273,7 @@ void TestRealConditions::namesWhatIsOverTheLimit()
 {
     installInto(1, QByteArray(200 * 1024, 'x'));
     limitFiles(100000);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
              QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
@@ -289,7 +287,7 @@ void TestRealConditions::leavesAConfigurationOverTheLimit()
         = othersConfiguration() + "<!--" + QByteArray(200 * 1024, 'x') + "-->\r\n";
     m_computer->write(m_computer->configuration(m_det), content);
     limitFiles(100000);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(treeOf(QFileInfo(configuration()).path()),
              (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), content}}));
@@ -301,7 +299,7 @@ void TestRealConditions::namesAReadOnlyDisk()
     if (!m_mounts->protect(m_computer->folder(m_det)))
         QSKIP(noMount);
     const Disk before = treeOf(m_computer->folder(m_det));
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)), before);
 }
@@ -314,7 +312,7 @@ void TestRealConditions::worksWithAReadOnlyDataFolder()
     if (!m_mounts->protect(dataRoot))
         QSKIP(noMount);
     const Disk before = treeOf(dataRoot);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotRecord(dataRoot))));
     QCOMPARE(treeOf(dataRoot), before);
     QCOMPARE(readFile(place()), QByteArray("module"));
@@ -326,7 +324,7 @@ void TestRealConditions::leavesAnImmutableConfiguration()
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
     if (!makeImmutable(configuration()))
         QSKIP("needs root and a file system with immutable files");
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), othersConfiguration());
     // The backup, and nothing that was meant to take the file's place.
@@ -364,7 +362,7 @@ void TestRealConditions::leavesAConfigurationThatIsAMountPoint()
     m_computer->write(QStringLiteral("elsewhere"), othersConfiguration());
     if (!m_mounts->show(m_computer->absolute(QStringLiteral("elsewhere")), configuration()))
         QSKIP(noMount);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), othersConfiguration());
     QCOMPARE(QFileInfo(configuration()).dir().entryList({QStringLiteral("dll.xml.*")}),
@@ -390,7 +388,8 @@ void TestRealConditions::endsWithoutAScreen_data()
     for (const char *platform : {"xcb", "nothing like it"}) {
         const QString name = QLatin1String(platform);
         QTest::newRow(platform) << name << QStringList();
-        QTest::newRow(qPrintable(name + QLatin1String(", unattended"))) << name << quietInstall;
+        QTest::newRow(qPrintable(name + QLatin1String(", unattended")))
+            << name << quietInstallation();
     }
 }
 

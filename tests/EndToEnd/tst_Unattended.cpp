@@ -111,7 +111,7 @@ void TestUnattended::installsQuietly()
 {
     QFETCH(const int, type);
     prepare(type);
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     m_computer->finish(
         &m_expected, {m_computer->recordFor(m_foundEntry), m_computer->recordFor(m_recordedEntry)});

@@ -41,11 +41,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList one(const char *argument)
-{
-    return {QLatin1String(argument)};
-}
-
 void TestUnattendedBadInput::init()
 {
     m_computer.reset(new Computer);
@@ -79,12 +74,12 @@ void TestUnattendedBadInput::takesTheLastOfTwoRecords()
     m_computer->addPlugin(b, 1);
     m_computer->setRecords({recordIn(a), recordIn(b)});
 
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(QFileInfo::exists(file(a)));
     QVERIFY(!QFileInfo::exists(file(b)));
     QCOMPARE(m_computer->records(), QJsonArray{recordIn(a)});
 
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(!QFileInfo::exists(file(a)));
     QCOMPARE(m_computer->records(), QJsonArray());
 }
@@ -95,7 +90,7 @@ void TestUnattendedBadInput::takesTheRecordWhoseFilesAreThere()
     const QString a = QStringLiteral("A");
     m_computer->addPlugin(a, 1);
     m_computer->setRecords({recordIn(a), recordIn(QStringLiteral("gone"))});
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(!QFileInfo::exists(file(a)));
     QCOMPARE(m_computer->records(), QJsonArray{recordIn(a)});
 }
@@ -115,7 +110,7 @@ void TestUnattendedBadInput::keepsForeignRecords()
     m_computer->addPlugin(m_rec, 1);
     records.insert(3, recordIn(m_rec));
     m_computer->setRecords(records);
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(!QFileInfo::exists(file(m_rec)));
     QCOMPARE(m_computer->records(), foreign);
 }
@@ -147,7 +142,7 @@ void TestUnattendedBadInput::ignoresRecordsOfWrongTypes()
     Disk expected = m_computer->disk();
     const QJsonArray records = m_computer->records();
     for (const char *argument : {"--UNINSTALL", "--REPAIR"}) {
-        QCOMPARE(m_computer->run(one(argument)), 0);
+        QCOMPARE(m_computer->run(words(argument)), 0);
         QCOMPARE(m_computer->said(), QStringList());
     }
     m_computer->finish(&expected, records);
@@ -175,7 +170,7 @@ void TestUnattendedBadInput::startsAnUnreadableRecordAnew()
     Disk expected = m_computer->disk();
     m_computer->putPlugin(&expected, entry);
     m_computer->finish(&expected, {m_computer->recordFor(entry)});
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
@@ -186,11 +181,11 @@ void TestUnattendedBadInput::sparesAFileInPlaceOfTheFolder()
     const QJsonObject record{{QStringLiteral("name"), m_rec},
                              {QStringLiteral("path"), m_computer->folder(m_rec)}};
     m_computer->setRecords({record});
-    QCOMPARE(m_computer->run(one("--REPAIR")), 2);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 2);
     QCOMPARE(m_computer->said().size(), 1);
     QVERIFY(m_computer->said().constFirst().endsWith(QLatin1String("\r\n\r\nRec: Not updated")));
     m_computer->setRecords({record});
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QCOMPARE(readFile(m_computer->folder(m_rec)), QByteArray("precious"));
     QCOMPARE(m_computer->records(), QJsonArray());
 }
@@ -202,7 +197,7 @@ void TestUnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
     m_computer->addSimulator(m_det);
     const QString record = m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping"));
     QVERIFY(QDir().mkpath(m_computer->absolute(record)));
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(
         m_computer->said(),
         QStringList(
@@ -238,7 +233,7 @@ void TestUnattendedBadInput::leavesAMalformedConfigurationAlone()
     m_computer->write(configuration, content);
     Disk expected = m_computer->disk();
 
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said().size(), 1);
     QVERIFY(m_computer->said().constFirst().endsWith(QLatin1String("\r\n\r\nDet: Updated")));
     m_computer->putPlugin(&expected, entry);
@@ -260,7 +255,7 @@ void TestUnattendedBadInput::worksWithAReadOnlyConfiguration()
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
     const QFile::Permissions before = QFile::permissions(path);
 
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     const QByteArray after = readFile(path);
     QVERIFY(after == othersConfiguration() || after == ourConfiguration());
@@ -280,7 +275,7 @@ void TestUnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()
     m_computer->addSimulator(m_det);
     m_computer->write(m_computer->configuration(m_det) + QLatin1String("/kept"), "kept");
     Disk expected = m_computer->disk();
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     m_computer->putPlugin(&expected, entry);
     m_computer->finish(&expected, {m_computer->recordFor(entry)});
     QCOMPARE(difference(m_computer->disk(), expected), QString());

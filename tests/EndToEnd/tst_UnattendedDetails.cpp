@@ -36,11 +36,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList quietInstallation()
-{
-    return {QStringLiteral("--INSTALL"), QStringLiteral("1")};
-}
-
 static QJsonObject with(QJsonObject entry, const char *key, const QJsonValue &value)
 {
     entry.insert(QLatin1String(key), value);

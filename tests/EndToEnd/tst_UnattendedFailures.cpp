@@ -42,11 +42,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList words(const char *arguments)
-{
-    return QString::fromLatin1(arguments).split(u' ');
-}
-
 static QString updated(const char *lines)
 {
     return QStringLiteral("Plugins updated: Quillmont Orbwell has updated plugins on your "
@@ -76,7 +71,7 @@ void TestUnattendedFailures::doesNothingWithoutACatalogue_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::newRow("install") << words("--INSTALL") << 2;
-    QTest::newRow("quiet install") << words("--INSTALL 1") << 2;
+    QTest::newRow("quiet install") << quietInstallation() << 2;
     QTest::newRow("repair") << words("--REPAIR") << 0;
     QTest::newRow("uninstall") << words("--UNINSTALL") << 0;
 }
@@ -116,9 +111,8 @@ void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
     QTest::newRow("install, none here")
         << words("--INSTALL") << false << 2
         << QStringList(settings + QLatin1String("Orbwell plugin is installed in all simulators."));
-    QTest::newRow("quiet install") << words("--INSTALL 1") << false << 2 << QStringList();
-    QTest::newRow("quiet install, none known")
-        << words("--INSTALL 1") << true << 2 << QStringList();
+    QTest::newRow("quiet install") << quietInstallation() << false << 2 << QStringList();
+    QTest::newRow("quiet install, none known") << quietInstallation() << true << 2 << QStringList();
     QTest::newRow("repair") << words("--REPAIR") << false << 0 << QStringList();
     QTest::newRow("uninstall") << words("--UNINSTALL") << false << 0 << QStringList();
 }
@@ -195,7 +189,7 @@ void TestUnattendedFailures::saysThatASimulatorIsNotUpdated()
         m_computer->said(),
         QStringList(
             {cannotRemove(m_det, line), cannotRemove(m_det, line), updated("Det: Not updated")}));
-    QCOMPARE(m_computer->run(words("--INSTALL 1")), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotRemove(m_det, line)));
 }
 

@@ -22,11 +22,6 @@ private:
     Display m_display;
 };
 
-static QStringList words(const char *arguments)
-{
-    return QString::fromLatin1(arguments).split(u' ');
-}
-
 void TestUnattendedOnAScreen::endsByItself_data()
 {
     QTest::addColumn<bool>("onAScreen");

@@ -33,16 +33,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList one(const char *argument)
-{
-    return {QLatin1String(argument)};
-}
-
-static QStringList quietInstallation()
-{
-    return {QStringLiteral("--INSTALL"), QStringLiteral("1")};
-}
-
 static QString installed(const char *names)
 {
     return QStringLiteral("Quillmont Orbwell Settings: Quillmont Orbwell have successfully "
@@ -86,8 +76,8 @@ void TestUnattendedSimulators::bringsBackALostFile_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::newRow("install") << quietInstallation() << 2;
-    QTest::newRow("repair") << one("--REPAIR") << 0;
-    QTest::newRow("uninstall") << one("--UNINSTALL") << 0;
+    QTest::newRow("repair") << words("--REPAIR") << 0;
+    QTest::newRow("uninstall") << words("--UNINSTALL") << 0;
 }
 
 // What is there of the plugin is replaced as well.
@@ -118,7 +108,7 @@ void TestUnattendedSimulators::leavesWhatIsCompleteAlone()
     m_computer->write(m_computer->configuration(whole), othersConfiguration());
     Disk expected = m_computer->disk();
 
-    QCOMPARE(m_computer->run(one("--INSTALL")), 2);
+    QCOMPARE(m_computer->run(words("--INSTALL")), 2);
     QCOMPARE(m_computer->said(),
              QStringList(QStringLiteral("Quillmont Orbwell Settings: Orbwell plugin is installed "
                                         "in all simulators.")));
@@ -141,11 +131,11 @@ void TestUnattendedSimulators::knowsAFolderByTheRecordAlone()
     m_computer->setRecords({m_computer->recordFor(entry)});
 
     for (int time = 0; time < 2; ++time) {
-        QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+        QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
         QCOMPARE(m_computer->said(), QStringList());
         QCOMPARE(difference(m_computer->disk(), expected), QString());
     }
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
@@ -199,11 +189,11 @@ void TestUnattendedSimulators::givesAFolderToOneOfTwoEntries()
     m_computer->setCatalogue({rival("First", givesWay), rival("Later", givesWay)});
     m_computer->addSimulator(QStringLiteral("Shared"));
 
-    QCOMPARE(m_computer->run(one("--INSTALL")), 2);
+    QCOMPARE(m_computer->run(words("--INSTALL")), 2);
     QCOMPARE(m_computer->said(), QStringList(installed(qPrintable(u' ' + winner))));
     QCOMPARE(m_computer->records().size(), 1);
     QCOMPARE(m_computer->records().at(0).toObject().value(QLatin1String("name")), winner);
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said(),
              QStringList(updated(qPrintable(winner + QLatin1String(": Updated")))));
 }
@@ -257,7 +247,7 @@ void TestUnattendedSimulators::repairsBothEntriesThatTheRecordKnows()
     record.insert(QStringLiteral("name"), QStringLiteral("First"));
     m_computer->setRecords({record});
 
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said(), QStringList(updated("Later: Updated\nFirst: Updated")));
     QCOMPARE(m_computer->records().size(), 2);
 }
