@@ -18,10 +18,10 @@ using Quillmont::SimDetect::Environment;
 namespace {
 
 /// A computer with a simulator of each kind, whose own and whose shops' files anybody may write.
-class Computer
+class FuzzedComputer
 {
 public:
-    Computer();
+    FuzzedComputer();
 
     void write(const QList<QByteArray> &contents) const;
     void check(const QString &code, const QString &folder) const;
@@ -50,7 +50,7 @@ constexpr std::array<const char *, 7> Files = {
     "home/.fgfs/fgdata_2020_3/version",
 };
 
-Computer::Computer()
+FuzzedComputer::FuzzedComputer()
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     environment.home = m_sandbox.home();
@@ -58,7 +58,7 @@ Computer::Computer()
     makeFolders();
 }
 
-void Computer::makeFolders() const
+void FuzzedComputer::makeFolders() const
 {
     const QString games = path(Library) + QLatin1String("/steamapps/");
     const QString packages = QStringLiteral("compatdata/1250410/pfx/drive_c/Packages/Community");
@@ -76,7 +76,7 @@ void Computer::makeFolders() const
         QFile(file).open(QIODevice::WriteOnly);
 }
 
-void Computer::write(const QList<QByteArray> &contents) const
+void FuzzedComputer::write(const QList<QByteArray> &contents) const
 {
     for (std::size_t i = 0; i < Files.size(); ++i) {
         QFile file(path(Files.at(i)));
@@ -88,7 +88,7 @@ void Computer::write(const QList<QByteArray> &contents) const
 }
 
 /// Only what is there is found, and only under the name of what it is.
-void Computer::check(const QString &code, const QString &folder) const
+void FuzzedComputer::check(const QString &code, const QString &folder) const
 {
     static const QMap<QString, const char *> marks{{QStringLiteral("XP10"), "Resources/plugins"},
                                                    {QStringLiteral("XP11"), "Resources/plugins"},
@@ -107,9 +107,9 @@ void Computer::check(const QString &code, const QString &folder) const
            "a folder looks like its simulator");
 }
 
-Computer &computer()
+FuzzedComputer &computer()
 {
-    static Computer computer;
+    static FuzzedComputer computer;
     return computer;
 }
 

@@ -1,7 +1,7 @@
 #include "SimDetect/SimDetect.h"
 #include "benchmarks/support/Quiet.h"
 #include "benchmarks/support/Table.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
 #include <QCoreApplication>
@@ -22,7 +22,7 @@ using namespace Tests;
 
 namespace {
 
-void makeHome(Computer &computer)
+void makeHome(DescribedComputer &computer)
 {
     computer.make(QStringLiteral(R"(
         xplane $R/sims/X-Plane 12
@@ -112,7 +112,7 @@ int main(int argc, char *argv[])
 {
     beQuiet();
     const QCoreApplication application(argc, argv);
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     makeHome(computer);
     if (application.arguments().contains(QStringLiteral("--once"))) {
         simPaths(computer.environment);

@@ -52,7 +52,7 @@ int keysIn(const QJsonValue &document)
 
 } // namespace
 
-class Schema : public QObject
+class TestSchema : public QObject
 {
     Q_OBJECT
 
@@ -70,7 +70,7 @@ private:
     CatalogueSchema m_schema;
 };
 
-void Schema::init()
+void TestSchema::init()
 {
     if (m_schema.problem().isEmpty()
         || QByteArray(QTest::currentTestFunction()) == "describesEveryKey")
@@ -79,7 +79,7 @@ void Schema::init()
     QSKIP(qPrintable(m_schema.problem()));
 }
 
-void Schema::acceptsEveryCatalogueOfOurs_data()
+void TestSchema::acceptsEveryCatalogueOfOurs_data()
 {
     QTest::addColumn<QByteArray>("catalogue");
     QTest::newRow("shipped") << shippedCatalogue();
@@ -93,19 +93,19 @@ void Schema::acceptsEveryCatalogueOfOurs_data()
         QTest::addRow("README, block %d", i + 1) << '[' + readme.at(i) + ']';
 }
 
-void Schema::acceptsEveryCatalogueOfOurs()
+void TestSchema::acceptsEveryCatalogueOfOurs()
 {
     QFETCH(QByteArray, catalogue);
     QCOMPARE(m_schema.complaints(catalogue), QStringList());
 }
 
-void Schema::acceptsEveryKey()
+void TestSchema::acceptsEveryKey()
 {
     const QJsonArray catalogue{soundEntry()};
     QCOMPARE(m_schema.complaints(QJsonDocument(catalogue).toJson()), QStringList());
 }
 
-void Schema::refusesWhatTheProgramWouldPassOver_data()
+void TestSchema::refusesWhatTheProgramWouldPassOver_data()
 {
     QTest::addColumn<QByteArray>("slip"); // what stands in the entry instead
     QTest::addColumn<QString>("where");
@@ -155,7 +155,7 @@ void Schema::refusesWhatTheProgramWouldPassOver_data()
         "$[0].conflict:");
 }
 
-void Schema::refusesWhatTheProgramWouldPassOver()
+void TestSchema::refusesWhatTheProgramWouldPassOver()
 {
     QFETCH(QByteArray, slip);
     QFETCH(QString, where);
@@ -169,7 +169,7 @@ void Schema::refusesWhatTheProgramWouldPassOver()
     QVERIFY2(complaints.first().startsWith(where), qPrintable(complaints.join(u'\n')));
 }
 
-void Schema::describesEveryKey()
+void TestSchema::describesEveryKey()
 {
     const QJsonObject definitions
         = object(readFile(CatalogueSchema::path())).value(QLatin1String("$defs")).toObject();
@@ -195,5 +195,5 @@ void Schema::describesEveryKey()
     QCOMPARE(keys, keysIn(soundEntry()));
 }
 
-QTEST_GUILESS_MAIN(Schema)
+QTEST_GUILESS_MAIN(TestSchema)
 #include "tst_Schema.moc"

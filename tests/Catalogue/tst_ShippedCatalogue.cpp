@@ -7,7 +7,7 @@
 #include "Views/ScannerView.h"
 #include "tests/Catalogue/CatalogueSchema.h"
 #include "tests/Catalogue/Catalogues.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
@@ -133,7 +133,7 @@ QString ownFile(const QString &simcode)
 
 } // namespace
 
-class ShippedCatalogue : public QObject
+class TestShippedCatalogue : public QObject
 {
     Q_OBJECT
 
@@ -155,7 +155,7 @@ private slots:
     void listsTheFilesOfThePackage();
 };
 
-void ShippedCatalogue::initTestCase()
+void TestShippedCatalogue::initTestCase()
 {
     const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins");
     if (QFile::symLinkTarget(beside) == payloadFolder())
@@ -164,7 +164,7 @@ void ShippedCatalogue::initTestCase()
     QVERIFY(QFile::link(payloadFolder(), beside));
 }
 
-void ShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
+void TestShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
 {
     QStringList codes;
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -173,9 +173,9 @@ void ShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
     QCOMPARE(codes.join(u' '), QStringLiteral("XP12 XP11 MSFS2024 MSFS2020 FSXSE FGFS AFS4"));
 }
 
-void ShippedCatalogue::namesWhatDetectionKnows()
+void TestShippedCatalogue::namesWhatDetectionKnows()
 {
-    Computer computer(Quillmont::SimDetect::Environment::Linux);
+    DescribedComputer computer(Quillmont::SimDetect::Environment::Linux);
     computer.make(QLatin1String(everySimulator));
     QStringList detected;
     const QStringList lines = computer.detect().split(u'\n');
@@ -194,7 +194,7 @@ void ShippedCatalogue::namesWhatDetectionKnows()
     QCOMPARE(simcode[QLatin1String("enum")].toArray(), QJsonArray::fromStringList(detected));
 }
 
-void ShippedCatalogue::isReadAsItIsWritten_data()
+void TestShippedCatalogue::isReadAsItIsWritten_data()
 {
     QTest::addColumn<QJsonObject>("entry");
     const auto add = [](const char *catalogue, const QByteArray &text) {
@@ -208,7 +208,7 @@ void ShippedCatalogue::isReadAsItIsWritten_data()
     add("sample", sampleCatalogue(QStringLiteral("/sample/simulators")));
 }
 
-void ShippedCatalogue::isReadAsItIsWritten()
+void TestShippedCatalogue::isReadAsItIsWritten()
 {
     QFETCH(QJsonObject, entry);
     const QJsonObject read = readBack(FlightSimScan(nullptr, entry));
@@ -219,7 +219,7 @@ void ShippedCatalogue::isReadAsItIsWritten()
     }
 }
 
-void ShippedCatalogue::givesEachFileAPlaceOfItsOwn()
+void TestShippedCatalogue::givesEachFileAPlaceOfItsOwn()
 {
     QFETCH(QJsonObject, entry);
     const FlightSimScan scan(nullptr, entry);
@@ -227,7 +227,7 @@ void ShippedCatalogue::givesEachFileAPlaceOfItsOwn()
     QVERIFY(!scan.files.isEmpty());
 }
 
-void ShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
+void TestShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
 {
     const QSet<QString> wanted = sourcesOf(shippedCatalogue());
     QSet<QString> there;
@@ -244,7 +244,7 @@ void ShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
     QVERIFY(there.contains(sourcesOf(sampleCatalogue({}))));
 }
 
-void ShippedCatalogue::leavesEachSimulatorAsItWas_data()
+void TestShippedCatalogue::leavesEachSimulatorAsItWas_data()
 {
     QTest::addColumn<QJsonObject>("entry");
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -252,7 +252,7 @@ void ShippedCatalogue::leavesEachSimulatorAsItWas_data()
         QTest::newRow(qPrintable(entry[QLatin1String("simcode")].toString())) << entry.toObject();
 }
 
-void ShippedCatalogue::leavesEachSimulatorAsItWas()
+void TestShippedCatalogue::leavesEachSimulatorAsItWas()
 {
     QFETCH(QJsonObject, entry);
     const Sandbox sandbox;
@@ -270,7 +270,7 @@ void ShippedCatalogue::leavesEachSimulatorAsItWas()
     QCOMPARE(treeOf(folder), before);
 }
 
-void ShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
+void TestShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
 {
     const Sandbox sandbox;
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -290,7 +290,7 @@ void ShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
     QVERIFY(!readFile(file).contains("Orbwell"));
 }
 
-void ShippedCatalogue::listsTheFilesOfThePackage()
+void TestShippedCatalogue::listsTheFilesOfThePackage()
 {
     const QString package = payloadFolder() + QStringLiteral("/MSFS/");
     QStringList listed;
@@ -308,5 +308,5 @@ void ShippedCatalogue::listsTheFilesOfThePackage()
         !QJsonDocument::fromJson(readFile(package + QStringLiteral("manifest.json"))).isEmpty());
 }
 
-QTEST_MAIN(ShippedCatalogue)
+QTEST_MAIN(TestShippedCatalogue)
 #include "tst_ShippedCatalogue.moc"

@@ -26,7 +26,7 @@ QByteArray promisedEntry()
 
 } // namespace
 
-class WorkedExample : public QObject
+class TestWorkedExample : public QObject
 {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ private:
     QScopedPointer<Program> m_program;
 };
 
-void WorkedExample::init()
+void TestWorkedExample::init()
 {
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
@@ -62,18 +62,18 @@ void WorkedExample::init()
     writeFile(data("Kestrel/launch.xml"), othersEntry);
 }
 
-void WorkedExample::cleanup()
+void TestWorkedExample::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-QString WorkedExample::simulator(const char *name) const
+QString TestWorkedExample::simulator(const char *name) const
 {
     return m_sandbox->path(QStringLiteral("opt/") + QLatin1String(name));
 }
 
-void WorkedExample::start(QByteArray catalogue)
+void TestWorkedExample::start(QByteArray catalogue)
 {
     catalogue.replace("/opt/", m_sandbox->path(QStringLiteral("opt/")).toUtf8());
     writeFile(m_program->folder() + QStringLiteral("/flightsims.json"), catalogue);
@@ -81,7 +81,7 @@ void WorkedExample::start(QByteArray catalogue)
     m_program->window();
 }
 
-void WorkedExample::pressAndConfirm(const char *name)
+void TestWorkedExample::pressAndConfirm(const char *name)
 {
     m_program->pressAction(QLatin1String(name));
     m_program->box();
@@ -89,7 +89,7 @@ void WorkedExample::pressAndConfirm(const char *name)
     m_program->window();
 }
 
-void WorkedExample::installsWhatTheGuidePromises()
+void TestWorkedExample::installsWhatTheGuidePromises()
 {
     start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(0));
     pressAndConfirm("Kestrel Flight Deck");
@@ -104,7 +104,7 @@ void WorkedExample::installsWhatTheGuidePromises()
     QCOMPARE(readFile(data("Kestrel/launch.xml")), withOurs);
 }
 
-void WorkedExample::takesEverythingOutAgain()
+void TestWorkedExample::takesEverythingOutAgain()
 {
     const auto before = treeOf(simulator("Kestrel Flight Deck"));
     start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(0));
@@ -118,7 +118,7 @@ void WorkedExample::takesEverythingOutAgain()
     QVERIFY(!QFile::exists(data("Kestrel/orbwell-settings.ini")));
 }
 
-void WorkedExample::leavesTheEmptyFolderThatTheGuideWarnsOf()
+void TestWorkedExample::leavesTheEmptyFolderThatTheGuideWarnsOf()
 {
     QByteArray catalogue = jsonBlocks(QStringLiteral("docs/catalogue.md")).value(0);
     catalogue.replace("Panels/Orbwell/panel.cfg", "Panels/Orbwell/about.txt");
@@ -130,7 +130,7 @@ void WorkedExample::leavesTheEmptyFolderThatTheGuideWarnsOf()
     QVERIFY(QFile::exists(simulator("Kestrel Flight Deck/Panels/Orbwell")));
 }
 
-void WorkedExample::givesTheSecondEditionAFileOfItsOwn()
+void TestWorkedExample::givesTheSecondEditionAFileOfItsOwn()
 {
     QDir().mkpath(simulator("Kestrel Flight Deck 2"));
     start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(1));
@@ -142,5 +142,5 @@ void WorkedExample::givesTheSecondEditionAFileOfItsOwn()
     QVERIFY(readFile(data("Kestrel/launch.xml")).contains("Modules\\Orbwell.so"));
 }
 
-QTEST_GUILESS_MAIN(WorkedExample)
+QTEST_GUILESS_MAIN(TestWorkedExample)
 #include "tst_WorkedExample.moc"

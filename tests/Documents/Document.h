@@ -1,5 +1,5 @@
-#ifndef DOCUMENTS_DOCUMENT_H
-#define DOCUMENTS_DOCUMENT_H
+#ifndef TESTS_DOCUMENTS_DOCUMENT_H
+#define TESTS_DOCUMENTS_DOCUMENT_H
 
 #include <QList>
 #include <QString>

@@ -1,5 +1,5 @@
-#ifndef DOCUMENTS_TEXTLIST_H
-#define DOCUMENTS_TEXTLIST_H
+#ifndef TESTS_DOCUMENTS_TEXTLIST_H
+#define TESTS_DOCUMENTS_TEXTLIST_H
 
 #include <QByteArray>
 #include <QList>

@@ -12,7 +12,7 @@
 using namespace Tests;
 
 /// What the documents tell a reader to type works. script/documents-test tries the rest.
-class Commands : public QObject
+class TestCommands : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private:
     QMap<QString, QVector<Entry>> m_entries;
 };
 
-void Commands::initTestCase()
+void TestCommands::initTestCase()
 {
     static const QRegularExpression remark(QStringLiteral("^(.*?)(?: {2,}# (.*))?$"));
     const QString list = QString::fromUtf8(
@@ -56,13 +56,13 @@ void Commands::initTestCase()
     }
 }
 
-int Commands::expectedStatus(const QString &remark)
+int TestCommands::expectedStatus(const QString &remark)
 {
     static const QRegularExpression status(QStringLiteral("^status (\\d+)"));
     return status.match(remark).captured(1).toInt();
 }
 
-void Commands::areAllListed_data()
+void TestCommands::areAllListed_data()
 {
     QTest::addColumn<QString>("command");
     for (const Document &document : Document::all()) {
@@ -71,7 +71,7 @@ void Commands::areAllListed_data()
     }
 }
 
-void Commands::areAllListed()
+void TestCommands::areAllListed()
 {
     QFETCH(QString, command);
     bool listed = false;
@@ -84,7 +84,7 @@ void Commands::areAllListed()
         QVERIFY2(!entry.remark.isEmpty(), "it is not tried, and nobody says why");
 }
 
-void Commands::startTheProgram_data()
+void TestCommands::startTheProgram_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("remark");
@@ -92,7 +92,7 @@ void Commands::startTheProgram_data()
         QTest::newRow(qPrintable(entry.command)) << entry.command << entry.remark;
 }
 
-void Commands::startTheProgram()
+void TestCommands::startTheProgram()
 {
     QFETCH(QString, command);
     QFETCH(QString, remark);
@@ -116,7 +116,7 @@ void Commands::startTheProgram()
     QCOMPARE(program.exitStatus(), expectedStatus(remark));
 }
 
-void Commands::runInAShell()
+void TestCommands::runInAShell()
 {
     const Sandbox sandbox;
     const QString path
@@ -132,5 +132,5 @@ void Commands::runInAShell()
     }
 }
 
-QTEST_GUILESS_MAIN(Commands)
+QTEST_GUILESS_MAIN(TestCommands)
 #include "tst_Commands.moc"

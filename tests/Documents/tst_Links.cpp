@@ -6,7 +6,7 @@
 using namespace Tests;
 
 /// A reader who follows a link inside the tree arrives.
-class Links : public QObject
+class TestLinks : public QObject
 {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ private slots:
     void leadSomewhere();
 };
 
-void Links::leadSomewhere_data()
+void TestLinks::leadSomewhere_data()
 {
     QTest::addColumn<QString>("document");
     QTest::addColumn<QString>("target");
@@ -29,7 +29,7 @@ void Links::leadSomewhere_data()
     }
 }
 
-void Links::leadSomewhere()
+void TestLinks::leadSomewhere()
 {
     QFETCH(QString, document);
     QFETCH(QString, target);
@@ -43,5 +43,5 @@ void Links::leadSomewhere()
         QVERIFY(Document(name).anchors().contains(anchor));
 }
 
-QTEST_GUILESS_MAIN(Links)
+QTEST_GUILESS_MAIN(TestLinks)
 #include "tst_Links.moc"

@@ -9,7 +9,7 @@
 using namespace Tests;
 
 /// A user who looks a message up in the document about trouble finds it.
-class Messages : public QObject
+class TestMessages : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ static bool isOnlySpoken(const QString &text, const QString &code)
     return code.contains(call) && !rest.remove(spoken).contains(call);
 }
 
-void Messages::areExplained_data()
+void TestMessages::areExplained_data()
 {
     QTest::addColumn<QString>("text");
     const QString code = sources();
@@ -67,7 +67,7 @@ static QRegularExpression asRead(const QString &line)
                               QRegularExpression::MultilineOption);
 }
 
-void Messages::areExplained()
+void TestMessages::areExplained()
 {
     QFETCH(QString, text);
     const QString document = Document(QStringLiteral("docs/troubleshooting.md")).text();
@@ -76,5 +76,5 @@ void Messages::areExplained()
         QVERIFY2(document.contains(asRead(line)), qPrintable(line));
 }
 
-QTEST_GUILESS_MAIN(Messages)
+QTEST_GUILESS_MAIN(TestMessages)
 #include "tst_Messages.moc"

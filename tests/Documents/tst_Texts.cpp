@@ -10,7 +10,7 @@
 using namespace Tests;
 
 /// The texts that a translator gets: none is lost, and none is new by accident.
-class Texts : public QObject
+class TestTexts : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ static QList<ListedText> extractedTexts(const QByteArray &translations)
     return texts;
 }
 
-void Texts::initTestCase()
+void TestTexts::initTestCase()
 {
     if (!Command::exists(QStringLiteral(ORBWELL_LUPDATE)))
         QSKIP("needs lupdate (Debian: qttools5-dev-tools)");
@@ -86,7 +86,7 @@ void Texts::initTestCase()
     m_texts = extractedTexts(readFile(file));
 }
 
-void Texts::areThoseOfTheList()
+void TestTexts::areThoseOfTheList()
 {
     if (qEnvironmentVariableIsSet("ORBWELL_WRITE_TEXTS"))
         writeFile(textListPath(), written(m_texts));
@@ -98,14 +98,14 @@ void Texts::areThoseOfTheList()
         QVERIFY2(now.contains(text), ("not in the program: " + text).constData());
 }
 
-void Texts::belongToTheClassThatSaysThem()
+void TestTexts::belongToTheClassThatSaysThem()
 {
     for (const ListedText &text : qAsConst(m_texts))
         QVERIFY2(text.context.startsWith(QLatin1String("Quillmont::Utility::")),
                  qPrintable(text.context));
 }
 
-void Texts::haveNoStatusWords()
+void TestTexts::haveNoStatusWords()
 {
     const QStringList words{QStringLiteral("Updated"),
                             QStringLiteral("Not updated"),
@@ -117,5 +117,5 @@ void Texts::haveNoStatusWords()
         QVERIFY2(!words.contains(text.text), qPrintable(text.text));
 }
 
-QTEST_GUILESS_MAIN(Texts)
+QTEST_GUILESS_MAIN(TestTexts)
 #include "tst_Texts.moc"

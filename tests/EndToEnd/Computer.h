@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_COMPUTER_H
-#define ENDTOEND_COMPUTER_H
+#ifndef TESTS_ENDTOEND_COMPUTER_H
+#define TESTS_ENDTOEND_COMPUTER_H
 
 #include "tests/EndToEnd/Disk.h"
 #include "tests/support/Program.h"

@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_DISK_H
-#define ENDTOEND_DISK_H
+#ifndef TESTS_ENDTOEND_DISK_H
+#define TESTS_ENDTOEND_DISK_H
 
 #include <QByteArray>
 #include <QMap>

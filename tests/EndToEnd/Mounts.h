@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_MOUNTS_H
-#define ENDTOEND_MOUNTS_H
+#ifndef TESTS_ENDTOEND_MOUNTS_H
+#define TESTS_ENDTOEND_MOUNTS_H
 
 #include <QString>
 #include <QStringList>

@@ -97,6 +97,16 @@ QStringList backupsOf(const QString &file, const QString &occasion)
     return info.dir().entryList(QDir::Files).filter(name);
 }
 
+QStringList words(const char *text)
+{
+    return QString::fromUtf8(text).split(u' ');
+}
+
+QStringList quietInstallation()
+{
+    return words("--INSTALL 1");
+}
+
 QByteArray othersConfiguration()
 {
     return "<?xml version=\"1.0\" encoding=\"Windows-1252\"?>\r\n"

@@ -1,10 +1,10 @@
-#ifndef ENDTOEND_SIMULATORS_H
-#define ENDTOEND_SIMULATORS_H
+#ifndef TESTS_ENDTOEND_SIMULATORS_H
+#define TESTS_ENDTOEND_SIMULATORS_H
 
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QString>
+#include <QStringList>
 
 namespace Tests {
 
@@ -27,6 +27,12 @@ QJsonObject recordOf(const QString &simulator, const QString &dataRoot);
 
 /// The names of the backups beside @p file, for "installation" or "uninstallation".
 QStringList backupsOf(const QString &file, const QString &occasion);
+
+/// The words of @p text, which has one blank between each two: arguments, say.
+QStringList words(const char *text);
+
+/// The arguments of a quiet installation.
+QStringList quietInstallation();
 
 /// A launcher's configuration file as other add-ons left it.
 QByteArray othersConfiguration();

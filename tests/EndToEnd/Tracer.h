@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_TRACER_H
-#define ENDTOEND_TRACER_H
+#ifndef TESTS_ENDTOEND_TRACER_H
+#define TESTS_ENDTOEND_TRACER_H
 
 #include <QString>
 #include <QStringList>

@@ -9,7 +9,7 @@
 using namespace Tests;
 
 // What a maker's support reads of a run.
-class ActionLog : public QObject
+class TestActionLog : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private:
     QString m_folder;
 };
 
-void ActionLog::init()
+void TestActionLog::init()
 {
     // One home at a time: the old one puts the environment back when it goes.
     m_program.reset();
@@ -47,7 +47,7 @@ void ActionLog::init()
 }
 
 // The lines of one run, whose boxes are answered; places in them begin with "$".
-QStringList ActionLog::run(const QStringList &arguments, int boxes)
+QStringList TestActionLog::run(const QStringList &arguments, int boxes)
 {
     m_program->start(arguments);
     for (int i = 0; i < boxes; ++i) {
@@ -65,9 +65,9 @@ QStringList ActionLog::run(const QStringList &arguments, int boxes)
     return QStringList(lines).replaceInStrings(QStringLiteral("orbwell: "), QString());
 }
 
-void ActionLog::tellsAnInstallation()
+void TestActionLog::tellsAnInstallation()
 {
-    const QStringList lines = run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    const QStringList lines = run(quietInstallation());
     QVERIFY(lines.first().startsWith(QLatin1String("start of version ")));
     QVERIFY(lines.first().endsWith(QLatin1String(" in ModeInstall")));
     QCOMPARE(lines.mid(1).join(u'\n'), QStringLiteral(R"(catalogue "$PROGRAM/flightsims.json" read
@@ -95,9 +95,9 @@ launcher path written: "$DATA/Quillmont/Orbwell/.path"
 end with status 2)"));
 }
 
-void ActionLog::tellsARemoval()
+void TestActionLog::tellsARemoval()
 {
-    run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    run(quietInstallation());
     const QStringList lines = run({QStringLiteral("--UNINSTALL")});
     QVERIFY(lines.first().endsWith(QLatin1String(" in ModeUninstall")));
     const QString plugin = QStringLiteral("$ROOT/Skylark/Gauges");
@@ -111,7 +111,7 @@ void ActionLog::tellsARemoval()
     QCOMPARE(lines.last(), QStringLiteral("end with status 0"));
 }
 
-void ActionLog::tellsWhyAFileWasNotCopied()
+void TestActionLog::tellsWhyAFileWasNotCopied()
 {
     QDir(m_program->folder() + QStringLiteral("/plugins")).removeRecursively();
     const QStringList lines
@@ -121,7 +121,7 @@ void ActionLog::tellsWhyAFileWasNotCopied()
     QVERIFY2(lines.first().contains(QLatin1String("\" \"Cannot open ")), qPrintable(lines.first()));
 }
 
-void ActionLog::tellsWhyAFileWasNotRemoved()
+void TestActionLog::tellsWhyAFileWasNotRemoved()
 {
     const QString module = QStringLiteral("/Gauges/QuillmontOrbwell_64.dll");
     QDir().mkpath(m_folder + module + QStringLiteral("/inside"));
@@ -133,15 +133,15 @@ void ActionLog::tellsWhyAFileWasNotRemoved()
     QVERIFY(lines.first().size() > start.size() + 5);
 }
 
-void ActionLog::tellsOfAConfigurationThatIsLeftAlone()
+void TestActionLog::tellsOfAConfigurationThatIsLeftAlone()
 {
     writeFile(m_sandbox->dataRoot() + QStringLiteral("Maker/dll.xml"), "not XML, and secret");
-    const QStringList lines = run({QStringLiteral("--INSTALL"), QStringLiteral("1")});
+    const QStringList lines = run(quietInstallation());
     QVERIFY(lines.contains(QStringLiteral("entry not added to: \"$DATA/Maker/dll.xml\"")));
     QVERIFY(!m_program->standardError().contains("secret"));
 }
 
-void ActionLog::tellsThatThereIsNoCatalogue()
+void TestActionLog::tellsThatThereIsNoCatalogue()
 {
     QFile::remove(m_program->folder() + QStringLiteral("/flightsims.json"));
     const QStringList lines = run({QStringLiteral("--REPAIR")});
@@ -149,11 +149,11 @@ void ActionLog::tellsThatThereIsNoCatalogue()
                                           "\"No such file or directory\"")));
 }
 
-void ActionLog::canBeTurnedOff()
+void TestActionLog::canBeTurnedOff()
 {
     m_program->setVariable("QT_LOGGING_RULES", QStringLiteral("orbwell.debug=false"));
-    QCOMPARE(run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), QStringList());
+    QCOMPARE(run(quietInstallation()), QStringList());
 }
 
-QTEST_GUILESS_MAIN(ActionLog)
+QTEST_GUILESS_MAIN(TestActionLog)
 #include "tst_ActionLog.moc"

@@ -1,4 +1,5 @@
 #include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/Simulators.h"
 
 #include <QFileInfo>
 #include <QtTest>
@@ -6,7 +7,7 @@
 using namespace Tests;
 
 // Which run a command line starts, told by what a user sees of it.
-class CommandLine : public QObject
+class TestCommandLine : public QObject
 {
     Q_OBJECT
 
@@ -29,61 +30,56 @@ static void addLine(const char *what, const QStringList &arguments, const char *
     QTest::newRow(what) << arguments << run;
 }
 
-static QStringList line(const char *words)
-{
-    return QString::fromUtf8(words).split(u' ');
-}
-
-void CommandLine::starts_data()
+void TestCommandLine::starts_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("expected");
 
     addLine("nothing", {}, "window");
-    addLine("install", line("--INSTALL"), "install");
-    addLine("repair", line("--REPAIR"), "repair");
-    addLine("uninstall", line("--UNINSTALL"), "uninstall");
+    addLine("install", words("--INSTALL"), "install");
+    addLine("repair", words("--REPAIR"), "repair");
+    addLine("uninstall", words("--UNINSTALL"), "uninstall");
 
-    addLine("small letters", line("--install"), "install");
-    addLine("a capital", line("--Repair"), "repair");
-    addLine("mixed letters", line("--unInStall"), "uninstall");
-    addLine("a letter with that capital", line("--\u0131n\u017ftall"), "install");
-    addLine("a capital of another alphabet", line("--\u0130NSTALL"), "window");
-    addLine("another dash", line("\u2014INSTALL"), "window");
+    addLine("small letters", words("--install"), "install");
+    addLine("a capital", words("--Repair"), "repair");
+    addLine("mixed letters", words("--unInStall"), "uninstall");
+    addLine("a letter with that capital", words("--\u0131n\u017ftall"), "install");
+    addLine("a capital of another alphabet", words("--\u0130NSTALL"), "window");
+    addLine("another dash", words("\u2014INSTALL"), "window");
 
-    addLine("repair, then uninstall", line("--REPAIR --UNINSTALL"), "uninstall");
-    addLine("uninstall, then repair", line("--UNINSTALL --REPAIR"), "repair");
-    addLine("install between others", line("--repair --INSTALL nonsense"), "install");
-    addLine("the first again", line("--REPAIR --INSTALL --REPAIR"), "repair");
+    addLine("repair, then uninstall", words("--REPAIR --UNINSTALL"), "uninstall");
+    addLine("uninstall, then repair", words("--UNINSTALL --REPAIR"), "repair");
+    addLine("install between others", words("--repair --INSTALL nonsense"), "install");
+    addLine("the first again", words("--REPAIR --INSTALL --REPAIR"), "repair");
 
-    addLine("a quiet one", line("--INSTALL 1"), "quiet install");
-    addLine("quiet first", line("1 --INSTALL"), "quiet install");
-    addLine("quiet, in between", line("--REPAIR 1 --install"), "quiet install");
-    addLine("twice quiet", line("1 --INSTALL 1"), "quiet install");
-    addLine("quiet, whatever follows", line("--INSTALL 1 0"), "quiet install");
-    addLine("quiet alone", line("1"), "window");
-    addLine("a repair is never quiet", line("--REPAIR 1"), "repair");
-    addLine("another number", line("--INSTALL 01"), "install");
-    addLine("another one", line("--INSTALL \uff11"), "install");
+    addLine("a quiet one", words("--INSTALL 1"), "quiet install");
+    addLine("quiet first", words("1 --INSTALL"), "quiet install");
+    addLine("quiet, in between", words("--REPAIR 1 --install"), "quiet install");
+    addLine("twice quiet", words("1 --INSTALL 1"), "quiet install");
+    addLine("quiet, whatever follows", words("--INSTALL 1 0"), "quiet install");
+    addLine("quiet alone", words("1"), "window");
+    addLine("a repair is never quiet", words("--REPAIR 1"), "repair");
+    addLine("another number", words("--INSTALL 01"), "install");
+    addLine("another one", words("--INSTALL \uff11"), "install");
     addLine("a one with a blank", {QStringLiteral("--INSTALL"), QStringLiteral("1 ")}, "install");
 
-    addLine("a value", line("--INSTALL=1"), "window");
-    addLine("a slash", line("/INSTALL"), "window");
-    addLine("one dash", line("-INSTALL"), "window");
-    addLine("no dash", line("INSTALL"), "window");
-    addLine("more behind it", line("--INSTALLED"), "window");
-    addLine("more before it", line("x--INSTALL"), "window");
+    addLine("a value", words("--INSTALL=1"), "window");
+    addLine("a slash", words("/INSTALL"), "window");
+    addLine("one dash", words("-INSTALL"), "window");
+    addLine("no dash", words("INSTALL"), "window");
+    addLine("more behind it", words("--INSTALLED"), "window");
+    addLine("more before it", words("x--INSTALL"), "window");
     addLine("a blank before it", {QStringLiteral(" --INSTALL")}, "window");
     addLine("a blank behind it", {QStringLiteral("--REPAIR ")}, "window");
     addLine("a line end behind it", {QStringLiteral("--UNINSTALL\n")}, "window");
     addLine("two in one", {QStringLiteral("--INSTALL 1")}, "window");
-    addLine("unknown ones", line("--HELP --force ../file 2"), "window");
-    addLine("a mode by its number", line("--MODE 4"), "window");
+    addLine("unknown ones", words("--HELP --force ../file 2"), "window");
+    addLine("a mode by its number", words("--MODE 4"), "window");
     addLine("an empty one", {QString()}, "window");
     addLine("empty ones around", {QString(), QStringLiteral("--INSTALL"), QString()}, "install");
 }
 
-void CommandLine::starts()
+void TestCommandLine::starts()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, expected);
@@ -91,7 +87,7 @@ void CommandLine::starts()
     QCOMPARE(seen(), expected);
 }
 
-void CommandLine::countsItsOwnName_data()
+void TestCommandLine::countsItsOwnName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("arguments");
@@ -104,14 +100,14 @@ void CommandLine::countsItsOwnName_data()
     add("install", "--INSTALL", {}, "install");
     add("small letters", "--repair", {}, "repair");
     add("uninstall", "--Uninstall", {}, "uninstall");
-    add("one, and install", "1", line("--INSTALL"), "quiet install");
-    add("install, and one", "--INSTALL", line("1"), "quiet install");
-    add("a later switch wins", "--INSTALL", line("--REPAIR"), "repair");
+    add("one, and install", "1", words("--INSTALL"), "quiet install");
+    add("install, and one", "--INSTALL", words("1"), "quiet install");
+    add("a later switch wins", "--INSTALL", words("--REPAIR"), "repair");
     add("in a folder", "folder/--INSTALL", {}, "window");
     add("something else", "setup", {}, "window");
 }
 
-void CommandLine::countsItsOwnName()
+void TestCommandLine::countsItsOwnName()
 {
     QFETCH(const QString, name);
     QFETCH(const QStringList, arguments);
@@ -121,7 +117,7 @@ void CommandLine::countsItsOwnName()
 }
 
 // One simulator that is found and lacks the plugin, one that the record alone knows.
-void CommandLine::run(const QStringList &arguments, const QString &calledAs)
+void TestCommandLine::run(const QStringList &arguments, const QString &calledAs)
 {
     m_computer.reset(new Computer);
     const QString found = QStringLiteral("Det");
@@ -134,7 +130,7 @@ void CommandLine::run(const QStringList &arguments, const QString &calledAs)
     m_status = m_computer->run(arguments);
 }
 
-QString CommandLine::seen() const
+QString TestCommandLine::seen() const
 {
     const QString file = QStringLiteral("/Resources/plugins/Orbwell/about.txt");
     const bool foundHasIt = QFileInfo::exists(m_computer->folder(QStringLiteral("Det")) + file);
@@ -156,5 +152,5 @@ QString CommandLine::seen() const
     return is(2, 0, "") ? QStringLiteral("quiet install") : QStringLiteral("something else");
 }
 
-QTEST_GUILESS_MAIN(CommandLine)
+QTEST_GUILESS_MAIN(TestCommandLine)
 #include "tst_CommandLine.moc"

@@ -1,4 +1,5 @@
-#include "tests/EndToEnd/Patient.h"
+#include "tests/EndToEnd/DisturbedComputer.h"
+#include "tests/EndToEnd/Simulators.h"
 #include "tests/EndToEnd/Tracer.h"
 
 #include <QtTest>
@@ -10,7 +11,7 @@ using namespace Tests;
 // Unattended runs that are killed, or that one system call fails, at every point from where they
 // first touch what belongs to the user. script/faults tries them all; without its variables each
 // test takes a sample.
-class Faults : public QObject
+class TestFaults : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +37,7 @@ private:
     QVector<Fault> kills() const;
     QVector<Fault> failures() const;
 
-    QString log() const { return m_patient->computer().absolute(QStringLiteral("calls")); }
+    QString log() const { return m_disturbed->computer().absolute(QStringLiteral("calls")); }
 
     int runWith(const Fault &fault);
     QStringList wrongAfterKill(const Disk &left);
@@ -45,7 +46,7 @@ private:
     void report(const Fault &fault, const QStringList &wrong);
     void summarise(int points) const;
 
-    QScopedPointer<Patient> m_patient;
+    QScopedPointer<DisturbedComputer> m_disturbed;
     QStringList m_arguments;
     QVector<SystemCall> m_calls;
     int m_usualStatus = -1;
@@ -53,11 +54,6 @@ private:
     QVector<Disk> m_overcome; ///< what killed runs left and the next run made good
     int m_fellShort = 0;
 };
-
-static QStringList words(const char *text)
-{
-    return QString::fromLatin1(text).split(u' ');
-}
 
 static bool isLook(const SystemCall &call)
 {
@@ -78,50 +74,51 @@ static QVector<Item> sample(const QVector<Item> &all)
     return some;
 }
 
-void Faults::initTestCase()
+void TestFaults::initTestCase()
 {
-    if (QByteArray(SANITIZERS).size() > 0)
+    if (ORBWELL_SANITIZERS != 0)
         QSKIP("a sanitizer makes calls of its own, and ends the process when they fail");
     if (!Tracer::works())
         QSKIP("needs strace, and the right to trace a process");
 }
 
-void Faults::cleanup()
+void TestFaults::cleanup()
 {
-    m_patient.reset();
+    m_disturbed.reset();
     m_overcome.clear();
     m_fellShort = 0;
 }
 
-void Faults::addRuns()
+void TestFaults::addRuns()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("beginning");
-    QTest::newRow("install") << words("--INSTALL 1") << int(Patient::PartlyInstalled);
-    QTest::newRow("repair") << words("--REPAIR") << int(Patient::Installed);
-    QTest::newRow("uninstall") << words("--UNINSTALL") << int(Patient::Installed);
-    QTest::newRow("uninstall by record") << words("--UNINSTALL") << int(Patient::OnlyRecorded);
+    QTest::newRow("install") << quietInstallation() << int(DisturbedComputer::PartlyInstalled);
+    QTest::newRow("repair") << words("--REPAIR") << int(DisturbedComputer::Installed);
+    QTest::newRow("uninstall") << words("--UNINSTALL") << int(DisturbedComputer::Installed);
+    QTest::newRow("uninstall by record")
+        << words("--UNINSTALL") << int(DisturbedComputer::OnlyRecorded);
 }
 
-bool Faults::isOnUserData(const SystemCall &call) const
+bool TestFaults::isOnUserData(const SystemCall &call) const
 {
-    const Computer &computer = m_patient->computer();
+    const Computer &computer = m_disturbed->computer();
     return call.text.contains(computer.absolute(QStringLiteral("sims/")))
         || call.text.contains(computer.absolute(computer.data({})));
 }
 
-void Faults::runUndisturbed()
+void TestFaults::runUndisturbed()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, beginning);
     m_arguments = arguments;
-    m_patient.reset(new Patient(Patient::Beginning(beginning)));
-    Computer &computer = m_patient->computer();
+    m_disturbed.reset(new DisturbedComputer(DisturbedComputer::Beginning(beginning)));
+    Computer &computer = m_disturbed->computer();
 
     computer.program().setTracer(Tracer::recording(log()));
     m_usualStatus = computer.run(m_arguments);
-    QCOMPARE(m_patient->harm() + m_patient->leftovers(), QStringList());
-    m_usual = m_patient->outcome();
+    QCOMPARE(m_disturbed->harm() + m_disturbed->leftovers(), QStringList());
+    m_usual = m_disturbed->outcome();
 
     const QVector<SystemCall> all = Tracer::callsIn(log());
     const auto ours = [this](const SystemCall &call) {
@@ -132,7 +129,7 @@ void Faults::runUndisturbed()
     QVERIFY2(m_calls.size() > 100, "the tracer saw hardly anything");
 }
 
-QVector<Faults::Fault> Faults::kills() const
+QVector<TestFaults::Fault> TestFaults::kills() const
 {
     QVector<Fault> faults;
     for (const SystemCall &call : m_calls)
@@ -140,7 +137,7 @@ QVector<Faults::Fault> Faults::kills() const
     return faults;
 }
 
-QVector<Faults::Fault> Faults::failures() const
+QVector<TestFaults::Fault> TestFaults::failures() const
 {
     static const QStringList changing = words(
         "openat write sendfile rename linkat mkdir unlink rmdir ftruncate fchmod chmod fsync");
@@ -159,14 +156,15 @@ QVector<Faults::Fault> Faults::failures() const
     return faults;
 }
 
-int Faults::runWith(const Fault &fault)
+int TestFaults::runWith(const Fault &fault)
 {
-    m_patient->reset();
-    m_patient->computer().program().setTracer(Tracer::disturbing(fault.first, fault.second, log()));
-    return m_patient->computer().run(m_arguments);
+    m_disturbed->reset();
+    m_disturbed->computer().program().setTracer(
+        Tracer::disturbing(fault.first, fault.second, log()));
+    return m_disturbed->computer().run(m_arguments);
 }
 
-void Faults::report(const Fault &fault, const QStringList &wrong)
+void TestFaults::report(const Fault &fault, const QStringList &wrong)
 {
     if (wrong.isEmpty())
         return;
@@ -176,13 +174,13 @@ void Faults::report(const Fault &fault, const QStringList &wrong)
 }
 
 // script/faults adds these lines up.
-void Faults::summarise(int points) const
+void TestFaults::summarise(int points) const
 {
     qInfo("%d points, %d fell short", points, m_fellShort);
     QCOMPARE(m_fellShort, 0);
 }
 
-void Faults::killedRunLosesNothing()
+void TestFaults::killedRunLosesNothing()
 {
     runUndisturbed();
     if (QTest::currentTestFailed())
@@ -191,7 +189,7 @@ void Faults::killedRunLosesNothing()
     const auto faults = sample(kills());
     for (const Fault &fault : faults) {
         killed += runWith(fault) == -1 ? 1 : 0;
-        report(fault, wrongAfterKill(m_patient->computer().disk()));
+        report(fault, wrongAfterKill(m_disturbed->computer().disk()));
     }
     // Memory is not always asked for as often as the time before.
     QVERIFY(killed >= faults.size() * 9 / 10);
@@ -199,26 +197,26 @@ void Faults::killedRunLosesNothing()
 }
 
 // The next run goes by what it finds, so it has to be made only once for the same disk.
-QStringList Faults::wrongAfterKill(const Disk &left)
+QStringList TestFaults::wrongAfterKill(const Disk &left)
 {
-    QStringList wrong = m_patient->harm();
+    QStringList wrong = m_disturbed->harm();
     if (m_overcome.contains(left))
         return wrong;
 
-    const Disk expected = m_patient->expectedAfter(left, m_usual);
-    m_patient->computer().program().setTracer({});
-    if (m_patient->computer().run(m_arguments) != m_usualStatus)
+    const Disk expected = m_disturbed->expectedAfter(left, m_usual);
+    m_disturbed->computer().program().setTracer({});
+    if (m_disturbed->computer().run(m_arguments) != m_usualStatus)
         wrong.append(QStringLiteral("the next run ends with another status"));
-    const QString difference = Tests::difference(m_patient->outcome(), expected);
+    const QString difference = Tests::difference(m_disturbed->outcome(), expected);
     if (!difference.isEmpty())
         wrong.append(difference);
-    wrong += m_patient->harm();
+    wrong += m_disturbed->harm();
     if (wrong.isEmpty())
         m_overcome.append(left);
     return wrong;
 }
 
-void Faults::failingCallLosesNothing()
+void TestFaults::failingCallLosesNothing()
 {
     runUndisturbed();
     if (QTest::currentTestFailed())
@@ -231,43 +229,43 @@ void Faults::failingCallLosesNothing()
     summarise(faults.size());
 }
 
-QStringList Faults::wrongAfterFailure(const SystemCall &call, int status) const
+QStringList TestFaults::wrongAfterFailure(const SystemCall &call, int status) const
 {
-    QStringList wrong = m_patient->harm() + m_patient->leftovers();
+    QStringList wrong = m_disturbed->harm() + m_disturbed->leftovers();
     if (status != 0 && status != 2)
         wrong.append(QStringLiteral("ended with status %1").arg(status));
     // What cannot be looked at is taken for missing, and that is no failure to tell of.
     if (isLook(call))
         return wrong;
-    const QStringList simulators = Patient::simulators();
+    const QStringList simulators = DisturbedComputer::simulators();
     for (const QString &simulator : simulators)
         wrong += untold(simulator, status);
-    const QString record = m_patient->recordPath();
+    const QString record = m_disturbed->recordPath();
     if (!Tracer::disturbedIn(log()).contains(QLatin1String("/.mapping"))
-        && m_patient->outcome().value(record) != m_usual.value(record))
+        && m_disturbed->outcome().value(record) != m_usual.value(record))
         wrong.append(QStringLiteral("another record"));
     return wrong;
 }
 
 // What the user is not told of a simulator that is not as the run should make it.
-QStringList Faults::untold(const QString &simulator, int status) const
+QStringList TestFaults::untold(const QString &simulator, int status) const
 {
     QFETCH(const int, beginning);
-    const QString said = m_patient->computer().said().join(u'\n');
-    const QStringList remaining = m_patient->remaining(simulator);
+    const QString said = m_disturbed->computer().said().join(u'\n');
+    const QStringList remaining = m_disturbed->remaining(simulator);
     QStringList wrong;
-    if (m_arguments.contains(QLatin1String("--REPAIR")) && !m_patient->isWhole(simulator)
+    if (m_arguments.contains(QLatin1String("--REPAIR")) && !m_disturbed->isWhole(simulator)
         && (status != 2 || !said.contains(simulator + QStringLiteral(": Not updated"))))
         wrong.append(QStringLiteral("silent about ") + simulator);
-    if (beginning == Patient::OnlyRecorded
-        && remaining.size() < m_patient->pluginFilesOf(simulator).size()) {
+    if (beginning == DisturbedComputer::OnlyRecorded
+        && remaining.size() < m_disturbed->pluginFilesOf(simulator).size()) {
         for (const QString &path : remaining) {
-            if (status != 2 || !said.contains(m_patient->computer().absolute(path)))
+            if (status != 2 || !said.contains(m_disturbed->computer().absolute(path)))
                 wrong.append(QStringLiteral("silent about ") + path);
         }
     }
     return wrong;
 }
 
-QTEST_GUILESS_MAIN(Faults)
+QTEST_GUILESS_MAIN(TestFaults)
 #include "tst_Faults.moc"

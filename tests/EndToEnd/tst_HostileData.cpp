@@ -20,7 +20,7 @@ using namespace Tests;
 
 // Files and folders made by somebody who wants to do harm: a run ends, soon and within a bound of
 // memory, installs where it can, and touches nothing but what it is about.
-class HostileData : public QObject
+class TestHostileData : public QObject
 {
     Q_OBJECT
 
@@ -42,6 +42,8 @@ private slots:
     void worksInAFolderOfAnyName();
 
 private:
+    void putAt(const QString &dataPath, const Maker &make) const;
+
     QJsonObject entry() const { return m_computer->entry(m_det, 0); }
 
     QString place() const { return m_computer->folder(m_det) + m_module; }
@@ -65,15 +67,14 @@ static void limit()
     constexpr rlim_t mega = 1U << 20U;
     const struct rlimit file = {100 * mega, 100 * mega};
     bool done = setrlimit(RLIMIT_FSIZE, &file) == 0;
-#ifndef __SANITIZE_ADDRESS__
     const struct rlimit memory = {1536 * mega, 1536 * mega};
-    done = done && setrlimit(RLIMIT_AS, &memory) == 0;
-#endif
+    if (ORBWELL_SANITIZERS == 0)
+        done = done && setrlimit(RLIMIT_AS, &memory) == 0;
     if (!done)
         _exit(99);
 }
 
-void HostileData::init()
+void TestHostileData::init()
 {
     m_computer.reset(new Computer);
     m_computer->setCatalogue({entry()});
@@ -83,9 +84,54 @@ void HostileData::init()
     m_computer->program().prepare(limit);
 }
 
-void HostileData::cleanup()
+void TestHostileData::cleanup()
 {
     m_computer.reset();
+}
+
+// In place of whatever is there.
+void TestHostileData::putAt(const QString &dataPath, const Maker &make) const
+{
+    const QString path = m_computer->absolute(m_computer->data(dataPath));
+    QDir().mkpath(QFileInfo(path).path());
+    QDir(path).removeRecursively();
+    QFile::remove(path);
+    make(path);
+}
+
+static void makePipe(const QString &path)
+{
+    mkfifo(QFile::encodeName(path).constData(), 0600);
+}
+
+static void makeFolder(const QString &path)
+{
+    QDir().mkpath(path + QLatin1String("/in"));
+}
+
+static void linkToItself(const QString &path)
+{
+    QFile::link(path, path);
+}
+
+static Maker linkTo(const char *target)
+{
+    return [target](const QString &path) {
+        QFile::link(QLatin1String(target), path);
+    };
+}
+
+static void makeGigabyte(const QString &path)
+{
+    writeFile(path, "[");
+    QFile::resize(path, 1024LL * 1024 * 1024);
+}
+
+static Maker repeated(const QByteArray &piece, int times)
+{
+    return [piece, times](const QString &path) {
+        writeFile(path, piece.repeated(times));
+    };
 }
 
 static void addPlaces(const QStringList &places)
@@ -93,51 +139,17 @@ static void addPlaces(const QStringList &places)
     QTest::addColumn<QString>("place");
     QTest::addColumn<Maker>("make");
     const QVector<QPair<const char *, Maker>> makers{
-        {"a pipe",
-         [](const QString &path) {
-             mkfifo(QFile::encodeName(path).constData(), 0600);
-         }},
-        {"a folder",
-         [](const QString &path) {
-             QDir().mkpath(path + QLatin1String("/in"));
-         }},
-        {"a link to itself",
-         [](const QString &path) {
-             QFile::link(path, path);
-         }},
-        {"a link to nowhere",
-         [](const QString &path) {
-             QFile::link(QStringLiteral("/nowhere/at/all"), path);
-         }},
-        {"an endless device",
-         [](const QString &path) {
-             QFile::link(QStringLiteral("/dev/zero"), path);
-         }},
-        {"a full device",
-         [](const QString &path) {
-             QFile::link(QStringLiteral("/dev/full"), path);
-         }},
-        {"a gigabyte",
-         [](const QString &path) {
-             writeFile(path, "[");
-             QFile::resize(path, 1024LL * 1024 * 1024);
-         }},
-        {"deep nesting",
-         [](const QString &path) {
-             writeFile(path, QByteArray(5000000, '['));
-         }},
-        {"deep elements",
-         [](const QString &path) {
-             writeFile(path, QByteArray("<a>").repeated(2000000));
-         }},
-        {"one line",
-         [](const QString &path) {
-             writeFile(path, QByteArray(5000000, '='));
-         }},
-        {"zeros",
-         [](const QString &path) {
-             writeFile(path, QByteArray(5000000, '\0'));
-         }},
+        {"a pipe", makePipe},
+        {"a folder", makeFolder},
+        {"a link to itself", linkToItself},
+        {"a link to nowhere", linkTo("/nowhere/at/all")},
+        {"an endless device", linkTo("/dev/zero")},
+        {"a full device", linkTo("/dev/full")},
+        {"a gigabyte", makeGigabyte},
+        {"deep nesting", repeated("[", 5000000)},
+        {"deep elements", repeated("<a>", 2000000)},
+        {"one line", repeated("=", 5000000)},
+        {"zeros", repeated(QByteArray(1, '\0'), 5000000)},
     };
     for (const QString &place : places) {
         for (const auto &[name, make] : makers)
@@ -145,7 +157,7 @@ static void addPlaces(const QStringList &places)
     }
 }
 
-void HostileData::endsWhateverIsThere_data()
+void TestHostileData::endsWhateverIsThere_data()
 {
     addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
                QStringLiteral("Quillmont/Orbwell/.path"),
@@ -156,15 +168,11 @@ void HostileData::endsWhateverIsThere_data()
                QStringLiteral("Maker/Det")});
 }
 
-void HostileData::endsWhateverIsThere()
+void TestHostileData::endsWhateverIsThere()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
-    const QString path = m_computer->absolute(m_computer->data(place));
-    QDir().mkpath(QFileInfo(path).path());
-    QDir(path).removeRecursively();
-    QFile::remove(path);
-    make(path);
+    putAt(place, make);
 
     QElapsedTimer sinceStart;
     sinceStart.start();
@@ -174,22 +182,18 @@ void HostileData::endsWhateverIsThere()
     QVERIFY(isInstalled());
 }
 
-void HostileData::showsItsWindowWhateverIsThere_data()
+void TestHostileData::showsItsWindowWhateverIsThere_data()
 {
     addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
                QStringLiteral("Quillmont/Vellum/.settings"),
                QStringLiteral("Maker/Det/dll.xml")});
 }
 
-void HostileData::showsItsWindowWhateverIsThere()
+void TestHostileData::showsItsWindowWhateverIsThere()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
-    const QString path = m_computer->absolute(m_computer->data(place));
-    QDir().mkpath(QFileInfo(path).path());
-    QDir(path).removeRecursively();
-    QFile::remove(path);
-    make(path);
+    putAt(place, make);
 
     m_computer->program().start();
     m_computer->program().window();
@@ -202,7 +206,7 @@ void HostileData::showsItsWindowWhateverIsThere()
     QCOMPARE(m_computer->program().exitStatus(), 0);
 }
 
-void HostileData::endsWhateverTheRecordSays_data()
+void TestHostileData::endsWhateverTheRecordSays_data()
 {
     QTest::addColumn<QByteArray>("path");
     QTest::addColumn<QByteArray>("files");
@@ -218,7 +222,7 @@ void HostileData::endsWhateverTheRecordSays_data()
 }
 
 // Its folder counts, and nothing can be installed there; what is told fits on a screen.
-void HostileData::endsWhateverTheRecordSays()
+void TestHostileData::endsWhateverTheRecordSays()
 {
     QFETCH(const QByteArray, path);
     QFETCH(const QByteArray, files);
@@ -236,7 +240,7 @@ void HostileData::endsWhateverTheRecordSays()
     QVERIFY(!isInstalled());
 }
 
-void HostileData::staysInsideTheSimulator_data()
+void TestHostileData::staysInsideTheSimulator_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::newRow("a link") << Maker([](const QString &path) {
@@ -247,12 +251,9 @@ void HostileData::staysInsideTheSimulator_data()
         QFile::link(QFileInfo(path + QLatin1String("/../../../../precious/new")).absoluteFilePath(),
                     path);
     });
-    QTest::newRow("a link to itself")
-        << Maker([](const QString &path) { QFile::link(path, path); });
-    QTest::newRow("a pipe") << Maker(
-        [](const QString &path) { mkfifo(QFile::encodeName(path).constData(), 0600); });
-    QTest::newRow("a device") << Maker(
-        [](const QString &path) { QFile::link(QStringLiteral("/dev/full"), path); });
+    QTest::newRow("a link to itself") << Maker(linkToItself);
+    QTest::newRow("a pipe") << Maker(makePipe);
+    QTest::newRow("a device") << linkTo("/dev/full");
     QTest::newRow("a folder") << Maker(
         [](const QString &path) { writeFile(path + QLatin1String("/in"), "in"); });
     QTest::newRow("a link to a folder") << Maker([](const QString &path) {
@@ -269,7 +270,7 @@ void HostileData::staysInsideTheSimulator_data()
 }
 
 // In the place of the plugin's file; installed or not, what it leads to stays as it was.
-void HostileData::staysInsideTheSimulator()
+void TestHostileData::staysInsideTheSimulator()
 {
     QFETCH(const Maker, make);
     make(place());
@@ -281,7 +282,7 @@ void HostileData::staysInsideTheSimulator()
     }
 }
 
-void HostileData::worksInAFolderOfAnyName_data()
+void TestHostileData::worksInAFolderOfAnyName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("markup") << QStringLiteral("<b>bold</b> & <img src=x>");
@@ -292,7 +293,7 @@ void HostileData::worksInAFolderOfAnyName_data()
 }
 
 // The name comes out of every text as it is, and as text.
-void HostileData::worksInAFolderOfAnyName()
+void TestHostileData::worksInAFolderOfAnyName()
 {
     QFETCH(const QString, name);
     const QString folder = m_computer->folder(name);
@@ -312,5 +313,5 @@ void HostileData::worksInAFolderOfAnyName()
     QCOMPARE(readFile(folder + m_module + QLatin1String("/kept")), QByteArray("kept"));
 }
 
-QTEST_GUILESS_MAIN(HostileData)
+QTEST_GUILESS_MAIN(TestHostileData)
 #include "tst_HostileData.moc"

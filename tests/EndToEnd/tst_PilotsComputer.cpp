@@ -51,7 +51,7 @@ bool canPackage()
 
 } // namespace
 
-class PilotsComputer : public QObject
+class TestPilotsComputer : public QObject
 {
     Q_OBJECT
 
@@ -78,14 +78,14 @@ private:
     QScopedPointer<PilotsHome> m_home;
 };
 
-void PilotsComputer::initTestCase()
+void TestPilotsComputer::initTestCase()
 {
 #ifndef Q_OS_LINUX
     QSKIP("a Linux computer: Proton, and X-Plane's list where it lies there");
 #endif
 }
 
-void PilotsComputer::init()
+void TestPilotsComputer::init()
 {
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
@@ -94,18 +94,18 @@ void PilotsComputer::init()
     m_program->setVariable("FG_ROOT", m_home->flightGear());
 }
 
-void PilotsComputer::cleanup()
+void TestPilotsComputer::cleanup()
 {
     m_program.reset();
     m_sandbox.reset();
 }
 
-void PilotsComputer::use(const QString &flightGear)
+void TestPilotsComputer::use(const QString &flightGear)
 {
     m_home.reset(new PilotsHome(*m_sandbox, flightGear));
 }
 
-void PilotsComputer::start()
+void TestPilotsComputer::start()
 {
     // No folder of the computer that the test runs on may be a well-known one.
     const QByteArray applications = m_sandbox->path(QStringLiteral("Applications/")).toUtf8();
@@ -121,7 +121,7 @@ void PilotsComputer::start()
 }
 
 // Name and folder of each row, from the top.
-QStringList PilotsComputer::shown()
+QStringList TestPilotsComputer::shown()
 {
     QStringList rows;
     const auto seen = m_program->rows();
@@ -130,7 +130,7 @@ QStringList PilotsComputer::shown()
     return rows;
 }
 
-void PilotsComputer::scanAndInstall()
+void TestPilotsComputer::scanAndInstall()
 {
     m_program->press(QStringLiteral("Scan & Install"));
     QCOMPARE(m_program->box().text,
@@ -141,7 +141,7 @@ void PilotsComputer::scanAndInstall()
     m_program->window();
 }
 
-void PilotsComputer::remove(const QString &simulator)
+void TestPilotsComputer::remove(const QString &simulator)
 {
     m_program->pressAction(simulator);
     QCOMPARE(m_program->box().text,
@@ -151,7 +151,7 @@ void PilotsComputer::remove(const QString &simulator)
     m_program->window();
 }
 
-void PilotsComputer::isShownInTheDescribedOrder()
+void TestPilotsComputer::isShownInTheDescribedOrder()
 {
     start();
     QCOMPARE(
@@ -170,7 +170,7 @@ void PilotsComputer::isShownInTheDescribedOrder()
     QCOMPARE(icons.join(u' '), QStringLiteral("check check check check minus minus minus"));
 }
 
-void PilotsComputer::getsThePluginInOneGo()
+void TestPilotsComputer::getsThePluginInOneGo()
 {
     start();
     scanAndInstall();
@@ -201,7 +201,7 @@ void PilotsComputer::getsThePluginInOneGo()
     QVERIFY(!backupsOf(m_home->dllXml(), QStringLiteral("installation")).isEmpty());
 }
 
-void PilotsComputer::isAsBeforeWhenEachIsRemoved()
+void TestPilotsComputer::isAsBeforeWhenEachIsRemoved()
 {
     const auto before = m_home->trees();
     start();
@@ -218,7 +218,7 @@ void PilotsComputer::isAsBeforeWhenEachIsRemoved()
     QVERIFY(!backupsOf(m_home->dllXml(), QStringLiteral("uninstallation")).isEmpty());
 }
 
-void PilotsComputer::findsAPackagedFlightGear()
+void TestPilotsComputer::findsAPackagedFlightGear()
 {
     if (!canPackage())
         QSKIP("needs root, and a computer without FlightGear");
@@ -237,7 +237,7 @@ void PilotsComputer::findsAPackagedFlightGear()
     QCOMPARE(m_home->trees(), before);
 }
 
-void PilotsComputer::showsAnUpgradedXPlaneOnce()
+void TestPilotsComputer::showsAnUpgradedXPlaneOnce()
 {
     // Found as X-Plane 11 by its name, and as X-Plane 12 by what is in it.
     const QString folder = m_sandbox->path(QStringLiteral("Applications/X-Plane 11"));
@@ -251,5 +251,5 @@ void PilotsComputer::showsAnUpgradedXPlaneOnce()
     QCOMPARE(m_program->row(QStringLiteral("X-Plane 11")).icon, QStringLiteral("minus-grey"));
 }
 
-QTEST_GUILESS_MAIN(PilotsComputer)
+QTEST_GUILESS_MAIN(TestPilotsComputer)
 #include "tst_PilotsComputer.moc"

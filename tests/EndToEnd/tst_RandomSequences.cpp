@@ -13,7 +13,7 @@ using namespace Tests;
 
 // Users and other programs at work, in any order: whatever went before, each click leaves on
 // disk exactly what it should.
-class RandomSequences : public QObject
+class TestRandomSequences : public QObject
 {
     Q_OBJECT
 
@@ -46,14 +46,14 @@ private:
     QStringList m_steps;
 };
 
-void RandomSequences::leaveOnDiskWhatTheyShould_data()
+void TestRandomSequences::leaveOnDiskWhatTheyShould_data()
 {
     QTest::addColumn<unsigned>("seed");
     for (unsigned seed = 1; seed <= 20; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
 
-void RandomSequences::leaveOnDiskWhatTheyShould()
+void TestRandomSequences::leaveOnDiskWhatTheyShould()
 {
     QFETCH(const unsigned, seed);
     m_random.seed(seed);
@@ -70,7 +70,7 @@ void RandomSequences::leaveOnDiskWhatTheyShould()
 }
 
 // "Wren" shares the configuration of "Skylark" and is kept out of it, "Plover" has none yet.
-void RandomSequences::prepare()
+void TestRandomSequences::prepare()
 {
     m_computer.reset(new Computer);
     m_program = &m_computer->program();
@@ -99,7 +99,7 @@ void RandomSequences::prepare()
     m_books.reset(new Bookkeeping(*m_computer, catalogue));
 }
 
-void RandomSequences::step()
+void TestRandomSequences::step()
 {
     const QString simulator = m_books->simulators().at(dice(m_books->simulators().size()));
     switch (dice(12)) {
@@ -121,7 +121,7 @@ void RandomSequences::step()
     }
 }
 
-void RandomSequences::pressRow(const QString &simulator)
+void TestRandomSequences::pressRow(const QString &simulator)
 {
     const bool wasInstalled = m_books->isInstalled(simulator);
     m_steps.append((wasInstalled ? QLatin1String("uninstall ") : QLatin1String("install "))
@@ -141,7 +141,7 @@ void RandomSequences::pressRow(const QString &simulator)
     checkRows();
 }
 
-void RandomSequences::scanAndInstall()
+void TestRandomSequences::scanAndInstall()
 {
     m_steps.append(QStringLiteral("scan and install"));
     m_program->press(QStringLiteral("Scan & Install"));
@@ -157,7 +157,7 @@ void RandomSequences::scanAndInstall()
 }
 
 // Whether it is there or not.
-void RandomSequences::loseAPluginFile(const QString &simulator)
+void TestRandomSequences::loseAPluginFile(const QString &simulator)
 {
     const QStringList files = m_books->pluginFilesOf(simulator);
     const QString &path = files.at(dice(files.size()));
@@ -166,14 +166,14 @@ void RandomSequences::loseAPluginFile(const QString &simulator)
     m_books->lose(path);
 }
 
-void RandomSequences::putBesideAPluginFile(const QString &simulator, const char *name)
+void TestRandomSequences::putBesideAPluginFile(const QString &simulator, const char *name)
 {
     const QStringList files = m_books->pluginFilesOf(simulator);
     const QString &path = files.at(dice(files.size()));
     write(path.left(path.lastIndexOf(u'/') + 1) + QLatin1String(name), name);
 }
 
-void RandomSequences::addSomebodysEntry(const QString &simulator)
+void TestRandomSequences::addSomebodysEntry(const QString &simulator)
 {
     const QString file = m_books->configurationOf(simulator);
     if (file.isEmpty() || !m_books->has(file))
@@ -184,7 +184,7 @@ void RandomSequences::addSomebodysEntry(const QString &simulator)
     write(file, text);
 }
 
-void RandomSequences::loseTheConfiguration(const QString &simulator)
+void TestRandomSequences::loseTheConfiguration(const QString &simulator)
 {
     const QString file = m_books->configurationOf(simulator);
     m_steps.append(QLatin1String("lose ") + file);
@@ -193,19 +193,19 @@ void RandomSequences::loseTheConfiguration(const QString &simulator)
     m_books->lose(file);
 }
 
-void RandomSequences::damageTheRecord()
+void TestRandomSequences::damageTheRecord()
 {
     write(m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping")), "[{\"name\": ");
 }
 
-void RandomSequences::write(const QString &path, const QByteArray &content)
+void TestRandomSequences::write(const QString &path, const QByteArray &content)
 {
     m_steps.append(QLatin1String("write ") + path);
     m_computer->write(path, content);
     m_books->change(path, content);
 }
 
-void RandomSequences::answer(const QString &title, const QString &text)
+void TestRandomSequences::answer(const QString &title, const QString &text)
 {
     const SeenWindow box = m_program->box();
     QCOMPARE(box.title, title);
@@ -214,14 +214,14 @@ void RandomSequences::answer(const QString &title, const QString &text)
     m_program->window();
 }
 
-void RandomSequences::check()
+void TestRandomSequences::check()
 {
     QCOMPARE(difference(m_computer->disk(), m_books->disk()), QString());
     checkBackups();
 }
 
 // The first is kept for certain, of the others those that met no backup of the same second.
-void RandomSequences::checkBackups()
+void TestRandomSequences::checkBackups()
 {
     const auto &sets = m_books->backups();
     for (auto it = sets.cbegin(); it != sets.cend(); ++it) {
@@ -234,7 +234,7 @@ void RandomSequences::checkBackups()
     }
 }
 
-void RandomSequences::checkRows()
+void TestRandomSequences::checkRows()
 {
     for (const SeenRow &row : m_program->rows()) {
         const bool installed = m_books->isInstalled(row.name);
@@ -244,5 +244,5 @@ void RandomSequences::checkRows()
     }
 }
 
-QTEST_GUILESS_MAIN(RandomSequences)
+QTEST_GUILESS_MAIN(TestRandomSequences)
 #include "tst_RandomSequences.moc"

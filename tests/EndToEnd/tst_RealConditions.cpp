@@ -1,8 +1,8 @@
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/Mounts.h"
 #include "tests/EndToEnd/Simulators.h"
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/support/Files.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -21,7 +21,7 @@ using namespace Tests;
 
 // Disks that are full or may only be read, files that nobody may change, users who may not write,
 // and a computer without a screen: as they are, not as a test pretends.
-class RealConditions : public QObject
+class TestRealConditions : public QObject
 {
     Q_OBJECT
 
@@ -69,8 +69,6 @@ private:
     QScopedPointer<Unprivileged> m_user;
 };
 
-static const QStringList quietInstall{QStringLiteral("--INSTALL"), QStringLiteral("1")};
-
 static const char *const noMount = "needs the right to mount something";
 
 static bool setImmutable(const QString &path, bool on)
@@ -90,13 +88,13 @@ static bool setImmutable(const QString &path, bool on)
 #endif
 }
 
-void RealConditions::init()
+void TestRealConditions::init()
 {
     m_computer.reset(new Computer);
     m_mounts.reset(new Mounts);
 }
 
-void RealConditions::cleanup()
+void TestRealConditions::cleanup()
 {
     m_user.reset();
     for (const QString &path : qAsConst(m_immutable))
@@ -107,7 +105,7 @@ void RealConditions::cleanup()
 }
 
 // One simulator, found in its folder, and how big its plugin file is.
-void RealConditions::installInto(int type, const QByteArray &payload)
+void TestRealConditions::installInto(int type, const QByteArray &payload)
 {
     QJsonObject entry = m_computer->entry(m_det, 0);
     entry.insert(QStringLiteral("type"), type);
@@ -118,7 +116,7 @@ void RealConditions::installInto(int type, const QByteArray &payload)
     m_computer->addSimulator(m_det);
 }
 
-QString RealConditions::cannotCopy() const
+QString TestRealConditions::cannotCopy() const
 {
     return QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have permission to "
                           "folder '%3/'.\r\n")
@@ -128,7 +126,7 @@ QString RealConditions::cannotCopy() const
 }
 
 // Reading and writing it are told of together, and have no line end.
-QString RealConditions::cannotRecord(const QString &dataRoot) const
+QString TestRealConditions::cannotRecord(const QString &dataRoot) const
 {
     return QStringLiteral("The file '%1' is empty. Quillmont Orbwell installer was not able to "
                           "change your configuration.Unable to write configuration to file '%1'. "
@@ -136,25 +134,25 @@ QString RealConditions::cannotRecord(const QString &dataRoot) const
         .arg(dataRoot + QLatin1String("//Quillmont/Orbwell/.mapping"));
 }
 
-QString RealConditions::cannotInstall(const QString &lines) const
+QString TestRealConditions::cannotInstall(const QString &lines) const
 {
     return QStringLiteral("Uninstall: Quillmont Orbwell was not able to uninstall your Orbwell "
                           "plugin from Det.\r\n\r\nPlease see the list below for details:\r\n\r\n")
         + lines;
 }
 
-QString RealConditions::configuration() const
+QString TestRealConditions::configuration() const
 {
     return m_computer->absolute(m_computer->configuration(m_det));
 }
 
-void RealConditions::forbid(const QString &folder)
+void TestRealConditions::forbid(const QString &folder)
 {
     QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
 }
 
 // Root may write anywhere; the program gets another user then.
-void RealConditions::becomeAUser()
+void TestRealConditions::becomeAUser()
 {
     m_user.reset(new Unprivileged(m_computer->absolute(QString()).chopped(1)));
     const uid_t user = geteuid();
@@ -164,7 +162,7 @@ void RealConditions::becomeAUser()
     });
 }
 
-void RealConditions::limitFiles(rlim_t size)
+void TestRealConditions::limitFiles(rlim_t size)
 {
     m_computer->program().prepare([size] {
         const struct rlimit limit = {size, size};
@@ -173,33 +171,33 @@ void RealConditions::limitFiles(rlim_t size)
     });
 }
 
-bool RealConditions::makeImmutable(const QString &path)
+bool TestRealConditions::makeImmutable(const QString &path)
 {
     m_immutable.append(path);
     return setImmutable(path, true);
 }
 
-void RealConditions::namesAFolderThatIsNotTheUsers()
+void TestRealConditions::namesAFolderThatIsNotTheUsers()
 {
     installInto(1, "module");
     becomeAUser();
     const QString gauges = m_computer->folder(m_det) + QLatin1String("/Gauges");
     forbid(gauges);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(QDir(gauges).entryList(QDir::Files | QDir::Hidden),
              QStringList(QStringLiteral("other.dll")));
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void RealConditions::leavesAConfigurationThatIsNotTheUsers()
+void TestRealConditions::leavesAConfigurationThatIsNotTheUsers()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
     becomeAUser();
     QVERIFY(QFile::setPermissions(configuration(), QFile::ReadOwner));
     forbid(QFileInfo(configuration()).path());
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(treeOf(QFileInfo(configuration()).path()),
              (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), othersConfiguration()}}));
@@ -207,7 +205,7 @@ void RealConditions::leavesAConfigurationThatIsNotTheUsers()
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void RealConditions::worksWithoutADataFolder_data()
+void TestRealConditions::worksWithoutADataFolder_data()
 {
     QTest::addColumn<QString>("home");
     QTest::newRow("a home that may only be read") << QStringLiteral("closed");
@@ -215,7 +213,7 @@ void RealConditions::worksWithoutADataFolder_data()
 }
 
 // The plugin gets in all the same.
-void RealConditions::worksWithoutADataFolder()
+void TestRealConditions::worksWithoutADataFolder()
 {
     QFETCH(const QString, home);
     installInto(1, "module");
@@ -224,7 +222,7 @@ void RealConditions::worksWithoutADataFolder()
     becomeAUser();
     forbid(closed);
     m_computer->program().setVariable("HOME", m_computer->absolute(home));
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     const QString dataRoot = m_computer->absolute(home) + QLatin1String("/.local/share");
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotRecord(dataRoot))));
     QCOMPARE(readFile(place()), QByteArray("module"));
@@ -232,7 +230,7 @@ void RealConditions::worksWithoutADataFolder()
     QCOMPARE(treeOf(m_computer->absolute(QStringLiteral("home"))), (QMap<QString, QByteArray>()));
 }
 
-void RealConditions::opensItsWindowWithoutADataFolder()
+void TestRealConditions::opensItsWindowWithoutADataFolder()
 {
     installInto(1, "module");
     becomeAUser();
@@ -243,18 +241,18 @@ void RealConditions::opensItsWindowWithoutADataFolder()
     QVERIFY(!QFileInfo::exists(QStringLiteral("/nobody's")));
 }
 
-void RealConditions::namesWhatASmallDiskDoesNotTake()
+void TestRealConditions::namesWhatASmallDiskDoesNotTake()
 {
     if (!m_mounts->addDisk(m_computer->folder(m_det), 100))
         QSKIP(noMount);
     installInto(1, QByteArray(200 * 1024, 'x'));
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
              QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
 }
 
-void RealConditions::leavesAConfigurationOnAFullDisk()
+void TestRealConditions::leavesAConfigurationOnAFullDisk()
 {
     const QString folder = QFileInfo(configuration()).path();
     if (!m_mounts->addDisk(folder, 100))
@@ -263,7 +261,7 @@ void RealConditions::leavesAConfigurationOnAFullDisk()
     const QByteArray content
         = othersConfiguration() + "<!--" + QByteArray(70 * 1024, 'x') + "-->\r\n";
     writeFile(configuration(), content);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), content);
     QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden),
@@ -271,42 +269,42 @@ void RealConditions::leavesAConfigurationOnAFullDisk()
     QCOMPARE(readFile(place()), QByteArray("module"));
 }
 
-void RealConditions::namesWhatIsOverTheLimit()
+void TestRealConditions::namesWhatIsOverTheLimit()
 {
     installInto(1, QByteArray(200 * 1024, 'x'));
     limitFiles(100000);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)).keys(),
              QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void RealConditions::leavesAConfigurationOverTheLimit()
+void TestRealConditions::leavesAConfigurationOverTheLimit()
 {
     installInto(0, "module");
     const QByteArray content
         = othersConfiguration() + "<!--" + QByteArray(200 * 1024, 'x') + "-->\r\n";
     m_computer->write(m_computer->configuration(m_det), content);
     limitFiles(100000);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(treeOf(QFileInfo(configuration()).path()),
              (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), content}}));
 }
 
-void RealConditions::namesAReadOnlyDisk()
+void TestRealConditions::namesAReadOnlyDisk()
 {
     installInto(1, "module");
     if (!m_mounts->protect(m_computer->folder(m_det)))
         QSKIP(noMount);
     const Disk before = treeOf(m_computer->folder(m_det));
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotCopy())));
     QCOMPARE(treeOf(m_computer->folder(m_det)), before);
 }
 
-void RealConditions::worksWithAReadOnlyDataFolder()
+void TestRealConditions::worksWithAReadOnlyDataFolder()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -314,19 +312,19 @@ void RealConditions::worksWithAReadOnlyDataFolder()
     if (!m_mounts->protect(dataRoot))
         QSKIP(noMount);
     const Disk before = treeOf(dataRoot);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotInstall(cannotRecord(dataRoot))));
     QCOMPARE(treeOf(dataRoot), before);
     QCOMPARE(readFile(place()), QByteArray("module"));
 }
 
-void RealConditions::leavesAnImmutableConfiguration()
+void TestRealConditions::leavesAnImmutableConfiguration()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
     if (!makeImmutable(configuration()))
         QSKIP("needs root and a file system with immutable files");
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), othersConfiguration());
     // The backup, and nothing that was meant to take the file's place.
@@ -338,7 +336,7 @@ void RealConditions::leavesAnImmutableConfiguration()
     QVERIFY(files.size() > 1);
 }
 
-void RealConditions::namesAnImmutablePluginFile()
+void TestRealConditions::namesAnImmutablePluginFile()
 {
     QJsonObject entry = m_computer->entry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -357,21 +355,21 @@ void RealConditions::namesAnImmutablePluginFile()
 }
 
 // Nothing can be renamed over it.
-void RealConditions::leavesAConfigurationThatIsAMountPoint()
+void TestRealConditions::leavesAConfigurationThatIsAMountPoint()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
     m_computer->write(QStringLiteral("elsewhere"), othersConfiguration());
     if (!m_mounts->show(m_computer->absolute(QStringLiteral("elsewhere")), configuration()))
         QSKIP(noMount);
-    QCOMPARE(m_computer->run(quietInstall), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), othersConfiguration());
     QCOMPARE(QFileInfo(configuration()).dir().entryList({QStringLiteral("dll.xml.*")}),
              QStringList());
 }
 
-void RealConditions::namesAPluginFileThatIsAMountPoint()
+void TestRealConditions::namesAPluginFileThatIsAMountPoint()
 {
     installInto(1, "module");
     writeFile(place(), "old");
@@ -383,19 +381,20 @@ void RealConditions::namesAPluginFileThatIsAMountPoint()
     QCOMPARE(readFile(place()), QByteArray("precious"));
 }
 
-void RealConditions::endsWithoutAScreen_data()
+void TestRealConditions::endsWithoutAScreen_data()
 {
     QTest::addColumn<QString>("platform");
     QTest::addColumn<QStringList>("arguments");
     for (const char *platform : {"xcb", "nothing like it"}) {
         const QString name = QLatin1String(platform);
         QTest::newRow(platform) << name << QStringList();
-        QTest::newRow(qPrintable(name + QLatin1String(", unattended"))) << name << quietInstall;
+        QTest::newRow(qPrintable(name + QLatin1String(", unattended")))
+            << name << quietInstallation();
     }
 }
 
 // It says so, and touches nothing.
-void RealConditions::endsWithoutAScreen()
+void TestRealConditions::endsWithoutAScreen()
 {
     QFETCH(const QString, platform);
     QFETCH(const QStringList, arguments);
@@ -418,7 +417,7 @@ int main(int argc, char *argv[])
 {
     Mounts::separate();
     QCoreApplication application(argc, argv);
-    RealConditions test;
+    TestRealConditions test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -6,7 +6,7 @@
 using namespace Tests;
 
 // What "Scan & Install" does with simulators that lack the plugin, and with others.
-class ScanAndInstall : public QObject
+class TestScanAndInstall : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
     QJsonArray m_catalogue;
 };
 
-void ScanAndInstall::init()
+void TestScanAndInstall::init()
 {
     m_computer.reset(new Computer);
     m_program = &m_computer->program();
@@ -41,12 +41,12 @@ void ScanAndInstall::init()
     m_computer->setCatalogue(m_catalogue);
 }
 
-void ScanAndInstall::cleanup()
+void TestScanAndInstall::cleanup()
 {
     m_computer.reset();
 }
 
-SeenWindow ScanAndInstall::scanAndInstall()
+SeenWindow TestScanAndInstall::scanAndInstall()
 {
     m_program->start();
     m_program->window();
@@ -54,7 +54,7 @@ SeenWindow ScanAndInstall::scanAndInstall()
     return m_program->box();
 }
 
-void ScanAndInstall::scansAfterEachOfThreeAndShowsOneBox()
+void TestScanAndInstall::scansAfterEachOfThreeAndShowsOneBox()
 {
     const SeenWindow box = scanAndInstall();
     QCOMPARE(box.title, QStringLiteral("Quillmont Orbwell Settings"));
@@ -73,7 +73,7 @@ void ScanAndInstall::scansAfterEachOfThreeAndShowsOneBox()
     }
 }
 
-void ScanAndInstall::installsIntoAllOfThem()
+void TestScanAndInstall::installsIntoAllOfThem()
 {
     Disk expected = m_computer->disk();
     scanAndInstall();
@@ -92,7 +92,7 @@ void ScanAndInstall::installsIntoAllOfThem()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void ScanAndInstall::saysThatThereIsNothingToInstall()
+void TestScanAndInstall::saysThatThereIsNothingToInstall()
 {
     for (int i = 0; i < m_names.size(); ++i)
         m_computer->addPlugin(m_names.at(i), i % 2);
@@ -101,12 +101,12 @@ void ScanAndInstall::saysThatThereIsNothingToInstall()
     QCOMPARE(m_computer->records().size(), 3);
 }
 
-void ScanAndInstall::saysThatThereIsNoSimulator()
+void TestScanAndInstall::saysThatThereIsNoSimulator()
 {
     m_computer->setCatalogue({});
     QCOMPARE(scanAndInstall().text,
              QStringLiteral("There are no other simulator found for install Orbwell plugin."));
 }
 
-QTEST_GUILESS_MAIN(ScanAndInstall)
+QTEST_GUILESS_MAIN(TestScanAndInstall)
 #include "tst_ScanAndInstall.moc"

@@ -10,7 +10,7 @@
 using namespace Tests;
 
 // A person who hears the window: what a screen reader finds and presses on the system's own bus.
-class ScreenReader : public QObject
+class TestScreenReader : public QObject
 {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private:
     Display m_display;
 };
 
-CommandResult ScreenReader::listen(const QString &python, const QString &program) const
+CommandResult TestScreenReader::listen(const QString &python, const QString &program) const
 {
     return Command(QStringLiteral("dbus-run-session"),
                    {QStringLiteral("--"),
@@ -39,7 +39,7 @@ CommandResult ScreenReader::listen(const QString &python, const QString &program
         .run();
 }
 
-void ScreenReader::findsARowAndPressesItsButton()
+void TestScreenReader::findsARowAndPressesItsButton()
 {
     if (!m_display.isUp() || !Command::exists(QStringLiteral("dbus-run-session")))
         QSKIP("needs Xvfb, xdotool and dbus-run-session");
@@ -86,5 +86,5 @@ void ScreenReader::findsARowAndPressesItsButton()
     QCOMPARE(heard.output.mid(heard.output.indexOf("list item")), expected);
 }
 
-QTEST_GUILESS_MAIN(ScreenReader)
+QTEST_GUILESS_MAIN(TestScreenReader)
 #include "tst_ScreenReader.moc"

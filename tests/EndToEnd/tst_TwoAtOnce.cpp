@@ -78,9 +78,8 @@ void TestTwoAtOnce::initTestCase()
 
 void TestTwoAtOnce::installTogether()
 {
-    const QStringList quietly{QStringLiteral("--INSTALL"), QStringLiteral("1")};
-    m_first.start(quietly);
-    m_second.start(quietly);
+    m_first.start(quietInstallation());
+    m_second.start(quietInstallation());
     QCOMPARE(m_first.exitStatus(), 2);
     QCOMPARE(m_second.exitStatus(), 2);
 }

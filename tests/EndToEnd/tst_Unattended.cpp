@@ -7,7 +7,7 @@ using namespace Tests;
 
 // What each run does to two simulators: the scan finds "Det", which lacks the plugin; "Rec" is
 // known to the record alone, with all its files in place.
-class Unattended : public QObject
+class TestUnattended : public QObject
 {
     Q_OBJECT
 
@@ -44,24 +44,24 @@ private:
     Disk m_expected;
 };
 
-void Unattended::init()
+void TestUnattended::init()
 {
     m_computer.reset(new Computer);
 }
 
-void Unattended::cleanup()
+void TestUnattended::cleanup()
 {
     m_computer.reset();
 }
 
-void Unattended::addTypes()
+void TestUnattended::addTypes()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("with a configuration file") << 0;
     QTest::newRow("with plugin files alone") << 1;
 }
 
-void Unattended::prepare(int type)
+void TestUnattended::prepare(int type)
 {
     m_foundEntry = m_computer->entry(m_det, type);
     m_recordedEntry = m_computer->hiddenEntry(m_rec, type);
@@ -83,7 +83,7 @@ void Unattended::prepare(int type)
     }
 }
 
-void Unattended::hasOneBox(const char *title, const QString &text) const
+void TestUnattended::hasOneBox(const char *title, const QString &text) const
 {
     QCOMPARE(m_computer->boxes().size(), 1);
     const SeenWindow &box = m_computer->boxes().constFirst();
@@ -94,7 +94,7 @@ void Unattended::hasOneBox(const char *title, const QString &text) const
     QCOMPARE(box.buttonTexts(), QStringList(QStringLiteral("OK")));
 }
 
-void Unattended::installs()
+void TestUnattended::installs()
 {
     QFETCH(const int, type);
     prepare(type);
@@ -107,18 +107,18 @@ void Unattended::installs()
     QCOMPARE(difference(m_computer->disk(), m_expected), QString());
 }
 
-void Unattended::installsQuietly()
+void TestUnattended::installsQuietly()
 {
     QFETCH(const int, type);
     prepare(type);
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     m_computer->finish(
         &m_expected, {m_computer->recordFor(m_foundEntry), m_computer->recordFor(m_recordedEntry)});
     QCOMPARE(difference(m_computer->disk(), m_expected), QString());
 }
 
-void Unattended::repairs()
+void TestUnattended::repairs()
 {
     QFETCH(const int, type);
     prepare(type);
@@ -139,7 +139,7 @@ void Unattended::repairs()
 }
 
 // Each removal is followed by a look at the computer that installs into what it finds.
-void Unattended::uninstalls()
+void TestUnattended::uninstalls()
 {
     QFETCH(const int, type);
     prepare(type);
@@ -157,5 +157,5 @@ void Unattended::uninstalls()
     QCOMPARE(difference(m_computer->disk(), m_expected), QString());
 }
 
-QTEST_GUILESS_MAIN(Unattended)
+QTEST_GUILESS_MAIN(TestUnattended)
 #include "tst_Unattended.moc"

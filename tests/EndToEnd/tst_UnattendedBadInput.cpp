@@ -10,7 +10,7 @@
 using namespace Tests;
 
 // Records and configuration files that somebody damaged, or that became something else.
-class UnattendedBadInput : public QObject
+class TestUnattendedBadInput : public QObject
 {
     Q_OBJECT
 
@@ -41,29 +41,24 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList one(const char *argument)
-{
-    return {QLatin1String(argument)};
-}
-
-void UnattendedBadInput::init()
+void TestUnattendedBadInput::init()
 {
     m_computer.reset(new Computer);
     m_computer->setCatalogue({m_computer->hiddenEntry(m_rec, 1)});
 }
 
-void UnattendedBadInput::cleanup()
+void TestUnattendedBadInput::cleanup()
 {
     m_computer.reset();
 }
 
-QString UnattendedBadInput::file(const QString &simulator) const
+QString TestUnattendedBadInput::file(const QString &simulator) const
 {
     return m_computer->folder(simulator) + QLatin1String("/Resources/plugins/Orbwell/about.txt");
 }
 
 // Says of "Rec" that it lies in the folder.
-QJsonObject UnattendedBadInput::recordIn(const QString &folder) const
+QJsonObject TestUnattendedBadInput::recordIn(const QString &folder) const
 {
     QJsonObject record = m_computer->recordFor(m_computer->entry(folder, 1));
     record.insert(QStringLiteral("name"), m_rec);
@@ -71,7 +66,7 @@ QJsonObject UnattendedBadInput::recordIn(const QString &folder) const
 }
 
 // The first counts in the next run.
-void UnattendedBadInput::takesTheLastOfTwoRecords()
+void TestUnattendedBadInput::takesTheLastOfTwoRecords()
 {
     const QString a = QStringLiteral("A");
     const QString b = QStringLiteral("B");
@@ -79,28 +74,28 @@ void UnattendedBadInput::takesTheLastOfTwoRecords()
     m_computer->addPlugin(b, 1);
     m_computer->setRecords({recordIn(a), recordIn(b)});
 
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(QFileInfo::exists(file(a)));
     QVERIFY(!QFileInfo::exists(file(b)));
     QCOMPARE(m_computer->records(), QJsonArray{recordIn(a)});
 
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(!QFileInfo::exists(file(a)));
     QCOMPARE(m_computer->records(), QJsonArray());
 }
 
 // And takes out the last, whichever counted.
-void UnattendedBadInput::takesTheRecordWhoseFilesAreThere()
+void TestUnattendedBadInput::takesTheRecordWhoseFilesAreThere()
 {
     const QString a = QStringLiteral("A");
     m_computer->addPlugin(a, 1);
     m_computer->setRecords({recordIn(a), recordIn(QStringLiteral("gone"))});
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(!QFileInfo::exists(file(a)));
     QCOMPARE(m_computer->records(), QJsonArray{recordIn(a)});
 }
 
-void UnattendedBadInput::keepsForeignRecords()
+void TestUnattendedBadInput::keepsForeignRecords()
 {
     const QJsonArray foreign{5,
                              QStringLiteral("text"),
@@ -115,12 +110,12 @@ void UnattendedBadInput::keepsForeignRecords()
     m_computer->addPlugin(m_rec, 1);
     records.insert(3, recordIn(m_rec));
     m_computer->setRecords(records);
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QVERIFY(!QFileInfo::exists(file(m_rec)));
     QCOMPARE(m_computer->records(), foreign);
 }
 
-void UnattendedBadInput::ignoresRecordsOfWrongTypes_data()
+void TestUnattendedBadInput::ignoresRecordsOfWrongTypes_data()
 {
     QTest::addColumn<QByteArray>("record");
     QTest::newRow("a name that is a number")
@@ -137,7 +132,7 @@ void UnattendedBadInput::ignoresRecordsOfWrongTypes_data()
         << QByteArray(R"({"name": "Rec", "path": "%", "files": [""]})");
 }
 
-void UnattendedBadInput::ignoresRecordsOfWrongTypes()
+void TestUnattendedBadInput::ignoresRecordsOfWrongTypes()
 {
     QFETCH(QByteArray, record);
     m_computer->addPlugin(m_rec, 1);
@@ -147,7 +142,7 @@ void UnattendedBadInput::ignoresRecordsOfWrongTypes()
     Disk expected = m_computer->disk();
     const QJsonArray records = m_computer->records();
     for (const char *argument : {"--UNINSTALL", "--REPAIR"}) {
-        QCOMPARE(m_computer->run(one(argument)), 0);
+        QCOMPARE(m_computer->run(words(argument)), 0);
         QCOMPARE(m_computer->said(), QStringList());
     }
     m_computer->finish(&expected, records);
@@ -156,7 +151,7 @@ void UnattendedBadInput::ignoresRecordsOfWrongTypes()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedBadInput::startsAnUnreadableRecordAnew_data()
+void TestUnattendedBadInput::startsAnUnreadableRecordAnew_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("cut off") << QByteArray(R"([{"name": "Rec", )");
@@ -165,7 +160,7 @@ void UnattendedBadInput::startsAnUnreadableRecordAnew_data()
     QTest::newRow("blank") << QByteArray("\n");
 }
 
-void UnattendedBadInput::startsAnUnreadableRecordAnew()
+void TestUnattendedBadInput::startsAnUnreadableRecordAnew()
 {
     QFETCH(const QByteArray, content);
     const QJsonObject entry = m_computer->entry(m_det, 1);
@@ -175,34 +170,34 @@ void UnattendedBadInput::startsAnUnreadableRecordAnew()
     Disk expected = m_computer->disk();
     m_computer->putPlugin(&expected, entry);
     m_computer->finish(&expected, {m_computer->recordFor(entry)});
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedBadInput::sparesAFileInPlaceOfTheFolder()
+void TestUnattendedBadInput::sparesAFileInPlaceOfTheFolder()
 {
     m_computer->write(QStringLiteral("sims/Rec"), "precious");
     const QJsonObject record{{QStringLiteral("name"), m_rec},
                              {QStringLiteral("path"), m_computer->folder(m_rec)}};
     m_computer->setRecords({record});
-    QCOMPARE(m_computer->run(one("--REPAIR")), 2);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 2);
     QCOMPARE(m_computer->said().size(), 1);
     QVERIFY(m_computer->said().constFirst().endsWith(QLatin1String("\r\n\r\nRec: Not updated")));
     m_computer->setRecords({record});
-    QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+    QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
     QCOMPARE(readFile(m_computer->folder(m_rec)), QByteArray("precious"));
     QCOMPARE(m_computer->records(), QJsonArray());
 }
 
 // Both messages speak of the file and have no line end; the plugin gets installed all the same.
-void UnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
+void TestUnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
 {
     m_computer->setCatalogue({m_computer->entry(m_det, 1)});
     m_computer->addSimulator(m_det);
     const QString record = m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping"));
     QVERIFY(QDir().mkpath(m_computer->absolute(record)));
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(
         m_computer->said(),
         QStringList(
@@ -218,7 +213,7 @@ void UnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
     QVERIFY(QFileInfo(m_computer->absolute(record)).isDir());
 }
 
-void UnattendedBadInput::leavesAMalformedConfigurationAlone_data()
+void TestUnattendedBadInput::leavesAMalformedConfigurationAlone_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("cut off") << othersConfiguration().chopped(10);
@@ -228,7 +223,7 @@ void UnattendedBadInput::leavesAMalformedConfigurationAlone_data()
     QTest::newRow("an unescaped ampersand") << othersConfiguration().replace("Somebody's", "A & B");
 }
 
-void UnattendedBadInput::leavesAMalformedConfigurationAlone()
+void TestUnattendedBadInput::leavesAMalformedConfigurationAlone()
 {
     QFETCH(const QByteArray, content);
     const QJsonObject entry = m_computer->entry(m_det, 0);
@@ -238,7 +233,7 @@ void UnattendedBadInput::leavesAMalformedConfigurationAlone()
     m_computer->write(configuration, content);
     Disk expected = m_computer->disk();
 
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said().size(), 1);
     QVERIFY(m_computer->said().constFirst().endsWith(QLatin1String("\r\n\r\nDet: Updated")));
     m_computer->putPlugin(&expected, entry);
@@ -249,7 +244,7 @@ void UnattendedBadInput::leavesAMalformedConfigurationAlone()
 }
 
 // Whether it can be changed depends on who asks; nobody else's line may get lost.
-void UnattendedBadInput::worksWithAReadOnlyConfiguration()
+void TestUnattendedBadInput::worksWithAReadOnlyConfiguration()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
@@ -260,7 +255,7 @@ void UnattendedBadInput::worksWithAReadOnlyConfiguration()
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
     const QFile::Permissions before = QFile::permissions(path);
 
-    QCOMPARE(m_computer->run({QStringLiteral("--INSTALL"), QStringLiteral("1")}), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     const QByteArray after = readFile(path);
     QVERIFY(after == othersConfiguration() || after == ourConfiguration());
@@ -273,18 +268,18 @@ void UnattendedBadInput::worksWithAReadOnlyConfiguration()
              QFileInfo(path).dir().entryList(QDir::Files | QDir::Hidden).mid(1));
 }
 
-void UnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()
+void TestUnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
     m_computer->addSimulator(m_det);
     m_computer->write(m_computer->configuration(m_det) + QLatin1String("/kept"), "kept");
     Disk expected = m_computer->disk();
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     m_computer->putPlugin(&expected, entry);
     m_computer->finish(&expected, {m_computer->recordFor(entry)});
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-QTEST_GUILESS_MAIN(UnattendedBadInput)
+QTEST_GUILESS_MAIN(TestUnattendedBadInput)
 #include "tst_UnattendedBadInput.moc"

@@ -8,7 +8,7 @@
 using namespace Tests;
 
 // What follows from the steps of a run, taken to the letter.
-class UnattendedDetails : public QObject
+class TestUnattendedDetails : public QObject
 {
     Q_OBJECT
 
@@ -36,11 +36,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList quietInstallation()
-{
-    return {QStringLiteral("--INSTALL"), QStringLiteral("1")};
-}
-
 static QJsonObject with(QJsonObject entry, const char *key, const QJsonValue &value)
 {
     entry.insert(QLatin1String(key), value);
@@ -66,18 +61,18 @@ static QJsonObject withFilesToDelete(const QJsonObject &entry)
     return with(entry, "config", config);
 }
 
-void UnattendedDetails::init()
+void TestUnattendedDetails::init()
 {
     m_computer.reset(new Computer);
 }
 
-void UnattendedDetails::cleanup()
+void TestUnattendedDetails::cleanup()
 {
     m_computer.reset();
 }
 
 // The entry goes back in behind the others, and so shows that it was out.
-void UnattendedDetails::clearsAHalfInstallationFirst()
+void TestUnattendedDetails::clearsAHalfInstallationFirst()
 {
     const QJsonObject entry = withFilesToDelete(m_computer->entry(m_det, 0));
     m_computer->setCatalogue({entry});
@@ -102,7 +97,7 @@ void UnattendedDetails::clearsAHalfInstallationFirst()
     QVERIFY(!QFileInfo::exists(m_computer->absolute(QStringLiteral("home/y.cfg"))));
 }
 
-void UnattendedDetails::deletesAnEmptiedFolderWithWhatIsHidden()
+void TestUnattendedDetails::deletesAnEmptiedFolderWithWhatIsHidden()
 {
     const QJsonObject entry = m_computer->entry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -118,7 +113,7 @@ void UnattendedDetails::deletesAnEmptiedFolderWithWhatIsHidden()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedDetails::goesByTheFolderThatIsFound_data()
+void TestUnattendedDetails::goesByTheFolderThatIsFound_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -129,7 +124,7 @@ void UnattendedDetails::goesByTheFolderThatIsFound_data()
 
 // The record names a folder with all the files in place; the scan has written the record anew
 // before it is read.
-void UnattendedDetails::goesByTheFolderThatIsFound()
+void TestUnattendedDetails::goesByTheFolderThatIsFound()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -148,7 +143,7 @@ void UnattendedDetails::goesByTheFolderThatIsFound()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedDetails::repairsNothingThatMissesAFile()
+void TestUnattendedDetails::repairsNothingThatMissesAFile()
 {
     const QJsonObject entry = m_computer->hiddenEntry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -163,7 +158,7 @@ void UnattendedDetails::repairsNothingThatMissesAFile()
 }
 
 // The summary's lines are put in before its word.
-void UnattendedDetails::putsItsWordIntoANameThatAsksForIt()
+void TestUnattendedDetails::putsItsWordIntoANameThatAsksForIt()
 {
     const QJsonObject entry = m_computer->hiddenEntry(QStringLiteral("Rec %1"), 1);
     m_computer->setCatalogue({entry});
@@ -175,7 +170,7 @@ void UnattendedDetails::putsItsWordIntoANameThatAsksForIt()
              QStringLiteral("Rec updated: Updated"));
 }
 
-void UnattendedDetails::leavesTheEntryOutButTakesItOut()
+void TestUnattendedDetails::leavesTheEntryOutButTakesItOut()
 {
     const QJsonObject entry = with(m_computer->entry(m_det, 0), "root", QStringLiteral("1"));
     m_computer->setCatalogue({entry});
@@ -193,7 +188,7 @@ void UnattendedDetails::leavesTheEntryOutButTakesItOut()
 }
 
 // Both want the same files: the first to come installs them, the other one finds them there.
-void UnattendedDetails::takesTheLaterOfTwoEntriesInOneFolder()
+void TestUnattendedDetails::takesTheLaterOfTwoEntriesInOneFolder()
 {
     const QJsonObject first = m_computer->entry(m_det, 1);
     const QJsonArray others{
@@ -214,7 +209,7 @@ void UnattendedDetails::takesTheLaterOfTwoEntriesInOneFolder()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedDetails::installsTheLaterOfTwoEntriesFirst()
+void TestUnattendedDetails::installsTheLaterOfTwoEntriesFirst()
 {
     const QJsonObject later = with(m_computer->entry(m_det, 1), "name", QStringLiteral("Later"));
     m_computer->setCatalogue({with(m_computer->entry(m_det, 0), "type", 1), later});
@@ -226,7 +221,7 @@ void UnattendedDetails::installsTheLaterOfTwoEntriesFirst()
 }
 
 // And in that one's name; the installation itself is said to have succeeded.
-void UnattendedDetails::showsAFailedCopyBeforeTheNextInstallation()
+void TestUnattendedDetails::showsAFailedCopyBeforeTheNextInstallation()
 {
     const QString next = QStringLiteral("Next");
     const QJsonObject broken = with(
@@ -254,7 +249,7 @@ void UnattendedDetails::showsAFailedCopyBeforeTheNextInstallation()
 }
 
 // The maker's other programs know this one by one name on every system.
-void UnattendedDetails::tellsOthersWhereTheProgramIs()
+void TestUnattendedDetails::tellsOthersWhereTheProgramIs()
 {
     m_computer->setCatalogue({});
     Disk expected;
@@ -264,7 +259,7 @@ void UnattendedDetails::tellsOthersWhereTheProgramIs()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedDetails::tellsOthersOneBackslashForTwo()
+void TestUnattendedDetails::tellsOthersOneBackslashForTwo()
 {
     const Sandbox sandbox;
     Program program(sandbox, nullptr, QStringLiteral(R"(one\two\\\three)"));
@@ -276,7 +271,7 @@ void UnattendedDetails::tellsOthersOneBackslashForTwo()
         sandbox.path(QStringLiteral(R"(one\two\\three/QuillmontOrbwell.exe)")));
 }
 
-void UnattendedDetails::looksAtTheComputer_data()
+void TestUnattendedDetails::looksAtTheComputer_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("times");
@@ -286,7 +281,7 @@ void UnattendedDetails::looksAtTheComputer_data()
 }
 
 // Two simulators lack the plugin.
-void UnattendedDetails::looksAtTheComputer()
+void TestUnattendedDetails::looksAtTheComputer()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, times);
@@ -299,5 +294,5 @@ void UnattendedDetails::looksAtTheComputer()
     QCOMPARE(m_computer->program().standardError().count(line), times);
 }
 
-QTEST_GUILESS_MAIN(UnattendedDetails)
+QTEST_GUILESS_MAIN(TestUnattendedDetails)
 #include "tst_UnattendedDetails.moc"

@@ -11,7 +11,7 @@
 using namespace Tests;
 
 // What a run says, and how it ends, when something fails or there is nothing to do.
-class UnattendedFailures : public QObject
+class TestUnattendedFailures : public QObject
 {
     Q_OBJECT
 
@@ -42,11 +42,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList words(const char *arguments)
-{
-    return QString::fromLatin1(arguments).split(u' ');
-}
-
 static QString updated(const char *lines)
 {
     return QStringLiteral("Plugins updated: Quillmont Orbwell has updated plugins on your "
@@ -54,35 +49,35 @@ static QString updated(const char *lines)
         .arg(QLatin1String(lines));
 }
 
-void UnattendedFailures::init()
+void TestUnattendedFailures::init()
 {
     m_computer.reset(new Computer);
 }
 
-void UnattendedFailures::cleanup()
+void TestUnattendedFailures::cleanup()
 {
     m_computer.reset();
 }
 
-QString UnattendedFailures::cannotRemove(const QString &simulator, const QString &lines) const
+QString TestUnattendedFailures::cannotRemove(const QString &simulator, const QString &lines) const
 {
     return QStringLiteral("Uninstall: Quillmont Orbwell was not able to uninstall your Orbwell "
                           "plugin from %1.\r\n\r\nPlease see the list below for details:\r\n\r\n%2")
         .arg(simulator, lines);
 }
 
-void UnattendedFailures::doesNothingWithoutACatalogue_data()
+void TestUnattendedFailures::doesNothingWithoutACatalogue_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::newRow("install") << words("--INSTALL") << 2;
-    QTest::newRow("quiet install") << words("--INSTALL 1") << 2;
+    QTest::newRow("quiet install") << quietInstallation() << 2;
     QTest::newRow("repair") << words("--REPAIR") << 0;
     QTest::newRow("uninstall") << words("--UNINSTALL") << 0;
 }
 
 // Only an installation says where the program is.
-void UnattendedFailures::doesNothingWithoutACatalogue()
+void TestUnattendedFailures::doesNothingWithoutACatalogue()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -101,7 +96,7 @@ void UnattendedFailures::doesNothingWithoutACatalogue()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
+void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<bool>("emptyCatalogue");
@@ -116,14 +111,13 @@ void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
     QTest::newRow("install, none here")
         << words("--INSTALL") << false << 2
         << QStringList(settings + QLatin1String("Orbwell plugin is installed in all simulators."));
-    QTest::newRow("quiet install") << words("--INSTALL 1") << false << 2 << QStringList();
-    QTest::newRow("quiet install, none known")
-        << words("--INSTALL 1") << true << 2 << QStringList();
+    QTest::newRow("quiet install") << quietInstallation() << false << 2 << QStringList();
+    QTest::newRow("quiet install, none known") << quietInstallation() << true << 2 << QStringList();
     QTest::newRow("repair") << words("--REPAIR") << false << 0 << QStringList();
     QTest::newRow("uninstall") << words("--UNINSTALL") << false << 0 << QStringList();
 }
 
-void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
+void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const bool, emptyCatalogue);
@@ -139,7 +133,7 @@ void UnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedFailures::namesAFileThatCannotBeRemoved_data()
+void TestUnattendedFailures::namesAFileThatCannotBeRemoved_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("summary");
@@ -149,7 +143,7 @@ void UnattendedFailures::namesAFileThatCannotBeRemoved_data()
 
 // In the place of the file stands a folder with something in it. It stays; the other simulator
 // is done as ever.
-void UnattendedFailures::namesAFileThatCannotBeRemoved()
+void TestUnattendedFailures::namesAFileThatCannotBeRemoved()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, summary);
@@ -177,7 +171,7 @@ void UnattendedFailures::namesAFileThatCannotBeRemoved()
 }
 
 // Two looks at the computer try to install as well and complain on the way.
-void UnattendedFailures::saysThatASimulatorIsNotUpdated()
+void TestUnattendedFailures::saysThatASimulatorIsNotUpdated()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
@@ -195,13 +189,13 @@ void UnattendedFailures::saysThatASimulatorIsNotUpdated()
         m_computer->said(),
         QStringList(
             {cannotRemove(m_det, line), cannotRemove(m_det, line), updated("Det: Not updated")}));
-    QCOMPARE(m_computer->run(words("--INSTALL 1")), 2);
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList(cannotRemove(m_det, line)));
 }
 
 // The plugin is in a simulator that the record alone knows, so that nothing but the installation
 // itself can fail. Answers what it complains about.
-QString UnattendedFailures::installWithoutPayload() const
+QString TestUnattendedFailures::installWithoutPayload() const
 {
     const QString source
         = m_computer->program().folder() + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll");
@@ -212,7 +206,7 @@ QString UnattendedFailures::installWithoutPayload() const
         .arg(source, m_computer->folder(m_rec) + m_module, m_computer->folder(m_rec));
 }
 
-void UnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
+void TestUnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
 {
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
     m_computer->setCatalogue({rec});
@@ -224,7 +218,7 @@ void UnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
 }
 
 // The lines of one installation come up with the next removal, which so fails as well.
-void UnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
+void TestUnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
 {
     const QString other = QStringLiteral("Other");
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
@@ -239,7 +233,7 @@ void UnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
              QStringList({cannotRemove(other, line), updated("Rec: Not updated\nOther: Updated")}));
 }
 
-void UnattendedFailures::failsTheRunForOneSimulatorOfTwo()
+void TestUnattendedFailures::failsTheRunForOneSimulatorOfTwo()
 {
     const QString other = QStringLiteral("Other");
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
@@ -257,7 +251,7 @@ void UnattendedFailures::failsTheRunForOneSimulatorOfTwo()
 }
 
 // Nobody may write there, not even an administrator.
-QString UnattendedFailures::unwritableFolder() const
+QString TestUnattendedFailures::unwritableFolder() const
 {
     if (::geteuid() == 0)
         return QStringLiteral("/proc");
@@ -267,7 +261,7 @@ QString UnattendedFailures::unwritableFolder() const
     return folder;
 }
 
-void UnattendedFailures::namesAFolderThatCannotBeWritten()
+void TestUnattendedFailures::namesAFolderThatCannotBeWritten()
 {
     const QString folder = unwritableFolder();
     if (!QFileInfo::exists(folder))
@@ -287,5 +281,5 @@ void UnattendedFailures::namesAFolderThatCannotBeWritten()
     QCOMPARE(m_computer->said().constLast(), updated("Det: Not updated"));
 }
 
-QTEST_GUILESS_MAIN(UnattendedFailures)
+QTEST_GUILESS_MAIN(TestUnattendedFailures)
 #include "tst_UnattendedFailures.moc"

@@ -7,7 +7,7 @@
 using namespace Tests;
 
 // The runs end before there is an event loop; whatever they run on, that must not be a crash.
-class UnattendedOnAScreen : public QObject
+class TestUnattendedOnAScreen : public QObject
 {
     Q_OBJECT
 
@@ -22,12 +22,7 @@ private:
     Display m_display;
 };
 
-static QStringList words(const char *arguments)
-{
-    return QString::fromLatin1(arguments).split(u' ');
-}
-
-void UnattendedOnAScreen::endsByItself_data()
+void TestUnattendedOnAScreen::endsByItself_data()
 {
     QTest::addColumn<bool>("onAScreen");
     QTest::addColumn<QStringList>("arguments");
@@ -49,7 +44,7 @@ void UnattendedOnAScreen::endsByItself_data()
 }
 
 // Whatever box comes up is answered.
-void UnattendedOnAScreen::endsByItself()
+void TestUnattendedOnAScreen::endsByItself()
 {
     QFETCH(const bool, onAScreen);
     QFETCH(const QStringList, arguments);
@@ -71,7 +66,7 @@ void UnattendedOnAScreen::endsByItself()
              log.constData());
 }
 
-void UnattendedOnAScreen::showsItsBoxesToTheMouse_data()
+void TestUnattendedOnAScreen::showsItsBoxesToTheMouse_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -86,7 +81,7 @@ void UnattendedOnAScreen::showsItsBoxesToTheMouse_data()
                                "Wren: Updated\nDet: Updated";
 }
 
-void UnattendedOnAScreen::showsItsBoxesToTheMouse()
+void TestUnattendedOnAScreen::showsItsBoxesToTheMouse()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -115,7 +110,7 @@ void UnattendedOnAScreen::showsItsBoxesToTheMouse()
 }
 
 // A box that closes is the last window there is, and still not the end of the run.
-void UnattendedOnAScreen::showsOneBoxAfterTheOther()
+void TestUnattendedOnAScreen::showsOneBoxAfterTheOther()
 {
     if (!m_display.isUp())
         QSKIP("needs Xvfb and xdotool");
@@ -145,5 +140,5 @@ void UnattendedOnAScreen::showsOneBoxAfterTheOther()
     QCOMPARE(computer.records(), QJsonArray());
 }
 
-QTEST_GUILESS_MAIN(UnattendedOnAScreen)
+QTEST_GUILESS_MAIN(TestUnattendedOnAScreen)
 #include "tst_UnattendedOnAScreen.moc"

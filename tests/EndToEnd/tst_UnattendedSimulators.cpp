@@ -6,7 +6,7 @@
 using namespace Tests;
 
 // Runs over simulators that are known, installed or entangled in one way or another.
-class UnattendedSimulators : public QObject
+class TestUnattendedSimulators : public QObject
 {
     Q_OBJECT
 
@@ -33,16 +33,6 @@ private:
     QScopedPointer<Computer> m_computer;
 };
 
-static QStringList one(const char *argument)
-{
-    return {QLatin1String(argument)};
-}
-
-static QStringList quietInstallation()
-{
-    return {QStringLiteral("--INSTALL"), QStringLiteral("1")};
-}
-
 static QString installed(const char *names)
 {
     return QStringLiteral("Quillmont Orbwell Settings: Quillmont Orbwell have successfully "
@@ -50,17 +40,17 @@ static QString installed(const char *names)
         .arg(QLatin1String(names));
 }
 
-void UnattendedSimulators::init()
+void TestUnattendedSimulators::init()
 {
     m_computer.reset(new Computer);
 }
 
-void UnattendedSimulators::cleanup()
+void TestUnattendedSimulators::cleanup()
 {
     m_computer.reset();
 }
 
-QString UnattendedSimulators::updated(const char *lines) const
+QString TestUnattendedSimulators::updated(const char *lines) const
 {
     return QStringLiteral("Plugins updated: Quillmont Orbwell has updated plugins on your "
                           "computer.\r\n\r\nPlease see the list below for details:\r\n\r\n%1")
@@ -68,7 +58,7 @@ QString UnattendedSimulators::updated(const char *lines) const
 }
 
 // An entry for a simulator with a configuration, in the folder "Shared".
-QJsonObject UnattendedSimulators::rival(const char *name, const QJsonObject &conflict) const
+QJsonObject TestUnattendedSimulators::rival(const char *name, const QJsonObject &conflict) const
 {
     QJsonObject entry = m_computer->entry(QStringLiteral("Shared"), 0);
     entry.insert(QStringLiteral("name"), QLatin1String(name));
@@ -81,17 +71,17 @@ static QJsonObject conflict(const char *key, const QJsonValue &value)
     return {{QStringLiteral("name"), QStringLiteral("family")}, {QLatin1String(key), value}};
 }
 
-void UnattendedSimulators::bringsBackALostFile_data()
+void TestUnattendedSimulators::bringsBackALostFile_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::newRow("install") << quietInstallation() << 2;
-    QTest::newRow("repair") << one("--REPAIR") << 0;
-    QTest::newRow("uninstall") << one("--UNINSTALL") << 0;
+    QTest::newRow("repair") << words("--REPAIR") << 0;
+    QTest::newRow("uninstall") << words("--UNINSTALL") << 0;
 }
 
 // What is there of the plugin is replaced as well.
-void UnattendedSimulators::bringsBackALostFile()
+void TestUnattendedSimulators::bringsBackALostFile()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -109,7 +99,7 @@ void UnattendedSimulators::bringsBackALostFile()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedSimulators::leavesWhatIsCompleteAlone()
+void TestUnattendedSimulators::leavesWhatIsCompleteAlone()
 {
     const QString whole = QStringLiteral("Whole");
     const QJsonObject entry = m_computer->entry(whole, 0);
@@ -118,7 +108,7 @@ void UnattendedSimulators::leavesWhatIsCompleteAlone()
     m_computer->write(m_computer->configuration(whole), othersConfiguration());
     Disk expected = m_computer->disk();
 
-    QCOMPARE(m_computer->run(one("--INSTALL")), 2);
+    QCOMPARE(m_computer->run(words("--INSTALL")), 2);
     QCOMPARE(m_computer->said(),
              QStringList(QStringLiteral("Quillmont Orbwell Settings: Orbwell plugin is installed "
                                         "in all simulators.")));
@@ -127,7 +117,7 @@ void UnattendedSimulators::leavesWhatIsCompleteAlone()
 }
 
 // An uninstallation that the next one finds nothing left to do for.
-void UnattendedSimulators::knowsAFolderByTheRecordAlone()
+void TestUnattendedSimulators::knowsAFolderByTheRecordAlone()
 {
     const QString recorded = QStringLiteral("Recorded");
     const QJsonObject entry = m_computer->hiddenEntry(recorded, 1);
@@ -141,22 +131,22 @@ void UnattendedSimulators::knowsAFolderByTheRecordAlone()
     m_computer->setRecords({m_computer->recordFor(entry)});
 
     for (int time = 0; time < 2; ++time) {
-        QCOMPARE(m_computer->run(one("--UNINSTALL")), 0);
+        QCOMPARE(m_computer->run(words("--UNINSTALL")), 0);
         QCOMPARE(m_computer->said(), QStringList());
         QCOMPARE(difference(m_computer->disk(), expected), QString());
     }
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedSimulators::findsAFolderByDetection_data()
+void TestUnattendedSimulators::findsAFolderByDetection_data()
 {
     bringsBackALostFile_data();
 }
 
 // It comes before those that detection does not know.
-void UnattendedSimulators::findsAFolderByDetection()
+void TestUnattendedSimulators::findsAFolderByDetection()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -183,7 +173,7 @@ void UnattendedSimulators::findsAFolderByDetection()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UnattendedSimulators::givesAFolderToOneOfTwoEntries_data()
+void TestUnattendedSimulators::givesAFolderToOneOfTwoEntries_data()
 {
     QTest::addColumn<bool>("removeOnConflict");
     QTest::addColumn<QString>("winner");
@@ -191,7 +181,7 @@ void UnattendedSimulators::givesAFolderToOneOfTwoEntries_data()
     QTest::newRow("to the second") << false << "First";
 }
 
-void UnattendedSimulators::givesAFolderToOneOfTwoEntries()
+void TestUnattendedSimulators::givesAFolderToOneOfTwoEntries()
 {
     QFETCH(const bool, removeOnConflict);
     QFETCH(const QString, winner);
@@ -199,22 +189,22 @@ void UnattendedSimulators::givesAFolderToOneOfTwoEntries()
     m_computer->setCatalogue({rival("First", givesWay), rival("Later", givesWay)});
     m_computer->addSimulator(QStringLiteral("Shared"));
 
-    QCOMPARE(m_computer->run(one("--INSTALL")), 2);
+    QCOMPARE(m_computer->run(words("--INSTALL")), 2);
     QCOMPARE(m_computer->said(), QStringList(installed(qPrintable(u' ' + winner))));
     QCOMPARE(m_computer->records().size(), 1);
     QCOMPARE(m_computer->records().at(0).toObject().value(QLatin1String("name")), winner);
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said(),
              QStringList(updated(qPrintable(winner + QLatin1String(": Updated")))));
 }
 
-void UnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart_data()
+void TestUnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart_data()
 {
     bringsBackALostFile_data();
 }
 
 // Each gets a configuration of its own, in place of the one that both would edit.
-void UnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart()
+void TestUnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -247,7 +237,7 @@ void UnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart()
 }
 
 // The record of an earlier day gives the folder back to the entry that has to give way.
-void UnattendedSimulators::repairsBothEntriesThatTheRecordKnows()
+void TestUnattendedSimulators::repairsBothEntriesThatTheRecordKnows()
 {
     const QJsonObject first = rival("First", conflict("check_file", true));
     const QJsonObject later = rival("Later", conflict("check_file", true));
@@ -257,10 +247,10 @@ void UnattendedSimulators::repairsBothEntriesThatTheRecordKnows()
     record.insert(QStringLiteral("name"), QStringLiteral("First"));
     m_computer->setRecords({record});
 
-    QCOMPARE(m_computer->run(one("--REPAIR")), 0);
+    QCOMPARE(m_computer->run(words("--REPAIR")), 0);
     QCOMPARE(m_computer->said(), QStringList(updated("Later: Updated\nFirst: Updated")));
     QCOMPARE(m_computer->records().size(), 2);
 }
 
-QTEST_GUILESS_MAIN(UnattendedSimulators)
+QTEST_GUILESS_MAIN(TestUnattendedSimulators)
 #include "tst_UnattendedSimulators.moc"

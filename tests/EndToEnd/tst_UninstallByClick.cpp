@@ -5,7 +5,7 @@
 
 using namespace Tests;
 
-class UninstallByClick : public QObject
+class TestUninstallByClick : public QObject
 {
     Q_OBJECT
 
@@ -28,19 +28,19 @@ private:
     Program *m_program = nullptr;
 };
 
-void UninstallByClick::init()
+void TestUninstallByClick::init()
 {
     m_computer.reset(new Computer);
     m_program = &m_computer->program();
 }
 
-void UninstallByClick::cleanup()
+void TestUninstallByClick::cleanup()
 {
     m_computer.reset();
 }
 
 // Two simulators with the plugin.
-void UninstallByClick::start(int type)
+void TestUninstallByClick::start(int type)
 {
     const QJsonObject skylark = m_computer->entry(m_skylark, type);
     const QJsonObject kestrel = m_computer->entry(m_kestrel, 1);
@@ -53,7 +53,7 @@ void UninstallByClick::start(int type)
         m_computer->write(m_computer->configuration(m_skylark), ourConfiguration());
 }
 
-SeenWindow UninstallByClick::uninstall()
+SeenWindow TestUninstallByClick::uninstall()
 {
     m_program->start();
     m_program->window();
@@ -61,14 +61,14 @@ SeenWindow UninstallByClick::uninstall()
     return m_program->box();
 }
 
-void UninstallByClick::leavesTheSimulatorWithoutThePlugin_data()
+void TestUninstallByClick::leavesTheSimulatorWithoutThePlugin_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("with a configuration file") << 0;
     QTest::newRow("with plugin files alone") << 1;
 }
 
-void UninstallByClick::leavesTheSimulatorWithoutThePlugin()
+void TestUninstallByClick::leavesTheSimulatorWithoutThePlugin()
 {
     QFETCH(const int, type);
     start(type);
@@ -99,7 +99,7 @@ void UninstallByClick::leavesTheSimulatorWithoutThePlugin()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void UninstallByClick::saysWhatItCouldNotRemove()
+void TestUninstallByClick::saysWhatItCouldNotRemove()
 {
     start(1);
     const QString target = QStringLiteral("Resources/plugins/Orbwell/about.txt");
@@ -121,7 +121,7 @@ void UninstallByClick::saysWhatItCouldNotRemove()
              QJsonArray{m_computer->recordFor(m_computer->entry(m_kestrel, 1))});
 }
 
-void UninstallByClick::scansOnceAfterwards()
+void TestUninstallByClick::scansOnceAfterwards()
 {
     start(1);
     uninstall();
@@ -132,5 +132,5 @@ void UninstallByClick::scansOnceAfterwards()
     QVERIFY(!m_program->isBusy());
 }
 
-QTEST_GUILESS_MAIN(UninstallByClick)
+QTEST_GUILESS_MAIN(TestUninstallByClick)
 #include "tst_UninstallByClick.moc"

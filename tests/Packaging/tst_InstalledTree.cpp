@@ -12,7 +12,7 @@
 using namespace Tests;
 
 /// What cmake --install places below a prefix.
-class InstalledTree : public QObject
+class TestInstalledTree : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private:
     const QString m_together = QStringLiteral(ORBWELL_LIBDIR "/quillmont-orbwell/");
 };
 
-void InstalledTree::initTestCase()
+void TestInstalledTree::initTestCase()
 {
     const CommandResult result
         = Command(QStringLiteral(ORBWELL_CMAKE),
@@ -53,7 +53,7 @@ void InstalledTree::initTestCase()
                           m_sandbox.path(QStringLiteral("moved"))));
 }
 
-void InstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
+void TestInstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
 {
     QVERIFY(QFileInfo(path(m_together + QStringLiteral("QuillmontOrbwell"))).isExecutable());
     QCOMPARE(readFile(path(m_together + QStringLiteral("flightsims.json"))),
@@ -62,7 +62,7 @@ void InstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
              treeOf(QStringLiteral(ORBWELL_SOURCE "/sample/plugins")));
 }
 
-void InstalledTree::leadsFromThePathToTheProgram()
+void TestInstalledTree::leadsFromThePathToTheProgram()
 {
     const QFileInfo launcher(path(QStringLiteral("bin/QuillmontOrbwell")));
     QVERIFY(launcher.isSymLink());
@@ -70,7 +70,7 @@ void InstalledTree::leadsFromThePathToTheProgram()
              QFileInfo(path(m_together + QStringLiteral("QuillmontOrbwell"))).canonicalFilePath());
 }
 
-void InstalledTree::hasAnIconInEverySizeOfTheTheme()
+void TestInstalledTree::hasAnIconInEverySizeOfTheTheme()
 {
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512}) {
         const QImage icon(
@@ -82,7 +82,7 @@ void InstalledTree::hasAnIconInEverySizeOfTheTheme()
         path(QStringLiteral("share/icons/hicolor/scalable/apps/quillmont-orbwell.svg"))));
 }
 
-void InstalledTree::hasAMenuEntryThatStartsTheLauncher()
+void TestInstalledTree::hasAMenuEntryThatStartsTheLauncher()
 {
     const QString file = path(QStringLiteral("share/applications/QuillmontOrbwell.desktop"));
     QSettings entry(file, QSettings::IniFormat);
@@ -100,7 +100,7 @@ void InstalledTree::hasAMenuEntryThatStartsTheLauncher()
     QCOMPARE(result.status, 0);
 }
 
-void InstalledTree::hasAPageForTheSoftwareCentre()
+void TestInstalledTree::hasAPageForTheSoftwareCentre()
 {
     const QString file = path(QStringLiteral("share/metainfo/com.quillmont.orbwell.metainfo.xml"));
     QXmlStreamReader page(readFile(file));
@@ -127,7 +127,7 @@ static QByteArray manualPage(const QString &file)
     return Command(QStringLiteral("gzip"), {QStringLiteral("-dc"), file}).run().output;
 }
 
-void InstalledTree::hasAManualPage()
+void TestInstalledTree::hasAManualPage()
 {
     const QString file = path(QStringLiteral("share/man/man1/QuillmontOrbwell.1.gz"));
     const QByteArray page = manualPage(file);
@@ -145,7 +145,7 @@ void InstalledTree::hasAManualPage()
     QVERIFY(result.output.contains("NAME"));
 }
 
-void InstalledTree::tellsOneVersion()
+void TestInstalledTree::tellsOneVersion()
 {
     const QByteArray version = ORBWELL_VERSION;
     const QByteArray changes = readFile(QStringLiteral(ORBWELL_SOURCE "/CHANGELOG.md"));
@@ -162,7 +162,7 @@ void InstalledTree::tellsOneVersion()
                 .contains(' ' + version + '"'));
 }
 
-void InstalledTree::runsFromWhereverItLies()
+void TestInstalledTree::runsFromWhereverItLies()
 {
     const QString simulator = m_sandbox.path(QStringLiteral("Skylark"));
     QDir().mkpath(simulator);
@@ -186,5 +186,5 @@ void InstalledTree::runsFromWhereverItLies()
     QVERIFY(QFile::exists(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping")));
 }
 
-QTEST_GUILESS_MAIN(InstalledTree)
+QTEST_GUILESS_MAIN(TestInstalledTree)
 #include "tst_InstalledTree.moc"

@@ -9,7 +9,7 @@
 using namespace Tests;
 
 /// What cpack makes. script/package-test installs the Debian package into a system of its own.
-class Packages : public QObject
+class TestPackages : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
     QString m_debianPackage;
 };
 
-QString Packages::make(const QString &generator, const QString &name)
+QString TestPackages::make(const QString &generator, const QString &name)
 {
     const QString folder = m_sandbox.path(generator);
     const CommandResult result = Command(QStringLiteral(ORBWELL_CPACK),
@@ -48,14 +48,14 @@ QString Packages::make(const QString &generator, const QString &name)
     return folder + u'/' + made.first();
 }
 
-QString Packages::debianPackage()
+QString TestPackages::debianPackage()
 {
     if (m_debianPackage.isEmpty())
         m_debianPackage = make(QStringLiteral("DEB"), QStringLiteral("*.deb"));
     return m_debianPackage;
 }
 
-QString Packages::field(const QString &name)
+QString TestPackages::field(const QString &name)
 {
     const CommandResult result
         = Command(QStringLiteral("dpkg-deb"), {QStringLiteral("--field"), debianPackage(), name})
@@ -63,7 +63,7 @@ QString Packages::field(const QString &name)
     return QString::fromUtf8(result.output.trimmed());
 }
 
-QStringList Packages::contents()
+QStringList TestPackages::contents()
 {
     const CommandResult result
         = Command(QStringLiteral("dpkg-deb"), {QStringLiteral("--contents"), debianPackage()})
@@ -71,7 +71,7 @@ QStringList Packages::contents()
     return QString::fromUtf8(result.output).split(u'\n', Qt::SkipEmptyParts);
 }
 
-void Packages::archiveHoldsTheWholeTreeInOneFolder()
+void TestPackages::archiveHoldsTheWholeTreeInOneFolder()
 {
     const QString archive = make(QStringLiteral("TGZ"), QStringLiteral("*.tar.gz"));
     QVERIFY(!archive.isEmpty());
@@ -97,7 +97,7 @@ static bool canMakeDebianPackages()
         && Command::exists(QStringLiteral("dpkg-deb")) && Command::exists(QStringLiteral("file"));
 }
 
-void Packages::debianPackageAsksForTheToolkit()
+void TestPackages::debianPackageAsksForTheToolkit()
 {
     if (!canMakeDebianPackages())
         QSKIP("needs dpkg-dev and file");
@@ -106,7 +106,7 @@ void Packages::debianPackageAsksForTheToolkit()
     QVERIFY(field(QStringLiteral("Depends")).contains(QStringLiteral("libqt5widgets5 (>= ")));
 }
 
-void Packages::debianPackageKeepsToUsr()
+void TestPackages::debianPackageKeepsToUsr()
 {
     if (!canMakeDebianPackages())
         QSKIP("needs dpkg-dev and file");
@@ -121,7 +121,7 @@ void Packages::debianPackageKeepsToUsr()
     QVERIFY(programs.first().endsWith(QStringLiteral("/quillmont-orbwell/QuillmontOrbwell")));
 }
 
-void Packages::debianPackageSaysWhoseItIsAndWhatIsNew()
+void TestPackages::debianPackageSaysWhoseItIsAndWhatIsNew()
 {
     if (!canMakeDebianPackages())
         QSKIP("needs dpkg-dev and file");
@@ -132,5 +132,5 @@ void Packages::debianPackageSaysWhoseItIsAndWhatIsNew()
                  name);
 }
 
-QTEST_GUILESS_MAIN(Packages)
+QTEST_GUILESS_MAIN(TestPackages)
 #include "tst_Packages.moc"

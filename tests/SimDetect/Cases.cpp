@@ -1,6 +1,6 @@
 #include "tests/SimDetect/Cases.h"
 
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 
 #include <QTest>
 
@@ -25,7 +25,7 @@ void checkCaseOn(Environment::System system)
     QFETCH(QString, tree);
     QFETCH(QString, found);
     QFETCH(QString, log);
-    Computer computer(system);
+    DescribedComputer computer(system);
     computer.make(tree);
     QCOMPARE(computer.detect(), computer.expanded(linesOf(found)));
     if (log != QLatin1String("*"))

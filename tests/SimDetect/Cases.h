@@ -16,8 +16,8 @@ enum On {
 void caseColumns();
 
 /// A case: with @p tree on the disk, exactly the simulators in @p found are found, and exactly the
-/// lines in @p log are written. All three are lines as Computer takes and gives them, and may be
-/// indented; a log line "*" stands for any lines.
+/// lines in @p log are written. All three are lines as DescribedComputer takes and gives them, and
+/// may be indented; a log line "*" stands for any lines.
 void addCase(const QByteArray &name,
              On systems,
              const QByteArray &tree,

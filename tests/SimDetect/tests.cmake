@@ -1,8 +1,8 @@
 add_library(simdetect-test-support STATIC
   SimDetect/Cases.cpp
   SimDetect/Cases.h
-  SimDetect/Computer.cpp
-  SimDetect/Computer.h)
+  SimDetect/DescribedComputer.cpp
+  SimDetect/DescribedComputer.h)
 target_link_libraries(simdetect-test-support
   PUBLIC quillmont-simdetect orbwell-test-support Qt5::Test
   PRIVATE orbwell-options)

@@ -5,7 +5,7 @@
 using namespace Tests;
 
 /// FlightGear's data folder, wherever it comes from.
-class tst_FlightGear : public QObject
+class TestFlightGear : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ private slots:
     void passesOverWhatIsNoData() { checkCase(); }
 };
 
-void tst_FlightGear::findsItsData_data()
+void TestFlightGear::findsItsData_data()
 {
     caseColumns();
     addCase("where FG_ROOT says",
@@ -90,7 +90,7 @@ void tst_FlightGear::findsItsData_data()
             "FGFS: $R/usr/share/flightgear");
 }
 
-void tst_FlightGear::passesOverWhatIsNoData_data()
+void TestFlightGear::passesOverWhatIsNoData_data()
 {
     caseColumns();
     addCase("FG_ROOT is gone, and a download is not whole",
@@ -148,5 +148,5 @@ void tst_FlightGear::passesOverWhatIsNoData_data()
             "FGFS not taken: $R/a: no defaults.xml or preferences.xml");
 }
 
-QTEST_GUILESS_MAIN(tst_FlightGear)
+QTEST_GUILESS_MAIN(TestFlightGear)
 #include "tst_FlightGear.moc"

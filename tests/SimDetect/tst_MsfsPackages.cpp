@@ -5,7 +5,7 @@
 using namespace Tests;
 
 /// The packages folder of Microsoft Flight Simulator inside a Proton prefix.
-class tst_MsfsPackages : public QObject
+class TestMsfsPackages : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ QByteArray utf16(const QString &text, bool isBigEndian)
 
 } // namespace
 
-void tst_MsfsPackages::findsThePackages_data()
+void TestMsfsPackages::findsThePackages_data()
 {
     caseColumns();
     const QByteArray packages = roaming2020() + "/Packages";
@@ -120,7 +120,7 @@ void tst_MsfsPackages::findsThePackages_data()
             "MSFS2020: $R/b/SteamApps/CompatData/1250410/pfx/drive_c/Packages");
 }
 
-void tst_MsfsPackages::wantsItsMarks_data()
+void TestMsfsPackages::wantsItsMarks_data()
 {
     caseColumns();
     for (const char *mark : {"Community", "Official/Steam", "Official/OneStore", "community"}) {
@@ -159,7 +159,7 @@ void tst_MsfsPackages::wantsItsMarks_data()
             "MSFS2024 not taken: " + prefix2024() + "/drive_c/P: it is taken as MSFS2020");
 }
 
-void tst_MsfsPackages::passesOverWhatNamesNone_data()
+void TestMsfsPackages::passesOverWhatNamesNone_data()
 {
     caseColumns();
     const auto add = [](const char *name,
@@ -204,5 +204,5 @@ void tst_MsfsPackages::passesOverWhatNamesNone_data()
             "");
 }
 
-QTEST_GUILESS_MAIN(tst_MsfsPackages)
+QTEST_GUILESS_MAIN(TestMsfsPackages)
 #include "tst_MsfsPackages.moc"

@@ -1,4 +1,4 @@
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
 #include <QDir>
@@ -22,7 +22,7 @@ using namespace Quillmont::SimDetect;
 using namespace Tests;
 
 /// Whatever lies on the disk, the answer comes soon and is never a wrong one.
-class tst_Robustness : public QObject
+class TestRobustness : public QObject
 {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ const auto EverythingFound
                      "XP11: $R/drive/steamapps/common/X-Plane 11\n"
                      "XP12: $R/sims/X-Plane 12");
 
-QStringList filesWithContent(const Computer &computer)
+QStringList filesWithContent(const DescribedComputer &computer)
 {
     QStringList paths;
     const auto tree = treeOf(computer.environment.root);
@@ -116,17 +116,17 @@ QByteArray damaged(const QByteArray &content, QRandomGenerator &random)
 
 } // namespace
 
-void tst_Robustness::findsNothingInRandomBytes_data()
+void TestRobustness::findsNothingInRandomBytes_data()
 {
     QTest::addColumn<int>("system");
     QTest::newRow("Linux") << int(Environment::Linux);
     QTest::newRow("macOS") << int(Environment::MacOS);
 }
 
-void tst_Robustness::findsNothingInRandomBytes()
+void TestRobustness::findsNothingInRandomBytes()
 {
     QFETCH(int, system);
-    Computer computer(static_cast<Environment::System>(system));
+    DescribedComputer computer(static_cast<Environment::System>(system));
     computer.make(Everything);
     QCOMPARE(computer.detect(), computer.expanded(EverythingFound));
     const auto paths = filesWithContent(computer);
@@ -138,9 +138,9 @@ void tst_Robustness::findsNothingInRandomBytes()
     }
 }
 
-void tst_Robustness::survivesDamagedFiles()
+void TestRobustness::survivesDamagedFiles()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
     const QStringList found = computer.detect().split(u'\n');
     const auto paths = filesWithContent(computer);
@@ -160,7 +160,7 @@ void tst_Robustness::survivesDamagedFiles()
     QCOMPARE(computer.detect().split(u'\n'), found);
 }
 
-void tst_Robustness::answersSoonWhateverIsThere_data()
+void TestRobustness::answersSoonWhateverIsThere_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::newRow("pipes") << Maker(
@@ -189,10 +189,10 @@ void tst_Robustness::answersSoonWhateverIsThere_data()
     row("1 MiB of elements", "<plist><dict>" + QByteArray("<dict>").repeated(most / 6 - 10));
 }
 
-void tst_Robustness::answersSoonWhateverIsThere()
+void TestRobustness::answersSoonWhateverIsThere()
 {
     QFETCH(Maker, make);
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
     const auto paths = filesWithContent(computer);
     for (const auto &path : paths) {
@@ -203,9 +203,9 @@ void tst_Robustness::answersSoonWhateverIsThere()
     QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
 }
 
-void tst_Robustness::answersSoonWithAllOfItAtOnce()
+void TestRobustness::answersSoonWithAllOfItAtOnce()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         fifo $L/x-plane_install_10.txt
         dir $L/x-plane_install_11.txt
@@ -236,9 +236,9 @@ void tst_Robustness::answersSoonWithAllOfItAtOnce()
     QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
+void TestRobustness::looksAtNoMoreFoldersThanMakeSense()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     QByteArray lines;
     for (int i = 0; i < 100000; ++i)
         lines += computer.environment.root.toUtf8() + "/gone " + QByteArray::number(i) + '\n';
@@ -251,9 +251,9 @@ void tst_Robustness::looksAtNoMoreFoldersThanMakeSense()
 }
 
 // Each of a tolerable size, and with nothing wrong up to the last brace.
-void tst_Robustness::readsNoMoreThanMakesSense()
+void TestRobustness::readsNoMoreThanMakesSense()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral("xplane $R/sims/X-Plane 12\n"
                                  "file $L/x-plane_install_12.txt = $R/sims/X-Plane 12\\n\n"
                                  "file $R/manifest ="));
@@ -276,10 +276,10 @@ void tst_Robustness::readsNoMoreThanMakesSense()
     QVERIFY2(computer.duration() < 15000, qPrintable(QString::number(computer.duration())));
 }
 
-void tst_Robustness::opensNoFileTwice()
+void TestRobustness::opensNoFileTwice()
 {
 #ifdef Q_OS_LINUX
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(Everything);
     const auto paths = filesWithContent(computer);
     const int watcher = inotify_init1(IN_NONBLOCK);
@@ -306,11 +306,11 @@ void tst_Robustness::opensNoFileTwice()
 #endif
 }
 
-void tst_Robustness::saysThatAFolderIsClosed()
+void TestRobustness::saysThatAFolderIsClosed()
 {
     if (geteuid() == 0)
         QSKIP("Nothing is closed to root.");
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $R/closed
         xplane $R/good
@@ -325,5 +325,5 @@ void tst_Robustness::saysThatAFolderIsClosed()
                  QStringLiteral("XP12 not taken: $R/closed: no permission to look inside"))});
 }
 
-QTEST_GUILESS_MAIN(tst_Robustness)
+QTEST_GUILESS_MAIN(TestRobustness)
 #include "tst_Robustness.moc"

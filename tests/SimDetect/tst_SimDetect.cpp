@@ -2,7 +2,7 @@
 
 #include "SimDetect/Environment.h"
 #include "tests/SimDetect/Cases.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
 #include <QDir>
@@ -12,7 +12,7 @@ using namespace Quillmont::SimDetect;
 using namespace Tests;
 
 /// What is found on whole computers, and what the computer at hand is taken for.
-class tst_SimDetect : public QObject
+class TestSimDetect : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void writesNothing();
 };
 
-void tst_SimDetect::findsWhatIsThere_data()
+void TestSimDetect::findsWhatIsThere_data()
 {
     caseColumns();
     addCase("an empty home", OnBoth, "dir $H", "");
@@ -79,7 +79,7 @@ void tst_SimDetect::findsWhatIsThere_data()
             "AFS4 not taken: $S/steamapps/common/Both: it is taken as FSXSE");
 }
 
-void tst_SimDetect::findsNothingWithoutAHome_data()
+void TestSimDetect::findsNothingWithoutAHome_data()
 {
     QTest::addColumn<QString>("home");
     QTest::newRow("none") << QString();
@@ -87,18 +87,18 @@ void tst_SimDetect::findsNothingWithoutAHome_data()
     QTest::newRow("one that is a file") << QStringLiteral("/dev/null");
 }
 
-void tst_SimDetect::findsNothingWithoutAHome()
+void TestSimDetect::findsNothingWithoutAHome()
 {
     QFETCH(QString, home);
     for (const auto system : {Environment::Linux, Environment::MacOS}) {
-        Computer computer(system);
+        DescribedComputer computer(system);
         computer.environment.home = home;
         QCOMPARE(computer.detect(), QString());
         QCOMPARE(computer.log(), QStringList());
     }
 }
 
-void tst_SimDetect::asksTheComputerItRunsOn()
+void TestSimDetect::asksTheComputerItRunsOn()
 {
     Sandbox sandbox;
     const QString data = sandbox.path(QStringLiteral("fgdata"));
@@ -113,7 +113,7 @@ void tst_SimDetect::asksTheComputerItRunsOn()
     QCOMPARE(environment.variables.value(QStringLiteral("FG_ROOT")), data);
 }
 
-void tst_SimDetect::takesNoHomeForNoHome()
+void TestSimDetect::takesNoHomeForNoHome()
 {
     Sandbox sandbox;
     sandbox.setVariable("HOME", {});
@@ -121,9 +121,9 @@ void tst_SimDetect::takesNoHomeForNoHome()
     GetAllSimPaths();
 }
 
-void tst_SimDetect::givesOneFolderToOneSimulator()
+void TestSimDetect::givesOneFolderToOneSimulator()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         file $H/packages/version = 2020.3
         file $H/packages/defaults.xml =
@@ -140,9 +140,9 @@ void tst_SimDetect::givesOneFolderToOneSimulator()
              {computer.expanded(QStringLiteral("FGFS not taken: $H/data: it is taken as AFS4"))});
 }
 
-void tst_SimDetect::writesNothing()
+void TestSimDetect::writesNothing()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $R/sims/X-Plane 12
         file $L/x-plane_install_12.txt = $R/sims/X-Plane 12/\n
@@ -152,5 +152,5 @@ void tst_SimDetect::writesNothing()
     QCOMPARE(treeOf(computer.environment.root), before);
 }
 
-QTEST_GUILESS_MAIN(tst_SimDetect)
+QTEST_GUILESS_MAIN(TestSimDetect)
 #include "tst_SimDetect.moc"

@@ -1,5 +1,5 @@
 #include "tests/SimDetect/Cases.h"
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 
 #include <QDir>
 #include <QTest>
@@ -8,7 +8,7 @@ using namespace Quillmont::SimDetect;
 using namespace Tests;
 
 /// Steam's roots, its libraries on other drives, and what its manifests say of a game.
-class tst_Steam : public QObject
+class TestSteam : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private slots:
     void keepsThePartsOfAHomeApart();
 };
 
-void tst_Steam::findsItsRoots_data()
+void TestSteam::findsItsRoots_data()
 {
     caseColumns();
     for (const char *place : {".local/share/Steam",
@@ -112,7 +112,7 @@ void tst_Steam::findsItsRoots_data()
             "XP12: $H/.snap/data/steam/common/.local/share/Steam/steamapps/common/X-Plane 12");
 }
 
-void tst_Steam::findsItsLibraries_data()
+void TestSteam::findsItsLibraries_data()
 {
     caseColumns();
     const QByteArray game = "game $R/drive 2014780 X-Plane 12\n"
@@ -207,7 +207,7 @@ void tst_Steam::findsItsLibraries_data()
             "XP12: $R/drive/SteamApps/common/X-Plane 12");
 }
 
-void tst_Steam::seesThroughASandbox_data()
+void TestSteam::seesThroughASandbox_data()
 {
     caseColumns();
     const QByteArray flatpak = "$H/.var/app/com.valvesoftware.Steam/.local/share/Steam";
@@ -228,7 +228,7 @@ void tst_Steam::seesThroughASandbox_data()
             "");
 }
 
-void tst_Steam::believesManifests_data()
+void TestSteam::believesManifests_data()
 {
     caseColumns();
     const auto add
@@ -307,7 +307,7 @@ void tst_Steam::believesManifests_data()
     addCase("a folder without a manifest", OnBoth, "xplane $S/steamapps/common/X-Plane 12", "");
 }
 
-void tst_Steam::refusesFoldersOutsideTheLibrary_data()
+void TestSteam::refusesFoldersOutsideTheLibrary_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name :
@@ -316,10 +316,10 @@ void tst_Steam::refusesFoldersOutsideTheLibrary_data()
 }
 
 // Wherever the name could lead there is an X-Plane, so that taking it would show.
-void tst_Steam::refusesFoldersOutsideTheLibrary()
+void TestSteam::refusesFoldersOutsideTheLibrary()
 {
     QFETCH(QString, name);
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         xplane $S/steamapps/common
         xplane $S/steamapps
@@ -337,7 +337,7 @@ void tst_Steam::refusesFoldersOutsideTheLibrary()
                                           "installdir is not a plain name"))});
 }
 
-void tst_Steam::wantsTheGamesMarks_data()
+void TestSteam::wantsTheGamesMarks_data()
 {
     caseColumns();
     addCase("each simulator's own",
@@ -385,9 +385,9 @@ void tst_Steam::wantsTheGamesMarks_data()
 }
 
 // A home folder that is itself a link, as some systems have it: Steam writes where it leads.
-void tst_Steam::keepsThePartsOfAHomeApart()
+void TestSteam::keepsThePartsOfAHomeApart()
 {
-    Computer computer(Environment::Linux);
+    DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
         link $R/var -> $H
         game $H/.var/app/com.valvesoftware.Steam/data/Steam/more 2014780 X-Plane 12
@@ -400,5 +400,5 @@ void tst_Steam::keepsThePartsOfAHomeApart()
                                               "more/steamapps/common/X-Plane 12")));
 }
 
-QTEST_GUILESS_MAIN(tst_Steam)
+QTEST_GUILESS_MAIN(TestSteam)
 #include "tst_Steam.moc"

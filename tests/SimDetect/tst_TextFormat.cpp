@@ -5,7 +5,7 @@
 using Quillmont::SimDetect::TextFormat;
 
 /// Steam's text format, entry by entry.
-class tst_TextFormat : public QObject
+class TestTextFormat : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ QByteArray understood(const QByteArray &content)
 
 } // namespace
 
-void tst_TextFormat::readsEntries_data()
+void TestTextFormat::readsEntries_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("meaning");
@@ -81,14 +81,14 @@ void tst_TextFormat::readsEntries_data()
     row("bytes beyond ASCII", "k \xC3\xA9\xFF", "k=\xC3\xA9\xEF\xBF\xBD;");
 }
 
-void tst_TextFormat::readsEntries()
+void TestTextFormat::readsEntries()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, meaning);
     QCOMPARE(understood(content), meaning);
 }
 
-void tst_TextFormat::givesUp_data()
+void TestTextFormat::givesUp_data()
 {
     QTest::addColumn<QByteArray>("content");
     const auto row = [](const char *name, const QByteArray &content) {
@@ -105,7 +105,7 @@ void tst_TextFormat::givesUp_data()
     row("a condition that does not end", "a b [$c");
 }
 
-void tst_TextFormat::givesUp()
+void TestTextFormat::givesUp()
 {
     QFETCH(QByteArray, content);
     QVERIFY2(understood(content).endsWith('!'), understood(content).constData());
@@ -117,7 +117,7 @@ void tst_TextFormat::givesUp()
     QVERIFY(!text.next());
 }
 
-void tst_TextFormat::skipsBlocks()
+void TestTextFormat::skipsBlocks()
 {
     TextFormat text("a { b { c d } e f } g h");
     QVERIFY(text.next());
@@ -130,7 +130,7 @@ void tst_TextFormat::skipsBlocks()
     QVERIFY(!text.isBroken());
 }
 
-void tst_TextFormat::entersTheFirstBlockOfAName_data()
+void TestTextFormat::entersTheFirstBlockOfAName_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isEntered");
@@ -144,7 +144,7 @@ void tst_TextFormat::entersTheFirstBlockOfAName_data()
     QTest::newRow("none") << QByteArray() << false;
 }
 
-void tst_TextFormat::entersTheFirstBlockOfAName()
+void TestTextFormat::entersTheFirstBlockOfAName()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isEntered);
@@ -156,7 +156,7 @@ void tst_TextFormat::entersTheFirstBlockOfAName()
     }
 }
 
-void tst_TextFormat::keepsItsLimits_data()
+void TestTextFormat::keepsItsLimits_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isBroken");
@@ -172,12 +172,12 @@ void tst_TextFormat::keepsItsLimits_data()
     QTest::newRow("100,000 braces") << QByteArray(100000, '{') << true;
 }
 
-void tst_TextFormat::keepsItsLimits()
+void TestTextFormat::keepsItsLimits()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isBroken);
     QCOMPARE(understood(content).endsWith('!'), isBroken);
 }
 
-QTEST_GUILESS_MAIN(tst_TextFormat)
+QTEST_GUILESS_MAIN(TestTextFormat)
 #include "tst_TextFormat.moc"

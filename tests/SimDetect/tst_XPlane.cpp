@@ -5,7 +5,7 @@
 using namespace Tests;
 
 /// X-Plane by its own lists, by Steam and in well-known folders, and which version it is.
-class tst_XPlane : public QObject
+class TestXPlane : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private slots:
     void keepsTheOrder() { checkCase(); }
 };
 
-void tst_XPlane::readsItsLists_data()
+void TestXPlane::readsItsLists_data()
 {
     caseColumns();
     addCase("one folder",
@@ -128,7 +128,7 @@ void tst_XPlane::readsItsLists_data()
     addCase("an empty list", OnBoth, "file $L/x-plane_install_12.txt =", "");
 }
 
-void tst_XPlane::passesOverWhatIsNoXPlane_data()
+void TestXPlane::passesOverWhatIsNoXPlane_data()
 {
     caseColumns();
     addCase("lines that are no folder of it, then a good one",
@@ -214,7 +214,7 @@ void tst_XPlane::passesOverWhatIsNoXPlane_data()
             "XP12 not taken: $R/a?b?[31m: no such folder");
 }
 
-void tst_XPlane::tellsTheVersion_data()
+void TestXPlane::tellsTheVersion_data()
 {
     caseColumns();
     addCase("two lists name one folder whose log says 12",
@@ -346,7 +346,7 @@ void tst_XPlane::tellsTheVersion_data()
             "XP12 not taken: $H/X-Plane 12: it is taken as XP11");
 }
 
-void tst_XPlane::looksInWellKnownFolders_data()
+void TestXPlane::looksInWellKnownFolders_data()
 {
     caseColumns();
     addCase("in the home folder, then on the desktop",
@@ -376,7 +376,7 @@ void tst_XPlane::looksInWellKnownFolders_data()
             "XP12 not taken: $H/X-Plane 12: no Resources/plugins");
 }
 
-void tst_XPlane::keepsTheOrder_data()
+void TestXPlane::keepsTheOrder_data()
 {
     caseColumns();
     addCase("its list before Steam before well-known folders",
@@ -408,5 +408,5 @@ void tst_XPlane::keepsTheOrder_data()
             "XP12: $R/link");
 }
 
-QTEST_GUILESS_MAIN(tst_XPlane)
+QTEST_GUILESS_MAIN(TestXPlane)
 #include "tst_XPlane.moc"

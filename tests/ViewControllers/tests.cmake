@@ -1,6 +1,4 @@
 add_library(orbwell-workshop STATIC
-  ViewControllers/Unprivileged.cpp
-  ViewControllers/Unprivileged.h
   ViewControllers/Workshop.cpp
   ViewControllers/Workshop.h)
 target_link_libraries(orbwell-workshop

@@ -45,7 +45,7 @@ FlightSimulatorMapping *mapping(Workshop &shop, const QByteArray &name)
 
 } // namespace
 
-class AutoInstallationTest : public QObject
+class TestAutoInstallation : public QObject
 {
     Q_OBJECT
 
@@ -311,5 +311,5 @@ private:
     }
 };
 
-QTEST_MAIN(AutoInstallationTest)
+QTEST_MAIN(TestAutoInstallation)
 #include "tst_AutoInstallation.moc"

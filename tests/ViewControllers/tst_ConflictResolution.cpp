@@ -7,7 +7,7 @@
 using Tests::FlightSimulatorMapping;
 using Tests::Workshop;
 
-class ConflictResolutionTest : public QObject
+class TestConflictResolution : public QObject
 {
     Q_OBJECT
 
@@ -227,5 +227,5 @@ private:
     }
 };
 
-QTEST_MAIN(ConflictResolutionTest)
+QTEST_MAIN(TestConflictResolution)
 #include "tst_ConflictResolution.moc"

@@ -6,7 +6,7 @@
 using Tests::Workshop;
 using Tests::writeFile;
 
-class DetectionTest : public QObject
+class TestDetection : public QObject
 {
     Q_OBJECT
 
@@ -159,5 +159,5 @@ private:
     }
 };
 
-QTEST_MAIN(DetectionTest)
+QTEST_MAIN(TestDetection)
 #include "tst_Detection.moc"

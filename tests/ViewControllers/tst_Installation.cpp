@@ -1,5 +1,5 @@
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Unprivileged.h"
 
 #include "Controllers/ConfigurationController.h"
 #include "Library/Helpers/XmlHelper.h"
@@ -73,7 +73,7 @@ void writePayload(const Workshop &shop)
 
 } // namespace
 
-class InstallationTest : public QObject
+class TestInstallation : public QObject
 {
     Q_OBJECT
 
@@ -619,5 +619,5 @@ private:
     }
 };
 
-QTEST_MAIN(InstallationTest)
+QTEST_MAIN(TestInstallation)
 #include "tst_Installation.moc"

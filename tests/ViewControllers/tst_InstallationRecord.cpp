@@ -1,6 +1,6 @@
 #include "tests/Models/LookedUpPaths.h"
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -21,7 +21,7 @@ const char *const simulator = R"({"name": "Sim A", "files": [
 
 } // namespace
 
-class InstallationRecordTest : public QObject
+class TestInstallationRecord : public QObject
 {
     Q_OBJECT
 
@@ -377,5 +377,5 @@ private:
     }
 };
 
-QTEST_MAIN(InstallationRecordTest)
+QTEST_MAIN(TestInstallationRecord)
 #include "tst_InstallationRecord.moc"

@@ -50,7 +50,7 @@ double growthOf(const std::function<void()> &work)
 
 /// Nothing is deleted between scans, as a row or a box may hold a mapping of an earlier one. What
 /// a scan adds is its entries with their mappings, and no more than these.
-class RescansTest : public QObject
+class TestRescans : public QObject
 {
     Q_OBJECT
 
@@ -111,5 +111,5 @@ private:
     QtMessageHandler m_handler = nullptr;
 };
 
-QTEST_MAIN(RescansTest)
+QTEST_MAIN(TestRescans)
 #include "tst_Rescans.moc"

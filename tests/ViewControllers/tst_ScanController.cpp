@@ -32,7 +32,7 @@ const QMetaObject &controllerMeta = ScanController::staticMetaObject;
 
 } // namespace
 
-class ScanControllerTest : public QObject
+class TestScanController : public QObject
 {
     Q_OBJECT
 
@@ -256,5 +256,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ScanControllerTest)
+QTEST_MAIN(TestScanController)
 #include "tst_ScanController.moc"

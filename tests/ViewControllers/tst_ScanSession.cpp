@@ -28,7 +28,7 @@ QString boxTitle()
 
 } // namespace
 
-class ScanSessionTest : public QObject
+class TestScanSession : public QObject
 {
     Q_OBJECT
 
@@ -413,5 +413,5 @@ private:
     }
 };
 
-QTEST_MAIN(ScanSessionTest)
+QTEST_MAIN(TestScanSession)
 #include "tst_ScanSession.moc"

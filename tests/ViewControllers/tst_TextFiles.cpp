@@ -35,7 +35,7 @@ QString timeName(const QDateTime &time)
 
 } // namespace
 
-class TextFilesTest : public QObject
+class TestTextFiles : public QObject
 {
     Q_OBJECT
 
@@ -262,5 +262,5 @@ private:
     }
 };
 
-QTEST_MAIN(TextFilesTest)
+QTEST_MAIN(TestTextFiles)
 #include "tst_TextFiles.moc"

@@ -1,5 +1,5 @@
-#include "tests/ViewControllers/Unprivileged.h"
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Unprivileged.h"
 
 #include "Controllers/ConfigurationController.h"
 #include "Library/Helpers/XmlHelper.h"
@@ -61,7 +61,7 @@ void writePlugin(const Workshop &shop)
 
 } // namespace
 
-class UninstallationTest : public QObject
+class TestUninstallation : public QObject
 {
     Q_OBJECT
 
@@ -614,5 +614,5 @@ private:
     }
 };
 
-QTEST_MAIN(UninstallationTest)
+QTEST_MAIN(TestUninstallation)
 #include "tst_Uninstallation.moc"

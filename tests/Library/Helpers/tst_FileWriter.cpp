@@ -2,6 +2,7 @@
 
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QFile>
@@ -74,25 +75,6 @@ private:
 };
 
 namespace {
-
-/// The rights of a user who is not the superuser, while it lives.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser() { become(65534); }
-
-    ~OrdinaryUser() { become(0); }
-
-    OrdinaryUser(const OrdinaryUser &) = delete;
-    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
-
-private:
-    static void become(uid_t user)
-    {
-        if (getuid() == 0 && seteuid(user) != 0)
-            qFatal("cannot change the user");
-    }
-};
 
 struct stat statusOf(const QString &path)
 {
@@ -367,12 +349,10 @@ void TestFileWriter::fullDiskLeavesTheOldBytes()
 void TestFileWriter::readOnlyFolderIsRefused()
 {
     Tests::writeFile(path(), "old");
-    setMode(m_sandbox.root(), 0755);
     setMode(m_sandbox.path(QStringLiteral("config")), 0555);
-    setMode(path(), 0666);
     bool isWritten = false;
     {
-        const OrdinaryUser user;
+        const Tests::Unprivileged user(m_sandbox.root());
         isWritten = write(path(), "new");
     }
     setMode(m_sandbox.path(QStringLiteral("config")), 0755);

@@ -1,5 +1,5 @@
-#ifndef DRIVER_DRIVER_H
-#define DRIVER_DRIVER_H
+#ifndef TESTS_SUPPORT_DRIVER_DRIVER_H
+#define TESTS_SUPPORT_DRIVER_DRIVER_H
 
 #include <QByteArray>
 #include <QJsonObject>

@@ -1,5 +1,5 @@
-#ifndef DRIVER_EYE_H
-#define DRIVER_EYE_H
+#ifndef TESTS_SUPPORT_DRIVER_EYE_H
+#define TESTS_SUPPORT_DRIVER_EYE_H
 
 #include <QJsonArray>
 

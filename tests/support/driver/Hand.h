@@ -1,5 +1,5 @@
-#ifndef DRIVER_HAND_H
-#define DRIVER_HAND_H
+#ifndef TESTS_SUPPORT_DRIVER_HAND_H
+#define TESTS_SUPPORT_DRIVER_HAND_H
 
 #include <QJsonObject>
 #include <QPointer>

@@ -1,5 +1,5 @@
-#ifndef ENDTOEND_PATIENT_H
-#define ENDTOEND_PATIENT_H
+#ifndef TESTS_ENDTOEND_DISTURBEDCOMPUTER_H
+#define TESTS_ENDTOEND_DISTURBEDCOMPUTER_H
 
 #include "tests/EndToEnd/Computer.h"
 
@@ -8,7 +8,7 @@ namespace Tests {
 /// A computer on which runs go wrong. It has two simulators with a configuration each, three
 /// plugin files in several folders, and files of others all around: "Kept" has other add-ons in
 /// its configuration file, "Bare" has no such file yet.
-class Patient
+class DisturbedComputer
 {
 public:
     /// What lies there before a run.
@@ -18,7 +18,7 @@ public:
         OnlyRecorded ///< the same, and nothing but the record knows where the simulators are
     };
 
-    explicit Patient(Beginning beginning);
+    explicit DisturbedComputer(Beginning beginning);
 
     Computer &computer() { return m_computer; }
 

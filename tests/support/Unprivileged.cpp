@@ -1,4 +1,4 @@
-#include "tests/ViewControllers/Unprivileged.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDirIterator>
 #include <QFile>

@@ -1,5 +1,5 @@
-#ifndef TESTS_SIMDETECT_COMPUTER_H
-#define TESTS_SIMDETECT_COMPUTER_H
+#ifndef TESTS_SIMDETECT_DESCRIBEDCOMPUTER_H
+#define TESTS_SIMDETECT_DESCRIBEDCOMPUTER_H
 
 #include "SimDetect/Environment.h"
 #include "tests/support/Sandbox.h"
@@ -23,10 +23,10 @@ namespace Tests {
 ///
 /// In every line $R is the root of everything, $H the home folder, $S the place of Steam, and $L
 /// that of X-Plane's own lists; \n, \r, \t, \0, \\ and \xHH are the bytes that they are in C.
-class Computer
+class DescribedComputer
 {
 public:
-    explicit Computer(Quillmont::SimDetect::Environment::System system);
+    explicit DescribedComputer(Quillmont::SimDetect::Environment::System system);
 
     /// Puts @p description on the disk; a line that makes no sense ends the test program.
     void make(const QString &description);

@@ -1,4 +1,4 @@
-#include "tests/EndToEnd/Patient.h"
+#include "tests/EndToEnd/DisturbedComputer.h"
 
 #include "tests/EndToEnd/Simulators.h"
 
@@ -55,12 +55,12 @@ static bool isBackup(const QString &path)
     return path.contains(QLatin1String("_quillmont_orbwell_before_"));
 }
 
-QStringList Patient::simulators()
+QStringList DisturbedComputer::simulators()
 {
     return {kept(), bare()};
 }
 
-Patient::Patient(Beginning beginning)
+DisturbedComputer::DisturbedComputer(Beginning beginning)
     : m_beginning(beginning)
 {
     const QStringList names = simulators();
@@ -89,7 +89,7 @@ Patient::Patient(Beginning beginning)
     }
 }
 
-QJsonObject Patient::entry(const QString &simulator) const
+QJsonObject DisturbedComputer::entry(const QString &simulator) const
 {
     const bool hidden = m_beginning == OnlyRecorded;
     QJsonObject entry
@@ -102,7 +102,7 @@ QJsonObject Patient::entry(const QString &simulator) const
     return entry;
 }
 
-void Patient::reset()
+void DisturbedComputer::reset()
 {
     QDir(m_computer.absolute(QStringLiteral("sims"))).removeRecursively();
     QDir(m_computer.absolute(m_computer.data({}))).removeRecursively();
@@ -132,12 +132,12 @@ void Patient::reset()
 }
 
 /// The configuration file that the one at @p path is a backup of, or itself.
-QString Patient::configurationOf(const QString &path) const
+QString DisturbedComputer::configurationOf(const QString &path) const
 {
     return isBackup(path) ? path.left(path.indexOf(QLatin1String("_quillmont_"))) : path;
 }
 
-QStringList Patient::harm() const
+QStringList DisturbedComputer::harm() const
 {
     QStringList lines;
     const Disk left = m_computer.disk();
@@ -163,7 +163,7 @@ QStringList Patient::harm() const
     return lines;
 }
 
-QStringList Patient::leftovers() const
+QStringList DisturbedComputer::leftovers() const
 {
     QStringList lines;
     const Disk left = m_computer.disk();
@@ -175,12 +175,12 @@ QStringList Patient::leftovers() const
     return lines;
 }
 
-QString Patient::recordPath() const
+QString DisturbedComputer::recordPath() const
 {
     return m_computer.data(QStringLiteral("Quillmont/Orbwell/.mapping"));
 }
 
-QMap<QString, QJsonObject> Patient::recordsOn(const Disk &disk) const
+QMap<QString, QJsonObject> DisturbedComputer::recordsOn(const Disk &disk) const
 {
     QMap<QString, QJsonObject> records;
     const QJsonArray all = QJsonDocument::fromJson(disk.value(recordPath())).array();
@@ -190,7 +190,7 @@ QMap<QString, QJsonObject> Patient::recordsOn(const Disk &disk) const
     return records;
 }
 
-void Patient::putRecords(Disk *disk, const QMap<QString, QJsonObject> &records) const
+void DisturbedComputer::putRecords(Disk *disk, const QMap<QString, QJsonObject> &records) const
 {
     QJsonArray sorted;
     for (const QJsonObject &record : records)
@@ -198,7 +198,7 @@ void Patient::putRecords(Disk *disk, const QMap<QString, QJsonObject> &records) 
     put(disk, recordPath(), QJsonDocument(sorted).toJson());
 }
 
-Disk Patient::outcome() const
+Disk DisturbedComputer::outcome() const
 {
     Disk disk = m_computer.disk();
     const QStringList paths = disk.keys();
@@ -210,7 +210,7 @@ Disk Patient::outcome() const
     return disk;
 }
 
-bool Patient::isKnown(const QString &simulator, const Disk &disk) const
+bool DisturbedComputer::isKnown(const QString &simulator, const Disk &disk) const
 {
     if (m_beginning != OnlyRecorded)
         return true;
@@ -221,7 +221,7 @@ bool Patient::isKnown(const QString &simulator, const Disk &disk) const
     return known;
 }
 
-Disk Patient::expectedAfter(const Disk &start, const Disk &usual) const
+Disk DisturbedComputer::expectedAfter(const Disk &start, const Disk &usual) const
 {
     Disk expected = usual;
     auto records = recordsOn(usual);
@@ -242,7 +242,7 @@ Disk Patient::expectedAfter(const Disk &start, const Disk &usual) const
     return expected;
 }
 
-QStringList Patient::pluginFilesOf(const QString &simulator) const
+QStringList DisturbedComputer::pluginFilesOf(const QString &simulator) const
 {
     QStringList paths = pluginFiles(entry(simulator)).keys();
     for (QString &path : paths)
@@ -250,7 +250,7 @@ QStringList Patient::pluginFilesOf(const QString &simulator) const
     return paths;
 }
 
-QStringList Patient::remaining(const QString &simulator) const
+QStringList DisturbedComputer::remaining(const QString &simulator) const
 {
     const Disk disk = m_computer.disk();
     QStringList paths;
@@ -262,7 +262,7 @@ QStringList Patient::remaining(const QString &simulator) const
     return paths;
 }
 
-bool Patient::isWhole(const QString &simulator) const
+bool DisturbedComputer::isWhole(const QString &simulator) const
 {
     const Disk disk = m_computer.disk();
     bool whole = true;

@@ -1,4 +1,4 @@
-#include "tests/SimDetect/Computer.h"
+#include "tests/SimDetect/DescribedComputer.h"
 
 #include "SimDetect/SimDetect.h"
 #include "tests/support/Files.h"
@@ -49,14 +49,14 @@ void makeFolder(const QString &path)
 
 } // namespace
 
-Computer::Computer(Environment::System system)
+DescribedComputer::DescribedComputer(Environment::System system)
 {
     environment.system = system;
     environment.root = m_sandbox.root();
     environment.home = m_sandbox.home();
 }
 
-void Computer::make(const QString &description)
+void DescribedComputer::make(const QString &description)
 {
     static const QRegularExpression line(QStringLiteral("^(\\w+) (.+?)(?: (?:=|->) ?(.*))?$"));
     static const QRegularExpression game(QStringLiteral("^(.+?) ([0-9]+) (.+)$"));
@@ -75,7 +75,7 @@ void Computer::make(const QString &description)
     }
 }
 
-void Computer::makeOne(const QString &what, const QString &path, const QString &rest)
+void DescribedComputer::makeOne(const QString &what, const QString &path, const QString &rest)
 {
     if (path.startsWith(u'/'))
         makeFolder(QFileInfo(path).path());
@@ -97,7 +97,7 @@ void Computer::makeOne(const QString &what, const QString &path, const QString &
         qFatal("cannot make this: %s %s", qPrintable(what), qPrintable(path));
 }
 
-void Computer::makeGame(const QString &library, const QString &id, const QString &name)
+void DescribedComputer::makeGame(const QString &library, const QString &id, const QString &name)
 {
     makeFolder(library + QStringLiteral("/steamapps/common/") + name);
     writeFile(library + QStringLiteral("/steamapps/appmanifest_%1.acf").arg(id),
@@ -107,7 +107,7 @@ void Computer::makeGame(const QString &library, const QString &id, const QString
                   .toUtf8());
 }
 
-void Computer::makeLibraries(const QString &root, const QStringList &libraries)
+void DescribedComputer::makeLibraries(const QString &root, const QStringList &libraries)
 {
     QString text = QStringLiteral("\"libraryfolders\"\n{\n");
     for (int i = 0; i < libraries.size(); ++i) {
@@ -119,7 +119,7 @@ void Computer::makeLibraries(const QString &root, const QStringList &libraries)
               (text + QStringLiteral("}\n")).toUtf8());
 }
 
-void Computer::makeXPlane(const QString &path) const
+void DescribedComputer::makeXPlane(const QString &path) const
 {
     makeFolder(path + QStringLiteral("/Resources/plugins"));
     if (environment.system == Environment::MacOS)
@@ -128,7 +128,7 @@ void Computer::makeXPlane(const QString &path) const
         writeFile(path + QStringLiteral("/X-Plane-x86_64"), {});
 }
 
-QString Computer::expanded(const QString &text) const
+QString DescribedComputer::expanded(const QString &text) const
 {
     const bool isMac = environment.system == Environment::MacOS;
     QString result = text;
@@ -142,7 +142,7 @@ QString Computer::expanded(const QString &text) const
     return result.replace(QLatin1String("$R"), m_sandbox.root());
 }
 
-QString Computer::detect()
+QString DescribedComputer::detect()
 {
     const LogCatcher catcher;
     const std::clock_t before = std::clock();
