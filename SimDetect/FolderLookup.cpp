@@ -11,10 +11,10 @@ namespace Quillmont::SimDetect {
 namespace {
 
 // Far more than a real folder on the way to a simulator holds.
-constexpr int MostNames = 20000;
+constexpr int mostNames = 20000;
 
 // What the systems take as a path; longer ones are no paths, and not worth taking apart.
-constexpr int LongestPath = 4096;
+constexpr int longestPath = 4096;
 
 QString inOtherCase(const QString &name)
 {
@@ -46,7 +46,7 @@ QString FolderLookup::find(const QString &path)
 
 QString FolderLookup::find(const QString &folder, const QString &relative)
 {
-    if (relative.size() > LongestPath || relative.contains(QChar::Null))
+    if (relative.size() > longestPath || relative.contains(QChar::Null))
         return {};
     QString found = folder;
     const auto names = relative.split(u'/', Qt::SkipEmptyParts);
@@ -68,7 +68,7 @@ QStringList FolderLookup::names(const QString &folder)
         return *known;
     QStringList names;
     QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    while (it.hasNext() && names.size() < MostNames) {
+    while (it.hasNext() && names.size() < mostNames) {
         it.next();
         names.append(it.fileName());
     }

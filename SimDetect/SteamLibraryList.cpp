@@ -12,7 +12,7 @@ namespace Quillmont::SimDetect {
 namespace {
 
 // Nobody has more drives than that, and each costs a look at the disk.
-constexpr int MostLibraries = 256;
+constexpr int mostLibraries = 256;
 
 bool isNumber(const std::string &key)
 {
@@ -40,7 +40,7 @@ QString readPath(TextFormat &text)
 
 SteamLibraryList::SteamLibraryList(const QString &path, qint64 &allowance)
 {
-    const PlainFile file(path, allowance, TextFormat::LargestFile);
+    const PlainFile file(path, allowance, TextFormat::largestFile);
     m_problem = file.problem();
     if (m_problem.isEmpty())
         parse(file.content());
@@ -53,7 +53,7 @@ void SteamLibraryList::parse(const QByteArray &content)
     if (text.enter("libraryfolders")) {
         while (text.next()) {
             if (!isNumber(text.key()) || seen.count(text.key()) > 0
-                || seen.size() >= MostLibraries) {
+                || seen.size() >= mostLibraries) {
                 text.skip();
                 continue;
             }

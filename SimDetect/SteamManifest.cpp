@@ -7,8 +7,8 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-constexpr quint64 Uninstalled = 1;
-constexpr quint64 FullyInstalled = 4;
+constexpr quint64 uninstalled = 1;
+constexpr quint64 fullyInstalled = 4;
 
 // Anything else could lead out of the library.
 bool isPlainName(const QString &name)
@@ -24,9 +24,9 @@ QString objectionToFlags(const QString &written)
     auto flags = static_cast<quint64>(written.trimmed().toLongLong(&isReadable));
     if (!isReadable)
         flags = written.trimmed().toULongLong(&isReadable);
-    if (isReadable && (flags & Uninstalled) != 0)
+    if (isReadable && (flags & uninstalled) != 0)
         return QStringLiteral("uninstalled (StateFlags %1)").arg(flags);
-    if (isReadable && (flags & FullyInstalled) == 0)
+    if (isReadable && (flags & fullyInstalled) == 0)
         return QStringLiteral("not fully installed (StateFlags %1)").arg(flags);
     return {};
 }
@@ -35,7 +35,7 @@ QString objectionToFlags(const QString &written)
 
 SteamManifest::SteamManifest(const QString &path, const QString &appId, qint64 &allowance)
 {
-    const PlainFile file(path, allowance, TextFormat::LargestFile);
+    const PlainFile file(path, allowance, TextFormat::largestFile);
     m_objection = file.problem();
     if (m_objection.isEmpty())
         m_objection = parse(file.content());

@@ -9,14 +9,14 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-constexpr auto NativeRoot = ".local/share/Steam";
+constexpr auto usualRoot = ".local/share/Steam";
 
 QString nativeRoot(const Environment &environment)
 {
     const QString data = environment.variables.value(QStringLiteral("XDG_DATA_HOME"));
     if (data.startsWith(u'/'))
         return QDir::cleanPath(data + QStringLiteral("/Steam"));
-    return environment.inHome(QLatin1String(NativeRoot));
+    return environment.inHome(QLatin1String(usualRoot));
 }
 
 // Flatpak shows its Steam the folder under the name that a native one has, and the home folder
@@ -24,7 +24,7 @@ QString nativeRoot(const Environment &environment)
 QStringList flatpakNames(const Environment &environment)
 {
     const QString home = QFileInfo(environment.inHome(QString())).canonicalFilePath();
-    return {environment.inHome(QLatin1String(NativeRoot)), home + u'/' + QLatin1String(NativeRoot)};
+    return {environment.inHome(QLatin1String(usualRoot)), home + u'/' + QLatin1String(usualRoot)};
 }
 
 QVector<SteamRoot> linuxRoots(const Environment &environment)

@@ -7,8 +7,8 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-constexpr int LongestToken = 64 * 1024;
-constexpr int DeepestLevel = 64;
+constexpr int longestToken = 64 * 1024;
+constexpr int deepestLevel = 64;
 
 bool isBlank(char character)
 {
@@ -72,7 +72,7 @@ bool TextFormat::next()
     ++m_at;
     ++m_level;
     m_isBlock = true;
-    return m_level <= DeepestLevel || fail();
+    return m_level <= deepestLevel || fail();
 }
 
 bool TextFormat::isKey(const char *key) const
@@ -129,7 +129,7 @@ void TextFormat::skipCondition()
 {
     while (isAt("[$") || isAt("[!$")) {
         const char *end = std::find(m_at, m_end, ']');
-        if (end == m_end || end - m_at > LongestToken) {
+        if (end == m_end || end - m_at > longestToken) {
             fail();
             return;
         }
@@ -148,9 +148,9 @@ bool TextFormat::readToken(std::string *token)
 bool TextFormat::readQuoted(std::string *token)
 {
     ++m_at;
-    while (m_at != m_end && *m_at != '"' && token->size() <= LongestToken)
+    while (m_at != m_end && *m_at != '"' && token->size() <= longestToken)
         readCharacter(token);
-    if (m_at == m_end || token->size() > LongestToken)
+    if (m_at == m_end || token->size() > longestToken)
         return false;
     ++m_at;
     return true;
@@ -177,7 +177,7 @@ bool TextFormat::readBare(std::string *token)
     const char *start = m_at;
     while (m_at != m_end && !endsBareToken(*m_at))
         ++m_at;
-    if (m_at - start > LongestToken)
+    if (m_at - start > longestToken)
         return false;
     token->assign(start, m_at);
     return true;

@@ -17,7 +17,7 @@ class TextFormat
 {
 public:
     /// The most bytes that a file in this format has.
-    static constexpr qint64 LargestFile = 8LL * 1024 * 1024;
+    static constexpr qint64 largestFile = 8LL * 1024 * 1024;
 
     explicit TextFormat(QByteArray text);
 

@@ -17,7 +17,7 @@ namespace Quillmont::SimDetect {
 namespace {
 
 // The newest first: where nothing but two sources tells a folder's version, it has been updated.
-constexpr std::initializer_list<int> Versions = {12, 11, 10};
+constexpr std::initializer_list<int> versions = {12, 11, 10};
 
 QString codeOf(int version)
 {
@@ -61,19 +61,19 @@ void XPlane::find(Steam &steam)
 
 void XPlane::offer(const Source &source)
 {
-    const bool isComplete = std::all_of(Versions.begin(), Versions.end(), [this](int version) {
+    const bool isComplete = std::all_of(versions.begin(), versions.end(), [this](int version) {
         return m_collector.has(codeOf(version));
     });
     if (isComplete)
         return;
     QMap<int, QVector<Candidate>> named;
-    for (const int version : Versions) {
+    for (const int version : versions) {
         named.insert(version, source(version));
         m_collector.offer(codeOf(version), named[version], [this, version](const QString &folder) {
             return test(folder, version, version);
         });
     }
-    for (const int version : Versions)
+    for (const int version : versions)
         offerMisnamed(version, named);
 }
 
@@ -82,7 +82,7 @@ void XPlane::offerMisnamed(int version, const QMap<int, QVector<Candidate>> &nam
     const auto isIt = [this, version](const QString &folder) {
         return test(folder, version, 0);
     };
-    for (const int other : Versions) {
+    for (const int other : versions) {
         if (other == version || m_collector.has(codeOf(version)))
             continue;
         QVector<Candidate> misnamed = named.value(other);

@@ -10,7 +10,7 @@ namespace Quillmont::SimDetect {
 namespace {
 
 // Nobody installs it that often, and each costs a look at the disk.
-constexpr int MostFolders = 256;
+constexpr int mostFolders = 256;
 
 } // namespace
 
@@ -24,7 +24,7 @@ QVector<Candidate> XPlaneList::read(const QString &path, qint64 &allowance)
     QTextStream text(file.content());
     text.setCodec("UTF-8");
     QVector<Candidate> candidates;
-    while (!text.atEnd() && candidates.size() < MostFolders) {
+    while (!text.atEnd() && candidates.size() < mostFolders) {
         const QString line = text.readLine().trimmed();
         if (!line.isEmpty())
             candidates.append({line, {}});

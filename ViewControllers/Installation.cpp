@@ -15,7 +15,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Helpers::XmlHelper;
@@ -41,14 +40,6 @@ QString launchDocument()
                           "        <Path>GaugesQuillmontOrbwell_64.dll</Path>\r\n"
                           "    </Launch.Addon>\r\n"
                           "</SimBase.Document>\r\n");
-}
-
-void makeFolder(const QDir &folder)
-{
-    if (folder.exists())
-        return;
-    const bool made = folder.mkpath(folder.absolutePath());
-    logAction() << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
 }
 
 void removeOldFile(const QString &path)
@@ -102,7 +93,7 @@ void ScanController::copyPluginFile(const QString &source,
                                     const QString &target,
                                     const QString &folder)
 {
-    makeFolder(QFileInfo(target).dir());
+    makeFolderOf(target);
     removeOldFile(target);
     QFile file(source);
     if (file.copy(target)) {

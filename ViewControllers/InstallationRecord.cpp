@@ -4,11 +4,11 @@
 #include "Controllers/UserDataRoot.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/SimulatorFiles.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -64,9 +64,7 @@ void removeLastRecord(QJsonArray &records, const QString &name)
 void ScanController::createMappingFile()
 {
     const QString path = recordPath();
-    const QDir folder = QFileInfo(path).absoluteDir();
-    if (!folder.exists())
-        folder.mkpath(folder.absolutePath());
+    makeFolderOf(path);
 
     QFile file(path);
     if (!file.exists())

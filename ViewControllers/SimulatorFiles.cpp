@@ -1,5 +1,6 @@
 #include "ViewControllers/SimulatorFiles.h"
 
+#include "Controllers/ActionLog.h"
 #include "Controllers/UserDataRoot.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -32,6 +34,15 @@ QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destina
 QString configurationFile(const FlightSimulatorMapping *mapping)
 {
     return userDataRoot() + mapping->scan->config->path;
+}
+
+void makeFolderOf(const QString &path)
+{
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (folder.exists())
+        return;
+    const bool made = folder.mkpath(folder.absolutePath());
+    logAction() << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
 }
 
 void backUp(const QString &file, const QString &suffix)

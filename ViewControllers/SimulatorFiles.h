@@ -18,6 +18,9 @@ QString pluginFile(const Models::FlightSimulatorMapping *mapping, const QString 
 /// The simulator's configuration file, "/"-separated; the entry must have a configuration.
 QString configurationFile(const Models::FlightSimulatorMapping *mapping);
 
+/// Makes the folder that the file at @p path is to lie in, and all above it, where it is missing.
+void makeFolderOf(const QString &path);
+
 /// Copies @p file, if it exists, to a name beside it made of its own, @p suffix and the local
 /// time for "%0". The debug log says how it went; a failed backup stops nothing.
 void backUp(const QString &file, const QString &suffix);

@@ -1,6 +1,7 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "ViewControllers/SimulatorFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,9 +54,7 @@ QString ScanController::readFile(const QString &path)
 void ScanController::saveFile(const QString &path, const QString &content)
 {
     const QString native = QDir::toNativeSeparators(path);
-    const QDir folder = QFileInfo(native).absoluteDir();
-    if (!folder.exists())
-        folder.mkpath(folder.absolutePath());
+    makeFolderOf(native);
 
     QFile file(native);
     if (!isSomethingElse(native) && file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {

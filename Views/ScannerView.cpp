@@ -47,29 +47,9 @@ ScannerView::ScannerView(QWidget *parent)
     // Before the first part says anything: what was asked for once is kept.
     QAccessible::installFactory(accessiblePart);
     auto *layout = new QVBoxLayout(this);
-
-    m_introduction = new QLabel(
-        tr("Orbwell will automatically detect your simulators and install the plugin in each. "
-           "Please verify below. To manually scan and install again, press \"Scan & Install\" "
-           "below."),
-        this);
-    m_introduction->setWordWrap(true);
-    layout->addWidget(m_introduction);
-
-    m_list = new QListWidget(this);
-    m_list->setAccessibleName(tr("Simulators"));
-    // A row has buttons of its own; marking it would only drown its name and icon in colour.
-    m_list->setSelectionMode(QAbstractItemView::NoSelection);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->verticalScrollBar()->setSingleStep(21); // a wheel's notch is three: a row
-    layout->addWidget(m_list);
-
-    auto *buttons = new QHBoxLayout;
-    layout->addLayout(buttons);
-    m_scanAndInstall = new QPushButton(tr("Scan && Install"), this);
-    buttons->addWidget(m_scanAndInstall);
-    m_close = new QPushButton(tr("Close"), this);
-    buttons->addWidget(m_close);
+    layout->addWidget(makeIntroduction());
+    layout->addWidget(makeList());
+    layout->addLayout(makeButtons());
 
     // Enter presses the button that has the focus, as it does in a dialog.
     m_scanAndInstall->setAutoDefault(true);
@@ -84,6 +64,38 @@ ScannerView::ScannerView(QWidget *parent)
     m_list->setItemDelegate(new AddonListItemDelegate(m_list));
     setMinimumSize(640, 480);
     setWindowTitle(tr("Quillmont Orbwell Settings"));
+}
+
+QLabel *ScannerView::makeIntroduction()
+{
+    m_introduction = new QLabel(
+        tr("Orbwell will automatically detect your simulators and install the plugin in each. "
+           "Please verify below. To manually scan and install again, press \"Scan & Install\" "
+           "below."),
+        this);
+    m_introduction->setWordWrap(true);
+    return m_introduction;
+}
+
+QListWidget *ScannerView::makeList()
+{
+    m_list = new QListWidget(this);
+    m_list->setAccessibleName(tr("Simulators"));
+    // A row has buttons of its own; marking it would only drown its name and icon in colour.
+    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->verticalScrollBar()->setSingleStep(21); // a wheel's notch is three: a row
+    return m_list;
+}
+
+QHBoxLayout *ScannerView::makeButtons()
+{
+    auto *buttons = new QHBoxLayout;
+    m_scanAndInstall = new QPushButton(tr("Scan && Install"), this);
+    buttons->addWidget(m_scanAndInstall);
+    m_close = new QPushButton(tr("Close"), this);
+    buttons->addWidget(m_close);
+    return buttons;
 }
 
 ScannerView::~ScannerView()

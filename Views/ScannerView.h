@@ -6,6 +6,7 @@
 #include <QList>
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -41,6 +42,9 @@ private:
         QString control;
     };
 
+    QLabel *makeIntroduction();
+    QListWidget *makeList();
+    QHBoxLayout *makeButtons();
     int rowAround(const QWidget *widget) const;
     void showRowAround(const QWidget *widget);
     RowControl focusedControl() const;

@@ -23,13 +23,13 @@ QString keyOf(const QString &name)
     return QStringLiteral("flightsim/") + QString(name).replace(u' ', u'_');
 }
 
-/// Slashes part a key into levels, however many stand in a row.
+// Slashes part a key into levels, however many stand in a row.
 QString levels(const QString &key)
 {
     return key.split(u'/', Qt::SkipEmptyParts).join(u'/');
 }
 
-/// A settings file and the one object that works on it, for the whole run.
+// A settings file and the one object that works on it, for the whole run.
 class Store
 {
 public:
@@ -105,8 +105,8 @@ void remove(const QString &name, Settings *expected)
 
 } // namespace
 
-/// The input is a settings file up to a line "----", and then one row's work a line: "NAME=FOLDER"
-/// saves and "NAME" removes. A vertical tab stands for a line end.
+// The input is a settings file up to a line "----", and then one row's work a line: "NAME=FOLDER"
+// saves and "NAME" removes. A vertical tab stands for a line end.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));

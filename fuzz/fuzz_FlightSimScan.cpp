@@ -162,7 +162,7 @@ void checkEntry(const QJsonObject &json)
 
 } // namespace
 
-/// Any catalogue reads as its format says, and no part of it is lost or owned twice.
+// Any catalogue reads as its format says, and no part of it is lost or owned twice.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));

@@ -17,7 +17,7 @@ using Quillmont::SimDetect::Environment;
 
 namespace {
 
-/// A computer with a simulator of each kind, whose own and whose shops' files anybody may write.
+// A computer with a simulator of each kind, whose own and whose shops' files anybody may write.
 class FuzzedComputer
 {
 public:
@@ -38,7 +38,7 @@ private:
 
 constexpr auto Library = "home/.local/share/Steam";
 
-/// What is read of them, in the input's order.
+// What is read of them, in the input's order.
 constexpr std::array<const char *, 7> Files = {
     "home/.local/share/Steam/config/libraryfolders.vdf",
     "home/.local/share/Steam/steamapps/appmanifest_314160.acf",
@@ -87,7 +87,7 @@ void FuzzedComputer::write(const QList<QByteArray> &contents) const
     }
 }
 
-/// Only what is there is found, and only under the name of what it is.
+// Only what is there is found, and only under the name of what it is.
 void FuzzedComputer::check(const QString &code, const QString &folder) const
 {
     static const QMap<QString, const char *> marks{{QStringLiteral("XP10"), "Resources/plugins"},
@@ -125,8 +125,8 @@ QList<QByteArray> partsOf(QByteArray bytes)
 
 } // namespace
 
-/// The input is one file's content after the other, parted by lines "----"; "$R" in it stands for
-/// the folder that holds all. No file makes a simulator out of something else, or two out of one.
+// The input is one file's content after the other, parted by lines "----"; "$R" in it stands for
+// the folder that holds all. No file makes a simulator out of something else, or two out of one.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));

@@ -10,7 +10,7 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-/// Half a surrogate pair is an undecodable piece like any other.
+// Half a surrogate pair is an undecodable piece like any other.
 void replaceLoneSurrogates(QString *text)
 {
     for (int i = 0; i < text->size(); ++i) {

@@ -25,7 +25,7 @@ QByteArray EncodedText::spliced(const TextSplices &splices) const
     return reads(bytes, splices) ? bytes : QByteArray();
 }
 
-/// Undecodable neighbours may join into a character, or a shift state reach into what is new.
+// Undecodable neighbours may join into a character, or a shift state reach into what is new.
 bool EncodedText::reads(const QByteArray &bytes, const TextSplices &splices) const
 {
     const DecodedText after(bytes, m_encoding);
@@ -45,7 +45,7 @@ bool EncodedText::reads(const QByteArray &bytes, const TextSplices &splices) con
     return goesOn(text().midRef(here)) && there == after.text().size();
 }
 
-/// Two for each splice, or none at all.
+// Two for each splice, or none at all.
 QVector<int> EncodedText::bytesAt(const TextSplices &splices) const
 {
     QVector<int> characters;

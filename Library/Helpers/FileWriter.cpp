@@ -15,8 +15,8 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-/// The file that a chain of symbolic links ends at, which need not exist. Where a link lies behind
-/// a linked folder, ".." in it means that folder's real parent.
+// The file that a chain of symbolic links ends at, which need not exist. Where a link lies behind
+// a linked folder, ".." in it means that folder's real parent.
 QString linkTarget(const QString &path)
 {
     QFileInfo info(path);
@@ -30,7 +30,7 @@ QString linkTarget(const QString &path)
     return info.filePath();
 }
 
-/// Only the superuser gives files away, and not everybody may set every group.
+// Only the superuser gives files away, and not everybody may set every group.
 void keepOwner(int handle, const struct stat &before)
 {
     constexpr auto same = static_cast<uid_t>(-1);
@@ -42,7 +42,7 @@ void keepOwner(int handle, const struct stat &before)
         errno = 0;
 }
 
-/// QSaveFile keeps the mode as well, but does not notice when that fails.
+// QSaveFile keeps the mode as well, but does not notice when that fails.
 bool keepMode(int handle, const struct stat &before)
 {
     constexpr mode_t mask = 07777;
@@ -53,7 +53,7 @@ bool keepMode(int handle, const struct stat &before)
         || fchmod(handle, before.st_mode & mask) == 0;
 }
 
-/// Gives the file behind @p handle what the file at @p path has, if there is one.
+// Gives the file behind @p handle what the file at @p path has, if there is one.
 bool keepStatus(int handle, const QString &path)
 {
     struct stat before = {};
@@ -63,7 +63,7 @@ bool keepStatus(int handle, const QString &path)
     return keepMode(handle, before);
 }
 
-/// Some file systems find out only here that the disk is full; others have nothing to sync.
+// Some file systems find out only here that the disk is full; others have nothing to sync.
 bool isOnDisk(int handle)
 {
     return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
@@ -76,15 +76,15 @@ bool fill(QFileDevice *file, const QString &target, const QByteArray &bytes)
         && isOnDisk(file->handle());
 }
 
-/// The name that new bytes bear from when they are complete until they are in their place. It is
-/// always the same, so that the next process can tell what a killed one left from others' files.
+// The name that new bytes bear from when they are complete until they are in their place. It is
+// always the same, so that the next process can tell what a killed one left from others' files.
 QByteArray unfinishedName(const QString &target)
 {
     return QFile::encodeName(target + QStringLiteral("_quillmont_unfinished"));
 }
 
-/// Opens a file without a name in the folder of @p target, gone by itself with its process. Not
-/// every system and file system has such files.
+// Opens a file without a name in the folder of @p target, gone by itself with its process. Not
+// every system and file system has such files.
 bool openNameless(QFile *file, const QString &target)
 {
 #ifdef O_TMPFILE
@@ -120,7 +120,7 @@ bool putInPlace(int handle, const QString &target)
     return false;
 }
 
-/// A process that is killed on the way leaves nothing, or what clearUnfinished() takes away.
+// A process that is killed on the way leaves nothing, or what clearUnfinished() takes away.
 bool writeNameless(const QString &target, const QByteArray &bytes)
 {
     const QFileInfo info(target);
@@ -129,7 +129,7 @@ bool writeNameless(const QString &target, const QByteArray &bytes)
         && fill(&file, target, bytes) && putInPlace(file.handle(), target);
 }
 
-/// The way for all systems; a killed process can leave a file of any name here.
+// The way for all systems; a killed process can leave a file of any name here.
 bool writeNamed(const QString &target, const QByteArray &bytes, QString *problem)
 {
     QSaveFile file(target);

@@ -60,7 +60,7 @@ void StrictXmlReader::checkAttributes()
     }
 }
 
-/// The reader limits what one reference grows to, not their number.
+// The reader limits what one reference grows to, not their number.
 void StrictXmlReader::limitEntities()
 {
     constexpr int biggestGrowth = 16 * 1024 * 1024;

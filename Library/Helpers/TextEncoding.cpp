@@ -23,8 +23,8 @@ QString decode(const QTextCodec *codec, const QByteArray &bytes)
     return codec->toUnicode(bytes.constData(), bytes.size(), &state);
 }
 
-/// The toolkit compares a name with all aliases of all its codecs, which takes as long as reading a
-/// small file, and does not remember the answer.
+// The toolkit compares a name with all aliases of all its codecs, which takes as long as reading a
+// small file, and does not remember the answer.
 QTextCodec *codecNamed(const QByteArray &name)
 {
     static QHash<QByteArray, QTextCodec *> known;
@@ -34,7 +34,7 @@ QTextCodec *codecNamed(const QByteArray &name)
     return codec;
 }
 
-/// What a byte-order mark says, or the zero in the first character of a file that lacks one.
+// What a byte-order mark says, or the zero in the first character of a file that lacks one.
 QTextCodec *markedCodec(const QByteArray &bytes)
 {
     if (bytes.startsWith(QByteArray("<\0", 2)))

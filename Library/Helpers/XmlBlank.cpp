@@ -16,7 +16,7 @@ bool isLineEnd(QChar character)
     return character == u'\n' || character == u'\r';
 }
 
-/// Where the last line end between @p begin and @p place begins, or -1.
+// Where the last line end between @p begin and @p place begins, or -1.
 int lastLineEnd(const QString &text, int begin, int place)
 {
     int at = place - 1;

@@ -113,7 +113,7 @@ void XmlEntryEdit::replaceText(const XmlElement &child, const QString &text)
         m_splices.append({child.contentBegin, child.contentEnd, escaped});
 }
 
-/// Makes two tags with @p content between them out of one.
+// Makes two tags with @p content between them out of one.
 void XmlEntryEdit::open(const XmlElement &element, const QString &content)
 {
     if (!m_source.canWrite(element.name))

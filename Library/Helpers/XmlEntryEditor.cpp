@@ -14,7 +14,7 @@ namespace {
 
 using Change = std::function<void(XmlEntryEdit *)>;
 
-/// What stood at both sides of an element may have become the end of a CDATA section.
+// What stood at both sides of an element may have become the end of a CDATA section.
 QString problemAfterwards(const QByteArray &bytes)
 {
     const EncodedText source(bytes);

@@ -17,7 +17,7 @@ namespace {
 
 using Edit = std::function<QByteArray(const QByteArray &, QString *)>;
 
-/// The content of the file at @p path; on failure @p problem says why.
+// The content of the file at @p path; on failure @p problem says why.
 QByteArray read(const QString &path, QString *problem)
 {
     // Configuration files have some kilobytes; what is bigger than this only eats up memory.

@@ -9,7 +9,7 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-/// Whether @p markup is one element and means just @p name and @p text.
+// Whether @p markup is one element and means just @p name and @p text.
 bool means(const QString &markup, const QString &name, const QString &text)
 {
     StrictXmlReader reader(markup);

@@ -109,7 +109,7 @@ void TestTexts::haveNoStatusWords()
 {
     const QStringList words{QStringLiteral("Updated"),
                             QStringLiteral("Not updated"),
-                            QStringLiteral("Uninstalled"),
+                            QStringLiteral("uninstalled"),
                             QStringLiteral("Not uninstalled"),
                             QStringLiteral("updated"),
                             QStringLiteral("uninstalled")};
