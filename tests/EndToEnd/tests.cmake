@@ -45,4 +45,3 @@ orbwell_add_test(EndToEnd/Faults
   EndToEnd/DisturbedComputer.cpp EndToEnd/DisturbedComputer.h
   EndToEnd/Tracer.cpp EndToEnd/Tracer.h)
 target_link_libraries(tst_Faults PRIVATE orbwell-computer)
-target_compile_definitions(tst_Faults PRIVATE SANITIZERS="${ORBWELL_SANITIZE}")

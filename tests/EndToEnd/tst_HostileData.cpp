@@ -67,10 +67,9 @@ static void limit()
     constexpr rlim_t mega = 1U << 20U;
     const struct rlimit file = {100 * mega, 100 * mega};
     bool done = setrlimit(RLIMIT_FSIZE, &file) == 0;
-#ifndef __SANITIZE_ADDRESS__
     const struct rlimit memory = {1536 * mega, 1536 * mega};
-    done = done && setrlimit(RLIMIT_AS, &memory) == 0;
-#endif
+    if (ORBWELL_SANITIZERS == 0)
+        done = done && setrlimit(RLIMIT_AS, &memory) == 0;
     if (!done)
         _exit(99);
 }

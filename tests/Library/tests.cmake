@@ -30,5 +30,4 @@ add_executable(xml-edit-tool Library/Helpers/xmlEditTool.cpp)
 target_link_libraries(xml-edit-tool PRIVATE quillmont-library orbwell-options)
 add_dependencies(tst_XmlFaults xml-edit-tool)
 target_compile_definitions(tst_XmlFaults PRIVATE
-  EDIT_TOOL="$<TARGET_FILE:xml-edit-tool>"
-  SANITIZERS="${ORBWELL_SANITIZE}")
+  EDIT_TOOL="$<TARGET_FILE:xml-edit-tool>")
