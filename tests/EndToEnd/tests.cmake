@@ -5,7 +5,7 @@ target_link_libraries(orbwell-simulators
 
 foreach(story
     ActionLog AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice
-    TwoAtOnce Unattended)
+    TwoAtOnce)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()
@@ -25,12 +25,11 @@ target_link_libraries(orbwell-computer
   PRIVATE orbwell-options)
 
 foreach(story
-    CommandLine HostileData RandomSequences ScanAndInstall UnattendedBadInput UnattendedDetails
-    UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
+    CommandLine HostileData RandomSequences ScanAndInstall Unattended UnattendedBadInput
+    UnattendedDetails UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()
-target_link_libraries(tst_Unattended PRIVATE orbwell-computer)
 
 # Where screen readers talk to programs over a bus of their own.
 if(NOT APPLE)
@@ -38,8 +37,8 @@ if(NOT APPLE)
   target_compile_definitions(tst_ScreenReader PRIVATE ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
   target_link_libraries(tst_ScreenReader PRIVATE orbwell-simulators)
 endif()
-orbwell_add_test(EndToEnd/RealConditions
-  EndToEnd/Mounts.cpp EndToEnd/Mounts.h)
+
+orbwell_add_test(EndToEnd/RealConditions EndToEnd/Mounts.cpp EndToEnd/Mounts.h)
 target_link_libraries(tst_RealConditions PRIVATE orbwell-computer)
 orbwell_add_test(EndToEnd/Faults
   EndToEnd/DisturbedComputer.cpp EndToEnd/DisturbedComputer.h
