@@ -70,7 +70,8 @@ void TestActionLog::tellsAnInstallation()
     const QStringList lines = run(quietInstallation());
     QVERIFY(lines.first().startsWith(QLatin1String("start of version ")));
     QVERIFY(lines.first().endsWith(QLatin1String(" in ModeInstall")));
-    QCOMPARE(lines.mid(1).join(u'\n'), QStringLiteral(R"(catalogue "$PROGRAM/flightsims.json" read
+    QCOMPARE(lines.mid(1).join(u'\n'), QStringLiteral(R"(folder made: "$DATA/Quillmont/Orbwell"
+catalogue "$PROGRAM/flightsims.json" read
 entries in the catalogue: 2
 simulator "Gone" not found
 simulator "Skylark" in "$ROOT/Skylark"
