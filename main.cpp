@@ -6,6 +6,8 @@
 #include <QTextCodec>
 #include <QtGlobal>
 
+#include <csignal>
+
 using Quillmont::Library::Helpers::FileSizeSignal;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::ViewControllers::ScanController;
@@ -14,6 +16,9 @@ int main(int argc, char *argv[])
 {
     // Catalogue, record and paths are UTF-8, whatever locale a launcher or a script hands us.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+
+    // Who reads the log may stop reading; the work goes on.
+    std::signal(SIGPIPE, SIG_IGN);
 
     // A plugin file that is over the limit is told of like any other that cannot be copied.
     const FileSizeSignal ignored;

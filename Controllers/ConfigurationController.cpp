@@ -1,39 +1,12 @@
 #include "Controllers/ConfigurationController.h"
 
+#include "Controllers/SettingsFile.h"
 #include "Controllers/UserDataRoot.h"
 
-#include <QFileInfo>
 #include <QMutex>
 #include <QSettings>
 
 namespace Quillmont::Utility::Controllers {
-
-namespace {
-
-// A folder a simulator is a few lines; what is bigger than this only eats up memory.
-constexpr qint64 biggestSize = 8LL * 1024 * 1024;
-
-// The toolkit would wait for ever at a pipe in the file's place.
-bool canRead(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.isFile() && info.size() <= biggestSize;
-}
-
-bool isFileOrFree(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.isFile() || !(info.exists() || info.isSymLink());
-}
-
-// The toolkit reads the file before it writes it, and opens the lock file beside it.
-bool canWrite(const QString &path)
-{
-    return (canRead(path) || !QFileInfo::exists(path))
-        && isFileOrFree(path + QStringLiteral(".lock"));
-}
-
-} // namespace
 
 ConfigurationController *ConfigurationController::m_instance = nullptr;
 
@@ -55,7 +28,7 @@ ConfigurationController *ConfigurationController::instance()
 
 QVariant ConfigurationController::getSettings(const QString &key) const
 {
-    if (!canRead(settingsFilePath))
+    if (!SettingsFile::canRead(settingsFilePath))
         return {};
     return QSettings(settingsFilePath, QSettings::IniFormat).value(key);
 }
@@ -69,13 +42,13 @@ QVariant ConfigurationController::getSettings(const QString &key,
 
 void ConfigurationController::saveSettings(const QString &key, const QVariant &value) const
 {
-    if (canWrite(settingsFilePath))
+    if (SettingsFile::canWrite(settingsFilePath))
         QSettings(settingsFilePath, QSettings::IniFormat).setValue(key, value);
 }
 
 void ConfigurationController::removeSettings(const QString &key) const
 {
-    if (canWrite(settingsFilePath))
+    if (SettingsFile::canWrite(settingsFilePath))
         QSettings(settingsFilePath, QSettings::IniFormat).remove(key);
 }
 

@@ -15,6 +15,8 @@ constexpr int mostNames = 20000;
 
 // What the systems take as a path; longer ones are no paths, and not worth taking apart.
 constexpr int longestPath = 4096;
+// Nobody keeps a simulator deeper, and each name is looked for on the disk.
+constexpr int deepestFolder = 128;
 
 QString inOtherCase(const QString &name)
 {
@@ -50,6 +52,8 @@ QString FolderLookup::find(const QString &folder, const QString &relative)
         return {};
     QString found = folder;
     const auto names = relative.split(u'/', Qt::SkipEmptyParts);
+    if (names.size() > deepestFolder)
+        return {};
     for (const auto &name : names) {
         if (name == QLatin1String("."))
             continue;

@@ -7,7 +7,7 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/BusyPointer.h"
-#include "ViewControllers/ConfigurationLock.h"
+#include "ViewControllers/InstallationLock.h"
 #include "ViewControllers/ResultBox.h"
 #include "ViewControllers/SimulatorFiles.h"
 
@@ -70,6 +70,20 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
     const BusyPointer busy;
     logAction() << "install into" << mapping->scan->name << "in" << mapping->path;
     m_errorMessage.clear();
+    copyPluginFiles(mapping);
+    saveInstallationInfo(mapping, false);
+    if (rescan)
+        startScan(true, false, ModeNone);
+
+    const bool succeeded = m_errorMessage.isEmpty();
+    if (!silent)
+        showInstallationResult(mapping->scan->name);
+    return succeeded;
+}
+
+void ScanController::copyPluginFiles(FlightSimulatorMapping *mapping)
+{
+    const InstallationLock lock;
     const QString payload = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins/");
     const auto &files = mapping->scan->files;
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
@@ -79,14 +93,6 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
         if (mapping->scan->type == 0)
             installToFlightSim(mapping);
     }
-    saveInstallationInfo(mapping, false);
-    if (rescan)
-        startScan(true, false, ModeNone);
-
-    const bool succeeded = m_errorMessage.isEmpty();
-    if (!silent)
-        showInstallationResult(mapping->scan->name);
-    return succeeded;
 }
 
 void ScanController::copyPluginFile(const QString &source,
@@ -131,7 +137,6 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     }
     qDebug("hit reg search...");
 
-    const ConfigurationLock lock;
     const QString file = QDir::toNativeSeparators(configurationFile(mapping));
     // A file that only cannot be looked at now must not be replaced.
     if (FileHelper::isMissing(file))

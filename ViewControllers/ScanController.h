@@ -128,6 +128,8 @@ private:
     QList<Models::FlightSimScan *> catalogueEntries(const QString &content);
     Models::FlightSimulatorMapping *mappingFor(Models::FlightSimScan *scan);
 
+    void copyPluginFiles(Models::FlightSimulatorMapping *mapping);
+    void removePluginFiles(Models::FlightSimulatorMapping *mapping);
     void copyPluginFile(const QString &source, const QString &target, const QString &folder);
     void removePluginFile(const QString &target, const QString &simulatorName);
     void showInstallationResult(const QString &simulatorName);

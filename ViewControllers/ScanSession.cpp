@@ -6,7 +6,7 @@
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
 #include "ViewControllers/BusyPointer.h"
-#include "ViewControllers/ConfigurationLock.h"
+#include "ViewControllers/InstallationLock.h"
 #include "ViewControllers/SimulatorFiles.h"
 #include "Views/ScannerView.h"
 
@@ -39,7 +39,7 @@ void reportFolder(const FlightSimulatorMapping *mapping)
 // lock.
 void clearUnfinishedChanges(const QList<FlightSimulatorMapping *> &mappings)
 {
-    const ConfigurationLock lock;
+    const InstallationLock lock;
     for (const auto *mapping : mappings) {
         if (mapping->scan->config)
             FileWriter::clearUnfinished(configurationFile(mapping));

@@ -2,6 +2,7 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/UserDataRoot.h"
+#include "Library/Helpers/FileHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -52,7 +54,7 @@ void backUp(const QString &file, const QString &suffix)
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
     // Copying a pipe would wait for its other end for ever, and a device may have no end.
-    const bool copied = QFileInfo(file).isFile() && QFile::copy(file, backup);
+    const bool copied = FileHelper::isOrdinary(file) && QFile::copy(file, backup);
     qDebug().noquote().nospace() << "file backups to '" << backup
                                  << "'. Result: " << (copied ? "succeed" : "error");
 }

@@ -1,6 +1,7 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "Library/Helpers/FileHelper.h"
 #include "ViewControllers/SimulatorFiles.h"
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QTextStream>
 
+using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Utility::Controllers::logAction;
 
 namespace Quillmont::Utility::ViewControllers {
@@ -21,7 +23,7 @@ constexpr qint64 biggestSize = 96LL * 1024 * 1024;
 bool isSomethingElse(const QString &path)
 {
     const QFileInfo info(path);
-    return info.exists() && !info.isFile();
+    return info.exists() && !FileHelper::isOrdinary(path);
 }
 
 // Handed over in one, the stream would first copy the whole text and then all its bytes.

@@ -9,7 +9,7 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/BusyPointer.h"
-#include "ViewControllers/ConfigurationLock.h"
+#include "ViewControllers/InstallationLock.h"
 #include "ViewControllers/ResultBox.h"
 #include "ViewControllers/SimulatorFiles.h"
 
@@ -108,12 +108,7 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
     // just before are shown here.
     const BusyPointer busy;
     logAction() << "uninstall from" << mapping->scan->name << "in" << mapping->path;
-    const auto &files = mapping->scan->files;
-    for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
-        removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
-        if (mapping->scan->type == 0)
-            uninstallFromFlightSim(mapping);
-    }
+    removePluginFiles(mapping);
     saveInstallationInfo(mapping, true);
     if (rescan)
         startScan(true, silent, ModeNone);
@@ -128,6 +123,17 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
                             .arg(mapping->scan->name));
     }
     return true;
+}
+
+void ScanController::removePluginFiles(FlightSimulatorMapping *mapping)
+{
+    const InstallationLock lock;
+    const auto &files = mapping->scan->files;
+    for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
+        removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
+        if (mapping->scan->type == 0)
+            uninstallFromFlightSim(mapping);
+    }
 }
 
 void ScanController::removePluginFile(const QString &target, const QString &simulatorName)
@@ -163,7 +169,6 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
     if (!mapping->scan->config)
         return;
 
-    const ConfigurationLock lock;
     const QString file = configurationFile(mapping);
     backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
     auto *helper = new XmlHelper(this, file);

@@ -59,7 +59,11 @@ ScannerView::ScannerView(QWidget *parent)
     });
 
     connect(m_close, &QPushButton::clicked, this, [] { QCoreApplication::exit(0); });
-    connect(m_scanAndInstall, &QPushButton::clicked, this, &ScannerView::scanRequested);
+    // A screen reader presses it even while a folder is being chosen for a row.
+    connect(m_scanAndInstall, &QPushButton::clicked, this, [this] {
+        if (!QApplication::activeModalWidget())
+            emit scanRequested();
+    });
 
     m_list->setItemDelegate(new AddonListItemDelegate(m_list));
     setMinimumSize(640, 480);
@@ -158,25 +162,40 @@ void ScannerView::showRowAround(const QWidget *widget)
 ScannerView::RowControl ScannerView::focusedControl() const
 {
     const auto *control = focusWidget();
-    const auto *row = m_list->itemWidget(m_list->item(rowAround(control)));
+    const int index = rowAround(control);
+    const auto *row = m_list->itemWidget(m_list->item(index));
     if (!row)
         return {};
-    return {row->accessibleName(), control->objectName()};
+    return {index, row->accessibleName(), control->objectName()};
+}
+
+// The row in the same place, where it is still that simulator's; of two with one name that is the
+// one.
+int ScannerView::rowOf(const RowControl &wanted) const
+{
+    const auto isWanted = [&](int index) {
+        const auto *row = m_list->itemWidget(m_list->item(index));
+        return row && row->accessibleName() == wanted.simulator;
+    };
+    if (isWanted(wanted.row))
+        return wanted.row;
+    for (int i = 0; i < m_list->count(); ++i) {
+        if (isWanted(i))
+            return i;
+    }
+    return -1;
 }
 
 void ScannerView::focusControl(const RowControl &wanted)
 {
-    for (int i = 0; !wanted.control.isEmpty() && i < m_list->count(); ++i) {
-        const auto *row = m_list->itemWidget(m_list->item(i));
-        if (row->accessibleName() != wanted.simulator)
-            continue;
-        auto *control = row->findChild<QWidget *>(wanted.control);
-        // Without a folder there is only one to be chosen.
-        if (!control->isEnabled())
-            control = row->findChild<QWidget *>(QStringLiteral("browse"));
-        control->setFocus();
+    const auto *row = m_list->itemWidget(m_list->item(rowOf(wanted)));
+    if (!row || wanted.control.isEmpty())
         return;
-    }
+    auto *control = row->findChild<QWidget *>(wanted.control);
+    // Without a folder there is only one to be chosen.
+    if (!control->isEnabled())
+        control = row->findChild<QWidget *>(QStringLiteral("browse"));
+    control->setFocus();
 }
 
 void ScannerView::scrollTo(int position)

@@ -38,6 +38,7 @@ private:
     /// A control of a row, by what outlives the row.
     struct RowControl
     {
+        int row = -1;
         QString simulator;
         QString control;
     };
@@ -48,6 +49,7 @@ private:
     int rowAround(const QWidget *widget) const;
     void showRowAround(const QWidget *widget);
     RowControl focusedControl() const;
+    int rowOf(const RowControl &wanted) const;
     void focusControl(const RowControl &wanted);
     void scrollTo(int position);
     void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);

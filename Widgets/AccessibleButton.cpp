@@ -1,5 +1,6 @@
 #include "Widgets/AccessibleButton.h"
 
+#include <QApplication>
 #include <QToolButton>
 
 namespace Quillmont::Utility::Widgets {
@@ -18,11 +19,11 @@ QStringList AccessibleButton::actionNames() const
 
 void AccessibleButton::doAction(const QString &actionName)
 {
-    // Pressed now, let go of a moment later.
-    if (actionName == pressAction())
-        qobject_cast<QToolButton *>(object())->animateClick();
-    else
+    if (actionName != pressAction())
         QAccessibleWidget::doAction(actionName);
+    // Pressed now, let go of a moment later, but not behind the back of a dialog that is open.
+    else if (!QApplication::activeModalWidget())
+        qobject_cast<QToolButton *>(object())->animateClick();
 }
 
 } // namespace Quillmont::Utility::Widgets

@@ -47,4 +47,11 @@ bool FileHelper::isMissing(const QString &path)
     return std::filesystem::status(name, ignored).type() == std::filesystem::file_type::not_found;
 }
 
+bool FileHelper::isOrdinary(const QString &path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile()
+        && (file.size() > 0 || !file.open(QIODevice::ReadOnly) || file.peek(1).isEmpty());
+}
+
 } // namespace Quillmont::Library::Helpers

@@ -16,6 +16,10 @@ public:
 
     /// Whether there surely is no such file; one that cannot be looked at may well be there.
     static bool isMissing(const QString &path);
+
+    /// Whether there is a regular file whose bytes come to an end. Some of the system's have
+    /// neither a size nor an end.
+    static bool isOrdinary(const QString &path);
 };
 
 } // namespace Quillmont::Library::Helpers

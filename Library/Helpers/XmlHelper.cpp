@@ -24,8 +24,8 @@ QByteArray read(const QString &path, QString *problem)
     constexpr qint64 biggestSize = 32LL * 1024 * 1024;
     QFile file(path);
     // A pipe is not even opened: that would wait for somebody at its other end.
-    if (!QFileInfo(path).isFile())
-        *problem = QStringLiteral("not a regular file");
+    if (!FileHelper::isOrdinary(path))
+        *problem = QStringLiteral("not an ordinary file");
     else if (file.size() > biggestSize)
         *problem = QStringLiteral("too big");
     else if (!file.open(QIODevice::ReadOnly))

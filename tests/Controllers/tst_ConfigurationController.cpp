@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QFont>
 #include <QGuiApplication>
 #include <QSettings>
 #include <QTest>
@@ -41,6 +42,10 @@ private slots:
     void waitsForNobodyAtAPipe_data();
     void waitsForNobodyAtAPipe();
     void leavesAFileAloneThatIsTooBig();
+    void survivesObjectsInTheFile_data();
+    void survivesObjectsInTheFile();
+    void keepsPlainObjects();
+    void waitsForNoDeadLock();
     void answersTheSharedDataFolder();
     void startsNothingWithTheSystem();
     void isAPlainObjectToTheMetaSystem();
@@ -221,6 +226,48 @@ void TestConfigurationController::leavesAFileAloneThatIsTooBig()
     QCOMPARE(QFileInfo(settingsFile()).size(), size);
     QFile::resize(settingsFile(), content.size());
     QCOMPARE(readFile(settingsFile()), content);
+}
+
+void TestConfigurationController::survivesObjectsInTheFile_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("as big as all memory")
+        << QByteArray(R"(@Variant(\x0\x0\x0\x9\x7f\xff\xff\xff))");
+    const QByteArray list = R"(\0\0\0\x9\0\0\0\0\x1)";
+    QTest::newRow("deeper than the stack") << "@Variant(" + list.repeated(150000) + ')';
+    QTest::newRow("by its letter") << QByteArray(R"(@Variant(\0\0\0\t\x7f\xff\xff\xff\0\0\0\x43))");
+    QTest::newRow("in disguise") << R"(@V\141ri\x61nt()" + list.repeated(150000) + ')';
+}
+
+void TestConfigurationController::survivesObjectsInTheFile()
+{
+    QFETCH(QByteArray, value);
+    const QString key = QStringLiteral("flightsim/A");
+    const QByteArray content = "[flightsim]\nA=\"" + value + "\"\n";
+    writeFile(settingsFile(), content);
+    QCOMPARE(m_settings->getSettings(key, QStringLiteral("/b")), QVariant(QStringLiteral("/b")));
+    m_settings->saveSettings(QStringLiteral("flightsim/B"), QStringLiteral("/b"));
+    m_settings->removeSettings(key);
+    QCOMPARE(readFile(settingsFile()), content);
+}
+
+void TestConfigurationController::keepsPlainObjects()
+{
+    const QString other = QStringLiteral("other/font");
+    const QString key = QStringLiteral("flightsim/A");
+    m_settings->saveSettings(other, QFont(QStringLiteral("Serif"), 12));
+    m_settings->saveSettings(key, QStringLiteral("/a"));
+    QCOMPARE(m_settings->getSettings(key), QVariant(QStringLiteral("/a")));
+    QCOMPARE(m_settings->getSettings(other).value<QFont>().pointSize(), 12);
+}
+
+void TestConfigurationController::waitsForNoDeadLock()
+{
+    const QString lock = settingsFile() + QStringLiteral(".lock");
+    writeFile(lock, "999999999\nsomebody\nelsewhere\n");
+    QVERIFY(QDir().mkpath(lock + QStringLiteral(".rmlock")));
+    m_settings->saveSettings(QStringLiteral("flightsim/A"), QStringLiteral("/a"));
+    QVERIFY(!QFile::exists(settingsFile()));
 }
 
 void TestConfigurationController::answersTheSharedDataFolder()

@@ -36,6 +36,14 @@ private slots:
         QCOMPARE(answerer.boxes().constFirst().text, text);
     }
 
+    void cutsOffLinesThatNobodyCanCount()
+    {
+        const QString text = QStringLiteral("\n").repeated(5 * 1024 * 1024);
+        const Tests::BoxAnswerer answerer;
+        showInformation(QStringLiteral("Title"), text);
+        QVERIFY(answerer.boxes().constFirst().text.size() < 100000);
+    }
+
     void cutsOffALineThatNobodyCanRead()
     {
         const QString text = QStringLiteral("a/").repeated(20 * 1024 * 1024);

@@ -136,6 +136,18 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(pipe) + unableToWriteLine(pipe));
     }
 
+    void readsNothingThatHasNoEnd()
+    {
+        const QString endless = QStringLiteral("/proc/self/pagemap");
+        if (!QFile::exists(endless))
+            QSKIP("no file without an end on this system");
+        Workshop shop;
+        const QString link = shop.path("link");
+        QVERIFY(QFile::link(endless, link));
+        QCOMPARE(shop.controller().readFile(link), QString());
+        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(link));
+    }
+
     // A gigabyte that takes no room on the disk. It counts as unreadable, and as any record that
     // is no use it makes room for a new one.
     void doesNotReadWhatIsTooBig()

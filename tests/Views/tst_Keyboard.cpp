@@ -40,6 +40,7 @@ private slots:
     void keepsTheFocusOnTheSameSimulator_data();
     void keepsTheFocusOnTheSameSimulator();
     void keepsTheFocusInTheRowOfAFolderThatIsGone();
+    void keepsTheFocusOnTheSecondOfOneName();
     void leavesTheFocusOutsideTheListAlone();
     void keepsTheListScrolled();
     void leadsFromTheLastRowToTheButtonsInAWindowOfMore();
@@ -218,6 +219,15 @@ void TestKeyboard::keepsTheFocusInTheRowOfAFolderThatIsGone()
                           false,
                           true);
     QCOMPARE(QApplication::focusWidget(), row(1).browse);
+}
+
+void TestKeyboard::keepsTheFocusOnTheSecondOfOneName()
+{
+    const QStringList names{QStringLiteral("Kestrel"), QStringLiteral("Kestrel")};
+    showRows(names);
+    row(1).action->setFocus();
+    showRows(names);
+    QVERIFY(row(1).action->hasFocus());
 }
 
 void TestKeyboard::leavesTheFocusOutsideTheListAlone()

@@ -1,4 +1,4 @@
-#include "ViewControllers/ConfigurationLock.h"
+#include "ViewControllers/InstallationLock.h"
 
 #include "Controllers/UserDataRoot.h"
 
@@ -18,18 +18,22 @@ namespace Quillmont::Utility::ViewControllers {
 
 // The folder is there from the start of every run, and a lock on it needs no file of its own.
 // Where none can be had (a network's file system, say) one copy at a time works as well.
-ConfigurationLock::ConfigurationLock()
+InstallationLock::InstallationLock()
     : m_folder(
         ::open(QFile::encodeName(userDataRoot() + QStringLiteral("Quillmont/Orbwell")).constData(),
                O_RDONLY | O_DIRECTORY | O_CLOEXEC))
 {
-    const QDeadlineTimer patience(10000);
-    while (::flock(m_folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK
-           && !patience.hasExpired())
+    static bool isPatient = true;
+    const QDeadlineTimer patience(isPatient ? 10000 : 0);
+    while (::flock(m_folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        isPatient = !patience.hasExpired();
+        if (!isPatient)
+            break;
         QThread::msleep(5);
+    }
 }
 
-ConfigurationLock::~ConfigurationLock()
+InstallationLock::~InstallationLock()
 {
     if (m_folder >= 0)
         ::close(m_folder);
