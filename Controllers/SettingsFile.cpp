@@ -39,9 +39,9 @@ QString plain(const QByteArray &bytes)
         result += text.midRef(begin, match.capturedStart() - begin);
         begin = match.capturedEnd();
         if (match.capturedLength(1) > 0)
-            result += QChar(static_cast<ushort>(match.captured(1).right(4).toUInt(nullptr, 16)));
+            result += QChar(static_cast<ushort>(match.capturedRef(1).right(4).toUInt(nullptr, 16)));
         else if (match.capturedLength(2) > 0)
-            result += QChar(static_cast<ushort>(match.captured(2).right(6).toUInt(nullptr, 8)));
+            result += QChar(static_cast<ushort>(match.capturedRef(2).right(6).toUInt(nullptr, 8)));
         else if (match.capturedLength(3) > 0 && named.contains(match.captured(3).at(0)))
             result += named.value(match.captured(3).at(0));
     }
