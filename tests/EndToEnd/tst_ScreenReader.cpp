@@ -41,6 +41,9 @@ CommandResult TestScreenReader::listen(const QString &python, const QString &pro
 
 void TestScreenReader::findsARowAndPressesItsButton()
 {
+    if (!qEnvironmentVariableIsSet("ORBWELL_SCREEN_READER"))
+        QSKIP("script/check screen-reader asks for it: the bus is others', and sometimes loses a "
+              "press");
     if (!m_display.isUp() || !Command::exists(QStringLiteral("dbus-run-session")))
         QSKIP("needs Xvfb, xdotool and dbus-run-session");
     const Program program(m_sandbox);
@@ -58,7 +61,7 @@ void TestScreenReader::findsARowAndPressesItsButton()
     if (heard.status == 77)
         QSKIP("needs at-spi2-core and python3-pyatspi");
 
-    QVERIFY2(heard.status == 0, heard.errors.constData());
+    QVERIFY2(heard.status == 0, (heard.errors.right(300) + heard.output).constData());
     const char *elsewhere = "list item: Elsewhere: Folder not known\n"
                             "- image: Elsewhere: Folder not known\n"
                             "- label: Elsewhere\n"
