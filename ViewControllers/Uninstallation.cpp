@@ -58,8 +58,8 @@ bool isSurelyEmpty(const QDir &folder)
 // from us and goes with them.
 void removeIfEmpty(QDir folder)
 {
-    if (isSurelyEmpty(folder))
-        folder.removeRecursively();
+    if (isSurelyEmpty(folder) && folder.removeRecursively())
+        logAction() << "folder removed:" << folder.path();
 }
 
 void reportRemoval(const QFile &file, bool removed)
@@ -148,11 +148,7 @@ void ScanController::removePluginFile(const QString &target, const QString &simu
                                   .arg(target, simulatorName);
         }
     }
-    const QDir folder = QFileInfo(target).dir();
-    const bool existed = folder.exists();
-    removeIfEmpty(folder);
-    if (existed && !folder.exists())
-        logAction() << "folder removed:" << folder.path();
+    removeIfEmpty(QFileInfo(target).dir());
 }
 
 void ScanController::showRemovalFailure(const QString &simulatorName)

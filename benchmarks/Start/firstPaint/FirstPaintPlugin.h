@@ -13,7 +13,7 @@ class FirstPaintPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "first-paint.json")
 
 public:
-    QObject *create(const QString &name, const QString &specification) override;
+    QObject *create(const QString &name, const QString &options) override;
 };
 
 } // namespace Benchmarks
