@@ -1,8 +1,11 @@
 #include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
 #include "Library/Helpers/FileSizeSignal.h"
 #include "ViewControllers/ScanController.h"
 
 #include <QApplication>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QTextCodec>
 #include <QtGlobal>
 
@@ -10,12 +13,21 @@
 
 using Quillmont::Library::Helpers::FileSizeSignal;
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::ViewControllers::ScanController;
 
 int main(int argc, char *argv[])
 {
     // Catalogue, record and paths are UTF-8, whatever locale a launcher or a script hands us.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+
+    // Qt would take a relative one for a place below the working directory, and would keep what
+    // its folder dialog remembers in the garbled one.
+    PathEncoding::ignoreRelativeFolders();
+    if (!PathEncoding::survives(
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)))
+        QSettings::setPath(
+            QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 
     // Who reads the log may stop reading; the work goes on.
     std::signal(SIGPIPE, SIG_IGN);

@@ -1,5 +1,7 @@
 #include "Controllers/SettingsFile.h"
 
+#include "Controllers/PathEncoding.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -89,7 +91,8 @@ bool isFileOrFree(const QString &path)
 bool SettingsFile::canRead(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > biggestSize || !file.open(QIODevice::ReadOnly))
+    if (!PathEncoding::survives(path) || !QFileInfo(path).isFile() || file.size() > biggestSize
+        || !file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray bytes = file.read(biggestSize + 1);
     return bytes.size() <= biggestSize && describesOnlyPlainObjects(plain(bytes));
@@ -99,8 +102,8 @@ bool SettingsFile::canRead(const QString &path)
 bool SettingsFile::canWrite(const QString &path)
 {
     const QString lock = path + QStringLiteral(".lock");
-    return (canRead(path) || !QFileInfo::exists(path)) && isFileOrFree(lock)
-        && !QFileInfo::exists(lock + QStringLiteral(".rmlock"));
+    return PathEncoding::survives(path) && (canRead(path) || !QFileInfo::exists(path))
+        && isFileOrFree(lock) && !QFileInfo::exists(lock + QStringLiteral(".rmlock"));
 }
 
 } // namespace Quillmont::Utility::Controllers

@@ -2,6 +2,7 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/ConfigurationController.h"
+#include "Controllers/PathEncoding.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -13,6 +14,7 @@
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
@@ -27,8 +29,9 @@ void writeLauncherPath()
     const QString path = QDir::toNativeSeparators(QStringLiteral("%0.path").arg(folder));
     const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                                      + QStringLiteral("/QuillmontOrbwell.exe"));
-    const bool written = FileHelper::saveText(
-        path, QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\")), QString());
+    const QString content = QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\"));
+    const bool written
+        = PathEncoding::survives(path) && FileHelper::saveText(path, content, QString());
     logAction() << (written ? "launcher path written:" : "launcher path not written:") << path;
 }
 

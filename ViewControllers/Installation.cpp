@@ -131,7 +131,7 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
 {
     if (mapping->scan->root >= 1)
         return;
-    if (!mapping->scan->config) {
+    if (!hasConfiguration(mapping)) {
         qDebug().noquote() << "no configuration entry to add for" << mapping->scan->name;
         return;
     }

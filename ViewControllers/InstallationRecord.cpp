@@ -1,6 +1,7 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
 #include "Controllers/UserDataRoot.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -16,6 +17,7 @@
 #include <algorithm>
 
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -64,8 +66,11 @@ void removeLastRecord(QJsonArray &records, const QString &name)
 void ScanController::createMappingFile()
 {
     const QString path = recordPath();
+    if (!PathEncoding::survives(path)) {
+        logAction() << "nothing is written below a folder whose name is no text:" << path;
+        return;
+    }
     makeFolderOf(path);
-
     QFile file(path);
     if (!file.exists())
         file.open(QIODevice::Append); // empties nothing, should it be there after all

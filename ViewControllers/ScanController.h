@@ -131,6 +131,7 @@ private:
     void copyPluginFiles(Models::FlightSimulatorMapping *mapping);
     void removePluginFiles(Models::FlightSimulatorMapping *mapping);
     void copyPluginFile(const QString &source, const QString &target, const QString &folder);
+    void removeEntry(Models::FlightSimulatorMapping *mapping);
     void removePluginFile(const QString &target, const QString &simulatorName);
     void showInstallationResult(const QString &simulatorName);
     void showRemovalFailure(const QString &simulatorName);

@@ -41,7 +41,7 @@ void clearUnfinishedChanges(const QList<FlightSimulatorMapping *> &mappings)
 {
     const InstallationLock lock;
     for (const auto *mapping : mappings) {
-        if (mapping->scan->config)
+        if (hasConfiguration(mapping))
             FileWriter::clearUnfinished(configurationFile(mapping));
     }
 }

@@ -1,8 +1,10 @@
 #include "ViewControllers/SimulatorFiles.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
 #include "Controllers/UserDataRoot.h"
 #include "Library/Helpers/FileHelper.h"
+#include "Library/Helpers/LetterCase.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -14,7 +16,9 @@
 #include <QFileInfo>
 
 using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Library::Helpers::LetterCase;
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -33,9 +37,21 @@ QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destina
     return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
 }
 
+bool hasConfiguration(const FlightSimulatorMapping *mapping)
+{
+    return mapping->scan->config && PathEncoding::survives(userDataRoot());
+}
+
 QString configurationFile(const FlightSimulatorMapping *mapping)
 {
-    return userDataRoot() + mapping->scan->config->path;
+    const QString root = userDataRoot();
+    const QString exact = root + mapping->scan->config->path;
+    if (QFileInfo::exists(exact) || QFileInfo(exact).isSymLink())
+        return exact;
+    const QStringList others = LetterCase::files(root, mapping->scan->config->path);
+    if (others.size() > 1)
+        logAction() << "no configuration file of several that differ in letter case:" << others;
+    return others.size() == 1 ? others.constFirst() : exact;
 }
 
 void makeFolderOf(const QString &path)
@@ -43,13 +59,13 @@ void makeFolderOf(const QString &path)
     const QDir folder = QFileInfo(path).absoluteDir();
     if (folder.exists())
         return;
-    const bool made = folder.mkpath(folder.absolutePath());
+    const bool made = PathEncoding::survives(path) && folder.mkpath(folder.absolutePath());
     logAction() << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
 }
 
 void backUp(const QString &file, const QString &suffix)
 {
-    if (!QFile::exists(file))
+    if (!QFile::exists(file) || !PathEncoding::survives(file))
         return;
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);

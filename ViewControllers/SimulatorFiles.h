@@ -15,7 +15,12 @@ QString simulatorFolder(const Models::FlightSimulatorMapping *mapping);
 /// The native path of the plugin file that belongs at @p destination in the simulator.
 QString pluginFile(const Models::FlightSimulatorMapping *mapping, const QString &destination);
 
-/// The simulator's configuration file, "/"-separated; the entry must have a configuration.
+/// Whether the entry describes a configuration, and the path of its file is known.
+bool hasConfiguration(const Models::FlightSimulatorMapping *mapping);
+
+/// The simulator's configuration file, "/"-separated; only where it has a configuration. If there
+/// is no file of that name but one that differs in letter case only, it is that one: to the
+/// simulator they are the same. Of several such files none is taken.
 QString configurationFile(const Models::FlightSimulatorMapping *mapping);
 
 /// Makes the folder that the file at @p path is to lie in, and all above it, where it is missing.

@@ -1,6 +1,7 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
 #include "Library/Helpers/FileHelper.h"
 #include "ViewControllers/SimulatorFiles.h"
 
@@ -11,6 +12,7 @@
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
 
 namespace Quillmont::Utility::ViewControllers {
 
@@ -23,7 +25,7 @@ constexpr qint64 biggestSize = 96LL * 1024 * 1024;
 bool isSomethingElse(const QString &path)
 {
     const QFileInfo info(path);
-    return info.exists() && !FileHelper::isOrdinary(path);
+    return !PathEncoding::survives(path) || (info.exists() && !FileHelper::isOrdinary(path));
 }
 
 // Handed over in one, the stream would first copy the whole text and then all its bytes.

@@ -1,6 +1,7 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
 #include "Controllers/UserDataRoot.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -22,6 +23,7 @@
 
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FileOperation;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -74,7 +76,7 @@ void removeExtraFile(const QString &path)
 {
     QFile file(path);
     const bool existed = QFile::exists(path);
-    const bool removed = file.remove();
+    const bool removed = PathEncoding::survives(path) && file.remove();
     if (existed)
         reportRemoval(file, removed);
 }
@@ -165,16 +167,21 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
     if (!mapping->scan->config)
         return;
 
+    if (hasConfiguration(mapping))
+        removeEntry(mapping);
+    if (const auto *removal = mapping->scan->remove) {
+        for (const auto *operation : removal->files)
+            removeExtraFile(extraFile(mapping, operation));
+    }
+}
+
+void ScanController::removeEntry(FlightSimulatorMapping *mapping)
+{
     const QString file = configurationFile(mapping);
     backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
     auto *helper = new XmlHelper(this, file);
     const bool gone = helper->removeConfig(mapping->scan->config);
     logAction() << (gone ? "entry is not in:" : "entry not removed from:") << file;
-
-    if (const auto *removal = mapping->scan->remove) {
-        for (const auto *operation : removal->files)
-            removeExtraFile(extraFile(mapping, operation));
-    }
 }
 
 void ScanController::uninstallFromXPlane(FlightSimulatorMapping *) { }

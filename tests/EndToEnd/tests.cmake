@@ -26,7 +26,8 @@ target_link_libraries(orbwell-computer
 
 foreach(story
     CommandLine HostileData RandomSequences ScanAndInstall Unattended UnattendedBadInput
-    UnattendedDetails UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick)
+    UnattendedDetails UnattendedFailures UnattendedOnAScreen UnattendedSimulators UninstallByClick
+    UserFolders)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-computer)
 endforeach()

@@ -7,6 +7,7 @@ target_link_libraries(orbwell-workshop
 
 foreach(class
     AutoInstallation
+    ConfigurationFile
     ConflictResolution
     Detection
     Installation

@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <filesystem>
+
 namespace Tests {
 
 // The folder's name must not hold a test program's name: the program takes its own name out of
@@ -22,6 +24,9 @@ Sandbox::Sandbox()
 
 Sandbox::~Sandbox()
 {
+    // Qt does not see files whose names are no text.
+    std::error_code ignored;
+    std::filesystem::remove_all(QFile::encodeName(root()).toStdString(), ignored);
     for (auto it = m_before.crbegin(); it != m_before.crend(); ++it) {
         if (it->wasSet)
             qputenv(it->name.constData(), it->value);

@@ -1,0 +1,40 @@
+#include "Controllers/PathEncoding.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Quillmont::Utility::Controllers {
+
+namespace {
+
+constexpr const char *userFolders[]
+    = {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"};
+
+// U+FFFD comes in for bytes that are no text, but a name may hold it as well.
+bool isLostIn(const char *variable)
+{
+    const QByteArray bytes = qgetenv(variable);
+    const QByteArray replacement = QFile::encodeName(QString(QChar::ReplacementCharacter));
+    return QFile::decodeName(bytes).count(QChar::ReplacementCharacter) != bytes.count(replacement);
+}
+
+} // namespace
+
+bool PathEncoding::survives(const QString &path)
+{
+    return !path.contains(QChar::ReplacementCharacter)
+        || std::none_of(std::begin(userFolders), std::end(userFolders), isLostIn);
+}
+
+void PathEncoding::ignoreRelativeFolders()
+{
+    for (const char *variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
+        if (QDir::isRelativePath(QFile::decodeName(qgetenv(variable))))
+            qunsetenv(variable);
+    }
+}
+
+} // namespace Quillmont::Utility::Controllers

@@ -1,0 +1,134 @@
+#include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
+
+#include <QDir>
+#include <QtTest>
+
+using namespace Tests;
+
+// Where a user's own folders are, when the environment names them in a way that Qt does not expect.
+class TestUserFolders : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsWrittenBesideAFolderWhoseNameIsNoText_data();
+    void nothingIsWrittenBesideAFolderWhoseNameIsNoText();
+    void aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText();
+    void aFolderNamedWithTheReplacementCharacterIsUsed();
+    void aRelativeFolderIsIgnored();
+};
+
+// A shell, since an environment of Qt's holds nothing but text.
+static void setBytes(Computer *computer, const char *variable, const QString &shellText)
+{
+    computer->program().setTracer(
+        {QStringLiteral("bash"),
+         QStringLiteral("-c"),
+         QStringLiteral("cd '%1' && %2='%1/'%3 && mkdir -p \"$%2\" && export %2 && exec \"$@\"")
+             .arg(computer->absolute({}).chopped(1), QLatin1String(variable), shellText),
+         QStringLiteral("bash")});
+}
+
+static QString lost()
+{
+    return QStringLiteral("caf\uFFFD");
+}
+
+void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("isThereAlready");
+    for (const char *variable : {"HOME", "XDG_DATA_HOME"}) {
+        for (const QStringList &arguments :
+             {quietInstallation(), words("--REPAIR"), words("--UNINSTALL"), QStringList()}) {
+            for (const bool isThere : {false, true})
+                QTest::addRow("%s %s%s",
+                              variable,
+                              qPrintable(arguments.value(0)),
+                              isThere ? ", a folder of the garbled name" : "")
+                    << QByteArray(variable) << arguments << isThere;
+        }
+    }
+}
+
+void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText()
+{
+    QFETCH(const QByteArray, variable);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const bool, isThereAlready);
+    Computer computer;
+    const QString simulator = QStringLiteral("Det");
+    computer.addSimulator(simulator);
+    computer.setCatalogue({computer.entry(simulator, 0)});
+    const QString data
+        = variable == "HOME" ? QStringLiteral("/.local/share/") : QStringLiteral("/");
+    if (isThereAlready)
+        computer.write(lost() + data + QStringLiteral("Maker/Det/dll.xml"), othersConfiguration());
+    const Disk before = treeOf(computer.absolute(lost()));
+    setBytes(&computer, variable.constData(), QStringLiteral("$'caf\\xe9'"));
+
+    const int status = computer.run(arguments);
+    const QByteArray log = computer.program().standardError();
+    QCOMPARE(difference(treeOf(computer.absolute(lost())), before), QString());
+    QVERIFY(isThereAlready || !QFileInfo::exists(computer.absolute(lost())));
+    QVERIFY2(log.contains("whose name is no text"), log.constData());
+    if (!arguments.isEmpty())
+        QCOMPARE(status, 2);
+    if (arguments == words("--REPAIR"))
+        QVERIFY(computer.said().constLast().endsWith(QLatin1String("Det: Not updated")));
+}
+
+void TestUserFolders::aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText()
+{
+    Computer computer;
+    const QString simulator = QStringLiteral("Det");
+    computer.addSimulator(simulator);
+    computer.setCatalogue({computer.hiddenEntry(simulator, 1)});
+    setBytes(&computer, "HOME", QStringLiteral("$'caf\\xe9'"));
+    Program &program = computer.program();
+    program.start();
+    program.window();
+    program.pressBrowse(simulator);
+    program.chooseFolder(computer.folder(simulator));
+    program.window();
+    QCOMPARE(program.row(simulator).path, computer.folder(simulator));
+    program.press(QStringLiteral("Close"));
+    QCOMPARE(program.exitStatus(), 0);
+    QVERIFY(!QFileInfo::exists(computer.absolute(lost())));
+}
+
+void TestUserFolders::aFolderNamedWithTheReplacementCharacterIsUsed()
+{
+    Computer computer;
+    const QString simulator = QStringLiteral("Det");
+    computer.addSimulator(simulator);
+    computer.setCatalogue({computer.entry(simulator, 0)});
+    setBytes(&computer, "HOME", lost());
+    QCOMPARE(computer.run(words("--REPAIR")), 0);
+    QVERIFY(QFile::exists(
+        computer.absolute(lost() + QLatin1String("/.local/share/Quillmont/Orbwell/.mapping"))));
+}
+
+void TestUserFolders::aRelativeFolderIsIgnored()
+{
+    Computer computer;
+    const QString simulator = QStringLiteral("Det");
+    computer.addSimulator(simulator);
+    const QJsonObject entry = computer.entry(simulator, 0);
+    computer.setCatalogue({entry});
+    computer.program().setVariable("XDG_DATA_HOME", QStringLiteral("some/where"));
+    const QString working = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(computer.absolute({})));
+    const int status = computer.run(quietInstallation());
+    QVERIFY(QDir::setCurrent(working));
+    QCOMPARE(status, 2);
+    QVERIFY(!QFile::exists(computer.absolute(QStringLiteral("some"))));
+    QCOMPARE(computer.records(), QJsonArray{computer.recordFor(entry)});
+    QVERIFY(readFile(computer.absolute(computer.configuration(simulator))).size() > 0);
+}
+
+QTEST_GUILESS_MAIN(TestUserFolders)
+#include "tst_UserFolders.moc"
