@@ -11,13 +11,33 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using Quillmont::Library::Helpers::FileSizeSignal;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::ViewControllers::ScanController;
 
+namespace {
+
+// Whoever opens a file gets the lowest number that is free. Were it that of standard error, each
+// line of the log would go into the installation record, or to the X server.
+void tieClosedDescriptors()
+{
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(standard, F_GETFD) == -1)
+            ::open("/dev/null", O_RDWR);
+    }
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    // Before anything else, since everything else may open a file.
+    tieClosedDescriptors();
+
     // Catalogue, record and paths are UTF-8, whatever locale a launcher or a script hands us.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 

@@ -1,12 +1,17 @@
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/Mounts.h"
 #include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Display.h"
 #include "tests/support/Files.h"
 #include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QtTest>
+
+#include <algorithm>
+#include <functional>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -17,10 +22,14 @@
 #include <sys/ioctl.h>
 #endif
 
+/// Done in a process before it becomes the program.
+using Preparation = std::function<void()>;
+Q_DECLARE_METATYPE(Preparation)
+
 using namespace Tests;
 
 // Disks that are full or may only be read, files that nobody may change, users who may not write,
-// and a computer without a screen: as they are, not as a test pretends.
+// a log that nobody reads, and a computer without a screen: as they are, not as a test pretends.
 class TestRealConditions : public QObject
 {
     Q_OBJECT
@@ -44,6 +53,9 @@ private slots:
     void namesAnImmutablePluginFile();
     void leavesAConfigurationThatIsAMountPoint();
     void namesAPluginFileThatIsAMountPoint();
+    void worksWithoutItsDescriptors_data();
+    void worksWithoutItsDescriptors();
+    void showsItsWindowWithoutStandardError();
     void endsWithoutAScreen_data();
     void endsWithoutAScreen();
 
@@ -379,6 +391,71 @@ void TestRealConditions::namesAPluginFileThatIsAMountPoint()
     QCOMPARE(m_computer->run({QStringLiteral("--REPAIR")}), 2);
     QVERIFY(m_computer->said().constLast().endsWith(QLatin1String("Det: Not updated")));
     QCOMPARE(readFile(place()), QByteArray("precious"));
+}
+
+static Preparation closing(const QVector<int> &descriptors)
+{
+    return [descriptors] {
+        std::for_each(descriptors.cbegin(), descriptors.cend(), close);
+    };
+}
+
+static void loseTheReaderOfTheLog()
+{
+    int ends[2];
+    if (pipe(ends) != 0 || dup2(ends[1], STDERR_FILENO) < 0 || close(ends[0]) != 0)
+        _exit(99);
+}
+
+void TestRealConditions::worksWithoutItsDescriptors_data()
+{
+    QTest::addColumn<Preparation>("prepare");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    const QVector<QPair<const char *, Preparation>> preparations{
+        {"<&- 2>&-", closing({0, 2})},
+        {">&- 2>&-", closing({1, 2})},
+        {"2>&-", closing({2})},
+        {"all closed", closing({0, 1, 2})},
+        {"no reader", loseTheReaderOfTheLog},
+    };
+    for (const auto &[name, prepare] : preparations) {
+        QTest::addRow("--INSTALL 1, %s", name) << prepare << quietInstallation() << 2;
+        QTest::addRow("--REPAIR, %s", name) << prepare << words("--REPAIR") << 0;
+    }
+}
+
+// No line of the log goes into the record, and nobody else's record is lost.
+void TestRealConditions::worksWithoutItsDescriptors()
+{
+    QFETCH(const Preparation, prepare);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, status);
+    const QJsonObject found = m_computer->entry(m_det, 0);
+    const QJsonObject recorded = m_computer->hiddenEntry(QStringLiteral("Rec"), 1);
+    m_computer->setCatalogue({recorded, found});
+    m_computer->addSimulator(m_det);
+    m_computer->addPlugin(QStringLiteral("Rec"), 1);
+    m_computer->setRecords({m_computer->recordFor(recorded)});
+    m_computer->program().prepare(prepare);
+    QCOMPARE(m_computer->run(arguments), status);
+    const QJsonArray records{m_computer->recordFor(found), m_computer->recordFor(recorded)};
+    const QString record = m_computer->data(QStringLiteral("Quillmont/Orbwell/.mapping"));
+    QCOMPARE(readFile(m_computer->absolute(record)), QJsonDocument(records).toJson());
+}
+
+// The log does not go to the X server, which would wait for the rest of it for ever.
+void TestRealConditions::showsItsWindowWithoutStandardError()
+{
+    const Display display;
+    if (!display.isUp())
+        QSKIP("needs Xvfb and xdotool");
+    m_computer.reset();
+    m_computer.reset(new Computer(&display));
+    installInto(1, "module");
+    m_computer->program().prepare(closing({STDERR_FILENO}));
+    QCOMPARE(m_computer->run({}), 0);
+    QVERIFY(m_computer->showedTheWindow());
 }
 
 void TestRealConditions::endsWithoutAScreen_data()

@@ -2,6 +2,7 @@
 
 #include "tests/support/Display.h"
 #include "tests/support/Sandbox.h"
+#include "tests/support/driver/Channel.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -10,6 +11,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtTest>
+
+#include <unistd.h>
 
 namespace Tests {
 
@@ -68,6 +71,14 @@ Program::~Program()
         return;
     m_process.kill();
     m_process.waitForFinished();
+}
+
+void Program::Process::setupChildProcess()
+{
+    dup2(STDIN_FILENO, driverInput);
+    dup2(STDOUT_FILENO, driverOutput);
+    if (prepare)
+        prepare();
 }
 
 void Program::setVariable(const char *name, const QString &value)

@@ -95,11 +95,7 @@ private:
         std::function<void()> prepare;
 
     protected:
-        void setupChildProcess() override
-        {
-            if (prepare)
-                prepare();
-        }
+        void setupChildProcess() override;
     };
 
     QJsonObject ask(const QJsonObject &question);

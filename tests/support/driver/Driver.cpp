@@ -1,5 +1,6 @@
 #include "tests/support/driver/Driver.h"
 
+#include "tests/support/driver/Channel.h"
 #include "tests/support/driver/Eye.h"
 #include "tests/support/driver/Hand.h"
 
@@ -8,7 +9,6 @@
 #include <QSocketNotifier>
 
 #include <array>
-#include <cstdio>
 #include <cstdlib>
 
 #include <unistd.h>
@@ -18,13 +18,13 @@ namespace Tests {
 static void answer(const QJsonObject &object)
 {
     const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
-    std::fflush(stdout);
+    if (::write(driverOutput, line.constData(), static_cast<size_t>(line.size())) != line.size())
+        std::_Exit(3);
 }
 
 Driver::Driver(QObject *parent)
     : QObject(parent)
-    , m_notifier(new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this))
+    , m_notifier(new QSocketNotifier(driverInput, QSocketNotifier::Read, this))
 {
     connect(m_notifier, &QSocketNotifier::activated, this, [this] { readCommands(); });
 }
@@ -32,7 +32,7 @@ Driver::Driver(QObject *parent)
 void Driver::readCommands()
 {
     std::array<char, 4096> buffer{};
-    const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+    const ssize_t count = ::read(driverInput, buffer.data(), buffer.size());
     if (count <= 0)
         std::_Exit(3);
     m_input.append(buffer.data(), static_cast<int>(count));

@@ -9,9 +9,9 @@ class QSocketNotifier;
 
 namespace Tests {
 
-/// Reads one JSON object a line from standard input and answers each with one on standard
-/// output. It goes on answering while a box of the program runs an event loop of its own, and
-/// ends the process when the test that it listens to is gone.
+/// Reads one JSON object per line from driverInput and answers each with one on driverOutput. It
+/// goes on answering while a box of the program runs an event loop of its own, and ends the
+/// process when the test that it listens to is gone.
 class Driver : public QObject
 {
     Q_OBJECT
