@@ -32,19 +32,25 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// Hidden files, dangling links and devices do not count; what cannot be looked at does.
+// What a folder's listing shows: nothing hidden, no link that leads nowhere, and a device, a pipe
+// or a socket only through a link. What cannot be looked at may be shown.
 bool isVisible(const std::filesystem::directory_entry &entry)
 {
+    using std::errc;
     using std::filesystem::file_type;
 
+    std::error_code failure;
+    const auto status = entry.status(failure);
+    const bool isMissing = status.type() == file_type::not_found
+        || failure == errc::too_many_symbolic_link_levels || failure == errc::filename_too_long;
+    const bool isSpecial = std::filesystem::is_other(status) && status.type() != file_type::unknown;
     std::error_code ignored;
-    const auto type = entry.status(ignored).type();
-    return entry.path().filename().native().front() != '.'
-        && (type == file_type::regular || type == file_type::directory || type == file_type::none
-            || type == file_type::unknown);
+    return entry.path().filename().native().front() != '.' && !isMissing
+        && (!isSpecial || entry.is_symlink(ignored));
 }
 
-// The toolkit's own listing takes a folder that cannot be listed for an empty one.
+// Qt's listing takes a folder that cannot be listed for an empty one, and leaves names out that
+// are no text.
 bool isSurelyEmpty(const QDir &folder)
 {
     std::error_code failure;

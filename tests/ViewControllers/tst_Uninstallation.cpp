@@ -9,6 +9,9 @@
 #include <QFile>
 #include <QTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Tests::box;
@@ -57,6 +60,17 @@ void writePlugin(const Workshop &shop)
     writeFile(shop.path("A/Modules/one.dll"), "one");
     writeFile(shop.path("A/data/deep/two.dat"), "two");
     writeFile(shop.path("A/sim.exe"), "the simulator");
+}
+
+// A device is made like the empty one.
+bool makeNode(const QString &path, uint type)
+{
+    const QByteArray name = QFile::encodeName(path);
+    const auto mode = static_cast<mode_t>(type | S_IRUSR | S_IWUSR | S_IXUSR);
+    struct stat empty = {};
+    stat("/dev/null", &empty);
+    return type == S_IFDIR ? mkdir(name.constData(), mode) == 0
+                           : mknod(name.constData(), mode, empty.st_rdev) == 0;
 }
 
 } // namespace
@@ -137,14 +151,91 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("A/Modules")));
     }
 
-    void aDanglingLinkDoesNotKeepItsFolder()
+    void keepsAFolderIfItsListingShowsSomething_data()
     {
+        QTest::addColumn<uint>("type");
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("shown");
+        const QString x = QStringLiteral("x");
+        const QVector<QPair<const char *, uint>> types{{"a file", S_IFREG},
+                                                       {"a folder", S_IFDIR},
+                                                       {"a pipe", S_IFIFO},
+                                                       {"a socket", S_IFSOCK},
+                                                       {"a device", S_IFCHR}};
+        for (const auto &[name, type] : types) {
+            const bool isDevice = type == S_IFCHR;
+            const auto link = isDevice ? QStringLiteral("/dev/null") : QStringLiteral("../../node");
+            const bool isPlain = type == S_IFREG || type == S_IFDIR;
+            QTest::newRow(name) << type << QString() << x << isPlain;
+            QTest::addRow("%s, hidden", name) << type << QString() << u'.' + x << false;
+            QTest::addRow("a link to %s", name) << (isDevice ? 0 : type) << link << x << true;
+        }
+        QTest::newRow("a link, hidden") << 0U << QStringLiteral("/dev/null") << u'.' + x << false;
+        const QVector<QPair<const char *, QString>> dangling{
+            {"nothing", QStringLiteral("nothing")},
+            {"the inside of a file", QStringLiteral("../sim.exe/inside")},
+            {"itself", x},
+            {"a name that is too long", QString(300, u'x')}};
+        for (const auto &[name, target] : dangling)
+            QTest::addRow("a link to %s", name) << 0U << target << x << false;
+    }
+
+    void keepsAFolderIfItsListingShowsSomething()
+    {
+        QFETCH(uint, type);
+        QFETCH(QString, link);
+        QFETCH(QString, name);
+        QFETCH(bool, shown);
         Workshop shop;
         writePlugin(shop);
-        QVERIFY(QFile::link(QStringLiteral("nothing"), shop.path("A/Modules/link")));
+        const QDir folder(shop.path("A/Modules"));
+        const QString entry = folder.filePath(name);
+        if (type && !makeNode(link.isEmpty() ? entry : shop.path("node"), type))
+            QSKIP("needs the right to make a device");
+        if (!link.isEmpty())
+            QVERIFY(QFile::link(link, entry));
+        const auto listed = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+        QCOMPARE(listed.contains(name), shown);
+
         QVERIFY(
             shop.controller().uninstall(shop.mapping(plainSimulator, shop.path("A")), true, false));
-        QVERIFY(!QFile::exists(shop.path("A/Modules")));
+        QCOMPARE(treeOf(shop.path("A")).contains(QLatin1String("Modules/")), shown);
+        QCOMPARE(QFileInfo::exists(entry), shown);
+    }
+
+    void keepsAFolderWithSomethingThatCannotBeLookedAt_data()
+    {
+        QTest::addColumn<QByteArray>("closed");
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("target");
+        const QByteArray none;
+        QTest::newRow("the folder itself") << QByteArray("A/Modules") << none << none;
+        QTest::newRow("a link into another folder")
+            << QByteArray("closed") << QByteArray("link") << QByteArray("../../closed/file");
+        QTest::newRow("a name that is no text")
+            << QByteArray("closed") << QByteArray("\xE9") << QByteArray("../sim.exe");
+    }
+
+    void keepsAFolderWithSomethingThatCannotBeLookedAt()
+    {
+        QFETCH(QByteArray, closed);
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, target);
+        Workshop shop;
+        writePlugin(shop);
+        writeFile(shop.path("closed/file"), "foreign");
+        const QByteArray entry = QFile::encodeName(shop.path("A/Modules/")) + name;
+        QVERIFY(name.isEmpty() || symlink(target.constData(), entry.constData()) == 0);
+        auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
+        shop.controller();
+        const Unprivileged user(shop.sandbox.root());
+        const QByteArray folder = QFile::encodeName(shop.path(closed));
+        QCOMPARE(chmod(folder.constData(), name.isEmpty() ? S_IWUSR | S_IXUSR : 0), 0);
+        QVERIFY(shop.controller().uninstall(mapping, true, false));
+        QCOMPARE(chmod(folder.constData(), S_IRWXU), 0);
+        QCOMPARE(access(entry.constData(), F_OK), 0);
+        QVERIFY(!QFile::exists(shop.path("A/Modules/one.dll")));
     }
 
     void aMissingFileIsNoErrorAndItsEmptyFolderGoes()
