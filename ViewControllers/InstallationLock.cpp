@@ -1,5 +1,6 @@
 #include "ViewControllers/InstallationLock.h"
 
+#include "Controllers/ActionLog.h"
 #include "Controllers/UserDataRoot.h"
 
 #include <QDeadlineTimer>
@@ -12,25 +13,49 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::userDataRoot;
 
 namespace Quillmont::Utility::ViewControllers {
 
-// The folder is there from the start of every run, and a lock on it needs no file of its own.
-// Where none can be had (a network's file system, say) one copy at a time works as well.
-InstallationLock::InstallationLock()
-    : m_folder(
-        ::open(QFile::encodeName(userDataRoot() + QStringLiteral("Quillmont/Orbwell")).constData(),
-               O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+namespace {
+
+// The folder that the record is in is there from the start of every run, and a lock on it needs no
+// file of its own.
+int openFolder()
 {
-    static bool isPatient = true;
-    const QDeadlineTimer patience(isPatient ? 10000 : 0);
-    while (::flock(m_folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        isPatient = !patience.hasExpired();
-        if (!isPatient)
-            break;
+    const QString folder = userDataRoot() + QStringLiteral("/Quillmont/Orbwell");
+    return ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+// Where no lock can be had (on a network's file system, say) one copy at a time works as well.
+bool isTaken(int folder)
+{
+    return ::flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+}
+
+bool isFreedInTime(int folder)
+{
+    logAction() << "waiting for another copy of the program";
+    const QDeadlineTimer patience(10000);
+    while (isTaken(folder)) {
+        if (patience.hasExpired()) {
+            logAction() << "not waiting any longer for another copy of the program";
+            return false;
+        }
         QThread::msleep(5);
     }
+    return true;
+}
+
+} // namespace
+
+InstallationLock::InstallationLock()
+    : m_folder(openFolder())
+{
+    static bool isPatient = true;
+    if (isTaken(m_folder) && isPatient)
+        isPatient = isFreedInTime(m_folder);
 }
 
 InstallationLock::~InstallationLock()

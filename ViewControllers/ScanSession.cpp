@@ -2,6 +2,7 @@
 
 #include "Controllers/ActionLog.h"
 #include "Library/Helpers/FileWriter.h"
+#include "Models/FlightSimConflict.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
@@ -17,6 +18,8 @@
 #include <QJsonDocument>
 #include <QMultiMap>
 #include <QTextStream>
+
+#include <algorithm>
 
 using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
@@ -35,15 +38,31 @@ void reportFolder(const FlightSimulatorMapping *mapping)
         logAction() << "simulator" << mapping->scan->name << "in" << mapping->path;
 }
 
-// An earlier run may have been ended in the middle of a change; one that is still at it has the
-// lock.
-void clearUnfinishedChanges(const QList<FlightSimulatorMapping *> &mappings)
+// Both paths of an entry, whichever a conflict leaves it: that may have come out otherwise in an
+// earlier run.
+QStringList configurationFiles(const QList<FlightSimulatorMapping *> &mappings)
 {
-    const InstallationLock lock;
+    QStringList files;
     for (const auto *mapping : mappings) {
-        if (hasConfiguration(mapping))
-            FileWriter::clearUnfinished(configurationFile(mapping));
+        const auto *conflict = mapping->scan->conflict;
+        if (!hasConfiguration(mapping))
+            continue;
+        files.append(configurationFile(mapping));
+        if (conflict && !conflict->solution.isEmpty())
+            files.append(configurationFile(conflict->solution));
     }
+    return files;
+}
+
+// An earlier run may have been ended in the middle of a change. One that is still at it has the
+// lock, which nobody waits for who finds nothing to clear.
+void clearUnfinishedChanges(const QStringList &files)
+{
+    if (std::none_of(files.cbegin(), files.cend(), FileWriter::hasUnfinished))
+        return;
+    const InstallationLock lock;
+    for (const QString &file : files)
+        FileWriter::clearUnfinished(file);
 }
 
 } // namespace
@@ -73,8 +92,8 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
     const auto entries = catalogueEntries(content);
     for (auto *entry : entries)
         result.append(mappingFor(entry));
+    clearUnfinishedChanges(configurationFiles(result));
     sloveConflict(result);
-    clearUnfinishedChanges(result);
     logAction() << "entries in the catalogue:" << result.size();
     for (const auto *mapping : qAsConst(result))
         reportFolder(mapping);

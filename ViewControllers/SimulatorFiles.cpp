@@ -44,11 +44,16 @@ bool hasConfiguration(const FlightSimulatorMapping *mapping)
 
 QString configurationFile(const FlightSimulatorMapping *mapping)
 {
+    return configurationFile(mapping->scan->config->path);
+}
+
+QString configurationFile(const QString &path)
+{
     const QString root = userDataRoot();
-    const QString exact = root + mapping->scan->config->path;
+    const QString exact = root + path;
     if (QFileInfo::exists(exact) || QFileInfo(exact).isSymLink())
         return exact;
-    const QStringList others = LetterCase::files(root, mapping->scan->config->path);
+    const QStringList others = LetterCase::files(root, path);
     if (others.size() > 1)
         logAction() << "no configuration file of several that differ in letter case:" << others;
     return others.size() == 1 ? others.constFirst() : exact;

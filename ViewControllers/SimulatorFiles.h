@@ -23,6 +23,9 @@ bool hasConfiguration(const Models::FlightSimulatorMapping *mapping);
 /// simulator they are the same. Of several such files none is taken.
 QString configurationFile(const Models::FlightSimulatorMapping *mapping);
 
+/// The same for an entry whose configuration has @p path.
+QString configurationFile(const QString &path);
+
 /// Makes the folder that the file at @p path is to lie in, and all above it, where it is missing.
 void makeFolderOf(const QString &path);
 

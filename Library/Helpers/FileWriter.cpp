@@ -153,6 +153,12 @@ bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *pr
     return writeNameless(target, bytes) || writeNamed(target, bytes, problem);
 }
 
+bool FileWriter::hasUnfinished(const QString &path)
+{
+    struct stat left = {};
+    return lstat(unfinishedName(linkTarget(path)).constData(), &left) == 0 && S_ISREG(left.st_mode);
+}
+
 void FileWriter::clearUnfinished(const QString &path)
 {
     unlink(unfinishedName(linkTarget(path)).constData());

@@ -17,6 +17,9 @@ public:
     /// says why.
     static bool write(const QString &path, const QByteArray &bytes, QString *problem);
 
+    /// Whether there is something for clearUnfinished() to take away.
+    static bool hasUnfinished(const QString &path);
+
     /// Takes away what a process that was killed while it wrote the file at @p path has left
     /// beside it. The name of that is our own; no other file is touched.
     static void clearUnfinished(const QString &path);

@@ -5,7 +5,7 @@ target_link_libraries(orbwell-simulators
 
 foreach(story
     ActionLog AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice
-    TwoAtOnce)
+    TakingTurns TwoAtOnce)
   orbwell_add_test(EndToEnd/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()

@@ -255,10 +255,12 @@ void TestFileWriter::unfinishedFileOfAKilledProcessGoes()
     Tests::writeFile(path("store/exe.xml"), "old");
     Tests::writeFile(path("store/exe.xml_quillmont_unfinished"), "half");
     QVERIFY(QFile::link(QStringLiteral("store/exe.xml"), path()));
+    QVERIFY(FileWriter::hasUnfinished(path()));
     if (written)
         QVERIFY(write(path(), "new"));
     else
         FileWriter::clearUnfinished(path());
+    QVERIFY(!FileWriter::hasUnfinished(path()));
     QCOMPARE(files().join(u' '), QStringLiteral("exe.xml store/ store/exe.xml"));
     QCOMPARE(Tests::readFile(path()), QByteArray(written ? "new" : "old"));
 }
@@ -269,6 +271,7 @@ void TestFileWriter::nothingElseIsCleared()
         Tests::writeFile(path(name), "foreign");
     QVERIFY(QDir().mkpath(path("exe.xml_quillmont_unfinished")));
     const auto before = Tests::treeOf(m_sandbox.path(QStringLiteral("config")));
+    QVERIFY(!FileWriter::hasUnfinished(path()));
     FileWriter::clearUnfinished(path());
     QCOMPARE(Tests::treeOf(m_sandbox.path(QStringLiteral("config"))), before);
 }

@@ -1,0 +1,197 @@
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
+#include "tests/support/Program.h"
+#include "tests/support/Sandbox.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+using namespace Tests;
+
+// Another copy that is at the simulators' files, for as long as it lives.
+class OtherCopy
+{
+public:
+    explicit OtherCopy(const QString &folder)
+    {
+        QDir().mkpath(folder);
+        m_folder = open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
+        if (flock(m_folder, LOCK_EX | LOCK_NB) != 0)
+            qFatal("cannot lock %s", qPrintable(folder));
+    }
+
+    ~OtherCopy() { close(m_folder); }
+    Q_DISABLE_COPY(OtherCopy)
+
+private:
+    int m_folder;
+};
+
+// What the program does while another copy is at the simulators' files, which this test is.
+class TestTakingTurns : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void startsAtOnceWithNothingToClear();
+    void waitsBeforeItTouchesAFile_data();
+    void waitsBeforeItTouchesAFile();
+    void waitsOnceForACopyThatHangs();
+
+private:
+    QString simulator(const QString &name) const { return m_sandbox->path(name); }
+
+    QString module() const
+    {
+        return simulator(QStringLiteral("Wren/Gauges/QuillmontOrbwell_64.dll"));
+    }
+
+    void waitForTheOther();
+
+    QByteArray m_log;
+    QScopedPointer<Sandbox> m_sandbox;
+    QScopedPointer<Program> m_program;
+    QScopedPointer<OtherCopy> m_other;
+};
+
+static const char *const waiting = "waiting for another copy of the program";
+
+// Null if there is no such file.
+static QByteArray contentAt(const QString &path)
+{
+    return QFile::exists(path) ? readFile(path) : QByteArray();
+}
+
+static QJsonObject with(QJsonObject entry, const char *solution)
+{
+    entry.insert(QStringLiteral("conflict"),
+                 QJsonObject{{QStringLiteral("name"), QStringLiteral("Maker")},
+                             {QStringLiteral("solution"), QLatin1String(solution)}});
+    return entry;
+}
+
+// "Wren" is there. "Crane" has a conflict with it, which counts once it is there as well.
+void TestTakingTurns::init()
+{
+    m_log.clear();
+    m_sandbox.reset(new Sandbox);
+    m_program.reset(new Program(*m_sandbox));
+    QJsonArray entries;
+    for (const char *name : {"Wren", "Crane"}) {
+        const QString text = QLatin1String(name);
+        const QString configuration = text + QStringLiteral("/dll.xml");
+        entries.append(with(launcherEntry(text, simulator(text), configuration), "solved.xml"));
+    }
+    place(*m_program, entries);
+    QDir().mkpath(simulator(QStringLiteral("Wren")));
+    m_other.reset(new OtherCopy(m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell")));
+}
+
+void TestTakingTurns::cleanup()
+{
+    m_other.reset();
+    m_program.reset();
+    m_sandbox.reset();
+}
+
+void TestTakingTurns::waitForTheOther()
+{
+    m_program->waitFor(
+        [this] {
+            m_log += m_program->standardError();
+            return m_log.contains(waiting);
+        },
+        waiting);
+}
+
+void TestTakingTurns::startsAtOnceWithNothingToClear()
+{
+    m_program->start();
+    QCOMPARE(m_program->window().title, QStringLiteral("Quillmont Orbwell Settings"));
+    m_program->press(QStringLiteral("Close"));
+    QCOMPARE(m_program->exitStatus(), 0);
+    QVERIFY(!m_program->standardError().contains(waiting));
+}
+
+void TestTakingTurns::waitsBeforeItTouchesAFile_data()
+{
+    QTest::addColumn<QString>("unfinished");
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("calledAs");
+    QTest::addColumn<bool>("conflict");
+    const QByteArray none;
+    const QByteArray module("module");
+    const QByteArray half("half");
+    const QString plugin;
+    const QString own = QStringLiteral("Wren/dll.xml_quillmont_unfinished");
+    const QString solved = QStringLiteral("solved.xml_quillmont_unfinished");
+    const QString usual;
+    const QString nameless = QStringLiteral("/");
+    QTest::newRow("to install") << plugin << none << module << usual << false;
+    QTest::newRow("to remove") << plugin << module << none << usual << false;
+    QTest::newRow("without a name to take out of its folder's path")
+        << plugin << none << module << nameless << false;
+    QTest::newRow("to clear") << own << half << none << usual << false;
+    QTest::newRow("to clear before a conflict") << own << half << none << usual << true;
+    QTest::newRow("to clear in a conflict") << solved << half << none << usual << true;
+    QTest::newRow("to clear after a conflict") << solved << half << none << usual << false;
+}
+
+void TestTakingTurns::waitsBeforeItTouchesAFile()
+{
+    QFETCH(const QString, unfinished);
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, after);
+    QFETCH(const QString, calledAs);
+    QFETCH(const bool, conflict);
+    const bool isChange = unfinished.isEmpty();
+    const QString file = isChange ? module() : m_sandbox->dataRoot() + unfinished;
+    if (!before.isNull())
+        writeFile(file, before);
+    if (conflict)
+        QDir().mkpath(simulator(QStringLiteral("Crane")));
+    m_program->setCalledAs(calledAs);
+
+    m_program->start();
+    if (isChange) {
+        m_program->window();
+        m_program->pressAction(QStringLiteral("Wren"));
+    }
+    waitForTheOther();
+    QCOMPARE(contentAt(file), before);
+    m_other.reset();
+    if (isChange) {
+        m_program->box();
+        m_program->press(QStringLiteral("OK"));
+    }
+    m_program->window();
+    QCOMPARE(contentAt(file), after);
+    QCOMPARE(QFile::exists(file), !after.isNull());
+    m_program->press(QStringLiteral("Close"));
+    QCOMPARE(m_program->exitStatus(), 0);
+}
+
+// Ten seconds, however many changes there are: here a removal and an installation.
+void TestTakingTurns::waitsOnceForACopyThatHangs()
+{
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    m_program->start(quietInstallation());
+    QCOMPARE(m_program->exitStatus(), 2);
+    QVERIFY2(sinceStart.elapsed() >= 10000, qPrintable(QString::number(sinceStart.elapsed())));
+    QVERIFY2(sinceStart.elapsed() < 20000, qPrintable(QString::number(sinceStart.elapsed())));
+    QCOMPARE(m_program->standardError().count(waiting), 1);
+    QCOMPARE(contentAt(module()), QByteArray("module"));
+}
+
+QTEST_GUILESS_MAIN(TestTakingTurns)
+#include "tst_TakingTurns.moc"
