@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -24,6 +25,7 @@ private slots:
     void startTheProgram_data();
     void startTheProgram();
     void runInAShell();
+    void tryTheSample();
 
 private:
     struct Entry
@@ -130,6 +132,43 @@ void TestCommands::runInAShell()
         const QByteArray what = entry.command.toUtf8() + ": " + result.errors;
         QVERIFY2(result.status == expectedStatus(entry.remark), what.constData());
     }
+}
+
+static void copyFolder(const QString &source, const QString &target)
+{
+    QDir().mkpath(QFileInfo(target).path());
+    QCOMPARE(Command(QStringLiteral("cp"), {QStringLiteral("-R"), source, target}).run().status, 0);
+}
+
+// script/run --headless, with the program that is built already: building it anew, and installing
+// what that needs, takes minutes, and the long run does it.
+void TestCommands::tryTheSample()
+{
+    for (const char *needed : {"Xvfb", "xdotool", "import"}) {
+        if (!Command::exists(QLatin1String(needed)))
+            QSKIP("needs Xvfb, xdotool and ImageMagick");
+    }
+    const Sandbox sandbox;
+    const QString tree = sandbox.path(QStringLiteral("tree"));
+    for (const QString &folder : {QStringLiteral("/script"), QStringLiteral("/sample")})
+        copyFolder(QStringLiteral(ORBWELL_SOURCE) + folder, tree + folder);
+    copyFolder(QFileInfo(QStringLiteral(ORBWELL_PROGRAM)).path(),
+               tree + QStringLiteral("/build/release/bin"));
+    for (const char *done : {"/script/build", "/script/bootstrap"})
+        writeFile(tree + QLatin1String(done), "#!/bin/sh\n");
+
+    const CommandResult result
+        = Command(tree + QStringLiteral("/script/run"), {QStringLiteral("--headless")}).run();
+    QVERIFY2(result.status == 0, result.errors.constData());
+    for (const char *told : {"  simulators/X-Plane 12/Resources/plugins/Orbwell/about.txt\n",
+                             "  simulators/Flight Simulator X/Gauges/QuillmontOrbwell_64.dll\n",
+                             "  +        <Name>Quillmont Orbwell</Name>\n",
+                             "\"name\": \"Flight Simulator X: Steam Edition\""})
+        QVERIFY2(result.output.contains(told), result.output.constData());
+    const QImage picture(tree + QStringLiteral("/build/sample/screenshot.png"));
+    QVERIFY(picture.width() >= 640 && picture.height() >= 480);
+    QVERIFY(!picture.allGray());
+    QCOMPARE(treeOf(sandbox.home()), (QMap<QString, QByteArray>()));
 }
 
 QTEST_GUILESS_MAIN(TestCommands)
