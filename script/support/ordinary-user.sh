@@ -1,0 +1,29 @@
+# Read by the scripts that also have to run as somebody whom permissions stop. Whoever is not root is
+# one, and stays where he is.
+# shellcheck shell=bash
+
+# Goes to a copy of the tree that belongs to an ordinary user, in a folder that everybody may enter.
+# The copy has no build folder, and goes with the script.
+enter_copy() {
+    ((EUID == 0)) || return 0
+    local folder
+    folder=$(mktemp -d /tmp/orbwell-XXXXXX)
+    # shellcheck disable=SC2064 # the folder of now
+    trap "rm -rf '$folder'" EXIT
+    mkdir "$folder/tree" "$folder/home"
+    tar --create --exclude=./build . | tar --extract --directory "$folder/tree"
+    chmod 755 "$folder"
+    chown -R 65534:65534 "$folder/tree" "$folder/home"
+    cd "$folder/tree" || exit 1
+}
+
+# as_ordinary_user COMMAND...: in the copy, with nothing of root's environment but the path.
+as_ordinary_user() {
+    if ((EUID != 0)); then
+        "$@"
+        return
+    fi
+    local home=${PWD%/tree}/home
+    setpriv --reuid=65534 --regid=65534 --clear-groups \
+        env --ignore-environment "PATH=$PATH" "HOME=$home" "TMPDIR=$home" "$@"
+}
