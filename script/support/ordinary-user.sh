@@ -12,6 +12,8 @@ enter_copy() {
     trap "rm -rf '$folder'" EXIT
     mkdir "$folder/tree" "$folder/home"
     tar --create --exclude=./build . | tar --extract --directory "$folder/tree"
+    # Some tests read more where there is more to read.
+    [[ ! -d ../shared ]] || ln --symbolic "$(realpath ../shared)" "$folder/shared"
     chmod 755 "$folder"
     chown -R 65534:65534 "$folder/tree" "$folder/home"
     cd "$folder/tree" || exit 1
