@@ -22,5 +22,3 @@ foreach(class
   target_link_libraries(tst_${class} PRIVATE orbwell-workshop)
 endforeach()
 target_link_libraries(tst_Rescans PRIVATE orbwell-catalogue-support)
-target_sources(tst_InstallationRecord
-  PRIVATE Models/LookedUpPaths.cpp Models/LookedUpPaths.h)

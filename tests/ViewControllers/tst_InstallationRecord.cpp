@@ -1,4 +1,3 @@
-#include "tests/Models/LookedUpPaths.h"
 #include "tests/ViewControllers/Workshop.h"
 #include "tests/support/Unprivileged.h"
 
@@ -140,19 +139,6 @@ private slots:
         QCOMPARE(all.constFirst()->path, path);
         QCOMPARE(all.constFirst()->note, path == QLatin1String("old") ? QString() : path);
         QCOMPARE(readFile(shop.recordPath()), shop.expanded(record));
-    }
-
-    void looksUpEveryFileOfARecord()
-    {
-        if (!Tests::canSeeLookUps())
-            QSKIP("no view of what the toolkit looks up on this system");
-        Workshop shop;
-        shop.writeRecord(R"([{"name": "Sim A", "files": ["$ROOT/a", "$ROOT/b"]}])");
-        Tests::takeLookedUpPaths();
-        shop.controller().getUserSimulatorMapping();
-        const QStringList asked = Tests::takeLookedUpPaths();
-        QVERIFY(asked.contains(shop.path("a")));
-        QVERIFY(asked.contains(shop.path("b")));
     }
 
     void entriesWithoutANameMeetRecordsWithoutOne()

@@ -6,8 +6,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QMetaEnum>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QTest>
 
@@ -28,8 +26,6 @@ namespace {
 const char *const simulator = R"({"name": "Sim A", "type": 1, "location": 1, "path": "$ROOT/A",
     "files": [{"source": "x", "destination": "p/x"}]})";
 
-const QMetaObject &controllerMeta = ScanController::staticMetaObject;
-
 } // namespace
 
 class TestScanController : public QObject
@@ -37,66 +33,6 @@ class TestScanController : public QObject
     Q_OBJECT
 
 private slots:
-
-    void hasOneSlotAndNoSignals()
-    {
-        QCOMPARE(QByteArray(controllerMeta.className()),
-                 QByteArray("Quillmont::Utility::ViewControllers::ScanController"));
-        QCOMPARE(controllerMeta.superClass(), &QObject::staticMetaObject);
-        QCOMPARE(controllerMeta.methodCount() - controllerMeta.methodOffset(), 1);
-        const QMetaMethod slot = controllerMeta.method(controllerMeta.methodOffset());
-        QCOMPARE(slot.methodType(), QMetaMethod::Slot);
-        QCOMPARE(slot.access(), QMetaMethod::Public);
-        QCOMPARE(slot.methodSignature(), QByteArray("startScan(bool,bool,InstallationMode)"));
-        QCOMPARE(slot.returnType(), static_cast<int>(QMetaType::Void));
-        QCOMPARE(slot.parameterNames().join(' '), QByteArray("updateDefault silent mode"));
-    }
-
-    void theModesAreRegisteredWithTheirNumbers()
-    {
-        QCOMPARE(controllerMeta.enumeratorCount() - controllerMeta.enumeratorOffset(), 1);
-        const QMetaEnum modes = controllerMeta.enumerator(controllerMeta.enumeratorOffset());
-        QVERIFY(!modes.isScoped());
-        QByteArray text;
-        for (int i = 0; i < modes.keyCount(); ++i)
-            text += QByteArray::number(modes.value(i)) + ' ' + modes.key(i) + ' ';
-        QCOMPARE(text,
-                 QByteArray("0 ModeNone 1 ModeInstall 2 ModeUninstall 3 ModeRepair "
-                            "4 ModeScanAndInstall "));
-        const Workshop shop;
-        const ScanController controller(nullptr, nullptr);
-        const std::unique_ptr<QWidget> window(controller.view);
-        QCOMPARE(controllerMeta.method(controllerMeta.methodOffset()).parameterType(2),
-                 qMetaTypeId<ScanController::InstallationMode>());
-    }
-
-    void theSlotCanBeCalledByName()
-    {
-        Workshop shop;
-        shop.writeCatalogue("[{}]");
-        using InstallationMode = ScanController::InstallationMode;
-        QVERIFY(QMetaObject::invokeMethod(&shop.controller(),
-                                          "startScan",
-                                          Qt::QueuedConnection,
-                                          Q_ARG(bool, true),
-                                          Q_ARG(bool, false),
-                                          Q_ARG(InstallationMode, ScanController::ModeNone)));
-        QVERIFY(shop.rowNames().isEmpty());
-        QCoreApplication::processEvents();
-        QCOMPARE(shop.rowNames().size(), 1);
-    }
-
-    void theMembersStandInTheirOrder()
-    {
-        Workshop shop;
-        auto &controller = shop.controller();
-        const auto place = [](const auto &member) {
-            return reinterpret_cast<quintptr>(&member);
-        };
-        QVERIFY(place(controller.m_errorMessage) < place(controller.view));
-        QVERIFY(place(controller.view) < place(controller.mappings));
-        QVERIFY(place(controller.mappings) < place(controller.simPaths));
-    }
 
     void startsWithWhatTheDetectionLibraryKnows()
     {
@@ -225,20 +161,6 @@ private slots:
             close(writer);
         requester.join();
         QVERIFY(writer >= 0);
-    }
-
-    void whatOtherPlatformsHaveDoesNothingHere()
-    {
-        Workshop shop;
-        auto *mapping = shop.mapping(simulator, shop.folder("A"));
-        const auto disk = shop.disk();
-        shop.controller().createRestrictedProcess(QStringLiteral("touch ") + shop.path("made"));
-        shop.controller().installToXPlane(mapping);
-        shop.controller().uninstallFromXPlane(mapping);
-        QCOMPARE(shop.disk(), disk);
-        QVERIFY(shop.log.debugLines().isEmpty());
-        QVERIFY(shop.controller().m_errorMessage.isEmpty());
-        QVERIFY(shop.boxes().isEmpty());
     }
 
     void aDayOfWorkMakesTheToolkitWarnOfNothing()

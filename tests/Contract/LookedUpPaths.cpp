@@ -1,4 +1,4 @@
-#include "tests/Models/LookedUpPaths.h"
+#include "tests/Contract/LookedUpPaths.h"
 
 #include <QFile>
 
@@ -19,7 +19,7 @@ QStringList &lookedUpPaths()
 } // namespace
 
 #ifdef Q_OS_LINUX
-// Stands in front of the C library's, which the toolkit calls to see whether a file exists.
+// Stands in front of the C library's, which Qt calls to see whether a file exists.
 extern "C" int access(const char *name, int type) noexcept
 {
     lookedUpPaths().append(QFile::decodeName(name));
