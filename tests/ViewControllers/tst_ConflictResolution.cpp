@@ -1,229 +1,134 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Literals.h"
 
 #include "Library/Models/XmlInsertionModel.h"
 
 #include <QTest>
 
-using Tests::FlightSimulatorMapping;
-using Tests::Workshop;
+using namespace Tests;
 
+/// What becomes of simulators that were found in one place, or in several.
 class TestConflictResolution : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void leavesEntriesWithoutConflictAlone()
+    // A simulator's line: its group, the folder that was found, whether it gives way, and its
+    // solution; behind "=" its folder and its configuration file afterwards. A group may also be
+    // "none", for an entry without a conflict, and a solution "none", for one without a
+    // configuration. The word "default" for giving way leaves it out.
+    void settlesWhoKeepsWhichFolderAndFile_data()
     {
-        Workshop shop;
-        auto *a = shop.mapping(R"({"config": {"path": "x.xml"}})", QStringLiteral("/F"));
-        auto *b = shop.mapping(R"({"config": {"path": "x.xml"}})", QStringLiteral("/F"));
-        auto *c = shop.mapping(R"({"config": {"path": "x.xml"}})", QStringLiteral("/G"));
-        settle(shop, {a, b, c});
-        QCOMPARE(paths({a, b, c}), QStringLiteral("/F /F /G"));
-        QCOMPARE(files({a, b, c}), QStringLiteral("x.xml x.xml x.xml"));
+        QTest::addColumn<QStringList>("lines");
+        const auto row = [](const char *name, const QStringList &lines) {
+            QTest::newRow(name) << lines;
+        };
+        row("entries without a conflict are left alone",
+            {"none /F - - = /F own.xml"_s,
+             "none /F - - = /F own.xml"_s,
+             "none /G - - = /G own.xml"_s});
+        row("the first keeps a folder that several found",
+            {"a /F true 1.xml = /F own.xml"_s,
+             "a /F true 2.xml = - own.xml"_s,
+             "a /F true 3.xml = - own.xml"_s});
+        row("the first gives it up to every later one",
+            {"a /F false 1.xml = - own.xml"_s,
+             "a /F false 2.xml = /F own.xml"_s,
+             "a /F false 3.xml = /F own.xml"_s});
+        row("the second entry decides, and gives way",
+            {"a /F false - = /F own.xml"_s, "a /F true - = - own.xml"_s});
+        row("the second entry decides, and keeps the folder",
+            {"a /F true - = - own.xml"_s, "a /F false - = /F own.xml"_s});
+        row("giving way is the default",
+            {"a /F default - = /F own.xml"_s, "a /F default - = - own.xml"_s});
+        row("different folders get their solutions, as written",
+            {"a /B true 1/1.xml = /B 1/1.xml"_s,
+             R"(a /A true 2\2.xml = /A 2\2.xml)"_s,
+             "a /C true - = /C own.xml"_s});
+        row("an entry without a configuration is passed over",
+            {"a /A true none = /A none"_s, "a /B true 2.xml = /B 2.xml"_s});
+        row("an emptied entry is still part of its group",
+            {"a /F false 1.xml = - 1.xml"_s,
+             "a /F false 2.xml = /F own.xml"_s,
+             "a /G false 3.xml = /G 3.xml"_s});
+        row("an entry that gave way is no part of its group",
+            {"a /F true 1.xml = /F 1.xml"_s,
+             "a /F true 2.xml = - own.xml"_s,
+             "a /G true 3.xml = /G 3.xml"_s});
+        row("not found counts as a folder",
+            {"a /A true 1.xml = /A 1.xml"_s, "a - true 2.xml = - 2.xml"_s});
+        row("two that were not found are one folder",
+            {"a - true 1.xml = - own.xml"_s, "a - false 2.xml = - own.xml"_s});
+        row("groups are told apart by letter case",
+            {"a /F true 1.xml = /F own.xml"_s, "A /F true 2.xml = /F own.xml"_s});
+        row("folders are told apart by letter case",
+            {"a /F true 1.xml = /F 1.xml"_s, "a /f true 2.xml = /f 2.xml"_s});
+        row("groups do not mix, and one has no name",
+            {"a /F true 1.xml = /F own.xml"_s,
+             "b /G true 2.xml = /G own.xml"_s,
+             "- /F true 3.xml = /F 3.xml"_s,
+             "- /H true 4.xml = /H 4.xml"_s});
     }
 
-    void theFirstKeepsAFolderThatSeveralFound()
+    void settlesWhoKeepsWhichFolderAndFile()
     {
+        QFETCH(const QStringList, lines);
         Workshop shop;
-        auto *a = member(shop, "/F", "true", "a.xml");
-        auto *b = member(shop, "/F", "true", "b.xml");
-        auto *c = member(shop, "/F", "true", "c.xml");
-        settle(shop, {a, b, c});
-        QCOMPARE(paths({a, b, c}), QStringLiteral("/F - -"));
-        QCOMPARE(files({a, b, c}), QStringLiteral("own.xml own.xml own.xml"));
-    }
-
-    void theFirstGivesItUpToEveryLaterOne()
-    {
-        Workshop shop;
-        auto *a = member(shop, "/F", "false", "a.xml");
-        auto *b = member(shop, "/F", "false", "b.xml");
-        auto *c = member(shop, "/F", "false", "c.xml");
-        settle(shop, {a, b, c});
-        QCOMPARE(paths({a, b, c}), QStringLiteral("- /F /F"));
-        QCOMPARE(files({a, b, c}), QStringLiteral("own.xml own.xml own.xml"));
-    }
-
-    void theOneThatComesSecondDecides()
-    {
-        Workshop shop;
-        auto *keeps = member(shop, "/F", "false", "");
-        auto *givesWay = member(shop, "/F", "true", "");
-        settle(shop, {keeps, givesWay});
-        QCOMPARE(paths({keeps, givesWay}), QStringLiteral("/F -"));
-
-        auto *loses = member(shop, "/F", "true", "");
-        auto *wins = member(shop, "/F", "false", "");
-        settle(shop, {loses, wins});
-        QCOMPARE(paths({loses, wins}), QStringLiteral("- /F"));
-    }
-
-    void givingWayIsTheDefault()
-    {
-        Workshop shop;
-        const char *entry = R"({"config": null, "conflict": {"name": "group"}})";
-        auto *a = shop.mapping(entry, QStringLiteral("/F"));
-        auto *b = shop.mapping(entry, QStringLiteral("/F"));
-        settle(shop, {a, b});
-        QCOMPARE(paths({a, b}), QStringLiteral("/F -"));
-    }
-
-    void differentFoldersGetTheirSolutions()
-    {
-        Workshop shop;
-        auto *a = member(shop, "/B", "true", "a/a.xml");
-        auto *b = member(shop, "/A", "true", "b\\\\b.xml");
-        auto *silent = member(shop, "/C", "true", "");
-        settle(shop, {a, b, silent});
-        QCOMPARE(paths({a, b, silent}), QStringLiteral("/B /A /C"));
-        QCOMPARE(files({a, b, silent}), QStringLiteral("a/a.xml b\\b.xml own.xml"));
-    }
-
-    void anEntryWithoutConfigurationIsPassedOver()
-    {
-        Workshop shop;
-        auto *without = shop.mapping(
-            R"({"config": null, "conflict": {"name": "group", "solution": "w.xml"}})",
-            QStringLiteral("/A"));
-        auto *with = member(shop, "/B", "true", "b.xml");
-        settle(shop, {without, with});
-        QVERIFY(!without->scan->config);
-        QCOMPARE(files({with}), QStringLiteral("b.xml"));
-    }
-
-    void anEmptiedOneIsStillPartOfItsGroup()
-    {
-        Workshop shop;
-        auto *emptied = member(shop, "/F", "false", "emptied.xml");
-        auto *later = member(shop, "/F", "false", "later.xml");
-        auto *other = member(shop, "/G", "false", "other.xml");
-        settle(shop, {emptied, later, other});
-        QCOMPARE(paths({emptied, later, other}), QStringLiteral("- /F /G"));
-        QCOMPARE(files({emptied, later, other}), QStringLiteral("emptied.xml own.xml other.xml"));
-    }
-
-    void oneThatGaveWayIsNot()
-    {
-        Workshop shop;
-        auto *first = member(shop, "/F", "true", "first.xml");
-        auto *gaveWay = member(shop, "/F", "true", "gave-way.xml");
-        auto *other = member(shop, "/G", "true", "other.xml");
-        settle(shop, {first, gaveWay, other});
-        QCOMPARE(paths({first, gaveWay, other}), QStringLiteral("/F - /G"));
-        QCOMPARE(files({first, gaveWay, other}), QStringLiteral("first.xml own.xml other.xml"));
-    }
-
-    void notFoundCountsAsAFolder()
-    {
-        Workshop shop;
-        auto *found = member(shop, "/A", "true", "found.xml");
-        auto *notFound = member(shop, "", "true", "not-found.xml");
-        settle(shop, {found, notFound});
-        QCOMPARE(paths({found, notFound}), QStringLiteral("/A -"));
-        QCOMPARE(files({found, notFound}), QStringLiteral("found.xml not-found.xml"));
-    }
-
-    void twoThatWereNotFoundAreOneFolder()
-    {
-        Workshop shop;
-        auto *a = member(shop, "", "true", "a.xml");
-        auto *b = member(shop, "", "false", "b.xml");
-        settle(shop, {a, b});
-        QCOMPARE(paths({a, b}), QStringLiteral("- -"));
-        QCOMPARE(files({a, b}), QStringLiteral("own.xml own.xml"));
-    }
-
-    void namesAndFoldersAreToldApartByLetterCase()
-    {
-        Workshop shop;
-        auto *a = member(shop, "/F", "true", "a.xml", "group");
-        auto *b = member(shop, "/F", "true", "b.xml", "Group");
-        settle(shop, {a, b});
-        QCOMPARE(paths({a, b}), QStringLiteral("/F /F"));
-        QCOMPARE(files({a, b}), QStringLiteral("own.xml own.xml"));
-
-        auto *c = member(shop, "/f", "true", "c.xml", "group");
-        settle(shop, {a, c});
-        QCOMPARE(paths({a, c}), QStringLiteral("/F /f"));
-        QCOMPARE(files({a, c}), QStringLiteral("a.xml c.xml"));
-    }
-
-    void groupsDoNotMix()
-    {
-        Workshop shop;
-        auto *a = member(shop, "/F", "true", "a.xml", "one");
-        auto *b = member(shop, "/G", "true", "b.xml", "two");
-        auto *c = member(shop, "/F", "true", "c.xml", "");
-        auto *d = member(shop, "/H", "true", "d.xml", "");
-        settle(shop, {a, b, c, d});
-        QCOMPARE(paths({a, b, c, d}), QStringLiteral("/F /G /F /H"));
-        QCOMPARE(files({a, b, c, d}), QStringLiteral("own.xml own.xml c.xml d.xml"));
-    }
-
-    void aSecondCallSeesTheEmptiedFolders()
-    {
-        Workshop shop;
-        auto *a = member(shop, "/F", "true", "a.xml");
-        auto *b = member(shop, "/F", "true", "b.xml");
-        settle(shop, {a, b});
-        settle(shop, {a, b});
-        QCOMPARE(paths({a, b}), QStringLiteral("/F -"));
-        QCOMPARE(files({a, b}), QStringLiteral("a.xml b.xml"));
-    }
-
-    void touchesNothingOnDiskAndSaysNothing()
-    {
-        Workshop shop;
-        shop.controller();
+        const auto mappings = simulators(shop, lines);
         const auto disk = shop.disk();
-        settle(shop,
-               {member(shop, "/A", "true", "a.xml"),
-                member(shop, "/A", "false", "a.xml"),
-                member(shop, "/B", "true", "b.xml")});
+        shop.controller().sloveConflict(mappings);
+        QStringList after;
+        for (int i = 0; i < lines.size(); ++i)
+            after.append(lines.at(i).section(" = "_s, 0, 0) + " = "_s + outcome(mappings.at(i)));
+        QCOMPARE(after, lines);
         QCOMPARE(shop.disk(), disk);
-        QVERIFY(shop.log.debugLines().isEmpty());
-        QVERIFY(shop.boxes().isEmpty());
-        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+        QCOMPARE(shop.log.debugLines() + shop.boxes(), QStringList());
+        QCOMPARE(shop.controller().m_errorMessage, QString());
+    }
+
+    void seesTheEmptiedFoldersAtASecondCall()
+    {
+        Workshop shop;
+        const auto both = simulators(shop, {"a /F true 1.xml"_s, "a /F true 2.xml"_s});
+        shop.controller().sloveConflict(both);
+        shop.controller().sloveConflict(both);
+        QCOMPARE(outcome(both.at(0)), "/F 1.xml"_s);
+        QCOMPARE(outcome(both.at(1)), "- 2.xml"_s);
     }
 
 private:
     using Mappings = QList<FlightSimulatorMapping *>;
 
-    static FlightSimulatorMapping *member(Workshop &shop,
-                                          const QByteArray &folder,
-                                          const QByteArray &gives,
-                                          const QByteArray &solution,
-                                          const QByteArray &group = "group")
+    static Mappings simulators(Workshop &shop, const QStringList &lines)
     {
-        return shop.mapping(R"({"config": {"path": "own.xml"}, "conflict": {"name": ")" + group
-                                + R"(", "remove_on_conflict": )" + gives + R"(, "solution": ")"
-                                + solution + R"("}})",
-                            QString::fromUtf8(folder));
+        Mappings mappings;
+        for (const QString &line : lines)
+            mappings.append(simulator(shop, line.split(u' ')));
+        return mappings;
     }
 
-    static void settle(Workshop &shop, const Mappings &members)
+    static FlightSimulatorMapping *simulator(Workshop &shop, const QStringList &words)
     {
-        shop.controller().sloveConflict(members);
+        const auto text = [&words](int word) {
+            return words.at(word) == "-"_s ? QString() : words.at(word);
+        };
+        QJsonObject conflict{{"name"_s, text(0)}, {"solution"_s, text(3)}};
+        if (words.at(2) != "default"_s)
+            conflict.insert("remove_on_conflict"_s, words.at(2) == "true"_s);
+        QJsonObject entry{{"config"_s, QJsonObject{{"path"_s, "own.xml"_s}}}};
+        if (words.at(3) == "none"_s)
+            entry.insert("config"_s, QJsonValue::Null);
+        if (words.at(0) != "none"_s)
+            entry.insert("conflict"_s, conflict);
+        return new FlightSimulatorMapping(new FlightSimScan(&shop.controller(), entry), text(1));
     }
 
-    // The mappings' folders in order, "-" for none.
-    static QString paths(const Mappings &mappings)
+    static QString outcome(const FlightSimulatorMapping *mapping)
     {
-        QStringList paths;
-        for (const auto *mapping : mappings)
-            paths.append(mapping->path.isEmpty() ? QStringLiteral("-") : mapping->path);
-        return paths.join(u' ');
-    }
-
-    // The configuration files of the mappings' entries in order.
-    static QString files(const Mappings &mappings)
-    {
-        QStringList files;
-        for (const auto *mapping : mappings)
-            files.append(mapping->scan->config->path);
-        return files.join(u' ');
+        const auto *config = mapping->scan->config;
+        return (mapping->path.isEmpty() ? "-"_s : mapping->path) + u' '
+            + (config ? config->path : "none"_s);
     }
 };
 

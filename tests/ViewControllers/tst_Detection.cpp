@@ -1,161 +1,128 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Literals.h"
 
 #include <QFile>
 #include <QTest>
 
-using Tests::Workshop;
-using Tests::writeFile;
+using namespace Tests;
 
+namespace {
+
+void addRow(const char *name, int location, const QStringList &texts)
+{
+    QTest::newRow(name) << location << texts;
+}
+
+// An entry with this path and key, where the strategy looks then, and whether that exists.
+void addFile(
+    const char *name, const QString &path, const QString &key, const QString &file, bool is)
+{
+    addRow(name, 0, {path, key, "Scanning files...|file: "_s + file, is ? file : "nothing"_s});
+}
+
+void addFolder(const char *name, const QString &path, const QString &folder, bool is)
+{
+    const QString lines = "Scanning folders...|folder: "_s + folder;
+    addRow(name, 1, {path, "game"_s, lines, is ? folder : "nothing"_s});
+}
+
+void addNothing(const char *name, int location, const QString &lines = {})
+{
+    addRow(name, location, {"$ROOT/sim"_s, "game"_s, lines, "nothing"_s});
+}
+
+} // namespace
+
+/// Whether an entry's simulator is here, by the strategy that the entry names.
 class TestDetection : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void usesTheStrategyOfTheLocation_data()
+    void findsWhatTheStrategyOfTheEntryFinds_data()
     {
         QTest::addColumn<int>("location");
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("found");
-        QTest::newRow("file") << 0 << "Scanning files...|file: %1/sim/game"
-                              << "%1/sim/game";
-        QTest::newRow("folder") << 1 << "Scanning folders...|folder: %1/sim"
-                                << "%1/sim";
-        QTest::newRow("registry") << 2 << "Scanning registry..."
-                                  << "nothing";
-        QTest::newRow("three") << 3 << ""
-                               << "nothing";
-        QTest::newRow("several") << 4 << "Scanning multiple locations..."
-                                 << "nothing";
-        QTest::newRow("five") << 5 << ""
-                              << "nothing";
-        QTest::newRow("minus one") << -1 << ""
-                                   << "nothing";
+        QTest::addColumn<QStringList>("texts");
+        addFile("file", R"($ROOT\sim)"_s, "game"_s, "$ROOT/sim/game"_s, true);
+        addFile("slashes of both kinds",
+                R"($ROOT\My Sims/спутник)"_s,
+                R"(bin\game.exe)"_s,
+                "$ROOT/My Sims/спутник/bin/game.exe"_s,
+                true);
+        addFile("a folder for a file", "$ROOT/sim"_s, "bin"_s, "$ROOT/sim/bin"_s, true);
+        addFile("no key", "$ROOT/sim"_s, {}, "$ROOT/sim/"_s, true);
+        addFile("no path", {}, "$ROOT/sim"_s, "/$ROOT/sim"_s, true);
+        addFile("no such file", R"($ROOT\no)"_s, "game %1"_s, "$ROOT/no/game %1"_s, false);
+        addFile("a link to no file", "$ROOT"_s, "link"_s, "$ROOT/link"_s, false);
+        addFile("no file named", {}, {}, "/"_s, false);
+
+        addFolder("folder", R"($ROOT\sim)"_s, "$ROOT/sim"_s, true);
+        addFolder("folder, slashes of both kinds",
+                  R"($ROOT\My Sims/спутник)"_s,
+                  "$ROOT/My Sims/спутник"_s,
+                  true);
+        addFolder("a slash at its end", "$ROOT/sim/"_s, "$ROOT/sim/"_s, true);
+        addFolder("a file for a folder", R"($ROOT\sim\game)"_s, "$ROOT/sim/game"_s, false);
+        addFolder("no such folder", R"($ROOT\no)"_s, "$ROOT/no"_s, false);
+        addFolder("a link to no folder", "$ROOT/link"_s, "$ROOT/link"_s, false);
+        addFolder("no folder named", {}, {}, false);
+
+        addNothing("registry", 2, "Scanning registry..."_s);
+        addNothing("three", 3);
+        addNothing("several locations", 4, "Scanning multiple locations..."_s);
+        addNothing("five", 5);
+        addNothing("minus one", -1);
     }
 
-    void usesTheStrategyOfTheLocation()
+    void findsWhatTheStrategyOfTheEntryFinds()
     {
-        QFETCH(int, location);
-        QFETCH(QString, lines);
-        QFETCH(QString, found);
+        QFETCH(const int, location);
+        QFETCH(QStringList, texts);
         Workshop shop;
-        writeFile(shop.path("sim/game"), {});
-        auto *entry
-            = shop.entry(R"({"path": "$ROOT\\sim", "key": "game", "target": "$ROOT\\sim"})");
+        makeFiles(shop);
+        texts.replaceInStrings("$ROOT"_s, shop.sandbox.root());
+        auto *entry = shop.entry(R"({"target": "$ROOT\\sim"})");
         entry->location = location;
+        entry->path = texts.at(0);
+        entry->key = texts.at(1);
         const auto disk = shop.disk();
         const auto simPaths = shop.controller().simPaths;
 
         const auto *mapping = shop.controller().scan(entry);
 
-        QCOMPARE(shop.log.debugLines().join(u'|'), lines.replace(QLatin1String("%1"), root(shop)));
-        QCOMPARE(mapping ? mapping->path : QStringLiteral("nothing"),
-                 found.replace(QLatin1String("%1"), root(shop)));
+        QCOMPARE(shop.log.debugLines().join(u'|'), texts.at(2));
+        QCOMPARE(mapping ? mapping->path : "nothing"_s, texts.at(3));
+        QCOMPARE(entry->children().size(), mapping ? 1 : 0);
+        QVERIFY(!mapping || (mapping->scan == entry && mapping->parent() == entry));
+        QVERIFY(!mapping || mapping->note.isNull());
         QCOMPARE(shop.disk(), disk);
-        QVERIFY(shop.controller().m_errorMessage.isEmpty());
+        QCOMPARE(shop.controller().m_errorMessage, QString());
         QVERIFY(shop.controller().mappings.isEmpty());
         QCOMPARE(shop.controller().simPaths, simPaths);
     }
 
-    void findsAFileWhateverItsSlashes()
+    void asksOneStrategyWhateverTheEntrySays()
     {
         Workshop shop;
-        const QString game = shop.path("My Sims/спутник/bin/game.exe");
-        writeFile(game, {});
-        auto *entry = shop.entry(R"({"path": "$ROOT\\My Sims/спутник", "key": "bin\\game.exe"})");
-        const auto *mapping = shop.controller().scanFile(entry);
-        QVERIFY(mapping);
-        QCOMPARE(mapping->path, game);
-        QCOMPARE(mapping->scan, entry);
-        QCOMPARE(mapping->parent(), entry);
-        QVERIFY(mapping->note.isNull());
-    }
-
-    void aFolderIsAlsoAFileSystemEntry()
-    {
-        Workshop shop;
-        shop.folder("sim/bin");
-        QCOMPARE(foundFile(shop, R"({"path": "$ROOT/sim", "key": "bin"})"), shop.path("sim/bin"));
-        QCOMPARE(foundFile(shop, R"({"path": "$ROOT/sim"})"), shop.path("sim/"));
-        QCOMPARE(foundFile(shop, R"({"key": "$ROOT/sim"})"), u'/' + shop.path("sim"));
-    }
-
-    void saysWhichFileItLooksForThoughItIsMissing()
-    {
-        Workshop shop;
-        QFile::link(shop.path("gone"), shop.path("link"));
-        QCOMPARE(foundFile(shop, R"({"path": "$ROOT\\no", "key": "game %1"})"),
-                 QStringLiteral("nothing"));
-        QCOMPARE(foundFile(shop, R"({"path": "$ROOT", "key": "link"})"), QStringLiteral("nothing"));
-        QCOMPARE(shop.log.debugLines(),
-                 QStringList({QStringLiteral("file: ") + shop.path("no/game %1"),
-                              QStringLiteral("file: ") + shop.path("link")}));
-    }
-
-    void anEntryThatNamesNoFileFindsNone()
-    {
-        Workshop shop;
-        QCOMPARE(foundFile(shop, "{}"), QStringLiteral("nothing"));
-        QCOMPARE(shop.log.debugLines(), QStringList(QStringLiteral("file: /")));
-    }
-
-    void findsAFolderWhateverItsSlashes()
-    {
-        Workshop shop;
-        shop.folder("My Sims/спутник");
-        auto *entry = shop.entry(R"({"path": "$ROOT\\My Sims\\спутник", "key": "ignored"})");
-        const auto *mapping = shop.controller().scanFolder(entry);
-        QVERIFY(mapping);
-        QCOMPARE(mapping->path, shop.path("My Sims/спутник"));
-        QCOMPARE(mapping->scan, entry);
-        QCOMPARE(mapping->parent(), entry);
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT/My Sims/"})"), shop.path("My Sims/"));
-    }
-
-    void aFileIsNotAFolder()
-    {
-        Workshop shop;
-        writeFile(shop.path("plain"), {});
-        QFile::link(shop.path("gone"), shop.path("link"));
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT\\plain"})"), QStringLiteral("nothing"));
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT/link"})"), QStringLiteral("nothing"));
-        QCOMPARE(foundFolder(shop, R"({"path": "$ROOT\\no"})"), QStringLiteral("nothing"));
-        QCOMPARE(shop.log.debugLines(),
-                 QStringList({QStringLiteral("folder: ") + shop.path("plain"),
-                              QStringLiteral("folder: ") + shop.path("link"),
-                              QStringLiteral("folder: ") + shop.path("no")}));
-    }
-
-    void anEntryThatNamesNoFolderFindsNone()
-    {
-        Workshop shop;
-        QCOMPARE(foundFolder(shop, R"({"key": "$ROOT"})"), QStringLiteral("nothing"));
-        QCOMPARE(shop.log.debugLines(), QStringList(QStringLiteral("folder: ")));
-    }
-
-    void theOtherStrategiesFindNothing()
-    {
-        Workshop shop;
-        auto *entry = shop.entry(R"({"path": "$ROOT", "key": "home", "target": "$ROOT\\$ROOT"})");
+        makeFiles(shop);
+        auto *entry = shop.entry(
+            R"({"location": 3, "path": "$ROOT/sim", "key": "game", "target": "$ROOT\\$ROOT"})");
         QVERIFY(!shop.controller().scanRegistry(entry));
         QVERIFY(!shop.controller().scanMultiple(entry));
         QVERIFY(entry->children().isEmpty());
         QVERIFY(shop.log.debugLines().isEmpty());
+        QCOMPARE(shop.controller().scanFile(entry)->path, shop.path("sim/game"));
+        QCOMPARE(shop.controller().scanFolder(entry)->path, shop.path("sim"));
     }
 
 private:
-    static QString root(const Workshop &shop) { return shop.sandbox.root(); }
-
-    static QString foundFile(Workshop &shop, const char *json)
+    static void makeFiles(const Workshop &shop)
     {
-        const auto *mapping = shop.controller().scanFile(shop.entry(json));
-        return mapping ? mapping->path : QStringLiteral("nothing");
-    }
-
-    static QString foundFolder(Workshop &shop, const char *json)
-    {
-        const auto *mapping = shop.controller().scanFolder(shop.entry(json));
-        return mapping ? mapping->path : QStringLiteral("nothing");
+        writeFile(shop.path("sim/game"), {});
+        writeFile(shop.path("sim/bin/other"), {});
+        writeFile(shop.path("My Sims/спутник/bin/game.exe"), {});
+        QFile::link(shop.path("gone"), shop.path("link"));
     }
 };
 
