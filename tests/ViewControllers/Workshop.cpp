@@ -98,6 +98,13 @@ QString Workshop::makeDetectedSimulator(const QByteArray &relative) const
     return simulator;
 }
 
+QByteArray Workshop::simulator(const QByteArray &name)
+{
+    return QByteArray(R"({"name": "Sim NAME", "type": 1, "location": 1, "path": "$ROOT/NAME",
+        "files": [{"source": "x", "destination": "p/x"}]})")
+        .replace("NAME", name);
+}
+
 QByteArray Workshop::expanded(const QByteArray &json) const
 {
     return QByteArray(json).replace("$ROOT", sandbox.root().toUtf8());
@@ -210,11 +217,6 @@ QStringList Workshop::boxes() const
 SettingsHome::SettingsHome()
 {
     Quillmont::Utility::Controllers::ConfigurationController::instance();
-}
-
-QString box(const QString &title, const QString &text)
-{
-    return title + QStringLiteral(" | ") + text;
 }
 
 } // namespace Tests

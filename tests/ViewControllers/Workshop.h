@@ -8,6 +8,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/LogCatcher.h"
 #include "tests/support/Sandbox.h"
+#include "tests/support/Texts.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -47,6 +48,9 @@ public:
     /// Makes a simulator in a folder that the detection library reports as "XP12".
     QString makeDetectedSimulator(const QByteArray &relative) const;
 
+    /// A catalogue entry in JSON: "Sim NAME" in the sandbox's folder NAME, without a configuration
+    /// file, with "x" of the payload as its one plugin file "p/x".
+    static QByteArray simulator(const QByteArray &name);
     QByteArray expanded(const QByteArray &json) const;
     FlightSimScan *entry(const QByteArray &json);
     FlightSimulatorMapping *mapping(const QByteArray &json, const QString &path);
@@ -90,9 +94,6 @@ class SettingsHome : public Sandbox
 public:
     SettingsHome();
 };
-
-/// How Workshop::boxes() puts a box with this title and text.
-QString box(const QString &title, const QString &text);
 
 } // namespace Tests
 

@@ -1,132 +1,128 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Literals.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QTest>
 
-using Tests::box;
-using Tests::FlightSimulatorMapping;
-using Tests::readFile;
-using Tests::ScanController;
-using Tests::Workshop;
-using Tests::writeFile;
+using namespace Tests;
 
 namespace {
 
-QString resultBox(const QString &text)
+using Mappings = QList<FlightSimulatorMapping *>;
+
+// A simulator's name, and behind it "+" if it has the plugin, "!" if the payload lacks it, "-" if
+// the simulator was not found, and "0" if that one has no plugin files either.
+FlightSimulatorMapping *mapping(Workshop &shop, const QString &word)
 {
-    return box(QStringLiteral("Quillmont Orbwell Settings"), text);
+    const QByteArray name = word.left(1).toUtf8();
+    const QString sign = word.mid(1);
+    const bool isFound = sign != "-"_s && sign != "0"_s;
+    auto *mapping
+        = shop.mapping(Workshop::simulator(name), isFound ? shop.folder(name) : QString());
+    if (sign == "+"_s)
+        writeFile(shop.path(name + "/p/x"), "complete");
+    if (sign == "!"_s)
+        mapping->scan->files = {{"p/x"_s, "gone"_s}};
+    if (sign == "0"_s)
+        mapping->scan->files.clear();
+    return mapping;
 }
 
-QString installedBox(const QString &names)
+Mappings mappings(Workshop &shop, const QString &words)
 {
-    return resultBox(
-        QStringLiteral("Quillmont Orbwell have successfully installed Orbwell plugin to ") + names
-        + u'.');
+    Mappings mappings;
+    const QStringList all = words.split(u' ', Qt::SkipEmptyParts);
+    for (const QString &word : all)
+        mappings.append(mapping(shop, word));
+    return mappings;
 }
 
-QString nothingToDoBox()
+QString launcherPath(const Workshop &shop)
 {
-    return resultBox(QStringLiteral("Orbwell plugin is installed in all simulators."));
+    return shop.dataPath("Quillmont/Orbwell/.path");
 }
 
-// A catalogue entry whose one file lies in the simulator's folder "p".
-QByteArray simulator(const QByteArray &name)
+QByteArray launcher()
 {
-    return R"({"name": "Sim )" + name + R"(", "type": 1, "location": 1, "path": "$ROOT/)" + name
-        + R"(", "files": [{"source": "x.dll", "destination": "p/x.dll"}]})";
+    return QCoreApplication::applicationDirPath().toUtf8() + "/QuillmontOrbwell.exe";
 }
 
-FlightSimulatorMapping *mapping(Workshop &shop, const QByteArray &name)
+// The records' names and folders, and below each the plugin's file there, if it is.
+QString recorded(const Workshop &shop)
 {
-    return shop.mapping(simulator(name), shop.folder(name));
+    QStringList lines;
+    const auto records = shop.record();
+    for (const auto &record : records) {
+        const QString folder = record["path"_s].toString();
+        QFile plugin(folder + "/p/x"_s);
+        const bool isThere = plugin.open(QIODevice::ReadOnly);
+        lines.append(record["name"_s].toString() + " in "_s + folder + ": "_s
+                     + (isThere ? QString::fromUtf8(plugin.readAll()) : "none"_s));
+    }
+    return lines.join(u'|');
 }
 
 } // namespace
 
+/// Installs into all simulators at once.
 class TestAutoInstallation : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void anEmptyListIsSaid()
+    void installsWhereThePluginIsMissingAndRecordsAllThatHaveIt_data()
     {
-        Workshop shop;
-        QString pathWhileOpen;
-        shop.answerer.whileOpen([&] {
-            if (QFile::exists(launcherPath(shop)))
-                pathWhileOpen = QStringLiteral("already there");
-        });
-        shop.controller().autoInstall({}, false, ScanController::ModeNone);
-        QCOMPARE(shop.boxes(),
-                 QStringList(resultBox(QStringLiteral(
-                     "There are no other simulator found for install Orbwell plugin."))));
-        QCOMPARE(pathWhileOpen, QString());
-        verifyLauncherPath(shop);
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("records");
+        const auto row = [](const char *simulators, const QString &box, const QString &records) {
+            QTest::newRow(simulators) << box << records;
+        };
+        row("", noSimulatorBox(), "Sim A in old: none"_s);
+        row("C-", allInstalledBox(), "Sim A in old: none"_s);
+        row("C0", allInstalledBox(), "Sim A in old: none"_s);
+        row("A B+ C-",
+            autoInstalledBox({"Sim A"_s}),
+            "Sim A in $ROOT/A: new|Sim B in $ROOT/B: complete"_s);
+        row("B A",
+            autoInstalledBox({"Sim B"_s, "Sim A"_s}),
+            "Sim B in $ROOT/B: new|Sim A in $ROOT/A: new"_s);
+        row("B+ A+", allInstalledBox(), "Sim B in $ROOT/B: complete|Sim A in $ROOT/A: complete"_s);
+        // A failed installation is named and recorded like any other.
+        row("B!", autoInstalledBox({"Sim B"_s}), "Sim A in old: none|Sim B in $ROOT/B: none"_s);
     }
 
-    void installsWhereTheFolderIsKnownAndThePluginMissing()
+    void installsWhereThePluginIsMissingAndRecordsAllThatHaveIt()
     {
-        Workshop shop;
-        shop.writePayload("x.dll", "new");
-        writeFile(shop.path("A/sim.exe"), {});
-        writeFile(shop.path("B/p/x.dll"), "complete");
-        auto *notFound = shop.mapping(simulator("C"), QString());
-        shop.controller().autoInstall(
-            {mapping(shop, "A"), mapping(shop, "B"), notFound}, false, ScanController::ModeInstall);
-        QCOMPARE(shop.boxes(), QStringList(installedBox(QStringLiteral(" Sim A"))));
-        QCOMPARE(readFile(shop.path("A/p/x.dll")), QByteArray("new"));
-        QCOMPARE(readFile(shop.path("B/p/x.dll")), QByteArray("complete"));
-        QCOMPARE(recordedNames(shop), QStringLiteral("Sim A|Sim B"));
-        verifyLauncherPath(shop);
+        QFETCH(const QString, box);
+        QFETCH(QString, records);
+        for (const bool silent : {false, true}) {
+            Workshop shop;
+            shop.writePayload("x", "new");
+            shop.writeRecord(R"([{"name": "Sim A", "path": "old"}])");
+            bool isLauncherPathLast = true;
+            shop.answerer.whileOpen(
+                [&] { isLauncherPathLast = !QFile::exists(launcherPath(shop)); });
+            shop.controller().autoInstall(
+                mappings(shop, QString::fromUtf8(QTest::currentDataTag())),
+                silent,
+                silent ? ScanController::ModeScanAndInstall : ScanController::ModeInstall);
+            QCOMPARE(shop.boxes(), silent ? QStringList() : QStringList(box));
+            QCOMPARE(recorded(shop), QString(records).replace("$ROOT"_s, shop.sandbox.root()));
+            QVERIFY(isLauncherPathLast);
+            QCOMPARE(readFile(launcherPath(shop)), launcher());
+        }
     }
 
-    void namesBeginWithABlank()
+    void namesSimulatorsAsTheyAreCalled()
     {
         Workshop shop;
-        shop.writePayload("x.dll", "new");
-        auto *a = mapping(shop, "A");
-        auto *b = mapping(shop, "B");
-        b->scan->name = QStringLiteral("%1 %0");
-        shop.controller().autoInstall({b, a}, false, ScanController::ModeNone);
-        QCOMPARE(shop.boxes(), QStringList(installedBox(QStringLiteral(" %1 %0 Sim A"))));
-        QVERIFY(shop.boxes().constFirst().contains(QStringLiteral("plugin to  %1")));
-    }
-
-    void whenAllHaveItAllAreRecordedAgain()
-    {
-        Workshop shop;
-        writeFile(shop.path("A/p/x.dll"), "complete");
-        writeFile(shop.path("B/p/x.dll"), "complete");
-        shop.writeRecord(R"([{"name": "Sim A", "path": "old"}])");
-        shop.controller().autoInstall(
-            {mapping(shop, "B"), mapping(shop, "A")}, false, ScanController::ModeNone);
-        QCOMPARE(shop.boxes(), QStringList(nothingToDoBox()));
-        QCOMPARE(recordedNames(shop), QStringLiteral("Sim B|Sim A"));
-        QCOMPARE(shop.record().last().toObject().value(QStringLiteral("path")).toString(),
-                 shop.path("A"));
-        QCOMPARE(readFile(shop.path("A/p/x.dll")), QByteArray("complete"));
-    }
-
-    void whatWasNotFoundIsPassedOver()
-    {
-        Workshop shop;
-        auto *withoutFiles = shop.mapping(R"({"name": "Sim A"})", QString());
-        shop.controller().autoInstall({withoutFiles}, false, ScanController::ModeNone);
-        QCOMPARE(shop.boxes(), QStringList(nothingToDoBox()));
-        QCOMPARE(readFile(shop.recordPath()), QByteArray());
-    }
-
-    void aFailedInstallationIsNamedAndRecorded()
-    {
-        Workshop shop;
-        auto *a = mapping(shop, "A");
-        shop.controller().autoInstall({a}, false, ScanController::ModeNone);
-        QCOMPARE(shop.boxes(), QStringList(installedBox(QStringLiteral(" Sim A"))));
-        QCOMPARE(recordedNames(shop), QStringLiteral("Sim A"));
-        QVERIFY(shop.controller().m_errorMessage.startsWith(QStringLiteral("Unable to copy")));
+        shop.writePayload("x", "new");
+        const auto all = mappings(shop, "B A"_s);
+        all.first()->scan->name = "%1 %0"_s;
+        shop.controller().autoInstall(all, false, ScanController::ModeNone);
+        QCOMPARE(shop.boxes(), QStringList(autoInstalledBox({"%1 %0"_s, "Sim A"_s})));
     }
 
     void clearsAPartialInstallationFirst()
@@ -144,59 +140,43 @@ private slots:
             {"root": "8", "path": "/extra"}]}}})",
                                shop.path("A"));
         shop.controller().autoInstall({a}, true, ScanController::ModeNone);
-        QCOMPARE(Tests::treeOf(shop.path("A")).keys().join(u' '),
-                 QStringLiteral("a/ a/one b/ b/two"));
+        QCOMPARE(treeOf(shop.path("A")).keys().join(u' '), "a/ a/one b/ b/two"_s);
         QCOMPARE(readFile(shop.path("A/a/one")), QByteArray("new"));
         QVERIFY(!QFile::exists(shop.path("home/extra")));
-        const QString order = shop.backups().join(u' ');
-        QVERIFY(order.contains(QStringLiteral("before_installation")));
-        QVERIFY(order.contains(QStringLiteral("before_uninstallation")));
-        QCOMPARE(recordedNames(shop), QStringLiteral("Sim A"));
-        QVERIFY(shop.boxes().isEmpty());
+        const QString backups = shop.backups().join(u' ');
+        QVERIFY(backups.contains("before_installation"_s));
+        QVERIFY(backups.contains("before_uninstallation"_s));
+        QCOMPARE(recorded(shop), "Sim A in "_s + shop.path("A") + ": none"_s);
+        QCOMPARE(shop.boxes(), QStringList());
     }
 
-    void theClearingNeverScansAgain()
+    void saysEvenSilentlyWhatCannotBeCleared()
     {
         Workshop shop;
-        shop.writePayload("x.dll", "new");
-        shop.writeCatalogue("[{}]");
-        shop.controller().autoInstall({mapping(shop, "A")}, true, ScanController::ModeRepair);
-        QCOMPARE(shop.entryCount(), 1);
-    }
-
-    void whatCannotBeClearedIsSaidEvenSilently()
-    {
-        Workshop shop;
-        shop.writePayload("x.dll", "new");
-        shop.writePayload("y.dll", "new");
-        writeFile(shop.path("A/p/x.dll/inside"), "precious");
-        auto *a = mapping(shop, "A");
-        a->scan->files.insert(QStringLiteral("q/y.dll"), QStringLiteral("y.dll"));
+        shop.writePayload("x", "new");
+        shop.writePayload("y", "new");
+        const QString obstacle = shop.path("A/p/x");
+        writeFile(obstacle + "/inside"_s, "precious");
+        auto *a = mapping(shop, "A"_s);
+        a->scan->files.insert("q/y"_s, "y"_s);
         shop.controller().autoInstall({a}, true, ScanController::ModeNone);
         QCOMPARE(shop.boxes(),
-                 QStringList(box(QStringLiteral("Uninstall"),
-                                 QStringLiteral("Quillmont Orbwell was not able to uninstall your "
-                                                "Orbwell plugin from Sim A.\r\n\r\nPlease see the "
-                                                "list below for details:\r\n\r\nUnable to remove "
-                                                "file '")
-                                     + shop.path("A/p/x.dll")
-                                     + QStringLiteral("' from Sim A. Please remove the file "
-                                                      "manually.\r\n"))));
-        QCOMPARE(readFile(shop.path("A/p/x.dll/inside")), QByteArray("precious"));
-        QCOMPARE(readFile(shop.path("A/q/y.dll")), QByteArray("new"));
+                 QStringList(notUninstalledBox("Sim A"_s, cannotRemove(obstacle, "Sim A"_s))));
+        QCOMPARE(readFile(obstacle + "/inside"_s), QByteArray("precious"));
+        QCOMPARE(readFile(shop.path("A/q/y")), QByteArray("new"));
     }
 
-    void aFailedCopyIsShownByTheNextClearing()
+    // And its own line waits for whoever shows it.
+    void showsAFailedCopyWithTheNextClearing()
     {
         Workshop shop;
-        shop.controller().autoInstall(
-            {mapping(shop, "A"), mapping(shop, "B")}, true, ScanController::ModeNone);
-        QCOMPARE(shop.boxes().size(), 1);
-        QVERIFY(shop.boxes().constFirst().contains(QStringLiteral("plugin from Sim B.")));
-        QVERIFY(shop.boxes().constFirst().contains(shop.path("A/p/x.dll")));
-        QVERIFY(!shop.boxes().constFirst().contains(shop.path("B/p/x.dll")));
-        // B's own line waits for whoever shows it.
-        QVERIFY(shop.controller().m_errorMessage.contains(shop.path("B/p/x.dll")));
+        const auto line = [&shop](const QByteArray &name) {
+            return cannotCopy(
+                Workshop::beside("plugins/gone"), shop.path(name + "/p/x"), shop.path(name + '/'));
+        };
+        shop.controller().autoInstall(mappings(shop, "A! B!"_s), true, ScanController::ModeNone);
+        QCOMPARE(shop.boxes(), QStringList(notUninstalledBox("Sim B"_s, line("A"))));
+        QCOMPARE(shop.controller().m_errorMessage, line("B"));
     }
 
     void scansAfterEachInstallationOnlyForTheWindowsButton_data()
@@ -212,102 +192,66 @@ private slots:
 
     void scansAfterEachInstallationOnlyForTheWindowsButton()
     {
-        QFETCH(int, mode);
-        QFETCH(int, scans);
+        QFETCH(const int, mode);
+        QFETCH(const int, scans);
         Workshop shop;
-        shop.writePayload("x.dll", "new");
-        writeFile(shop.path("D/p/x.dll"), "complete");
-        shop.writeCatalogue("[" + simulator("A") + "," + simulator("B") + "]");
-        const QList<FlightSimulatorMapping *> list{
-            mapping(shop, "A"), mapping(shop, "B"), mapping(shop, "C"), mapping(shop, "D")};
+        shop.writePayload("x", "new");
+        shop.writeCatalogue('[' + Workshop::simulator("A") + ',' + Workshop::simulator("B") + ']');
+        const auto all = mappings(shop, "A B C D+"_s);
         const int before = shop.entryCount();
-        int scansWhileOpen = -1;
-        QStringList rows;
+        QString whileOpen;
         shop.answerer.whileOpen([&] {
-            scansWhileOpen = (shop.entryCount() - before) / 2;
-            rows = shop.rowNames();
+            whileOpen = "%1 entries, %2 rows"_s.arg(shop.entryCount() - before)
+                            .arg(shop.rowNames().size());
         });
         shop.controller().autoInstall(
-            list, false, static_cast<ScanController::InstallationMode>(mode));
-        QCOMPARE(scansWhileOpen, scans);
-        QCOMPARE((shop.entryCount() - before) / 2, scans);
-        QCOMPARE(rows.size(), scans > 0 ? 2 : 0);
-        QCOMPARE(shop.boxes(), QStringList(installedBox(QStringLiteral(" Sim A Sim B Sim C"))));
-        QCOMPARE(recordedNames(shop), QStringLiteral("Sim A|Sim B|Sim C|Sim D"));
+            all, false, static_cast<ScanController::InstallationMode>(mode));
+        // The catalogue has two.
+        QCOMPARE(whileOpen, "%1 entries, %2 rows"_s.arg(2 * scans).arg(scans > 0 ? 2 : 0));
+        QCOMPARE(shop.entryCount() - before, 2 * scans);
+        QCOMPARE(shop.boxes(), QStringList(autoInstalledBox({"Sim A"_s, "Sim B"_s, "Sim C"_s})));
+        QCOMPARE(recorded(shop).remove(shop.sandbox.root()),
+                 "Sim A in /A: new|Sim B in /B: new|Sim C in /C: new|Sim D in /D: complete"_s);
     }
 
-    void silentlyDoesAllTheSame()
+    void recordsAnInstallationThreeTimes()
     {
         Workshop shop;
-        shop.writePayload("x.dll", "new");
-        writeFile(shop.path("B/p/x.dll"), "complete");
-        shop.controller().autoInstall(
-            {mapping(shop, "A"), mapping(shop, "B")}, true, ScanController::ModeScanAndInstall);
-        QVERIFY(shop.boxes().isEmpty());
-        QCOMPARE(recordedNames(shop), QStringLiteral("Sim A|Sim B"));
+        shop.writePayload("x", "new");
+        shop.controller().autoInstall(mappings(shop, "A B+"_s), true, ScanController::ModeNone);
         // For A by the removal, by the installation and once more; for B once.
-        QCOMPARE(shop.log.debugLines().filter(QStringLiteral("mapping path: ")).size(), 4);
-        verifyLauncherPath(shop);
-        shop.controller().autoInstall({}, true, ScanController::ModeInstall);
-        QVERIFY(shop.boxes().isEmpty());
+        QCOMPARE(shop.log.debugLines().filter("mapping path: "_s).size(), 4);
     }
 
-    void theLauncherPathLiesBesideTheSettings()
+    void writesTheLauncherPathBesideTheSettings()
     {
         Workshop shop;
         shop.sandbox.setVariable("HOME", QFile::encodeName(shop.path("Vellum/Vellum home")));
         shop.controller().autoInstall({}, true, ScanController::ModeNone);
-        const auto disk = shop.disk();
-        QStringList found;
-        for (auto it = disk.cbegin(); it != disk.cend(); ++it) {
-            if (it.key().endsWith(QLatin1String("/.path")))
-                found.append(it.key());
-        }
+        const QStringList found = QStringList(shop.disk().keys()).filter("/.path"_s);
         QCOMPARE(found.size(), 1);
-        QVERIFY2(found.constFirst().startsWith(QLatin1String("Orbwell/Orbwell home/")),
-                 qPrintable(found.constFirst()));
-        QVERIFY(found.constFirst().endsWith(QLatin1String("/Quillmont/Orbwell/.path")));
+        QVERIFY2(found.first().startsWith("Orbwell/Orbwell home/"_s), qPrintable(found.first()));
+        QVERIFY(found.first().endsWith("/Quillmont/Orbwell/.path"_s));
     }
 
-    void anOldLauncherPathIsReplaced()
+    void replacesAnOldLauncherPath()
     {
         Workshop shop;
         writeFile(launcherPath(shop), QByteArray(5000, 'x'));
         shop.controller().autoInstall({}, true, ScanController::ModeNone);
-        verifyLauncherPath(shop);
+        QCOMPARE(readFile(launcherPath(shop)), launcher());
     }
 
-    void aLauncherPathThatCannotBeWrittenIsNotReported()
+    void doesNotReportALauncherPathThatCannotBeWritten()
     {
         Workshop shop;
         shop.controller();
-        writeFile(launcherPath(shop) + QStringLiteral("/inside"), "precious");
+        writeFile(launcherPath(shop) + "/inside"_s, "precious");
         const auto disk = shop.disk();
         shop.controller().autoInstall({}, true, ScanController::ModeNone);
         QCOMPARE(shop.disk(), disk);
-        QVERIFY(shop.boxes().isEmpty());
-        QVERIFY(shop.controller().m_errorMessage.isEmpty());
-    }
-
-private:
-    static QString launcherPath(const Workshop &shop)
-    {
-        return shop.dataPath("Quillmont/Orbwell/.path");
-    }
-
-    static void verifyLauncherPath(const Workshop &shop)
-    {
-        QCOMPARE(QString::fromUtf8(readFile(launcherPath(shop))),
-                 QCoreApplication::applicationDirPath() + QStringLiteral("/QuillmontOrbwell.exe"));
-    }
-
-    static QString recordedNames(const Workshop &shop)
-    {
-        QStringList names;
-        const auto records = shop.record();
-        for (const auto &record : records)
-            names.append(record.toObject().value(QStringLiteral("name")).toString());
-        return names.join(u'|');
+        QCOMPARE(shop.boxes(), QStringList());
+        QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 };
 

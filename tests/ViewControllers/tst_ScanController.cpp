@@ -1,9 +1,9 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Literals.h"
 
 #include "SimDetect/SimDetect.h"
 #include "Views/ScannerView.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPointer>
@@ -14,20 +14,31 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Tests;
+
 using Quillmont::Utility::Views::ScannerView;
-using Tests::box;
-using Tests::FlightSimulatorMapping;
-using Tests::ScanController;
-using Tests::Workshop;
-using Tests::writeFile;
 
 namespace {
 
-const char *const simulator = R"({"name": "Sim A", "type": 1, "location": 1, "path": "$ROOT/A",
-    "files": [{"source": "x", "destination": "p/x"}]})";
+// A computer with one simulator, and a payload for it.
+class SimulatorShop : public Workshop
+{
+public:
+    SimulatorShop()
+    {
+        writePayload("x", "new");
+        writeFile(path("A/sim.exe"), {});
+        writeCatalogue('[' + simulator("A") + ']');
+    }
+
+    ScannerView *view() { return controller().view; }
+
+    FlightSimulatorMapping *simulatorInItsFolder() { return mapping(simulator("A"), path("A")); }
+};
 
 } // namespace
 
+/// What the controller is from its start on, and how it serves its window.
 class TestScanController : public QObject
 {
     Q_OBJECT
@@ -40,20 +51,18 @@ private slots:
         const QString folder = shop.makeDetectedSimulator("X-Plane 12");
         auto &controller = shop.controller();
         QCOMPARE(controller.simPaths, Quillmont::SimDetect::GetAllSimPaths());
-        QCOMPARE(controller.simPaths.value(QStringLiteral("XP12")), folder);
+        QCOMPARE(controller.simPaths.value("XP12"_s), folder);
         QVERIFY(controller.mappings.isEmpty());
-        QVERIFY(controller.m_errorMessage.isEmpty());
+        QCOMPARE(controller.m_errorMessage, QString());
     }
 
     void showsItsWindowAndScansNothingYet()
     {
-        Workshop shop;
-        shop.writeCatalogue("[{}]");
-        QVERIFY(shop.controller().view->isVisible());
-        QVERIFY(shop.controller().view->isWindow());
-        QVERIFY(shop.rowNames().isEmpty());
+        SimulatorShop shop;
+        QVERIFY(shop.view()->isVisible());
+        QVERIFY(shop.view()->isWindow());
+        QCOMPARE(shop.rowNames() + shop.boxes(), QStringList());
         QCOMPARE(shop.entryCount(), 0);
-        QVERIFY(shop.boxes().isEmpty());
         QVERIFY(QFile::exists(shop.recordPath()));
         QCOMPARE(shop.warnings(), QString());
     }
@@ -67,7 +76,7 @@ private slots:
         QCOMPARE(shop.rowPaths(), QStringList(QString()));
     }
 
-    void belongsToItsParentAndTheWindowToItsOwn()
+    void belongsToItsParentAndItsWindowToTheParentWidget()
     {
         const Workshop shop;
         QWidget parentWidget;
@@ -77,73 +86,54 @@ private slots:
         QCOMPARE(controller->view->parentWidget(), &parentWidget);
     }
 
-    void theWindowOutlivesTheController()
+    void takesItsMappingsWithItButNotItsWindow()
     {
-        Workshop shop;
-        shop.writeCatalogue("[{}]");
-        auto *controller = new ScanController(nullptr, nullptr);
-        const QPointer<ScannerView> window(controller->view);
+        const SimulatorShop shop;
+        auto controller = std::make_unique<ScanController>(nullptr, nullptr);
+        const std::unique_ptr<ScannerView> window(controller->view);
+        const QPointer<ScannerView> stillThere(window.get());
         controller->startScan(false, true, ScanController::ModeNone);
         const QPointer<FlightSimulatorMapping> mapping(controller->mappings.constFirst());
-        delete controller;
+        controller.reset();
         QVERIFY(!mapping);
-        QVERIFY(window);
-        delete window;
+        QVERIFY(stillThere);
     }
 
-    void aRequestToScanScansAndInstalls()
+    void scansAndInstallsWhenTheWindowAsksForAScan()
     {
-        Workshop shop;
-        shop.writePayload("x", "new");
-        shop.folder("A");
-        shop.writeCatalogue("[" + QByteArray(simulator) + "]");
-        emit shop.controller().view->scanRequested();
-        QCOMPARE(shop.boxes(),
-                 QStringList(box(QStringLiteral("Quillmont Orbwell Settings"),
-                                 QStringLiteral("Quillmont Orbwell have successfully installed "
-                                                "Orbwell plugin to  Sim A."))));
+        SimulatorShop shop;
+        emit shop.view()->scanRequested();
+        QCOMPARE(shop.boxes(), QStringList(autoInstalledBox({"Sim A"_s})));
         QCOMPARE(shop.controller().mappings.size(), 1);
         // One scan for the button and one after the installation.
         QCOMPARE(shop.entryCount(), 2);
-        QCOMPARE(Tests::readFile(shop.path("A/p/x")), QByteArray("new"));
+        QCOMPARE(readFile(shop.path("A/p/x")), QByteArray("new"));
     }
 
-    void aRequestToInstallInstallsTellsAndScans()
+    void installsTellsAndScansWhenTheWindowAsks()
     {
-        Workshop shop;
-        shop.writePayload("x", "new");
-        shop.writeCatalogue("[" + QByteArray(simulator) + "]");
-        auto *mapping = shop.mapping(simulator, shop.folder("A"));
-        emit shop.controller().view->install(mapping);
-        QCOMPARE(shop.boxes(),
-                 QStringList(box(QStringLiteral("Installation complete"),
-                                 QStringLiteral("Quillmont Orbwell have successfully installed "
-                                                "Orbwell plugin to Sim A."))));
-        QCOMPARE(Tests::readFile(shop.path("A/p/x")), QByteArray("new"));
-        QCOMPARE(shop.rowNames(), QStringList(QStringLiteral("Sim A")));
+        SimulatorShop shop;
+        emit shop.view()->install(shop.simulatorInItsFolder());
+        QCOMPARE(shop.boxes(), QStringList(installedBox("Sim A"_s)));
+        QCOMPARE(readFile(shop.path("A/p/x")), QByteArray("new"));
+        QCOMPARE(shop.rowNames(), QStringList("Sim A"_s));
         QVERIFY(shop.controller().mappings.isEmpty());
     }
 
-    void aRequestToUninstallUninstallsTellsAndScans()
+    void uninstallsTellsAndScansWhenTheWindowAsks()
     {
-        Workshop shop;
+        SimulatorShop shop;
         writeFile(shop.path("A/p/x"), "old");
-        writeFile(shop.path("A/sim.exe"), {});
-        shop.writeCatalogue("[" + QByteArray(simulator) + "]");
-        auto *mapping = shop.mapping(simulator, shop.path("A"));
-        emit shop.controller().view->uninstall(mapping);
-        QCOMPARE(shop.boxes(),
-                 QStringList(box(QStringLiteral("Uninstall"),
-                                 QStringLiteral("Quillmont Orbwell for Sim A has been uninstalled "
-                                                "successfully."))));
+        emit shop.view()->uninstall(shop.simulatorInItsFolder());
+        QCOMPARE(shop.boxes(), QStringList(uninstalledBox("Sim A"_s)));
         QVERIFY(!QFile::exists(shop.path("A/p")));
-        QCOMPARE(shop.rowNames(), QStringList(QStringLiteral("Sim A")));
+        QCOMPARE(shop.rowNames(), QStringList("Sim A"_s));
         QVERIFY(shop.controller().mappings.isEmpty());
     }
 
     // Seen by a request from another thread: the catalogue is a pipe, and somebody reads from it
     // while this thread handles no events.
-    void aRequestIsServedAtOnceWhereItIsMade()
+    void servesARequestAtOnceWhereItIsMade()
     {
         Workshop shop;
         auto *view = shop.controller().view;
@@ -163,16 +153,13 @@ private slots:
         QVERIFY(writer >= 0);
     }
 
-    void aDayOfWorkMakesTheToolkitWarnOfNothing()
+    void makesQtWarnOfNothingInADayOfWork()
     {
-        Workshop shop;
-        shop.writePayload("x", "new");
-        shop.folder("A");
-        shop.writeCatalogue("[" + QByteArray(simulator) + "]");
-        auto *mapping = shop.mapping(simulator, shop.path("A"));
-        emit shop.controller().view->install(mapping);
-        emit shop.controller().view->uninstall(mapping);
-        emit shop.controller().view->scanRequested();
+        SimulatorShop shop;
+        auto *mapping = shop.simulatorInItsFolder();
+        emit shop.view()->install(mapping);
+        emit shop.view()->uninstall(mapping);
+        emit shop.view()->scanRequested();
         QCOMPARE(shop.boxes().size(), 3);
         QCOMPARE(shop.warnings(), QString());
     }

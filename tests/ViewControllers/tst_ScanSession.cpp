@@ -1,4 +1,5 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Literals.h"
 
 #include "Controllers/ConfigurationController.h"
 
@@ -7,27 +8,36 @@
 #include <QPointer>
 #include <QTest>
 
+using namespace Tests;
+
 using Quillmont::Utility::Controllers::ConfigurationController;
-using Tests::box;
-using Tests::FlightSimScan;
-using Tests::FlightSimulatorMapping;
-using Tests::ScanController;
-using Tests::SettingsHome;
-using Tests::Workshop;
-using Tests::writeFile;
 
 namespace {
+
+using Mode = ScanController::InstallationMode;
 
 const char *const threeSimulators = R"([{"name": "One", "simcode": "S1", "location": 2},
     {"name": "Two", "simcode": "XP12", "location": 2}, {"name": "Three", "location": 2}])";
 
-QString boxTitle()
+void scanForTheWindow(Workshop &shop)
 {
-    return QStringLiteral("Quillmont Orbwell Settings");
+    shop.controller().startScan(true, false, ScanController::ModeNone);
+}
+
+// What the window shows: names and folders, with "$ROOT" for the sandbox's.
+QString rows(Workshop &shop)
+{
+    const QStringList names = shop.rowNames();
+    const QStringList paths = shop.rowPaths();
+    QStringList rows;
+    for (int i = 0; i < names.size(); ++i)
+        rows.append(names.at(i) + u'=' + paths.at(i));
+    return rows.join(u'|').replace(shop.sandbox.root(), "$ROOT"_s);
 }
 
 } // namespace
 
+/// From the catalogue's text to the window, or to automatic installation.
 class TestScanSession : public QObject
 {
     Q_OBJECT
@@ -38,142 +48,119 @@ private slots:
     {
         Workshop shop;
         writeFile(Workshop::beside("flightsims.json"), "[ ]\r\n\t\"Спутник\" \xe6\x97\xa5\n");
-        QCOMPARE(shop.controller().getJsonContent(), QStringLiteral(u"[ ]\r\n\t\"Спутник\" 日\n"));
+        QCOMPARE(shop.controller().getJsonContent(), "[ ]\r\n\t\"Спутник\" 日\n"_s);
     }
 
-    void aCatalogueThatCannotBeOpenedReadsAsNothing()
+    void readsACatalogueThatCannotBeOpenedAsNothing()
     {
         Workshop shop;
         QCOMPARE(shop.controller().getJsonContent(), QString());
         QVERIFY(QDir().mkpath(Workshop::beside("flightsims.json")));
         QCOMPARE(shop.controller().getJsonContent(), QString());
-        QVERIFY(shop.controller().m_errorMessage.isEmpty());
-        QVERIFY(shop.boxes().isEmpty());
+        QCOMPARE(shop.controller().m_errorMessage, QString());
+        QCOMPARE(shop.boxes(), QStringList());
     }
 
-    void theCatalogueMayBeginWithAByteOrderMark()
+    void leavesEverythingAsItWasWithoutACatalogue()
     {
-        Workshop shop;
-        shop.writeCatalogue("\xef\xbb\xbf[{\"name\": \"One\"}]");
-        startScan(shop);
-        QCOMPARE(shop.rowNames(), QStringList(QStringLiteral("One")));
-    }
+        for (const bool isMissing : {true, false}) {
+            Workshop shop;
+            shop.writeCatalogue(threeSimulators);
+            scanForTheWindow(shop);
+            const QString before = rows(shop);
+            const QMap<QString, QString> simPaths{{"a"_s, "b"_s}};
+            shop.controller().simPaths = simPaths;
+            auto *mapping = shop.mapping("{}", QString());
+            shop.controller().mappings = {mapping};
+            shop.writeCatalogue({});
+            if (isMissing)
+                QFile::remove(Workshop::beside("flightsims.json"));
+            const auto disk = shop.disk();
+            const int entries = shop.entryCount();
 
-    void withoutACatalogueEverythingStaysAsItWas_data()
-    {
-        QTest::addColumn<bool>("empty");
-        QTest::newRow("missing") << false;
-        QTest::newRow("empty") << true;
-    }
-
-    void withoutACatalogueEverythingStaysAsItWas()
-    {
-        QFETCH(bool, empty);
-        Workshop shop;
-        shop.writeCatalogue(threeSimulators);
-        startScan(shop);
-        const auto rows = shop.rowNames();
-        const QMap<QString, QString> simPaths{{QStringLiteral("a"), QStringLiteral("b")}};
-        shop.controller().simPaths = simPaths;
-        auto *mapping = shop.mapping("{}", QString());
-        shop.controller().mappings = {mapping};
-        shop.writeCatalogue({});
-        if (!empty)
-            QFile::remove(Workshop::beside("flightsims.json"));
-        const auto disk = shop.disk();
-        const int entries = shop.entryCount();
-
-        for (const int mode : {0, 1, 2, 3, 4}) {
-            for (const bool silent : {false, true}) {
-                shop.controller().startScan(
-                    true, silent, static_cast<ScanController::InstallationMode>(mode));
+            for (const int mode : {0, 1, 2, 3, 4}) {
+                for (const bool silent : {false, true})
+                    shop.controller().startScan(true, silent, static_cast<Mode>(mode));
             }
+            QCOMPARE(rows(shop), before);
+            QCOMPARE(shop.controller().simPaths, simPaths);
+            QCOMPARE(shop.controller().mappings, QList<FlightSimulatorMapping *>{mapping});
+            QCOMPARE(shop.entryCount(), entries);
+            QCOMPARE(shop.disk(), disk);
+            QCOMPARE(shop.boxes(), QStringList());
+            QVERIFY(!QApplication::overrideCursor());
         }
-        QCOMPARE(shop.rowNames(), rows);
-        QCOMPARE(shop.controller().simPaths, simPaths);
-        QCOMPARE(shop.controller().mappings, QList<FlightSimulatorMapping *>{mapping});
-        QCOMPARE(shop.entryCount(), entries);
-        QCOMPARE(shop.disk(), disk);
-        QVERIFY(shop.boxes().isEmpty());
-        QVERIFY(!QApplication::overrideCursor());
     }
 
-    void aCatalogueThatIsNoListHoldsNothing_data()
+    // On a computer with an X-Plane 12, which the detection library knows, and a folder "own".
+    void showsTheCataloguesEntries_data()
     {
         QTest::addColumn<QByteArray>("catalogue");
-        QTest::newRow("an object") << QByteArray(R"({"name": "One"})");
-        QTest::newRow("cut off") << QByteArray(R"([{"name": "One"}, {"name":)");
-        QTest::newRow("text behind it") << QByteArray(R"([{"name": "One"}] x)");
-        QTest::newRow("no JSON") << QByteArray("simulators:\n- One\n");
-        QTest::newRow("a blank") << QByteArray(" ");
-        QTest::newRow("binary") << QByteArray("\x00\x01\xff\xfe", 4);
-        QTest::newRow("nested too deeply") << QByteArray(5000, '[') + QByteArray(5000, ']');
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const QByteArray &catalogue, const char *expected) {
+            QTest::newRow(name) << catalogue << QString::fromUtf8(expected);
+        };
+        row("in reverse, the detected ones first",
+            threeSimulators,
+            "Two=$ROOT/X-Plane 12|Three=|One=");
+        row("both groups in reverse",
+            R"([{"name": "a", "simcode": "XP12", "location": 2}, {"name": "b"},
+                {"name": "c", "simcode": "XP12", "location": 2}, {"name": "d", "simcode": "xp12"},
+                {"name": "e", "simcode": ""}])",
+            "c=$ROOT/X-Plane 12|a=$ROOT/X-Plane 12|e=|d=|b=");
+        row("the entry's own strategy before the detected folder",
+            R"([{"name": "a", "simcode": "XP12", "location": 1, "path": "$ROOT/gone"},
+                {"name": "b", "simcode": "XP12", "location": 1, "path": "$ROOT/own"},
+                {"name": "c", "location": 1, "path": "$ROOT/own"}])",
+            "b=$ROOT/own|a=$ROOT/X-Plane 12|c=$ROOT/own");
+        row("their conflicts settled",
+            R"([{"name": "a", "location": 1, "path": "$ROOT/own", "config": null,
+                    "conflict": {"name": "x"}},
+                {"name": "b", "location": 1, "path": "$ROOT/own", "config": null,
+                    "conflict": {"name": "x"}}])",
+            "b=$ROOT/own|a=");
+        row("behind a byte-order mark", "\xef\xbb\xbf[{\"name\": \"One\"}]", "One=");
+        row("not of an object", R"({"name": "One"})", "");
+        row("not of a list that is cut off", R"([{"name": "One"}, {"name":)", "");
+        row("not of a list with text behind it", R"([{"name": "One"}] x)", "");
+        row("not of what is no JSON", "simulators:\n- One\n", "");
+        row("not of a blank", " ", "");
+        row("not of binary data", QByteArray("\x00\x01\xff\xfe", 4), "");
+        row("not of lists nested too deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), "");
     }
 
-    void aCatalogueThatIsNoListHoldsNothing()
+    void showsTheCataloguesEntries()
     {
-        QFETCH(QByteArray, catalogue);
-        Workshop shop;
-        shop.writeCatalogue(threeSimulators);
-        startScan(shop);
-        QCOMPARE(shop.rowNames().size(), 3);
-        shop.writeCatalogue(catalogue);
-        startScan(shop);
-        QVERIFY(shop.rowNames().isEmpty());
-        QVERIFY(shop.boxes().isEmpty());
-
-        shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
-        QCOMPARE(shop.boxes(),
-                 QStringList(box(boxTitle(),
-                                 QStringLiteral("There are no other simulator found for install "
-                                                "Orbwell plugin."))));
-    }
-
-    void simulatorsComeInReverseAndTheDetectedOnesFirst()
-    {
-        Workshop shop;
-        const QString folder = shop.makeDetectedSimulator("X-Plane 12");
-        shop.writeCatalogue(threeSimulators);
-        startScan(shop);
-        QCOMPARE(shop.rowNames().join(u' '), QStringLiteral("Two Three One"));
-        QCOMPARE(shop.rowPaths(), QStringList({folder, QString(), QString()}));
-    }
-
-    void bothGroupsAreInReverse()
-    {
+        QFETCH(const QByteArray, catalogue);
+        QFETCH(const QString, expected);
         Workshop shop;
         shop.makeDetectedSimulator("X-Plane 12");
-        shop.writeCatalogue(R"([{"name": "a", "simcode": "XP12", "location": 2}, {"name": "b"},
-            {"name": "c", "simcode": "XP12", "location": 2}, {"name": "d", "simcode": "xp12"},
-            {"name": "e", "simcode": ""}])");
-        startScan(shop);
-        QCOMPARE(shop.rowNames().join(u' '), QStringLiteral("c a e d b"));
+        shop.folder("own");
+        shop.writeCatalogue(R"([{"name": "an earlier one"}])");
+        scanForTheWindow(shop);
+        shop.writeCatalogue(catalogue);
+        scanForTheWindow(shop);
+        QCOMPARE(rows(shop), expected);
+        QCOMPARE(shop.boxes(), QStringList());
+
+        if (expected.isEmpty()) {
+            shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
+            QCOMPARE(shop.boxes(), QStringList(noSimulatorBox()));
+        }
     }
 
-    void anEntrysOwnStrategyComesBeforeTheDetectedFolder()
-    {
-        Workshop shop;
-        const QString detected = shop.makeDetectedSimulator("X-Plane 12");
-        const QString own = shop.folder("own place");
-        shop.writeCatalogue(R"([{"simcode": "XP12", "location": 1, "path": "$ROOT/gone"},
-            {"simcode": "XP12", "location": 1, "path": "$ROOT/own place"},
-            {"location": 1, "path": "$ROOT/own place"}])");
-        startScan(shop);
-        QCOMPARE(shop.rowPaths(), QStringList({own, detected, own}));
-    }
-
-    void eachScanAsksAnewWhatIsThere()
+    void asksAtEachScanWhatIsThere()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
-        shop.controller().simPaths.insert(QStringLiteral("S1"), QStringLiteral("/stale"));
-        startScan(shop);
-        QVERIFY(!shop.controller().simPaths.contains(QStringLiteral("S1")));
-        QCOMPARE(shop.rowPaths(), QStringList({QString(), QString(), QString()}));
+        shop.controller().simPaths.insert("S1"_s, "/stale"_s);
+        scanForTheWindow(shop);
+        QVERIFY(!shop.controller().simPaths.contains("S1"_s));
+        QCOMPARE(rows(shop), "Three=|Two=|One="_s);
         const QString folder = shop.makeDetectedSimulator("X-Plane 12");
-        startScan(shop);
-        QCOMPARE(shop.controller().simPaths.value(QStringLiteral("XP12")), folder);
-        QCOMPARE(shop.rowPaths(), QStringList({folder, QString(), QString()}));
+        scanForTheWindow(shop);
+        QCOMPARE(shop.controller().simPaths.value("XP12"_s), folder);
+        QCOMPARE(rows(shop), "Two=$ROOT/X-Plane 12|Three=|One="_s);
     }
 
     void clearsWhatAKilledRunLeftBesideAConfiguration()
@@ -182,7 +169,7 @@ private slots:
         const QString left = shop.dataPath("Maker/dll.xml_quillmont_unfinished");
         writeFile(left, "half");
         shop.writeCatalogue(R"([{"name": "One", "config": {"path": "Maker\\dll.xml"}}])");
-        startScan(shop);
+        scanForTheWindow(shop);
         QVERIFY(!QFile::exists(left));
     }
 
@@ -190,113 +177,78 @@ private slots:
     {
         Workshop shop;
         shop.writeCatalogue(R"([{"location": 0}, {"location": 1}, {"location": 4}])");
-        startScan(shop);
-        QCOMPARE(shop.log.debugLines().filter(QStringLiteral("Scanning")).join(u' '),
-                 QStringLiteral("Scanning multiple locations... Scanning folders... "
-                                "Scanning files..."));
+        scanForTheWindow(shop);
+        QCOMPARE(shop.log.debugLines().filter("Scanning"_s).join(u' '),
+                 "Scanning multiple locations... Scanning folders... Scanning files..."_s);
     }
 
-    void conflictsAreSettledBeforeTheResultIsShown()
-    {
-        Workshop shop;
-        shop.folder("sim");
-        shop.writeCatalogue(R"([
-            {"name": "a", "location": 1, "path": "$ROOT/sim", "config": null,
-                "conflict": {"name": "x"}},
-            {"name": "b", "location": 1, "path": "$ROOT/sim", "config": null,
-                "conflict": {"name": "x"}}])");
-        startScan(shop);
-        QCOMPARE(shop.rowNames().join(u' '), QStringLiteral("b a"));
-        QCOMPARE(shop.rowPaths(), QStringList({shop.path("sim"), QString()}));
-    }
-
-    void aScanForTheWindowLeavesTheMappingsAlone()
+    void leavesTheMappingsAloneInAScanForTheWindow()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
         auto *mapping = shop.mapping("{}", QString());
         shop.controller().mappings = {mapping};
         const auto disk = shop.disk();
-        for (const int mode : {0, 1, 2, 3}) {
-            shop.controller().startScan(
-                true, false, static_cast<ScanController::InstallationMode>(mode));
-        }
+        for (const int mode : {0, 1, 2, 3})
+            shop.controller().startScan(true, false, static_cast<Mode>(mode));
         QCOMPARE(shop.controller().mappings, QList<FlightSimulatorMapping *>{mapping});
         QCOMPARE(shop.rowNames().size(), 3);
-        QVERIFY(shop.boxes().isEmpty());
+        QCOMPARE(shop.boxes(), QStringList());
         QCOMPARE(shop.disk(), disk);
     }
 
-    void theButtonsScanInstallsAndLeavesTheWindowAlone()
+    void leavesTheWindowAloneInTheButtonsScan()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
-        auto *before = shop.mapping("{}", QString());
-        shop.controller().mappings = {before};
+        shop.controller().mappings = {shop.mapping("{}", QString())};
         shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
         QCOMPARE(shop.controller().mappings.size(), 3);
-        QCOMPARE(shop.controller().mappings.constFirst()->scan->name, QStringLiteral("Three"));
-        QVERIFY(shop.rowNames().isEmpty());
-        QCOMPARE(shop.boxes(),
-                 QStringList(box(boxTitle(),
-                                 QStringLiteral("Orbwell plugin is installed in all "
-                                                "simulators."))));
+        QCOMPARE(shop.controller().mappings.constFirst()->scan->name, "Three"_s);
+        QCOMPARE(shop.rowNames(), QStringList());
+        QCOMPARE(shop.boxes(), QStringList(allInstalledBox()));
     }
 
-    void theButtonsScanScansAgainAfterEachInstallation()
-    {
-        Workshop shop;
-        shop.writePayload("x", "x");
-        shop.folder("A");
-        shop.folder("B");
-        shop.folder("C");
-        shop.writeCatalogue(R"([
-            {"name": "A", "type": 1, "location": 1, "path": "$ROOT/A",
-                "files": [{"source": "x", "destination": "x"}]},
-            {"name": "B", "type": 1, "location": 1, "path": "$ROOT/B",
-                "files": [{"source": "x", "destination": "p/x"}]},
-            {"name": "C", "type": 1, "location": 1, "path": "$ROOT/C",
-                "files": [{"source": "x", "destination": "p/x"}]}])");
-        shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
-        QCOMPARE(shop.entryCount(), 4 * 3);
-        QCOMPARE(shop.rowNames().join(u' '), QStringLiteral("C B A"));
-        QCOMPARE(shop.boxes(),
-                 QStringList(box(boxTitle(),
-                                 QStringLiteral("Quillmont Orbwell have successfully installed "
-                                                "Orbwell plugin to  C B A."))));
-    }
-
-    void aSilentScanInstalls_data()
+    // The button's scan scans again after each installation, and only then the window changes.
+    void installsInTheButtonsScanAndInEverySilentOne_data()
     {
         QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("silent");
         QTest::addColumn<bool>("saysSo");
-        QTest::newRow("none") << 0 << false;
-        QTest::newRow("install") << 1 << true;
-        QTest::newRow("uninstall") << 2 << false;
-        QTest::newRow("repair") << 3 << false;
-        QTest::newRow("scan and install") << 4 << false;
+        QTest::addColumn<int>("scans");
+        QTest::newRow("the button's") << 4 << false << true << 4;
+        QTest::newRow("none") << 0 << true << false << 1;
+        QTest::newRow("install") << 1 << true << true << 1;
+        QTest::newRow("uninstall") << 2 << true << false << 1;
+        QTest::newRow("repair") << 3 << true << false << 1;
+        QTest::newRow("scan and install") << 4 << true << false << 4;
     }
 
-    void aSilentScanInstalls()
+    void installsInTheButtonsScanAndInEverySilentOne()
     {
-        QFETCH(int, mode);
-        QFETCH(bool, saysSo);
+        QFETCH(const int, mode);
+        QFETCH(const bool, silent);
+        QFETCH(const bool, saysSo);
+        QFETCH(const int, scans);
         Workshop shop;
         shop.writePayload("x", "new");
-        shop.folder("A");
-        shop.writeCatalogue(R"([{"name": "A", "type": 1, "location": 1, "path": "$ROOT/A",
-            "files": [{"source": "x", "destination": "x"}]}])");
-        shop.controller().startScan(
-            false, true, static_cast<ScanController::InstallationMode>(mode));
-        QCOMPARE(Tests::readFile(shop.path("A/x")), QByteArray("new"));
-        QCOMPARE(shop.record().size(), 1);
-        QCOMPARE(shop.controller().mappings.size(), 1);
-        QCOMPARE(shop.boxes().size(), saysSo ? 1 : 0);
-        QCOMPARE(shop.entryCount(), mode == 4 ? 2 : 1);
-        QCOMPARE(shop.rowNames().size(), mode == 4 ? 1 : 0);
+        for (const char *name : {"A", "B", "C"})
+            shop.folder(name);
+        shop.writeCatalogue('[' + Workshop::simulator("A") + ',' + Workshop::simulator("B") + ','
+                            + Workshop::simulator("C") + ']');
+        shop.controller().startScan(false, silent, static_cast<Mode>(mode));
+        for (const char *name : {"A/p/x", "B/p/x", "C/p/x"})
+            QCOMPARE(readFile(shop.path(name)), QByteArray("new"));
+        QCOMPARE(shop.record().size(), 3);
+        QCOMPARE(shop.controller().mappings.size(), 3);
+        QCOMPARE(shop.boxes(),
+                 saysSo ? QStringList(autoInstalledBox({"Sim C"_s, "Sim B"_s, "Sim A"_s}))
+                        : QStringList());
+        QCOMPARE(shop.entryCount(), 3 * scans);
+        QCOMPARE(shop.rowNames().join(u' '), scans > 1 ? "Sim C Sim B Sim A"_s : QString());
     }
 
-    void nothingIsDeletedBetweenScans()
+    void deletesNothingBetweenScans()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
@@ -307,39 +259,31 @@ private slots:
             QCOMPARE(mapping->scan->parent(), &shop.controller());
             first.append(mapping);
         }
-        const auto *second = shop.controller().mappings.constFirst();
         shop.controller().startScan(false, true, ScanController::ModeNone);
-        startScan(shop);
+        scanForTheWindow(shop);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!first.contains(nullptr));
-        QVERIFY(shop.controller().mappings.constFirst() != second);
+        QVERIFY(shop.controller().mappings.constFirst() != first.constFirst());
         QCOMPARE(shop.entryCount(), 9);
         shop.dropController();
         QCOMPARE(first.count(nullptr), 3);
     }
 
-    void theWindowLearnsWhetherToTakeUpChosenFolders_data()
+    void tellsTheWindowWhetherToTakeUpChosenFoldersAndToBeQuiet()
     {
-        QTest::addColumn<bool>("updateDefault");
-        QTest::newRow("take up") << true;
-        QTest::newRow("forget") << false;
+        for (const bool updateDefault : {true, false}) {
+            Workshop shop;
+            shop.writeCatalogue(R"([{"name": "One", "location": 3}])");
+            auto *settings = ConfigurationController::instance();
+            settings->saveSettings("flightsim/One"_s, shop.folder("chosen"));
+            shop.controller().startScan(updateDefault, false, ScanController::ModeNone);
+            QCOMPARE(rows(shop), updateDefault ? "One=$ROOT/chosen"_s : "One="_s);
+            QCOMPARE(settings->getSettings("flightsim/One"_s).isNull(), !updateDefault);
+            QCOMPARE(shop.boxes(), QStringList());
+        }
     }
 
-    void theWindowLearnsWhetherToTakeUpChosenFolders()
-    {
-        QFETCH(bool, updateDefault);
-        Workshop shop;
-        shop.writeCatalogue(R"([{"name": "One", "location": 3}])");
-        auto *settings = ConfigurationController::instance();
-        settings->saveSettings(QStringLiteral("flightsim/One"), shop.folder("chosen"));
-        shop.controller().startScan(updateDefault, false, ScanController::ModeNone);
-        QCOMPARE(shop.rowPaths(), QStringList(updateDefault ? shop.path("chosen") : QString()));
-        QCOMPARE(settings->getSettings(QStringLiteral("flightsim/One")).isNull(), !updateDefault);
-        // The window is always asked to be quiet.
-        QVERIFY(shop.boxes().isEmpty());
-    }
-
-    void wrongTypesGiveDefaults()
+    void takesWrongTypesForDefaults()
     {
         Workshop shop;
         shop.writePayload("x", "x");
@@ -348,22 +292,19 @@ private slots:
             "files": "x", "config": 7, "conflict": "y"}, {"name": "Good", "location": 1,
             "path": "$ROOT", "files": [1, null, {"source": 5}], "config": {"path": 5, "values": 7,
             "remove": []}, "conflict": {"name": 5, "solution": {}}}])");
-        startScan(shop);
-        QCOMPARE(shop.rowNames().size(), 8);
-        QCOMPARE(shop.rowNames().constFirst(), QStringLiteral("Good"));
-        QCOMPARE(shop.rowNames().count(QString()), 7);
-        QCOMPARE(shop.rowPaths().count(QString()), 7);
-        const auto disk = shop.disk();
+        scanForTheWindow(shop);
+        QCOMPARE(rows(shop), "Good=$ROOT|=|=|=|=|=|=|="_s);
+        const auto before = shop.disk();
         shop.controller().startScan(false, true, ScanController::ModeNone);
-        auto expected = shop.disk();
+        auto after = shop.disk();
         for (const char *ours : {"Quillmont/Orbwell/.mapping", "Quillmont/Orbwell/.path"})
-            expected.remove(shop.dataPath(ours).mid(shop.sandbox.root().size() + 1));
-        for (auto it = expected.cbegin(); it != expected.cend(); ++it)
-            QCOMPARE(disk.value(it.key(), "not there before"), it.value());
-        QVERIFY(shop.boxes().isEmpty());
+            after.remove(QDir(shop.sandbox.root()).relativeFilePath(shop.dataPath(ours)));
+        for (auto it = after.cbegin(); it != after.cend(); ++it)
+            QCOMPARE(before.value(it.key(), "not there before"), it.value());
+        QCOMPARE(shop.boxes(), QStringList());
     }
 
-    void aHugeCatalogueIsReadWhole()
+    void readsAHugeCatalogueWhole()
     {
         Workshop shop;
         QByteArray catalogue = "[";
@@ -375,11 +316,11 @@ private slots:
         const auto &mappings = shop.controller().mappings;
         QCOMPARE(mappings.size(), 20001);
         QCOMPARE(mappings.constFirst()->scan->name.size(), 1000000);
-        QCOMPARE(mappings.at(1)->scan->name, QStringLiteral("Simulator 19999"));
-        QCOMPARE(mappings.constLast()->scan->name, QStringLiteral("Simulator 0"));
+        QCOMPARE(mappings.at(1)->scan->name, "Simulator 19999"_s);
+        QCOMPARE(mappings.constLast()->scan->name, "Simulator 0"_s);
     }
 
-    void theBusyPointerIsUpWhileItWorks()
+    void hasTheBusyPointerUpWhileItWorks()
     {
         Workshop shop;
         shop.writeCatalogue(R"([{"location": 1}])");
@@ -395,22 +336,17 @@ private slots:
         QVERIFY(!QApplication::overrideCursor());
     }
 
-    void aScanMakesTheToolkitWarnOfNothing()
+    void makesQtWarnOfNothing()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
-        startScan(shop);
-        startScan(shop);
+        scanForTheWindow(shop);
+        scanForTheWindow(shop);
         QCOMPARE(shop.warnings(), QString());
     }
 
 private:
     SettingsHome m_settingsHome;
-
-    static void startScan(Workshop &shop)
-    {
-        shop.controller().startScan(true, false, ScanController::ModeNone);
-    }
 };
 
 QTEST_MAIN(TestScanSession)
