@@ -88,6 +88,7 @@ void Program::setVariable(const char *name, const QString &value)
 
 void Program::start(const QStringList &arguments)
 {
+    m_errors.clear();
     m_process.setProcessEnvironment(m_environment);
     if (m_calledAs.isEmpty()) {
         QStringList command = m_tracer + QStringList(m_executable) + arguments;
@@ -255,7 +256,8 @@ int Program::exitStatus()
 
 QByteArray Program::standardError()
 {
-    return m_process.readAllStandardError();
+    m_errors += m_process.readAllStandardError();
+    return m_errors;
 }
 
 } // namespace Tests

@@ -85,7 +85,7 @@ public:
     bool waitFor(const std::function<bool()> &condition, const char *what);
     /// Waits for the end of the process and gives its exit status, -1 after a crash.
     int exitStatus();
-    /// What it has written to standard error so far.
+    /// All that it has written to standard error since its start, at each call.
     QByteArray standardError();
 
 private:
@@ -106,6 +106,7 @@ private:
     QString m_calledAs;
     QStringList m_tracer;
     QProcessEnvironment m_environment;
+    QByteArray m_errors;
     Process m_process;
 };
 
