@@ -7,7 +7,7 @@ namespace Quillmont::Utility::Controllers {
 QDebug logAction()
 {
     static const QLoggingCategory category("orbwell");
-    return QMessageLogger().debug(category);
+    return QMessageLogger().info(category);
 }
 
 } // namespace Quillmont::Utility::Controllers

@@ -5,8 +5,9 @@
 
 namespace Quillmont::Utility::Controllers {
 
-/// Where the program writes down what it does, a line an action, for support: the debug log's
-/// category "orbwell". Names and paths come out in quotes; what files hold is never written.
+/// Where the program writes down what it does, one line per action, for support: informational
+/// lines in the category "orbwell". Names and paths come out in quotes; what files hold is never
+/// written.
 QDebug logAction();
 
 } // namespace Quillmont::Utility::Controllers

@@ -1,9 +1,9 @@
 #include "SimDetect/Collector.h"
 
 #include "SimDetect/Candidate.h"
+#include "SimDetect/DetectionLog.h"
 #include "SimDetect/FolderLookup.h"
 
-#include <QDebug>
 #include <QFileInfo>
 
 namespace Quillmont::SimDetect {
@@ -22,7 +22,8 @@ QString printable(const QString &path)
 
 void turnDown(const QString &code, const QString &path, const QString &reason)
 {
-    qDebug().noquote().nospace() << code << " not taken: " << printable(path) << ": " << reason;
+    qCDebug(detectionLog).noquote().nospace()
+        << code << " not taken: " << printable(path) << ": " << reason;
 }
 
 QString whyNotFound(const QString &path)

@@ -1,12 +1,12 @@
 #include "SimDetect/Steam.h"
 
 #include "SimDetect/Candidate.h"
+#include "SimDetect/DetectionLog.h"
 #include "SimDetect/FolderLookup.h"
 #include "SimDetect/SteamLibraryList.h"
 #include "SimDetect/SteamManifest.h"
 #include "SimDetect/SteamRoot.h"
 
-#include <QDebug>
 #include <QFileInfo>
 
 namespace Quillmont::SimDetect {
@@ -76,7 +76,7 @@ QStringList Steam::listedBy(const SteamRoot &root)
             continue;
         const SteamLibraryList list(path, m_lookup.allowance());
         if (!list.problem().isEmpty()) {
-            qDebug().noquote().nospace()
+            qCDebug(detectionLog).noquote().nospace()
                 << "Steam's libraries not read: " << path << ": " << list.problem();
         }
         folders += list.folders();

@@ -2,6 +2,7 @@
 
 #include "Controllers/ActionLog.h"
 #include "Library/Helpers/FileHelper.h"
+#include "Library/Helpers/LibraryLog.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
@@ -18,6 +19,7 @@
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Helpers::XmlHelper;
+using Quillmont::Library::Helpers::xmlLog;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -132,7 +134,7 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     if (mapping->scan->root >= 1)
         return;
     if (!hasConfiguration(mapping)) {
-        qDebug().noquote() << "no configuration entry to add for" << mapping->scan->name;
+        qCDebug(xmlLog).noquote() << "no configuration entry to add for" << mapping->scan->name;
         return;
     }
     qDebug("hit reg search...");

@@ -1,8 +1,8 @@
 #include "Library/Helpers/FileHelper.h"
 
 #include "Library/Helpers/FileWriter.h"
+#include "Library/Helpers/LibraryLog.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QTextCodec>
@@ -36,7 +36,7 @@ bool FileHelper::saveText(const QString &path, const QString &text, const QStrin
 {
     const QString problem = write(path, text, encoding);
     if (!problem.isEmpty())
-        qDebug().noquote().nospace() << "file not written: " << path << ": " << problem;
+        qCDebug(fileLog).noquote().nospace() << "file not written: " << path << ": " << problem;
     return problem.isEmpty();
 }
 

@@ -2,10 +2,10 @@
 
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Helpers/FileWriter.h"
+#include "Library/Helpers/LibraryLog.h"
 #include "Library/Helpers/XmlEntryEditor.h"
 #include "Library/Models/XmlInsertionModel.h"
 
-#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 
@@ -47,7 +47,7 @@ bool change(const QString &path, const Edit &edit)
     if (after != before)
         FileWriter::write(path, after, &problem);
     if (!problem.isEmpty())
-        qDebug().noquote().nospace()
+        qCDebug(xmlLog).noquote().nospace()
             << "configuration file not changed: " << path << ", " << problem;
     return problem.isEmpty();
 }

@@ -22,6 +22,7 @@ private slots:
     void tellsWhyAFileWasNotRemoved();
     void tellsOfAConfigurationThatIsLeftAlone();
     void tellsThatThereIsNoCatalogue();
+    void keepsEachKindOfLineInItsCategory();
     void canBeTurnedOff();
 
 private:
@@ -150,9 +151,49 @@ void TestActionLog::tellsThatThereIsNoCatalogue()
                                           "\"No such file or directory\"")));
 }
 
+// Debug lines of no category are what support has always searched the log for; nothing joins them.
+void TestActionLog::keepsEachKindOfLineInItsCategory()
+{
+    const QStringList kinds{
+        QStringLiteral(
+            R"(default debug (Scanning (files|folders|registry|multiple locations)\.\.\.|file: .+)"
+            R"(|folder: .+|hit reg search\.\.\.|mapping path: .+)"
+            R"(|file backups to '.+'\. Result: (succeed|error)))"),
+        QStringLiteral("orbwell info .+"),
+        QStringLiteral("orbwell\\.detection debug XP12 not taken: .+"),
+        QStringLiteral("orbwell\\.xml debug configuration file not changed: .+"),
+        QStringLiteral("orbwell\\.xml debug no configuration entry to add for Bare"),
+        QStringLiteral("orbwell\\.file debug file not written: .+")};
+    const QString configuration = QStringLiteral("Maker/dll.xml");
+    const QString elsewhere = m_sandbox->path(QStringLiteral("Bare"));
+    QDir().mkpath(elsewhere);
+    QJsonObject bare = launcherEntry(QStringLiteral("Bare"), elsewhere, configuration);
+    bare.remove(QStringLiteral("config"));
+    QJsonArray entries{bare, launcherEntry(QStringLiteral("Skylark"), m_folder, configuration)};
+    for (const int location : {0, 2, 4}) {
+        bare.insert(QStringLiteral("location"), location);
+        entries.append(bare);
+    }
+    place(*m_program, entries);
+    writeFile(m_sandbox->dataRoot() + configuration, "not XML");
+    writeFile(m_sandbox->home() + QStringLiteral("/.x-plane/x-plane_install_12.txt"), "/nowhere\n");
+    QDir().mkpath(m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell/.path"));
+    m_program->setVariable("QT_MESSAGE_PATTERN", QStringLiteral("%{category} %{type} %{message}"));
+    run(quietInstallation());
+
+    QStringList lines
+        = QString::fromUtf8(m_program->standardError()).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &kind : kinds) {
+        const QRegularExpression line(QRegularExpression::anchoredPattern(kind));
+        QVERIFY2(lines.indexOf(line) >= 0, qPrintable(kind));
+        lines = lines.filter(QRegularExpression(QStringLiteral("^(?!%1$)").arg(kind)));
+    }
+    QCOMPARE(lines, QStringList());
+}
+
 void TestActionLog::canBeTurnedOff()
 {
-    m_program->setVariable("QT_LOGGING_RULES", QStringLiteral("orbwell.debug=false"));
+    m_program->setVariable("QT_LOGGING_RULES", QStringLiteral("orbwell.info=false"));
     QCOMPARE(run(quietInstallation()), QStringList());
 }
 

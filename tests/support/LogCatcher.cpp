@@ -28,12 +28,12 @@ bool LogCatcher::hasDebugLineWith(const QString &text) const
 
 void LogCatcher::handle(QtMsgType type, const QMessageLogContext &context, const QString &line)
 {
-    if (type != QtDebugMsg) {
-        s_current->m_warnings.append(line);
+    if (type == QtInfoMsg && qstrcmp(context.category, "orbwell") == 0) {
+        s_current->m_actions.append(line);
         return;
     }
-    if (qstrcmp(context.category, "orbwell") == 0) {
-        s_current->m_actions.append(line);
+    if (type != QtDebugMsg) {
+        s_current->m_warnings.append(line);
         return;
     }
     s_current->m_debugLines.append(line);

@@ -17,13 +17,13 @@ public:
     LogCatcher(const LogCatcher &) = delete;
     LogCatcher &operator=(const LogCatcher &) = delete;
 
-    /// The debug lines so far, in order, without those of the category "orbwell".
+    /// The debug lines of every category so far, in order.
     QStringList debugLines() const { return m_debugLines; }
 
-    /// The lines of the category "orbwell" so far, in order.
+    /// The informational lines of the category "orbwell" so far, in order.
     QStringList actions() const { return m_actions; }
 
-    /// The warnings and worse so far, in order.
+    /// All other lines so far, in order.
     QStringList warnings() const { return m_warnings; }
 
     /// Whether some debug line holds @p text.
