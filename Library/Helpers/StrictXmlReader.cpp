@@ -1,17 +1,25 @@
 #include "Library/Helpers/StrictXmlReader.h"
 
+#include "Library/Helpers/EntityGrowth.h"
+#include "Library/Helpers/XmlCharacters.h"
+
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace Quillmont::Library::Helpers {
 
 namespace {
 
-bool isName(const QStringRef &name)
+constexpr int maxEntitySize = 4096;
+constexpr int maxGrowth = 16 * 1024 * 1024;
+
+// The reader takes the parts of an XML declaration as often as they come.
+bool hasDoubledDeclaration(const QString &text)
 {
-    return std::all_of(name.cbegin(), name.cend(), [](QChar character) {
-        return character >= QChar(0x80) || character.isLetterOrNumber()
-            || QStringLiteral("_:-.").contains(character);
-    });
+    static const QRegularExpression doubled(
+        QStringLiteral(R"(^<\?xml\s[^>]*\b(version|encoding|standalone)\s*=[^>]*\b\1\s*=)"));
+    return doubled.match(text).hasMatch();
 }
 
 } // namespace
@@ -21,6 +29,9 @@ StrictXmlReader::StrictXmlReader(const QString &text)
     , m_text(text)
 {
     setNamespaceProcessing(false);
+    // Until the declarations are read, any reference may be one that grows.
+    setEntityExpansionLimit(
+        std::min(maxEntitySize, maxGrowth / (text.count(u'&') + text.count(u'%') + 1)));
     // The reader would pass over it, and count one character less than there are.
     if (text.startsWith(QChar(QChar::ByteOrderMark)))
         raiseError(QStringLiteral("Second byte-order mark."));
@@ -30,11 +41,15 @@ QXmlStreamReader::TokenType StrictXmlReader::next()
 {
     const TokenType type = readNext();
     if (type == StartElement)
-        checkAttributes();
-    else if (type == ProcessingInstruction && !isName(processingInstructionTarget()))
+        checkNames();
+    else if (type == EntityReference && !XmlCharacters::isName(name()))
+        raiseError(QStringLiteral("Invalid entity name."));
+    else if (type == ProcessingInstruction && !XmlCharacters::isName(processingInstructionTarget()))
         raiseError(QStringLiteral("Invalid processing instruction name."));
     else if (type == DTD)
-        limitEntities();
+        checkDeclarations();
+    else if (type == StartDocument && hasDoubledDeclaration(m_text))
+        raiseError(QStringLiteral("Invalid XML declaration."));
     return type;
 }
 
@@ -51,21 +66,26 @@ QString StrictXmlReader::sentence(qint64 line, qint64 column, const QString &rea
              reason.simplified());
 }
 
-void StrictXmlReader::checkAttributes()
+void StrictXmlReader::checkNames()
 {
+    if (!XmlCharacters::isName(qualifiedName()))
+        raiseError(QStringLiteral("Invalid element name."));
     const QXmlStreamAttributes all = attributes();
     for (const QXmlStreamAttribute &attribute : all) {
-        if (!isName(attribute.qualifiedName()))
+        if (!XmlCharacters::isName(attribute.qualifiedName()))
             raiseError(QStringLiteral("Invalid attribute name."));
     }
 }
 
 // The reader limits what one reference grows to, not their number.
-void StrictXmlReader::limitEntities()
+void StrictXmlReader::checkDeclarations()
 {
-    constexpr int biggestGrowth = 16 * 1024 * 1024;
-    const int limit = biggestGrowth / (m_text.count(u'&') + 1);
-    setEntityExpansionLimit(std::min(limit, entityExpansionLimit()));
+    if (!XmlCharacters::fitDeclarations(text()))
+        raiseError(QStringLiteral("Invalid character in the document type declaration."));
+    setEntityExpansionLimit(maxEntitySize);
+    EntityGrowth growth(entityDeclarations(), maxGrowth);
+    if (growth.of(m_text.midRef(static_cast<int>(characterOffset()))) > maxGrowth)
+        raiseError(QStringLiteral("Entities grow to too much text."));
 }
 
 } // namespace Quillmont::Library::Helpers

@@ -6,8 +6,8 @@
 namespace Quillmont::Library::Helpers {
 
 /// Reads a document of the text that it is given, and refuses what QXmlStreamReader lets pass:
-/// malformed names, and small entities that many references make big. Prefixes are part of the
-/// names; one that nobody declared is a mistake that simulators live with.
+/// malformed names and declarations, and small entities that many references make big. Prefixes are
+/// part of the names; one that nobody declared is a mistake that simulators live with.
 class StrictXmlReader : public QXmlStreamReader
 {
 public:
@@ -24,8 +24,8 @@ public:
     static QString sentence(qint64 line, qint64 column, const QString &reason);
 
 private:
-    void checkAttributes();
-    void limitEntities();
+    void checkNames();
+    void checkDeclarations();
 
     const QString &m_text;
 };

@@ -1,6 +1,7 @@
 #include "Library/Helpers/XmlDocument.h"
 
 #include "Library/Helpers/StrictXmlReader.h"
+#include "Library/Helpers/XmlCharacters.h"
 
 #include <utility>
 
@@ -23,6 +24,9 @@ XmlDocument::XmlDocument(const QString &text, const Filter &isWanted)
     : m_text(text)
 {
     read(isWanted);
+    const int forbidden = XmlCharacters::indexOfForbidden(text);
+    if (m_problem.isEmpty() && forbidden >= 0)
+        m_problem = problemAt(forbidden, QStringLiteral("No XML has this character."));
     if (!m_problem.isEmpty())
         return;
     locateAll();

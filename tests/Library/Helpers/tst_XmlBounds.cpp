@@ -21,6 +21,7 @@ private slots:
     void cleanup();
     void entityBombIsRefused_data();
     void entityBombIsRefused();
+    void entitiesOfAnHonestSizeAreRead_data();
     void entitiesOfAnHonestSizeAreRead();
     void deepNestingIsEdited();
     void manyEntriesAreEdited();
@@ -34,6 +35,22 @@ private slots:
 private:
     QElapsedTimer m_timer;
 };
+
+// A document in which one entity, used so often, adds so many characters each time.
+static QByteArray grown(int size, int times, const QByteArray &beside)
+{
+    return "<!DOCTYPE R [<!ENTITY x 'x'><!ENTITY a '" + QByteArray(size, 'x') + "'>]>\n<R><A>"
+        + QByteArray("&a;").repeated(times) + "</A>" + beside + "</R>";
+}
+
+// A document in which one entity holds the next, and so on.
+static QByteArray nested(int depth)
+{
+    QByteArray bytes = "<!DOCTYPE R [<!ENTITY a1 'x'>";
+    for (int i = 2; i <= depth; ++i)
+        bytes += QStringLiteral("<!ENTITY a%1 '&a%2;'>").arg(i).arg(i - 1).toLatin1();
+    return bytes + "]>\n<R>&a" + QByteArray::number(depth) + ";</R>";
+}
 
 void TestXmlBounds::init()
 {
@@ -72,6 +89,15 @@ void TestXmlBounds::entityBombIsRefused_data()
         << "<!DOCTYPE R [<!ENTITY a '" + QByteArray(100000, 'x') + "'>]>\n<R>&a;</R>";
     QTest::newRow("in itself") << QByteArray(
         "<!DOCTYPE R [<!ENTITY a '&b;'><!ENTITY b '&a;'>]>\n<R>&a;</R>");
+    QTest::newRow("in defaults of attributes")
+        << QByteArray(small).replace("]>\n<R>", "<!ATTLIST R b CDATA '" + many + "'>]>\n<R/>");
+    QTest::newRow("of the declarations' own") << "<!DOCTYPE R [<!ENTITY % a '<!--"
+            + QByteArray(4000, 'x') + "-->'>" + QByteArray(many).replace('&', '%') + "]>\n<R/>";
+    QTest::newRow("behind a small one of the declarations' own")
+        << QByteArray(small).replace("[", "[<!ENTITY % a ''>") + many + "</R>";
+    QTest::newRow("one character more than one may have") << grown(4100, 1, "");
+    QTest::newRow("one character more than all may have") << grown(4096, 4096, "&x;");
+    QTest::newRow("one deeper than they may be") << nested(101);
 }
 
 void TestXmlBounds::entityBombIsRefused()
@@ -83,12 +109,30 @@ void TestXmlBounds::entityBombIsRefused()
     QVERIFY(m_timer.elapsed() < 10000);
 }
 
+void TestXmlBounds::entitiesOfAnHonestSizeAreRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray head = "<!DOCTYPE R [<!ENTITY a 'Harbour and Sons'>]>\n<R>\n";
+    QTest::newRow("a short one many times")
+        << head + QByteArray(" <A>&a;</A>\n").repeated(4200) + "</R>";
+    QTest::newRow("a long one once, beside what every document has")
+        << grown(3000, 1, QByteArray("&amp;&#65;").repeated(8000));
+    QTest::newRow("a short one with what every document has")
+        << QByteArray(head).replace("and", "&#38;amp;") + QByteArray("&a;").repeated(50000)
+            + "</R>";
+    const QByteArray names = QByteArray("&a;").repeated(5000);
+    QTest::newRow("where they are only text")
+        << grown(4096, 1, "<!--" + names + "--><![CDATA[" + names + "]]><?p " + names + "?>");
+    QTest::newRow("as long as one may be") << grown(4099, 1, "");
+    QTest::newRow("as much as all may be") << grown(4096, 4096, "");
+    QTest::newRow("as deep as they may be") << nested(100);
+}
+
 void TestXmlBounds::entitiesOfAnHonestSizeAreRead()
 {
+    QFETCH(const QByteArray, bytes);
     Tests::RoundTrip roundTrip(path());
-    const QByteArray head = "<!DOCTYPE R [<!ENTITY a 'Harbour and Sons'>]>\n<R>\n";
-    QCOMPARE(roundTrip.broken(head + QByteArray(" <A>&a;</A>\n").repeated(4200) + "</R>"),
-             QString());
+    QCOMPARE(roundTrip.broken(bytes), QString());
     QVERIFY(roundTrip.wasAccepted());
 }
 

@@ -1,0 +1,80 @@
+#include "Library/Helpers/XmlCharacters.h"
+
+#include <QRegularExpression>
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace Quillmont::Library::Helpers {
+
+namespace {
+
+bool isNameCharacter(QChar character)
+{
+    static constexpr std::array<std::pair<ushort, ushort>, 18> ranges{{{u'-', u'.'},
+                                                                       {u'0', u':'},
+                                                                       {u'A', u'Z'},
+                                                                       {u'_', u'_'},
+                                                                       {u'a', u'z'},
+                                                                       {0x00b7, 0x00b7},
+                                                                       {0x00c0, 0x00d6},
+                                                                       {0x00d8, 0x00f6},
+                                                                       {0x00f8, 0x037d},
+                                                                       {0x037f, 0x1fff},
+                                                                       {0x200c, 0x200d},
+                                                                       {0x203f, 0x2040},
+                                                                       {0x2070, 0x218f},
+                                                                       {0x2c00, 0x2fef},
+                                                                       {0x3001, 0xdb7f},
+                                                                       {0xdc00, 0xdfff},
+                                                                       {0xf900, 0xfdcf},
+                                                                       {0xfdf0, 0xfffd}}};
+    return std::any_of(ranges.cbegin(), ranges.cend(), [character](const auto &range) {
+        return character >= QChar(range.first) && character <= QChar(range.second);
+    });
+}
+
+// The reader knows this of the characters below U+0080.
+bool mayComeFirst(QChar character)
+{
+    const ushort code = character.unicode();
+    return code != 0x00b7 && (code < 0x0300 || code > 0x036f) && (code < 0x203f || code > 0x2040);
+}
+
+} // namespace
+
+bool XmlCharacters::isName(const QStringRef &name)
+{
+    return !name.isEmpty() && mayComeFirst(name.at(0))
+        && std::all_of(name.cbegin(), name.cend(), isNameCharacter);
+}
+
+// The reader takes any of them for one of a name.
+bool XmlCharacters::fitDeclarations(const QStringRef &declarations)
+{
+    static const QRegularExpression texts(
+        QStringLiteral("<!--.*?-->|<\\?.*?\\?>|\"[^\"]*\"|'[^']*'"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const QString markup = declarations.toString().remove(texts);
+    const auto isStray = [](QChar before, QChar character) {
+        const bool isPlain = character < QChar(0x7f)
+            && (character.isPrint() || QStringLiteral("\t\r\n").contains(character));
+        return isNameCharacter(character) ? !mayComeFirst(character) && !isNameCharacter(before)
+                                          : !isPlain;
+    };
+    return std::adjacent_find(markup.cbegin(), markup.cend(), isStray) == markup.cend();
+}
+
+int XmlCharacters::indexOfForbidden(const QString &text)
+{
+    const auto *const found = std::find_if(text.cbegin(), text.cend(), [](QChar character) {
+        return character > QChar(0xfffd)
+            || (character < QChar(0x20) && character != u'\t' && character != u'\r'
+                && character != u'\n');
+    });
+    return found == text.cend() ? -1 : static_cast<int>(found - text.cbegin());
+}
+
+} // namespace Quillmont::Library::Helpers

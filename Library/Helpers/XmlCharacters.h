@@ -1,0 +1,26 @@
+#ifndef LIBRARY_HELPERS_XMLCHARACTERS_H
+#define LIBRARY_HELPERS_XMLCHARACTERS_H
+
+class QString;
+class QStringRef;
+
+namespace Quillmont::Library::Helpers {
+
+/// Which characters XML 1.0 allows where.
+class XmlCharacters
+{
+public:
+    /// Whether it can be the name of anything, given that a reader took it for one.
+    static bool isName(const QStringRef &name);
+
+    /// Whether a document type declaration has no character outside its literals, comments and
+    /// processing instructions that belongs nowhere.
+    static bool fitDeclarations(const QStringRef &declarations);
+
+    /// The place of the first character that no document may hold; -1 without one.
+    static int indexOfForbidden(const QString &text);
+};
+
+} // namespace Quillmont::Library::Helpers
+
+#endif
