@@ -1,7 +1,7 @@
 #include "Library/Helpers/XmlDocument.h"
 
-#include "Library/Helpers/StrictXmlReader.h"
-#include "Library/Helpers/XmlCharacters.h"
+#include "Library/Xml/XmlCharacters.h"
+#include "Library/Xml/XmlReader.h"
 
 #include <utility>
 
@@ -10,7 +10,7 @@ namespace Quillmont::Library::Helpers {
 namespace {
 
 template <typename Element>
-Element opened(const QXmlStreamReader &reader)
+Element opened(const Xml::XmlReader &reader)
 {
     Element element;
     element.name = reader.qualifiedName().toString();
@@ -24,7 +24,7 @@ XmlDocument::XmlDocument(const QString &text, const Filter &isWanted)
     : m_text(text)
 {
     read(isWanted);
-    const int forbidden = XmlCharacters::indexOfForbidden(text);
+    const int forbidden = Xml::XmlCharacters::indexOfForbidden(text);
     if (m_problem.isEmpty() && forbidden >= 0)
         m_problem = problemAt(forbidden, QStringLiteral("No XML has this character."));
     if (!m_problem.isEmpty())
@@ -44,7 +44,7 @@ QString XmlDocument::problemAt(int place, const QString &reason) const
         line += isEnd ? 1 : 0;
         lineBegin = isEnd ? i + 1 : lineBegin;
     }
-    return StrictXmlReader::sentence(line, place - lineBegin + 1, reason);
+    return Xml::XmlReader::sentence(line, place - lineBegin + 1, reason);
 }
 
 int XmlDocument::tagBegin(int end) const
@@ -55,7 +55,7 @@ int XmlDocument::tagBegin(int end) const
 
 void XmlDocument::read(const Filter &isWanted)
 {
-    StrictXmlReader reader(m_text);
+    Xml::XmlReader reader(m_text);
     while (!reader.atEnd()) {
         switch (reader.next()) {
         case QXmlStreamReader::StartElement:
@@ -78,7 +78,7 @@ void XmlDocument::read(const Filter &isWanted)
     m_problem = reader.problem();
 }
 
-void XmlDocument::begin(const QXmlStreamReader &reader)
+void XmlDocument::begin(const Xml::XmlReader &reader)
 {
     ++m_depth;
     if (m_depth == 1)
@@ -91,7 +91,7 @@ void XmlDocument::begin(const QXmlStreamReader &reader)
         m_child.isPlain = false;
 }
 
-void XmlDocument::end(const QXmlStreamReader &reader, const Filter &isWanted)
+void XmlDocument::end(const Xml::XmlReader &reader, const Filter &isWanted)
 {
     const auto place = static_cast<int>(reader.characterOffset());
     if (m_depth == 3) {

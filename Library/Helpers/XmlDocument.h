@@ -8,7 +8,9 @@
 
 #include <functional>
 
-class QXmlStreamReader;
+namespace Quillmont::Library::Xml {
+class XmlReader;
+} // namespace Quillmont::Library::Xml
 
 namespace Quillmont::Library::Helpers {
 
@@ -55,8 +57,8 @@ public:
 
 private:
     void read(const Filter &isWanted);
-    void begin(const QXmlStreamReader &reader);
-    void end(const QXmlStreamReader &reader, const Filter &isWanted);
+    void begin(const Xml::XmlReader &reader);
+    void end(const Xml::XmlReader &reader, const Filter &isWanted);
     void locateAll();
     void locate(XmlElement *element) const;
     bool isTagAt(int place, const QString &tag) const;

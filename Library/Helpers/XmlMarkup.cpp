@@ -1,6 +1,6 @@
 #include "Library/Helpers/XmlMarkup.h"
 
-#include "Library/Helpers/StrictXmlReader.h"
+#include "Library/Xml/XmlReader.h"
 
 #include <QDomDocument>
 #include <QTextStream>
@@ -12,11 +12,16 @@ namespace {
 // Whether @p markup is one element and means just @p name and @p text.
 bool means(const QString &markup, const QString &name, const QString &text)
 {
-    StrictXmlReader reader(markup);
-    const bool isNamed = reader.readNextStartElement() && reader.qualifiedName() == name
-        && reader.attributes().isEmpty();
-    return isNamed && reader.readElementText() == text
-        && reader.readNext() == QXmlStreamReader::EndDocument;
+    Xml::XmlReader reader(markup);
+    reader.next();
+    const bool isNamed = reader.next() == QXmlStreamReader::StartElement
+        && reader.qualifiedName() == name && reader.attributes().isEmpty();
+
+    QString content;
+    while (reader.next() == QXmlStreamReader::Characters)
+        content += reader.text();
+    return isNamed && content == text && reader.isEndElement()
+        && reader.next() == QXmlStreamReader::EndDocument;
 }
 
 } // namespace

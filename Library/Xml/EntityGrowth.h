@@ -1,10 +1,10 @@
-#ifndef LIBRARY_HELPERS_ENTITYGROWTH_H
-#define LIBRARY_HELPERS_ENTITYGROWTH_H
+#ifndef LIBRARY_XML_ENTITYGROWTH_H
+#define LIBRARY_XML_ENTITYGROWTH_H
 
 #include <QHash>
 #include <QXmlStreamReader>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 /// What the entities that a document declares add to its text.
 class EntityGrowth
@@ -27,6 +27,6 @@ private:
     QHash<QString, int> m_growths;
 };
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml
 
 #endif

@@ -1,13 +1,13 @@
-#include "Library/Helpers/StrictXmlReader.h"
+#include "Library/Xml/XmlReader.h"
 
-#include "Library/Helpers/EntityGrowth.h"
-#include "Library/Helpers/XmlCharacters.h"
+#include "Library/Xml/EntityGrowth.h"
+#include "Library/Xml/XmlCharacters.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 namespace {
 
@@ -24,7 +24,7 @@ bool hasDoubledDeclaration(const QString &text)
 
 } // namespace
 
-StrictXmlReader::StrictXmlReader(const QString &text)
+XmlReader::XmlReader(const QString &text)
     : QXmlStreamReader(text)
     , m_text(text)
 {
@@ -37,7 +37,7 @@ StrictXmlReader::StrictXmlReader(const QString &text)
         raiseError(QStringLiteral("Second byte-order mark."));
 }
 
-QXmlStreamReader::TokenType StrictXmlReader::next()
+QXmlStreamReader::TokenType XmlReader::next()
 {
     const TokenType type = readNext();
     if (type == StartElement)
@@ -53,12 +53,12 @@ QXmlStreamReader::TokenType StrictXmlReader::next()
     return type;
 }
 
-QString StrictXmlReader::problem() const
+QString XmlReader::problem() const
 {
     return hasError() ? sentence(lineNumber(), columnNumber(), errorString()) : QString();
 }
 
-QString StrictXmlReader::sentence(qint64 line, qint64 column, const QString &reason)
+QString XmlReader::sentence(qint64 line, qint64 column, const QString &reason)
 {
     return QStringLiteral("line %1, column %2: %3")
         .arg(QString::number(line),
@@ -66,7 +66,7 @@ QString StrictXmlReader::sentence(qint64 line, qint64 column, const QString &rea
              reason.simplified());
 }
 
-void StrictXmlReader::checkNames()
+void XmlReader::checkNames()
 {
     if (!XmlCharacters::isName(qualifiedName()))
         raiseError(QStringLiteral("Invalid element name."));
@@ -78,7 +78,7 @@ void StrictXmlReader::checkNames()
 }
 
 // The reader limits what one reference grows to, not their number.
-void StrictXmlReader::checkDeclarations()
+void XmlReader::checkDeclarations()
 {
     if (!XmlCharacters::fitDeclarations(text()))
         raiseError(QStringLiteral("Invalid character in the document type declaration."));
@@ -88,4 +88,4 @@ void StrictXmlReader::checkDeclarations()
         raiseError(QStringLiteral("Entities grow to too much text."));
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml

@@ -1,11 +1,11 @@
-#include "Library/Helpers/EntityGrowth.h"
+#include "Library/Xml/EntityGrowth.h"
 
 #include <QPair>
 #include <QVector>
 
 #include <algorithm>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 namespace {
 
@@ -82,4 +82,4 @@ int EntityGrowth::ofEntity(const QString &name)
     return m_growths.value(name);
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml

@@ -1,10 +1,10 @@
-#ifndef LIBRARY_HELPERS_XMLCHARACTERS_H
-#define LIBRARY_HELPERS_XMLCHARACTERS_H
+#ifndef LIBRARY_XML_XMLCHARACTERS_H
+#define LIBRARY_XML_XMLCHARACTERS_H
 
 class QString;
 class QStringRef;
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 /// Which characters XML 1.0 allows where.
 class XmlCharacters
@@ -21,6 +21,6 @@ public:
     static int indexOfForbidden(const QString &text);
 };
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml
 
 #endif

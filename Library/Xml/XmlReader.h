@@ -1,18 +1,26 @@
-#ifndef LIBRARY_HELPERS_STRICTXMLREADER_H
-#define LIBRARY_HELPERS_STRICTXMLREADER_H
+#ifndef LIBRARY_XML_XMLREADER_H
+#define LIBRARY_XML_XMLREADER_H
 
 #include <QXmlStreamReader>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 /// Reads a document of the text that it is given, and refuses what QXmlStreamReader lets pass:
 /// malformed names and declarations, and small entities that many references make big. Prefixes are
 /// part of the names; one that nobody declared is a mistake that simulators live with.
-class StrictXmlReader : public QXmlStreamReader
+class XmlReader : private QXmlStreamReader
 {
 public:
-    /// @p text has to live as long as this.
-    explicit StrictXmlReader(const QString &text);
+    // Nothing that reads on: that would go past the checks.
+    using QXmlStreamReader::atEnd;
+    using QXmlStreamReader::attributes;
+    using QXmlStreamReader::characterOffset;
+    using QXmlStreamReader::isEndElement;
+    using QXmlStreamReader::qualifiedName;
+    using QXmlStreamReader::text;
+    using QXmlStreamReader::TokenType;
+
+    explicit XmlReader(const QString &text);
 
     /// Goes on to the next token, and answers its type.
     TokenType next();
@@ -27,9 +35,9 @@ private:
     void checkNames();
     void checkDeclarations();
 
-    const QString &m_text;
+    QString m_text;
 };
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml
 
 #endif

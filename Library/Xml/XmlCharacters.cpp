@@ -1,4 +1,4 @@
-#include "Library/Helpers/XmlCharacters.h"
+#include "Library/Xml/XmlCharacters.h"
 
 #include <QRegularExpression>
 #include <QString>
@@ -7,7 +7,7 @@
 #include <array>
 #include <utility>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 namespace {
 
@@ -77,4 +77,4 @@ int XmlCharacters::indexOfForbidden(const QString &text)
     return found == text.cend() ? -1 : static_cast<int>(found - text.cbegin());
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml
