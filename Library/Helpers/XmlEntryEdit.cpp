@@ -1,19 +1,19 @@
 #include "Library/Helpers/XmlEntryEdit.h"
 
-#include "Library/Helpers/EncodedText.h"
 #include "Library/Helpers/XmlBlank.h"
 #include "Library/Helpers/XmlDocument.h"
 #include "Library/Helpers/XmlEntryMatch.h"
 #include "Library/Helpers/XmlLayout.h"
 #include "Library/Helpers/XmlMarkup.h"
 #include "Library/Models/XmlInsertionModel.h"
+#include "Library/Text/XmlSource.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace Quillmont::Library::Helpers {
 
-XmlEntryEdit::XmlEntryEdit(const EncodedText &source, const XmlDocument &document)
+XmlEntryEdit::XmlEntryEdit(const Text::XmlSource &source, const XmlDocument &document)
     : m_source(source)
     , m_document(document)
 { }

@@ -1,8 +1,8 @@
 #ifndef LIBRARY_HELPERS_XMLENTRYEDIT_H
 #define LIBRARY_HELPERS_XMLENTRYEDIT_H
 
-#include "Library/Helpers/TextSplice.h"
 #include "Library/Models/XmlValues.h"
+#include "Library/Text/TextSplice.h"
 
 #include <QString>
 
@@ -11,9 +11,12 @@ class XmlConfigModel;
 class XmlInsertionModel;
 } // namespace Quillmont::Library::Models
 
+namespace Quillmont::Library::Text {
+class XmlSource;
+} // namespace Quillmont::Library::Text
+
 namespace Quillmont::Library::Helpers {
 
-class EncodedText;
 class XmlDocument;
 struct XmlElement;
 struct XmlEntry;
@@ -24,7 +27,7 @@ class XmlEntryEdit
 {
 public:
     /// @p document is the one that @p source holds; both have to live as long as this.
-    XmlEntryEdit(const EncodedText &source, const XmlDocument &document);
+    XmlEntryEdit(const Text::XmlSource &source, const XmlDocument &document);
 
     /// Makes one entry the only one, and what @p model wants.
     void insert(const Models::XmlInsertionModel &model);
@@ -33,7 +36,7 @@ public:
     void remove(const Models::XmlConfigModel &model);
 
     /// The changes; none if there is nothing to do.
-    const TextSplices &splices() const { return m_splices; }
+    const Text::TextSplices &splices() const { return m_splices; }
 
     /// Why it cannot be done, and where; empty if it can.
     const QString &problem() const { return m_problem; }
@@ -47,9 +50,9 @@ private:
     QString newElement(const QString &name, const QString &text);
     void refuse(const QString &reason);
 
-    const EncodedText &m_source;
+    const Text::XmlSource &m_source;
     const XmlDocument &m_document;
-    TextSplices m_splices;
+    Text::TextSplices m_splices;
     QString m_problem;
 };
 

@@ -1,10 +1,10 @@
 #include "Library/Helpers/XmlEntryEditor.h"
 
-#include "Library/Helpers/EncodedText.h"
 #include "Library/Helpers/XmlDocument.h"
 #include "Library/Helpers/XmlEntryEdit.h"
 #include "Library/Helpers/XmlEntryMatch.h"
 #include "Library/Models/XmlInsertionModel.h"
+#include "Library/Text/XmlSource.h"
 
 #include <functional>
 
@@ -17,7 +17,7 @@ using Change = std::function<void(XmlEntryEdit *)>;
 // What stood at both sides of an element may have become the end of a CDATA section.
 QString problemAfterwards(const QByteArray &bytes)
 {
-    const EncodedText source(bytes);
+    const Text::XmlSource source(bytes);
     return XmlDocument(source.text(), [](const XmlEntry &) { return false; }).problem();
 }
 
@@ -26,7 +26,7 @@ QByteArray changed(const QByteArray &bytes,
                    const Change &change,
                    QString *problem)
 {
-    const EncodedText source(bytes);
+    const Text::XmlSource source(bytes);
     const XmlDocument document(source.text(), isOurs);
     *problem = document.problem();
     if (!problem->isEmpty())

@@ -1,17 +1,17 @@
-#include "Library/Helpers/TextEncoding.h"
+#include "Library/Text/XmlEncoding.h"
 
 #include <QHash>
 #include <QTextCodec>
 #include <QVector>
 #include <QXmlStreamReader>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Text {
 
 namespace {
 
 QByteArray encode(const QTextCodec *codec, const QString &text)
 {
-    // The TSCII codec looks at what stands behind the last character, too.
+    // The TSCII codec also looks at what follows the last character.
     const QString padded = text + QString(2, QChar());
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     return codec->fromUnicode(padded.constData(), text.size(), &state);
@@ -23,8 +23,8 @@ QString decode(const QTextCodec *codec, const QByteArray &bytes)
     return codec->toUnicode(bytes.constData(), bytes.size(), &state);
 }
 
-// The toolkit compares a name with all aliases of all its codecs, which takes as long as reading a
-// small file, and does not remember the answer.
+// Qt compares a name with all aliases of all its codecs, which takes as long as reading a small
+// file, and does not remember the answer.
 QTextCodec *codecNamed(const QByteArray &name)
 {
     static QHash<QByteArray, QTextCodec *> known;
@@ -34,7 +34,7 @@ QTextCodec *codecNamed(const QByteArray &name)
     return codec;
 }
 
-// What a byte-order mark says, or the zero in the first character of a file that lacks one.
+// By the byte-order mark, or by the zero byte in the first character of a file that lacks one.
 QTextCodec *markedCodec(const QByteArray &bytes)
 {
     if (bytes.startsWith(QByteArray("<\0", 2)))
@@ -53,7 +53,7 @@ QTextCodec *declaredCodec(const QString &head)
 
 } // namespace
 
-TextEncoding::TextEncoding(const QByteArray &bytes)
+XmlEncoding::XmlEncoding(const QByteArray &bytes)
     : m_codec(markedCodec(bytes))
 {
     const bool marked = m_codec != nullptr;
@@ -63,11 +63,10 @@ TextEncoding::TextEncoding(const QByteArray &bytes)
     if (bytes.startsWith(mark))
         m_markSize = mark.size();
 
-    constexpr int longestDeclaration = 4096;
-    QTextCodec *declared
-        = declaredCodec(decode(m_codec, bytes.mid(m_markSize, longestDeclaration)));
+    constexpr int maxDeclaration = 4096;
+    QTextCodec *declared = declaredCodec(decode(m_codec, bytes.mid(m_markSize, maxDeclaration)));
     const QString bracket = QStringLiteral("<");
-    // A declaration that was legible byte by byte cannot stand in UTF-16, whatever it says.
+    // The declaration was readable as single bytes, so the file is not UTF-16, whatever it claims.
     if (declared && !marked && encode(declared, bracket) == "<")
         m_codec = declared;
     else if (declared)
@@ -77,17 +76,17 @@ TextEncoding::TextEncoding(const QByteArray &bytes)
     m_unit = encoded(bracket).size();
 }
 
-QTextDecoder *TextEncoding::makeDecoder() const
+std::unique_ptr<QTextDecoder> XmlEncoding::makeDecoder() const
 {
-    return m_codec->makeDecoder(QTextCodec::IgnoreHeader);
+    return std::unique_ptr<QTextDecoder>(m_codec->makeDecoder(QTextCodec::IgnoreHeader));
 }
 
-QByteArray TextEncoding::encoded(const QString &text) const
+QByteArray XmlEncoding::encoded(const QString &text) const
 {
     return encode(m_codec, text);
 }
 
-QString TextEncoding::writable(const QString &text) const
+QString XmlEncoding::writable(const QString &text) const
 {
     QString result;
     QHash<QString, bool> known;
@@ -104,7 +103,7 @@ QString TextEncoding::writable(const QString &text) const
     return result;
 }
 
-bool TextEncoding::hasCharacter(const QString &character) const
+bool XmlEncoding::hasCharacter(const QString &character) const
 {
     if (m_asciiOnly && character.at(0) >= QChar(0x80))
         return false;
@@ -115,4 +114,4 @@ bool TextEncoding::hasCharacter(const QString &character) const
     return encoded(character + character) == bytes + bytes && decode(m_codec, bytes) == character;
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Text

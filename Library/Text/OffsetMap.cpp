@@ -1,16 +1,15 @@
-#include "Library/Helpers/DecodedText.h"
+#include "Library/Text/OffsetMap.h"
 
-#include <QScopedPointer>
 #include <QTextCodec>
 #include <QTextDecoder>
 
 #include <algorithm>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Text {
 
 namespace {
 
-// Half a surrogate pair is an undecodable piece like any other.
+// Half a surrogate pair is as invalid as any other bytes that cannot be decoded.
 void replaceLoneSurrogates(QString *text)
 {
     for (int i = 0; i < text->size(); ++i) {
@@ -25,7 +24,7 @@ void replaceLoneSurrogates(QString *text)
 
 } // namespace
 
-DecodedText::DecodedText(const QByteArray &bytes, const TextEncoding &encoding)
+OffsetMap::OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding)
     : m_bytes(bytes)
     , m_encoding(encoding)
 {
@@ -34,11 +33,11 @@ DecodedText::DecodedText(const QByteArray &bytes, const TextEncoding &encoding)
         replaceLoneSurrogates(&m_text);
 }
 
-void DecodedText::decode()
+void OffsetMap::decode()
 {
     // Long enough to be quick, short enough to be searched character by character.
     constexpr int pieceSize = 512;
-    const QScopedPointer<QTextDecoder> decoder(m_encoding.makeDecoder());
+    const auto decoder = m_encoding.makeDecoder();
     m_text.reserve(m_bytes.size() / m_encoding.unit());
     for (int begin = m_encoding.markSize(), end = 0; begin < m_bytes.size(); begin = end) {
         end = pieceEnd(begin, pieceSize);
@@ -49,26 +48,26 @@ void DecodedText::decode()
         m_text += QChar(QChar::ReplacementCharacter);
 }
 
-int DecodedText::pieceEnd(int begin, int size) const
+int OffsetMap::pieceEnd(int begin, int size) const
 {
     int end = std::min(begin + size, m_bytes.size());
-    // Behind an ASCII byte a decoder starts afresh, even after bytes that it does not know.
+    // After an ASCII byte a decoder is in its initial state again, even after invalid bytes.
     while (m_encoding.unit() == 1 && end < m_bytes.size() && (m_bytes.at(end - 1) & 0x80))
         ++end;
     return end;
 }
 
-QVector<int> DecodedText::bytesOf(const QVector<int> &characters) const
+QVector<int> OffsetMap::byteOffsets(const QVector<int> &characters) const
 {
-    const QScopedPointer<QTextDecoder> decoder(m_encoding.makeDecoder());
-    Place here{m_encoding.markSize(), 0};
+    const auto decoder = m_encoding.makeDecoder();
+    Offset here{m_encoding.markSize(), 0};
     const auto advance = [this, &decoder, &here](int byte) {
         const char *bytes = m_bytes.constData() + here.byte;
         here.character += decoder->toUnicode(bytes, byte - here.byte).size();
         here.byte = byte;
     };
 
-    QVector<int> bytes;
+    QVector<int> offsets;
     auto next = m_pieces.cbegin();
     for (const int character : characters) {
         for (; next != m_pieces.cend() && next->character <= character; ++next) {
@@ -81,9 +80,9 @@ QVector<int> DecodedText::bytesOf(const QVector<int> &characters) const
         const QByteArray expected = m_encoding.encoded(m_text.mid(character, 1));
         if (here.character != character + 1 || m_bytes.mid(byte, expected.size()) != expected)
             return {};
-        bytes.append(byte);
+        offsets.append(byte);
     }
-    return bytes;
+    return offsets;
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Text

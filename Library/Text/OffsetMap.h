@@ -1,0 +1,44 @@
+#ifndef LIBRARY_TEXT_OFFSETMAP_H
+#define LIBRARY_TEXT_OFFSETMAP_H
+
+#include "Library/Text/XmlEncoding.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+namespace Quillmont::Library::Text {
+
+/// The text of encoded bytes, and the offset in the bytes of each of its characters. A byte-order
+/// mark is not part of the text; bytes that are invalid in the encoding are U+FFFD in it.
+class OffsetMap
+{
+public:
+    OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding);
+
+    const QString &text() const { return m_text; }
+
+    /// The byte offset of each of @p characters, which are indexes of ASCII characters, ascending.
+    /// Empty when one of them is not encoded as itself.
+    QVector<int> byteOffsets(const QVector<int> &characters) const;
+
+private:
+    struct Offset
+    {
+        int byte;
+        int character;
+    };
+
+    void decode();
+    int pieceEnd(int begin, int size) const;
+
+    QByteArray m_bytes;
+    XmlEncoding m_encoding;
+    QString m_text;
+    /// Where a search can start.
+    QVector<Offset> m_pieces;
+};
+
+} // namespace Quillmont::Library::Text
+
+#endif

@@ -1,0 +1,70 @@
+#include "Library/Text/XmlSource.h"
+
+namespace Quillmont::Library::Text {
+
+XmlSource::XmlSource(const QByteArray &bytes)
+    : m_bytes(bytes)
+    , m_encoding(bytes)
+    , m_offsets(bytes, m_encoding)
+{ }
+
+QByteArray XmlSource::spliced(const TextSplices &splices) const
+{
+    const QVector<int> offsets = byteOffsets(splices);
+    if (offsets.isEmpty())
+        return {};
+
+    QByteArray bytes;
+    int byte = 0;
+    for (int i = 0; i < splices.size(); ++i) {
+        bytes += m_bytes.mid(byte, offsets.at(2 * i) - byte);
+        bytes += m_encoding.encoded(m_encoding.writable(splices.at(i).text));
+        byte = offsets.at(2 * i + 1);
+    }
+    bytes += m_bytes.mid(byte);
+    return reads(bytes, splices) ? bytes : QByteArray();
+}
+
+// Invalid bytes may join into a character, or a shift state reach into what is new.
+bool XmlSource::reads(const QByteArray &bytes, const TextSplices &splices) const
+{
+    const OffsetMap after(bytes, m_encoding);
+    int here = 0;
+    int there = 0;
+    const auto goesOn = [&after, &there](const QStringRef &expected) {
+        const bool isSame = after.text().midRef(there, expected.size()) == expected;
+        there += expected.size();
+        return isSame;
+    };
+    for (const TextSplice &splice : splices) {
+        const QString piece = m_encoding.writable(splice.text);
+        if (!goesOn(text().midRef(here, splice.begin - here)) || !goesOn(QStringRef(&piece)))
+            return false;
+        here = splice.end;
+    }
+    return goesOn(text().midRef(here)) && there == after.text().size();
+}
+
+// Of the begin and the end of each splice, or none at all. A place between two characters is found
+// by the one after it, or where that is not ASCII, by the one before.
+QVector<int> XmlSource::byteOffsets(const TextSplices &splices) const
+{
+    QVector<int> characters;
+    QVector<int> sizes;
+    const auto add = [this, &characters, &sizes](int place) {
+        const bool isAfter = place < text().size() && text().at(place) < QChar(0x80);
+        characters.append(isAfter ? place : place - 1);
+        sizes.append(isAfter ? 0 : m_encoding.unit());
+    };
+    for (const TextSplice &splice : splices) {
+        add(splice.begin);
+        add(splice.end);
+    }
+
+    QVector<int> offsets = m_offsets.byteOffsets(characters);
+    for (int i = 0; i < offsets.size(); ++i)
+        offsets[i] += sizes.at(i);
+    return offsets;
+}
+
+} // namespace Quillmont::Library::Text

@@ -1,0 +1,44 @@
+#ifndef LIBRARY_TEXT_XMLSOURCE_H
+#define LIBRARY_TEXT_XMLSOURCE_H
+
+#include "Library/Text/OffsetMap.h"
+#include "Library/Text/TextSplice.h"
+#include "Library/Text/XmlEncoding.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace Quillmont::Library::Text {
+
+/// The bytes of an XML file as text, and changes of that text as changes of the bytes. Bytes that
+/// are invalid in the file's encoding are U+FFFD in the text, and stay what they are.
+class XmlSource
+{
+public:
+    explicit XmlSource(const QByteArray &bytes);
+
+    const QByteArray &bytes() const { return m_bytes; }
+
+    /// The text, without a byte-order mark.
+    const QString &text() const { return m_offsets.text(); }
+
+    /// Whether every character of @p text can be written as itself.
+    bool canWrite(const QString &text) const { return m_encoding.writable(text) == text; }
+
+    /// The bytes with @p splices made; a character that the encoding lacks is written as a
+    /// character reference. Every splice needs an ASCII character at one side of its begin and of
+    /// its end. A null array if the bytes do not allow it: bytes that stay would be read otherwise.
+    QByteArray spliced(const TextSplices &splices) const;
+
+private:
+    bool reads(const QByteArray &bytes, const TextSplices &splices) const;
+    QVector<int> byteOffsets(const TextSplices &splices) const;
+
+    QByteArray m_bytes;
+    XmlEncoding m_encoding;
+    OffsetMap m_offsets;
+};
+
+} // namespace Quillmont::Library::Text
+
+#endif
