@@ -1,27 +1,27 @@
 #include "Library/Helpers/XmlEntryEdit.h"
 
-#include "Library/Helpers/XmlBlank.h"
-#include "Library/Helpers/XmlDocument.h"
 #include "Library/Helpers/XmlEntryMatch.h"
-#include "Library/Helpers/XmlLayout.h"
-#include "Library/Helpers/XmlMarkup.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Library/Text/XmlSource.h"
+#include "Library/Xml/EntryIndent.h"
+#include "Library/Xml/XmlDocument.h"
+#include "Library/Xml/XmlMarkup.h"
+#include "Library/Xml/XmlSpace.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace Quillmont::Library::Helpers {
 
-XmlEntryEdit::XmlEntryEdit(const Text::XmlSource &source, const XmlDocument &document)
+XmlEntryEdit::XmlEntryEdit(const Text::XmlSource &source, const Xml::XmlDocument &document)
     : m_source(source)
     , m_document(document)
 { }
 
 void XmlEntryEdit::insert(const Models::XmlInsertionModel &model)
 {
-    const QVector<XmlEntry> &entries = m_document.entries();
-    QVector<XmlEntry> ours;
+    const QVector<Xml::RootChild> &entries = m_document.wanted();
+    QVector<Xml::RootChild> ours;
     std::copy_if(entries.cbegin(),
                  entries.cend(),
                  std::back_inserter(ours),
@@ -36,12 +36,12 @@ void XmlEntryEdit::insert(const Models::XmlInsertionModel &model)
 
 void XmlEntryEdit::remove(const Models::XmlConfigModel &model)
 {
-    for (const XmlEntry &entry : m_document.entries()) {
+    for (const Xml::RootChild &entry : m_document.wanted()) {
         if (model.deleteParent) {
             removeElement(entry);
             continue;
         }
-        for (const XmlElement &child : entry.children) {
+        for (const Xml::XmlElement &child : entry.children) {
             if (XmlEntryMatch::isKey(child, model))
                 removeElement(child);
         }
@@ -50,7 +50,7 @@ void XmlEntryEdit::remove(const Models::XmlConfigModel &model)
 
 void XmlEntryEdit::add(const Models::XmlInsertionModel &model)
 {
-    const XmlLayout layout(m_document);
+    const Xml::EntryIndent layout(m_document);
     const QString tags = newElement(model.parentName, {});
     const int content = tags.indexOf(u'>') + 1;
     QString entry = layout.beforeEntry() + tags.left(content);
@@ -58,23 +58,23 @@ void XmlEntryEdit::add(const Models::XmlInsertionModel &model)
         entry += layout.beforeChild() + newElement(name, text);
     entry += layout.beforeEnd() + tags.mid(content);
 
-    const XmlElement &root = m_document.root();
+    const Xml::XmlElement &root = m_document.root();
     if (root.isSelfClosed()) {
         open(root, entry);
     } else {
-        const int place = XmlBlank::begin(m_document.text(), root.contentEnd);
+        const int place = Xml::XmlSpace::begin(m_document.text(), root.contentEnd);
         m_splices.append({place, place, entry});
     }
 }
 
-void XmlEntryEdit::update(const XmlEntry &entry, const Models::XmlValues &values)
+void XmlEntryEdit::update(const Xml::RootChild &entry, const Models::XmlValues &values)
 {
     // A new child goes behind the one that it follows in the model, on a line like that one's.
     int place = entry.contentBegin;
     QString line;
     for (auto child = entry.children.crbegin(); child != entry.children.crend(); ++child) {
-        if (child->hasPlace)
-            line = XmlBlank::lineBefore(m_document.text(), child->begin);
+        if (child->hasPosition)
+            line = Xml::XmlSpace::lineBefore(m_document.text(), child->begin);
     }
 
     const QVector<int> children = XmlEntryMatch::assigned(values, entry.children);
@@ -84,28 +84,28 @@ void XmlEntryEdit::update(const XmlEntry &entry, const Models::XmlValues &values
             m_splices.append({place, place, line + newElement(name, text)});
             continue;
         }
-        const XmlElement &child = entry.children.at(children.at(i));
-        if (!child.says(text))
+        const Xml::XmlElement &child = entry.children.at(children.at(i));
+        if (!child.hasText(text))
             replaceText(child, text);
-        if (child.hasPlace) {
+        if (child.hasPosition) {
             place = child.end;
-            line = XmlBlank::lineBefore(m_document.text(), child.begin);
+            line = Xml::XmlSpace::lineBefore(m_document.text(), child.begin);
         }
     }
 
-    if (!entry.hasPlace && !m_splices.isEmpty())
+    if (!entry.hasPosition && !m_splices.isEmpty())
         refuse(QStringLiteral("The entry to change comes out of an entity."));
     std::stable_sort(m_splices.begin(), m_splices.end(), [](const auto &one, const auto &other) {
         return one.begin < other.begin;
     });
 }
 
-void XmlEntryEdit::replaceText(const XmlElement &child, const QString &text)
+void XmlEntryEdit::replaceText(const Xml::XmlElement &child, const QString &text)
 {
-    const QString escaped = XmlMarkup::escaped(text);
+    const QString escaped = Xml::XmlMarkup::escaped(text);
     if (escaped.isNull())
         refuse(QStringLiteral("A value is no text that XML can hold."));
-    else if (!child.hasPlace)
+    else if (!child.hasPosition)
         refuse(QStringLiteral("The element to change comes out of an entity."));
     else if (child.isSelfClosed())
         open(child, escaped);
@@ -114,7 +114,7 @@ void XmlEntryEdit::replaceText(const XmlElement &child, const QString &text)
 }
 
 // Makes two tags with @p content between them out of one.
-void XmlEntryEdit::open(const XmlElement &element, const QString &content)
+void XmlEntryEdit::open(const Xml::XmlElement &element, const QString &content)
 {
     if (!m_source.canWrite(element.name))
         refuse(QStringLiteral("The file's encoding cannot hold an end tag."));
@@ -122,18 +122,18 @@ void XmlEntryEdit::open(const XmlElement &element, const QString &content)
     m_splices.append({element.end - 2, element.end, u'>' + content + endTag});
 }
 
-void XmlEntryEdit::removeElement(const XmlElement &element)
+void XmlEntryEdit::removeElement(const Xml::XmlElement &element)
 {
-    if (element.hasPlace)
+    if (element.hasPosition)
         m_splices.append(
-            {XmlBlank::begin(m_document.text(), element.begin), element.end, QString()});
+            {Xml::XmlSpace::begin(m_document.text(), element.begin), element.end, QString()});
     else
         refuse(QStringLiteral("The element to remove comes out of an entity."));
 }
 
 QString XmlEntryEdit::newElement(const QString &name, const QString &text)
 {
-    QString markup = XmlMarkup::element(name, text);
+    QString markup = Xml::XmlMarkup::element(name, text);
     if (markup.isNull())
         refuse(QStringLiteral("A name or a value is none that XML can hold."));
     else if (!m_source.canWrite(name))

@@ -15,11 +15,13 @@ namespace Quillmont::Library::Text {
 class XmlSource;
 } // namespace Quillmont::Library::Text
 
-namespace Quillmont::Library::Helpers {
-
+namespace Quillmont::Library::Xml {
 class XmlDocument;
+struct RootChild;
 struct XmlElement;
-struct XmlEntry;
+} // namespace Quillmont::Library::Xml
+
+namespace Quillmont::Library::Helpers {
 
 /// Works out which changes of a document's text add our entry or take it out. The document's
 /// wanted elements are the entries that the operation is about.
@@ -27,7 +29,7 @@ class XmlEntryEdit
 {
 public:
     /// @p document is the one that @p source holds; both have to live as long as this.
-    XmlEntryEdit(const Text::XmlSource &source, const XmlDocument &document);
+    XmlEntryEdit(const Text::XmlSource &source, const Xml::XmlDocument &document);
 
     /// Makes one entry the only one, and what @p model wants.
     void insert(const Models::XmlInsertionModel &model);
@@ -43,15 +45,15 @@ public:
 
 private:
     void add(const Models::XmlInsertionModel &model);
-    void update(const XmlEntry &entry, const Models::XmlValues &values);
-    void replaceText(const XmlElement &child, const QString &text);
-    void open(const XmlElement &element, const QString &content);
-    void removeElement(const XmlElement &element);
+    void update(const Xml::RootChild &entry, const Models::XmlValues &values);
+    void replaceText(const Xml::XmlElement &child, const QString &text);
+    void open(const Xml::XmlElement &element, const QString &content);
+    void removeElement(const Xml::XmlElement &element);
     QString newElement(const QString &name, const QString &text);
     void refuse(const QString &reason);
 
     const Text::XmlSource &m_source;
-    const XmlDocument &m_document;
+    const Xml::XmlDocument &m_document;
     Text::TextSplices m_splices;
     QString m_problem;
 };

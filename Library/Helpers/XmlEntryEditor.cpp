@@ -1,10 +1,10 @@
 #include "Library/Helpers/XmlEntryEditor.h"
 
-#include "Library/Helpers/XmlDocument.h"
 #include "Library/Helpers/XmlEntryEdit.h"
 #include "Library/Helpers/XmlEntryMatch.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Library/Text/XmlSource.h"
+#include "Library/Xml/XmlDocument.h"
 
 #include <functional>
 
@@ -18,16 +18,16 @@ using Change = std::function<void(XmlEntryEdit *)>;
 QString problemAfterwards(const QByteArray &bytes)
 {
     const Text::XmlSource source(bytes);
-    return XmlDocument(source.text(), [](const XmlEntry &) { return false; }).problem();
+    return Xml::XmlDocument(source.text(), [](const Xml::RootChild &) { return false; }).problem();
 }
 
 QByteArray changed(const QByteArray &bytes,
-                   const XmlDocument::Filter &isOurs,
+                   const Xml::XmlDocument::Filter &isOurs,
                    const Change &change,
                    QString *problem)
 {
     const Text::XmlSource source(bytes);
-    const XmlDocument document(source.text(), isOurs);
+    const Xml::XmlDocument document(source.text(), isOurs);
     *problem = document.problem();
     if (!problem->isEmpty())
         return bytes;
@@ -53,7 +53,7 @@ QByteArray XmlEntryEditor::inserted(const QByteArray &bytes,
                                     const Models::XmlInsertionModel &model,
                                     QString *problem)
 {
-    const auto isOurs = [&model](const XmlEntry &entry) {
+    const auto isOurs = [&model](const Xml::RootChild &entry) {
         return XmlEntryMatch::isOurs(entry, model) || XmlEntryMatch::isComplete(entry, model);
     };
     const auto insert = [&model](XmlEntryEdit *edit) {
@@ -66,7 +66,7 @@ QByteArray XmlEntryEditor::removed(const QByteArray &bytes,
                                    const Models::XmlConfigModel &model,
                                    QString *problem)
 {
-    const auto isOurs = [&model](const XmlEntry &entry) {
+    const auto isOurs = [&model](const Xml::RootChild &entry) {
         return XmlEntryMatch::isOurs(entry, model);
     };
     const auto remove = [&model](XmlEntryEdit *edit) {

@@ -1,7 +1,7 @@
 #include "Library/Helpers/XmlEntryMatch.h"
 
-#include "Library/Helpers/XmlElement.h"
 #include "Library/Models/XmlInsertionModel.h"
+#include "Library/Xml/XmlElement.h"
 
 #include <algorithm>
 
@@ -9,19 +9,19 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-bool holds(const XmlElement &child, const QString &name, const QString &text)
+bool holds(const Xml::XmlElement &child, const QString &name, const QString &text)
 {
-    return child.name == name && child.says(text);
+    return child.name == name && child.hasText(text);
 }
 
 } // namespace
 
-bool XmlEntryMatch::isKey(const XmlElement &child, const Models::XmlConfigModel &model)
+bool XmlEntryMatch::isKey(const Xml::XmlElement &child, const Models::XmlConfigModel &model)
 {
     return holds(child, model.key, model.value);
 }
 
-bool XmlEntryMatch::isOurs(const XmlEntry &entry, const Models::XmlConfigModel &model)
+bool XmlEntryMatch::isOurs(const Xml::RootChild &entry, const Models::XmlConfigModel &model)
 {
     return entry.name == model.element
         && std::any_of(entry.children.cbegin(), entry.children.cend(), [&](const auto &child) {
@@ -29,7 +29,7 @@ bool XmlEntryMatch::isOurs(const XmlEntry &entry, const Models::XmlConfigModel &
            });
 }
 
-bool XmlEntryMatch::isComplete(const XmlEntry &entry, const Models::XmlInsertionModel &model)
+bool XmlEntryMatch::isComplete(const Xml::RootChild &entry, const Models::XmlInsertionModel &model)
 {
     const auto stands = [&entry](const QPair<QString, QString> &value) {
         return std::any_of(entry.children.cbegin(), entry.children.cend(), [&](const auto &child) {
@@ -41,15 +41,15 @@ bool XmlEntryMatch::isComplete(const XmlEntry &entry, const Models::XmlInsertion
 }
 
 QVector<int> XmlEntryMatch::assigned(const Models::XmlValues &values,
-                                     const QVector<XmlElement> &children)
+                                     const QVector<Xml::XmlElement> &children)
 {
     QVector<int> result(values.size(), -1);
     for (const bool exactly : {true, false}) {
         for (int i = 0; i < values.size(); ++i) {
             const auto &[name, text] = values.at(i);
             for (int j = 0; j < children.size() && result.at(i) < 0; ++j) {
-                const XmlElement &child = children.at(j);
-                if (child.name == name && (!exactly || child.says(text)) && !result.contains(j))
+                const Xml::XmlElement &child = children.at(j);
+                if (child.name == name && (!exactly || child.hasText(text)) && !result.contains(j))
                     result[i] = j;
             }
         }

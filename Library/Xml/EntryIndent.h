@@ -1,19 +1,20 @@
-#ifndef LIBRARY_HELPERS_XMLLAYOUT_H
-#define LIBRARY_HELPERS_XMLLAYOUT_H
+#ifndef LIBRARY_XML_ENTRYINDENT_H
+#define LIBRARY_XML_ENTRYINDENT_H
 
 #include <QString>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 class XmlDocument;
 
-/// The white space that makes a new entry look like its neighbours.
-class XmlLayout
+/// The white space that makes a new add-on element look like its neighbours.
+class EntryIndent
 {
 public:
-    explicit XmlLayout(const XmlDocument &document);
+    /// For an element behind the last content of the root of @p document.
+    explicit EntryIndent(const XmlDocument &document);
 
-    /// In front of the entry.
+    /// In front of the element.
     const QString &beforeEntry() const { return m_beforeEntry; }
 
     /// In front of each of its children.
@@ -28,6 +29,6 @@ private:
     QString m_beforeEnd;
 };
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml
 
 #endif

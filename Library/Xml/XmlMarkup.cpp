@@ -1,18 +1,18 @@
-#include "Library/Helpers/XmlMarkup.h"
+#include "Library/Xml/XmlMarkup.h"
 
 #include "Library/Xml/XmlReader.h"
 
 #include <QDomDocument>
 #include <QTextStream>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml::XmlMarkup {
 
 namespace {
 
 // Whether @p markup is one element and means just @p name and @p text.
 bool means(const QString &markup, const QString &name, const QString &text)
 {
-    Xml::XmlReader reader(markup);
+    XmlReader reader(markup);
     reader.next();
     const bool isNamed = reader.next() == QXmlStreamReader::StartElement
         && reader.qualifiedName() == name && reader.attributes().isEmpty();
@@ -26,7 +26,7 @@ bool means(const QString &markup, const QString &name, const QString &text)
 
 } // namespace
 
-QString XmlMarkup::element(const QString &name, const QString &text)
+QString element(const QString &name, const QString &text)
 {
     QDomDocument document;
     QDomElement element = document.createElement(name);
@@ -37,15 +37,15 @@ QString XmlMarkup::element(const QString &name, const QString &text)
     stream.setCodec("UTF-8");
     element.save(stream, -1);
     stream.flush();
-    // A line end of the text's own is none of the file's.
+    // A line end in the text is not one of the file.
     markup.replace(u'\n', QLatin1String("&#10;"));
     return means(markup, name, text) ? markup : QString();
 }
 
-QString XmlMarkup::escaped(const QString &text)
+QString escaped(const QString &text)
 {
     const QString markup = element(QStringLiteral("x"), text);
     return markup.isNull() ? markup : markup.mid(3, markup.size() - 7);
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml::XmlMarkup

@@ -1,16 +1,16 @@
-#include "Library/Helpers/XmlLayout.h"
+#include "Library/Xml/EntryIndent.h"
 
-#include "Library/Helpers/XmlBlank.h"
-#include "Library/Helpers/XmlDocument.h"
+#include "Library/Xml/XmlDocument.h"
+#include "Library/Xml/XmlSpace.h"
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml {
 
 namespace {
 
 using Outline = XmlDocument::Outline;
 
-// The last child of the root that begins a line, else the last of all; null if there is none. A
-// parent is one that has children itself.
+// The last child of the root that begins a line, else the last of all; null if there is none.
+// Optionally only of those that have children themselves.
 const Outline *neighbour(const XmlDocument &document, bool isParent)
 {
     const Outline *result = nullptr;
@@ -19,7 +19,7 @@ const Outline *neighbour(const XmlDocument &document, bool isParent)
         const int begin = document.tagBegin(one->startTagEnd);
         if (begin < 0 || (isParent && one->firstChildTagEnd < 0))
             continue;
-        if (XmlBlank::beginsLine(document.text(), begin))
+        if (XmlSpace::beginsLine(document.text(), begin))
             return &*one;
         if (!result)
             result = &*one;
@@ -31,21 +31,21 @@ const Outline *neighbour(const XmlDocument &document, bool isParent)
 QString lineBeforeTag(const XmlDocument &document, int end)
 {
     const int begin = document.tagBegin(end);
-    return begin < 0 ? QString() : XmlBlank::lineBefore(document.text(), begin);
+    return begin < 0 ? QString() : XmlSpace::lineBefore(document.text(), begin);
 }
 
 QString rootIndent(const XmlDocument &document)
 {
     const int begin = document.root().begin;
-    return XmlBlank::beginsLine(document.text(), begin)
-        ? XmlBlank::indent(XmlBlank::lineBefore(document.text(), begin))
+    return XmlSpace::beginsLine(document.text(), begin)
+        ? XmlSpace::indent(XmlSpace::lineBefore(document.text(), begin))
         : QString();
 }
 
 // A line that is indented by one step more than the root's.
 QString lineBelowRoot(const XmlDocument &document)
 {
-    return XmlBlank::lineEndBefore(document.text(), document.root().contentEnd)
+    return XmlSpace::lineEndBefore(document.text(), document.root().contentEnd)
         + rootIndent(document) + QStringLiteral("    ");
 }
 
@@ -53,31 +53,31 @@ QString entryLine(const XmlDocument &document)
 {
     const Outline *last = neighbour(document, false);
     QString line = last ? lineBeforeTag(document, last->startTagEnd) : QString();
-    if (XmlBlank::hasLineEnd(QStringRef(&line)))
+    if (XmlSpace::hasLineEnd(QStringRef(&line)))
         return line;
 
     const QString &text = document.text();
     const XmlElement &root = document.root();
     const int length = root.contentEnd - root.contentBegin;
-    if (!XmlBlank::hasLineEnd(text.midRef(root.contentBegin, length)))
+    if (!XmlSpace::hasLineEnd(text.midRef(root.contentBegin, length)))
         return line;
 
-    const int first = XmlBlank::end(text, root.contentBegin);
-    return first < root.contentEnd && XmlBlank::beginsLine(text, first)
-        ? XmlBlank::lineBefore(text, first)
+    const int first = XmlSpace::end(text, root.contentBegin);
+    return first < root.contentEnd && XmlSpace::beginsLine(text, first)
+        ? XmlSpace::lineBefore(text, first)
         : lineBelowRoot(document);
 }
 
 } // namespace
 
-XmlLayout::XmlLayout(const XmlDocument &document)
+EntryIndent::EntryIndent(const XmlDocument &document)
     : m_beforeEntry(entryLine(document))
 {
     if (const Outline *parent = neighbour(document, true)) {
         m_beforeChild = lineBeforeTag(document, parent->firstChildTagEnd);
         m_beforeEnd = lineBeforeTag(document, parent->end);
-    } else if (XmlBlank::hasLineEnd(QStringRef(&m_beforeEntry))) {
-        const QString indent = XmlBlank::indent(m_beforeEntry);
+    } else if (XmlSpace::hasLineEnd(QStringRef(&m_beforeEntry))) {
+        const QString indent = XmlSpace::indent(m_beforeEntry);
         const QString outer = rootIndent(document);
         const bool isDeeper = indent.startsWith(outer);
         m_beforeChild = m_beforeEntry + (isDeeper ? indent.mid(outer.size()) : indent);
@@ -85,4 +85,4 @@ XmlLayout::XmlLayout(const XmlDocument &document)
     }
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml

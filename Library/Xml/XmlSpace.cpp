@@ -1,12 +1,12 @@
-#include "Library/Helpers/XmlBlank.h"
+#include "Library/Xml/XmlSpace.h"
 
 #include <algorithm>
 
-namespace Quillmont::Library::Helpers {
+namespace Quillmont::Library::Xml::XmlSpace {
 
 namespace {
 
-bool isBlank(QChar character)
+bool isSpace(QChar character)
 {
     return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
 }
@@ -30,44 +30,44 @@ int lastLineEnd(const QString &text, int begin, int place)
 
 } // namespace
 
-int XmlBlank::begin(const QString &text, int place)
+int begin(const QString &text, int place)
 {
-    while (place > 0 && isBlank(text.at(place - 1)))
+    while (place > 0 && isSpace(text.at(place - 1)))
         --place;
     return place;
 }
 
-int XmlBlank::end(const QString &text, int place)
+int end(const QString &text, int place)
 {
-    while (place < text.size() && isBlank(text.at(place)))
+    while (place < text.size() && isSpace(text.at(place)))
         ++place;
     return place;
 }
 
-QString XmlBlank::trimmed(const QString &text)
+QString trimmed(const QString &text)
 {
     const int first = end(text, 0);
     return text.mid(first, std::max(begin(text, text.size()) - first, 0));
 }
 
-QString XmlBlank::lineBefore(const QString &text, int place)
+QString lineBefore(const QString &text, int place)
 {
-    const int blank = begin(text, place);
-    const int line = std::max(blank, lastLineEnd(text, blank, place));
+    const int space = begin(text, place);
+    const int line = std::max(space, lastLineEnd(text, space, place));
     return text.mid(line, place - line);
 }
 
-bool XmlBlank::hasLineEnd(const QStringRef &text)
+bool hasLineEnd(const QStringRef &text)
 {
     return std::any_of(text.cbegin(), text.cend(), isLineEnd);
 }
 
-bool XmlBlank::beginsLine(const QString &text, int place)
+bool beginsLine(const QString &text, int place)
 {
     return lastLineEnd(text, begin(text, place), place) >= 0;
 }
 
-QString XmlBlank::lineEndBefore(const QString &text, int place)
+QString lineEndBefore(const QString &text, int place)
 {
     const int at = lastLineEnd(text, 0, place);
     if (at < 0)
@@ -76,10 +76,10 @@ QString XmlBlank::lineEndBefore(const QString &text, int place)
     return text.mid(at, isPair ? 2 : 1);
 }
 
-QString XmlBlank::indent(const QString &line)
+QString indent(const QString &line)
 {
     const auto *const end = std::find_if_not(line.cbegin(), line.cend(), isLineEnd);
     return line.mid(static_cast<int>(end - line.cbegin()));
 }
 
-} // namespace Quillmont::Library::Helpers
+} // namespace Quillmont::Library::Xml::XmlSpace
