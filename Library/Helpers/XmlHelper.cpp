@@ -3,8 +3,8 @@
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Helpers/FileWriter.h"
 #include "Library/Helpers/LibraryLog.h"
-#include "Library/Helpers/XmlEntryEditor.h"
 #include "Library/Models/XmlInsertionModel.h"
+#include "Library/Xml/editedXml.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -64,7 +64,7 @@ bool XmlHelper::insertValues(Models::XmlInsertionModel *model)
     if (!model || !model->describesEntry())
         return true;
     return change(m_path, [model](const QByteArray &bytes, QString *problem) {
-        return XmlEntryEditor::inserted(bytes, *model, problem);
+        return Xml::withEntry(bytes, *model, problem);
     });
 }
 
@@ -73,7 +73,7 @@ bool XmlHelper::removeConfig(Models::XmlConfigModel *model)
     if (!model || !model->describesEntry() || FileHelper::isMissing(m_path))
         return true;
     return change(m_path, [model](const QByteArray &bytes, QString *problem) {
-        return XmlEntryEditor::removed(bytes, *model, problem);
+        return Xml::withoutEntry(bytes, *model, problem);
     });
 }
 

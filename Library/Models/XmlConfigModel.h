@@ -8,8 +8,8 @@ class QJsonObject;
 
 namespace Quillmont::Library::Models {
 
-/// Says in which XML file our entry stands and how it is recognised there. Built from a
-/// catalogue entry's "config" object; a missing or wrongly typed value gives the default.
+/// Which XML file our add-on element belongs in, and how it is recognised there. Built from the
+/// "config" object of a catalogue entry; a missing or wrongly typed value gives the default.
 class XmlConfigModel : public QObject
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class XmlConfigModel : public QObject
 public:
     XmlConfigModel(QObject *parent, const QJsonObject &json);
 
-    /// Whether there is an entry to speak of. Without a "parent" or "values" there is none, and
-    /// the members below are empty.
+    /// Whether an element is described at all. Without a "parent" or "values" none is, and the
+    /// members that recognise it are empty.
     bool describesEntry() const { return !element.isEmpty(); }
 
     QString path; ///< The file, "/"-separated, relative to the per-user application-data root.

@@ -6,7 +6,7 @@
 
 namespace Quillmont::Library::Models {
 
-/// Adds to XmlConfigModel what our entry consists of.
+/// Adds to XmlConfigModel what our add-on element consists of.
 class XmlInsertionModel : public XmlConfigModel
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ class XmlInsertionModel : public XmlConfigModel
 public:
     XmlInsertionModel(QObject *parent, const QJsonObject &json);
 
-    QString parentName; ///< Name of the element that one entry is made of.
-    XmlValues values; ///< The entry's child elements and texts, in order.
+    QString parentName; ///< Name of the element to write.
+    XmlValues values; ///< Its child elements and their texts, in order.
 };
 
 } // namespace Quillmont::Library::Models

@@ -9,7 +9,7 @@ class QJsonObject;
 
 namespace Quillmont::Library::Models {
 
-/// The child elements of an entry, name and text, in order.
+/// The child elements of an add-on element, name and text, in order.
 using XmlValues = QVector<QPair<QString, QString>>;
 
 /// The "values" of a catalogue entry's "config" object. One without a "key" names no element and

@@ -28,7 +28,7 @@ public:
     /// The bytes with @p splices made; a character that the encoding lacks is written as a
     /// character reference. Every splice needs an ASCII character at one side of its begin and of
     /// its end. A null array if the bytes do not allow it: bytes that stay would be read otherwise.
-    QByteArray spliced(const TextSplices &splices) const;
+    [[nodiscard]] QByteArray spliced(const TextSplices &splices) const;
 
 private:
     bool reads(const QByteArray &bytes, const TextSplices &splices) const;

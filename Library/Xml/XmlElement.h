@@ -22,6 +22,12 @@ struct XmlElement
         return isPlain && XmlSpace::trimmed(text) == XmlSpace::trimmed(expected);
     }
 
+    /// Whether it has that name and that text.
+    bool matches(const QString &expectedName, const QString &expectedText) const
+    {
+        return name == expectedName && hasText(expectedText);
+    }
+
     QString name; ///< As written, a prefix included.
     QString text; ///< Its characters, references and CDATA sections resolved.
     bool isPlain = true; ///< Whether it holds nothing but text, comments aside.
@@ -36,11 +42,11 @@ struct XmlElement
 /// A child of the root: an add-on element, ours or another program's, or anything else.
 struct RootChild : XmlElement
 {
-    /// Whether it has a child of that name that has that text.
+    /// Whether it has a child of that name and that text.
     bool hasChild(const QString &childName, const QString &childText) const
     {
         return std::any_of(children.cbegin(), children.cend(), [&](const XmlElement &child) {
-            return child.name == childName && child.hasText(childText);
+            return child.matches(childName, childText);
         });
     }
 

@@ -8,10 +8,10 @@ namespace Quillmont::Library::Xml::XmlMarkup {
 
 /// The element @p name that holds @p text, on one line. A null text if XML cannot hold the name or
 /// the text.
-QString element(const QString &name, const QString &text);
+[[nodiscard]] QString element(const QString &name, const QString &text);
 
 /// @p text escaped to be the content of an element. A null text if XML cannot hold it.
-QString escaped(const QString &text);
+[[nodiscard]] QString escaped(const QString &text);
 
 } // namespace Quillmont::Library::Xml::XmlMarkup
 

@@ -1,7 +1,7 @@
 #include "tests/Library/Helpers/XmlPromises.h"
 
-#include "Library/Helpers/XmlEntryEditor.h"
 #include "Library/Models/XmlInsertionModel.h"
+#include "Library/Xml/editedXml.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -12,8 +12,9 @@ namespace Tests {
 
 namespace {
 
-using Quillmont::Library::Helpers::XmlEntryEditor;
 using Quillmont::Library::Models::XmlInsertionModel;
+using Quillmont::Library::Xml::withEntry;
+using Quillmont::Library::Xml::withoutEntry;
 
 QJsonObject value(const char *key, const char *text)
 {
@@ -60,20 +61,20 @@ bool XmlPromises::isOpenedRoot(const QByteArray &before, const QByteArray &after
 QString XmlPromises::broken(const QByteArray &bytes, bool *isAccepted)
 {
     QString problem;
-    const QByteArray edited = XmlEntryEditor::inserted(bytes, *model(), &problem);
+    const QByteArray edited = withEntry(bytes, *model(), &problem);
     *isAccepted = problem.isEmpty();
     if (!*isAccepted)
         return edited == bytes ? QString() : QStringLiteral("refused, but touched");
-    if (XmlEntryEditor::inserted(edited, *model(), &problem) != edited || !problem.isEmpty())
+    if (withEntry(edited, *model(), &problem) != edited || !problem.isEmpty())
         return QStringLiteral("the second insertion does something: ") + problem;
 
-    const QByteArray removed = XmlEntryEditor::removed(edited, *model(), &problem);
+    const QByteArray removed = withoutEntry(edited, *model(), &problem);
     if (!problem.isEmpty())
         return QStringLiteral("the entry cannot be removed: ") + problem;
-    if (XmlEntryEditor::removed(removed, *model(), &problem) != removed || !problem.isEmpty())
+    if (withoutEntry(removed, *model(), &problem) != removed || !problem.isEmpty())
         return QStringLiteral("the second removal does something: ") + problem;
 
-    const QByteArray without = XmlEntryEditor::removed(bytes, *model(), &problem);
+    const QByteArray without = withoutEntry(bytes, *model(), &problem);
     if (!problem.isEmpty())
         return QStringLiteral("an older entry cannot be removed: ") + problem;
     if (removed != without && !isOpenedRoot(without, removed))

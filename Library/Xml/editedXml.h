@@ -1,0 +1,25 @@
+#ifndef LIBRARY_XML_EDITEDXML_H
+#define LIBRARY_XML_EDITEDXML_H
+
+class QByteArray;
+class QString;
+
+namespace Quillmont::Library::Models {
+class XmlConfigModel;
+class XmlInsertionModel;
+} // namespace Quillmont::Library::Models
+
+namespace Quillmont::Library::Xml {
+
+/// @p bytes of an XML file with one add-on element of ours, as @p model wants it. The same bytes if
+/// there is nothing to do, and also if it cannot be done; then @p problem says why, and where.
+[[nodiscard]] QByteArray
+withEntry(const QByteArray &bytes, const Models::XmlInsertionModel &model, QString *problem);
+
+/// Likewise without what @p model describes.
+[[nodiscard]] QByteArray
+withoutEntry(const QByteArray &bytes, const Models::XmlConfigModel &model, QString *problem);
+
+} // namespace Quillmont::Library::Xml
+
+#endif
