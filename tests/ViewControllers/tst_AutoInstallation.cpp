@@ -166,7 +166,7 @@ private slots:
         QCOMPARE(readFile(shop.path("A/q/y")), QByteArray("new"));
     }
 
-    // And its own line waits for whoever shows it.
+    // The line of B itself waits for whoever shows it.
     void showsAFailedCopyWithTheNextClearing()
     {
         Workshop shop;

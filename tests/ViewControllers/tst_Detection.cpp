@@ -15,15 +15,15 @@ void addRow(const char *name, int location, const QStringList &texts)
 
 // An entry with this path and key, where the strategy looks then, and whether that exists.
 void addFile(
-    const char *name, const QString &path, const QString &key, const QString &file, bool is)
+    const char *name, const QString &path, const QString &key, const QString &file, bool exists)
 {
-    addRow(name, 0, {path, key, "Scanning files...|file: "_s + file, is ? file : "nothing"_s});
+    addRow(name, 0, {path, key, "Scanning files...|file: "_s + file, exists ? file : "nothing"_s});
 }
 
-void addFolder(const char *name, const QString &path, const QString &folder, bool is)
+void addFolder(const char *name, const QString &path, const QString &folder, bool exists)
 {
     const QString lines = "Scanning folders...|folder: "_s + folder;
-    addRow(name, 1, {path, "game"_s, lines, is ? folder : "nothing"_s});
+    addRow(name, 1, {path, "game"_s, lines, exists ? folder : "nothing"_s});
 }
 
 void addNothing(const char *name, int location, const QString &lines = {})
@@ -40,7 +40,7 @@ class TestDetection : public QObject
 
 private slots:
 
-    void findsWhatTheStrategyOfTheEntryFinds_data()
+    void findsASimulatorByTheStrategyOfItsEntry_data()
     {
         QTest::addColumn<int>("location");
         QTest::addColumn<QStringList>("texts");
@@ -75,7 +75,7 @@ private slots:
         addNothing("minus one", -1);
     }
 
-    void findsWhatTheStrategyOfTheEntryFinds()
+    void findsASimulatorByTheStrategyOfItsEntry()
     {
         QFETCH(const int, location);
         QFETCH(QStringList, texts);

@@ -67,7 +67,7 @@ private slots:
         QCOMPARE(QFileInfo(file).lastModified(), longAgo);
     }
 
-    void isMissedInSilenceWhereItCannotBeMade()
+    void isNotReportedWhereItCannotBeMade()
     {
         for (const char *obstacle : {"Quillmont/Orbwell/.mapping/inside", "Quillmont"}) {
             Workshop shop;
@@ -155,8 +155,8 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 
-    // "+" is an installation into the simulator, "-" a removal, and "$NEW" its record.
-    void holdsTheLastInstallationLast_data()
+    // "+" is an installation into the simulator, "-" a removal from it, and "$NEW" its record.
+    void followsInstallationsAndRemovals_data()
     {
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<QString>("work");
@@ -194,7 +194,7 @@ private slots:
         row("binary data", QByteArray("\x00\xff\xfe[", 4), "+", "[$NEW]");
     }
 
-    void holdsTheLastInstallationLast()
+    void followsInstallationsAndRemovals()
     {
         QFETCH(const QByteArray, before);
         QFETCH(const QString, work);
@@ -290,18 +290,18 @@ private slots:
         QCOMPARE(mapping->path, shop.path("My Sims/плагин"));
     }
 
-    // Somebody kept them for years, or wrote them closer than the program does.
-    void keepsFiftyMegabytesOfRecords()
+    // Fifty megabytes of short ones, written closer than the program does, become so many.
+    void keepsEightyMegabytesOfRecords()
     {
         Workshop shop;
-        const QByteArray other
-            = R"({"files": ["/gone/Resources/plugins/Orbwell/64/lin.xpl"], "name": "Other"},)";
-        const int count = 50 * 1024 * 1024 / other.size();
-        shop.writeRecord('[' + other.repeated(count).chopped(1) + ']');
+        const QByteArray other = R"({"files": ["/gone/$"], "name": "Other"},)";
+        const QByteArray longer = QByteArray(other).replace('$', QByteArray(4000, 'x'));
+        const int count = 80 * 1024 * 1024 / longer.size();
+        shop.writeRecord('[' + longer.repeated(count).chopped(1) + ']');
         save(shop, false);
         save(shop, true);
         QCOMPARE(shop.controller().m_errorMessage, QString());
-        QCOMPARE(shop.record().size(), count);
+        QCOMPARE(readFile(shop.recordPath()).count("\"Other\""), count);
     }
 };
 
