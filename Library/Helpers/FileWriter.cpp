@@ -1,12 +1,13 @@
 #include "Library/Helpers/FileWriter.h"
 
 #include "Library/Helpers/FileSizeSignal.h"
+#include "Library/Helpers/FileStatus.h"
+#include "Library/Helpers/LinkTarget.h"
+#include "Library/Helpers/Replacement.h"
 
-#include <QFileInfo>
-#include <QSaveFile>
+#include <QFile>
 
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,52 +16,17 @@ namespace Quillmont::Library::Helpers {
 
 namespace {
 
-// The file that a chain of symbolic links ends at, which need not exist. Where a link lies behind
-// a linked folder, ".." in it means that folder's real parent.
-QString linkTarget(const QString &path)
+bool put(int handle, qint64 begin, const QByteArray &bytes)
 {
-    QFileInfo info(path);
-    if (info.exists())
-        return info.canonicalFilePath();
-    constexpr int longestChain = 40;
-    for (int i = 0; i < longestChain && info.isSymLink(); ++i) {
-        const QFileInfo link(QFileInfo(info.path()).canonicalFilePath() + u'/' + info.fileName());
-        info.setFile(link.symLinkTarget());
-    }
-    return info.filePath();
-}
-
-// Only the superuser gives files away, and not everybody may set every group.
-void keepOwner(int handle, const struct stat &before)
-{
-    constexpr auto same = static_cast<uid_t>(-1);
-    struct stat now = {};
-    if (fstat(handle, &now) != 0 || (now.st_uid == before.st_uid && now.st_gid == before.st_gid))
-        return;
-    if (fchown(handle, before.st_uid, before.st_gid) != 0
-        && fchown(handle, same, before.st_gid) != 0)
-        errno = 0;
-}
-
-// QSaveFile keeps the mode as well, but does not notice when that fails.
-bool keepMode(int handle, const struct stat &before)
-{
-    constexpr mode_t mask = 07777;
-    struct stat now = {};
-    if (fstat(handle, &now) != 0)
+    if (lseek(handle, begin, SEEK_SET) != begin)
         return false;
-    return (now.st_mode & mask) == (before.st_mode & mask)
-        || fchmod(handle, before.st_mode & mask) == 0;
-}
-
-// Gives the file behind @p handle what the file at @p path has, if there is one.
-bool keepStatus(int handle, const QString &path)
-{
-    struct stat before = {};
-    if (stat(QFile::encodeName(path).constData(), &before) != 0)
-        return errno == ENOENT;
-    keepOwner(handle, before);
-    return keepMode(handle, before);
+    for (int done = 0; done < bytes.size();) {
+        const ssize_t size = ::write(handle, bytes.constData() + done, size_t(bytes.size() - done));
+        if (size < 0 && errno != EINTR)
+            return false;
+        done += int(qMax(size, ssize_t(0)));
+    }
+    return true;
 }
 
 // Some file systems find out only here that the disk is full; others have nothing to sync.
@@ -69,74 +35,83 @@ bool isOnDisk(int handle)
     return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
-bool fill(QFileDevice *file, const QString &target, const QByteArray &bytes)
+// Whether the path, if there is anything at all, is a regular file.
+bool isFileOrMissing(const QByteArray &path)
 {
-    // Not every file device notices by itself that the rest of its buffer found no room.
-    return keepStatus(file->handle(), target) && file->write(bytes) == bytes.size() && file->flush()
-        && isOnDisk(file->handle());
+    struct stat status = {};
+    return lstat(path.constData(), &status) == 0 ? S_ISREG(status.st_mode) : errno == ENOENT;
 }
 
-// The name that new bytes bear from when they are complete until they are in their place. It is
-// always the same, so that the next process can tell what a killed one left from others' files.
-QByteArray unfinishedName(const QString &target)
+// Opens what is to be replaced as if to write it, so that the system refuses what is read-only.
+bool openOld(const QByteArray &target, QFile *old)
 {
-    return QFile::encodeName(target + QStringLiteral("_quillmont_unfinished"));
+    const int handle = ::open(target.constData(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (handle < 0)
+        return errno == ENOENT;
+    return old->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }
 
-// Opens a file without a name in the folder of @p target, gone by itself with its process. Not
-// every system and file system has such files.
-bool openNameless(QFile *file, const QString &target)
+bool fill(const Replacement &file, const QFile &old, const QByteArray &bytes)
 {
-#ifdef O_TMPFILE
-    constexpr mode_t usual = 0666;
-    const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
-    const int handle = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, usual);
-    return handle >= 0 && file->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
-#else
-    Q_UNUSED(file)
-    Q_UNUSED(target)
+    return file.handle() >= 0 && (!old.isOpen() || FileStatus::copy(old.handle(), file.handle()))
+        && put(file.handle(), 0, bytes) && isOnDisk(file.handle());
+}
+
+// Lets a new file take the place of the old one, if that is open. The answer is the system's error
+// number, or zero.
+int replace(const QByteArray &target, const QFile &old, const QByteArray &bytes)
+{
+    int error = EINVAL;
+    for (const auto kind : {Replacement::Nameless, Replacement::Named}) {
+        Replacement file(target, kind, old.isOpen());
+        error = fill(file, old, bytes) && file.takePlace() ? 0 : errno;
+        if (error == 0)
+            break;
+    }
+    return error;
+}
+
+// Behind the old bytes first, which takes all the room that there is to take.
+bool append(QFile *file, qint64 end, const QByteArray &bytes)
+{
+    if (put(file->handle(), end, bytes) && isOnDisk(file->handle()))
+        return true;
+    const int error = errno;
+    file->resize(end);
+    errno = error;
     return false;
-#endif
 }
 
-bool giveName(int handle, const QByteArray &name)
+bool writeOver(QFile *file, const QByteArray &bytes)
 {
-    const QByteArray self = "/proc/self/fd/" + QByteArray::number(handle);
-    const auto give = [&] {
-        return linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW)
-            == 0;
-    };
-    return give() || (errno == EEXIST && unlink(name.constData()) == 0 && give());
-}
-
-bool putInPlace(int handle, const QString &target)
-{
-    const QByteArray name = unfinishedName(target);
-    if (!giveName(handle, name))
+    const QByteArray old = file->readAll();
+    const int handle = file->handle();
+    if (file->error() != QFileDevice::NoError || !append(file, old.size(), bytes.mid(old.size())))
         return false;
-    if (std::rename(name.constData(), QFile::encodeName(target).constData()) == 0)
+    if (put(handle, 0, bytes.left(old.size())) && file->resize(bytes.size()) && isOnDisk(handle))
         return true;
-    unlink(name.constData());
+    const int error = errno;
+    put(handle, 0, old);
+    file->resize(old.size());
+    errno = error;
     return false;
 }
 
-// A process that is killed on the way leaves nothing, or what clearUnfinished() takes away.
-bool writeNameless(const QString &target, const QByteArray &bytes)
+bool hasFurtherNames(const QFile &file)
 {
-    const QFileInfo info(target);
-    QFile file;
-    return (!info.exists() || info.isWritable()) && openNameless(&file, target)
-        && fill(&file, target, bytes) && putInPlace(file.handle(), target);
+    struct stat status = {};
+    return fstat(file.handle(), &status) == 0 && status.st_nlink > 1;
 }
 
-// The way for all systems; a killed process can leave a file of any name here.
-bool writeNamed(const QString &target, const QByteArray &bytes, QString *problem)
+// On a disk that is full or broken the old bytes are safe only where they are left alone.
+bool isFaultOfTheDisk(int error)
 {
-    QSaveFile file(target);
-    if (file.open(QIODevice::WriteOnly) && fill(&file, target, bytes) && file.commit())
-        return true;
-    *problem = QStringLiteral("cannot be written: %1").arg(file.errorString());
-    return false;
+    return error == ENOSPC || error == EDQUOT || error == EFBIG || error == EIO;
+}
+
+QString notWritten(int error)
+{
+    return QStringLiteral("cannot be written: %1").arg(qt_error_string(error));
 }
 
 } // namespace
@@ -144,24 +119,44 @@ bool writeNamed(const QString &target, const QByteArray &bytes, QString *problem
 bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *problem)
 {
     const FileSizeSignal ignored;
-    const QString target = linkTarget(path);
-    const QFileInfo info(target);
-    if (info.isSymLink() || (info.exists() && !info.isFile())) {
+    const QByteArray target = linkTarget(path);
+    if (target.isEmpty() || !isFileOrMissing(target)) {
         *problem = QStringLiteral("not a regular file");
         return false;
     }
-    return writeNameless(target, bytes) || writeNamed(target, bytes, problem);
+    QFile old;
+    const int error = openOld(target, &old) ? replace(target, old, bytes) : errno;
+    if (error != 0)
+        *problem = notWritten(error);
+    return error == 0;
+}
+
+bool FileWriter::rewrite(QFile *file, const QByteArray &bytes, QString *problem)
+{
+    const FileSizeSignal ignored;
+    const QByteArray target = linkTarget(file->fileName());
+    const bool isReplaceable = !target.isEmpty() && !hasFurtherNames(*file);
+    int error = isReplaceable ? replace(target, *file, bytes) : EMLINK;
+    if (error != 0 && !isFaultOfTheDisk(error))
+        error = writeOver(file, bytes) ? 0 : errno;
+    if (error != 0)
+        *problem = notWritten(error);
+    return error == 0;
 }
 
 bool FileWriter::hasUnfinished(const QString &path)
 {
+    const QByteArray target = linkTarget(path);
     struct stat left = {};
-    return lstat(unfinishedName(linkTarget(path)).constData(), &left) == 0 && S_ISREG(left.st_mode);
+    return !target.isEmpty() && lstat(Replacement::unfinishedName(target).constData(), &left) == 0
+        && S_ISREG(left.st_mode);
 }
 
 void FileWriter::clearUnfinished(const QString &path)
 {
-    unlink(unfinishedName(linkTarget(path)).constData());
+    const QByteArray target = linkTarget(path);
+    if (!target.isEmpty())
+        unlink(Replacement::unfinishedName(target).constData());
 }
 
 } // namespace Quillmont::Library::Helpers

@@ -2,20 +2,27 @@
 #define LIBRARY_HELPERS_FILEWRITER_H
 
 class QByteArray;
+class QFile;
 class QString;
 
 namespace Quillmont::Library::Helpers {
 
-/// Replaces whole files, all or nothing.
+/// Replaces the content of files, all or nothing.
 class FileWriter
 {
 public:
     /// Makes @p bytes the content of the file at @p path. Whatever happens, a loss of power
     /// included, the file holds its old bytes or the new ones. A symbolic link stays one and its
-    /// target is written; mode and, where the system lets us, owner stay; a further hard link
-    /// keeps the old bytes. On failure the answer is false, the file is as it was and @p problem
-    /// says why.
+    /// target is written; mode, access list, attributes and, where the system lets us, owner stay;
+    /// a further hard link keeps the old bytes. On failure the answer is false, the file is as it
+    /// was and @p problem says why.
     static bool write(const QString &path, const QByteArray &bytes, QString *problem);
+
+    /// The same for @p file, which is open for reading and writing. Where it has further hard
+    /// links, or the system refuses that another file takes its place, the new bytes go over the
+    /// old ones; then a process that is killed there leaves a part of either, but a disk without
+    /// room leaves the old ones.
+    static bool rewrite(QFile *file, const QByteArray &bytes, QString *problem);
 
     /// Whether there is something for clearUnfinished() to take away.
     static bool hasUnfinished(const QString &path);

@@ -1,5 +1,7 @@
 #include "Library/Helpers/FileWriter.h"
 
+#include "Library/Helpers/Replacement.h"
+#include "tests/support/Attributes.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 #include "tests/support/Unprivileged.h"
@@ -9,15 +11,42 @@
 #include <QFileInfo>
 #include <QtTest>
 
+#include <cerrno>
 #include <csignal>
+#include <filesystem>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #ifdef Q_OS_LINUX
+#include <fcntl.h>
 #include <sys/mount.h>
+#include <sys/syscall.h>
+#endif
+
+// What the system is asked for, in order.
+static QStringList s_steps;
+
+#ifdef Q_OS_LINUX
+// Both stand in front of the C library's.
+extern "C" int fsync(int handle)
+{
+    struct stat status = {};
+    fstat(handle, &status);
+    s_steps.append(QStringLiteral("%1 bytes on disk").arg(status.st_size));
+    return int(syscall(SYS_fsync, handle));
+}
+
+extern "C" int rename(const char *from, const char *to) noexcept
+{
+    s_steps.append(QStringLiteral("in place"));
+    return renameat(AT_FDCWD, from, AT_FDCWD, to);
+}
 #endif
 
 using Quillmont::Library::Helpers::FileWriter;
+using Quillmont::Library::Helpers::Replacement;
+using Tests::modeOf;
+using Tests::setMode;
 
 /// Replaces files under the conditions in which that goes wrong.
 class TestFileWriter : public QObject
@@ -26,24 +55,41 @@ class TestFileWriter : public QObject
 
 private slots:
     void init();
+    void cleanup();
     void newFileIsMade();
     void contentIsReplaced_data();
     void contentIsReplaced();
     void modeStays_data();
     void modeStays();
     void ownerStays();
+    void accessListAndAttributesStay_data();
+    void accessListAndAttributesStay();
+    void listOfTheFolderDoesNotComeIn();
+    void anotherGroupHasNoMoreRights_data();
+    void anotherGroupHasNoMoreRights();
     void symbolicLinkStays_data();
     void symbolicLinkStays();
     void linkBehindALinkedFolderStays();
+    void danglingLinkGetsItsTarget_data();
     void danglingLinkGetsItsTarget();
-    void circleOfLinksIsRefused();
+    void linkThatLeadsToNoNameIsRefused_data();
+    void linkThatLeadsToNoNameIsRefused();
     void otherHardLinkKeepsTheOldBytes();
     void openReaderKeepsTheOldBytes();
+    void bytesAreOnDiskBeforeTheyAreInPlace_data();
+    void bytesAreOnDiskBeforeTheyAreInPlace();
     void leftOversDoNotDisturb();
     void unfinishedFileOfAKilledProcessGoes_data();
     void unfinishedFileOfAKilledProcessGoes();
     void nothingElseIsCleared();
-    void folderInThePlaceOfTheUnfinishedFileDoesNotDisturb();
+    void nameOfAnyLengthCanBeWritten_data();
+    void nameOfAnyLengthCanBeWritten();
+    void longNamesHaveUnfinishedFilesOfTheirOwn();
+    void rewrittenFileKeepsItsFurtherNames_data();
+    void rewrittenFileKeepsItsFurtherNames();
+    void rewrittenFileNeedsNoFileBesideIt();
+    void whatCannotBeFinishedIsTakenBack_data();
+    void whatCannotBeFinishedIsTakenBack();
     void fileSizeLimitLeavesTheOldBytes_data();
     void fileSizeLimitLeavesTheOldBytes();
     void fullDiskLeavesTheOldBytes_data();
@@ -70,11 +116,37 @@ private:
         return FileWriter::write(path, bytes, &m_problem);
     }
 
+    bool rewrite(const QString &path, const QByteArray &bytes)
+    {
+        m_problem.clear();
+        QFile file(path);
+        return file.open(QIODevice::ReadWrite) && FileWriter::rewrite(&file, bytes, &m_problem);
+    }
+
+    void addWays(const QVector<QPair<const char *, int>> &sizes);
+    bool writeInItsWay(const QString &path, const QByteArray &bytes);
+
     Tests::Sandbox m_sandbox;
     QString m_problem;
 };
 
 namespace {
+
+// Does not take its new size when it is first told to.
+class StubbornFile : public QFile
+{
+public:
+    using QFile::QFile;
+
+    bool resize(qint64 size) override
+    {
+        errno = EIO;
+        return m_wasAsked ? QFile::resize(size) : !(m_wasAsked = true);
+    }
+
+private:
+    bool m_wasAsked = false;
+};
 
 struct stat statusOf(const QString &path)
 {
@@ -84,18 +156,17 @@ struct stat statusOf(const QString &path)
     return result;
 }
 
-void setMode(const QString &path, mode_t mode)
-{
-    if (chmod(QFile::encodeName(path).constData(), mode) != 0)
-        qFatal("cannot set the mode of %s", qPrintable(path));
-}
-
 } // namespace
 
 void TestFileWriter::init()
 {
-    QDir(m_sandbox.path(QStringLiteral("config"))).removeRecursively();
     QVERIFY(QDir().mkpath(m_sandbox.path(QStringLiteral("config"))));
+}
+
+// Names that are no text as well.
+void TestFileWriter::cleanup()
+{
+    std::filesystem::remove_all(m_sandbox.path(QStringLiteral("config")).toStdString());
 }
 
 void TestFileWriter::newFileIsMade()
@@ -104,7 +175,7 @@ void TestFileWriter::newFileIsMade()
     QVERIFY(write(path(), "new"));
     umask(mask);
     QCOMPARE(Tests::readFile(path()), QByteArray("new"));
-    QCOMPARE(statusOf(path()).st_mode & 07777, mode_t(0644));
+    QCOMPARE(modeOf(path()), 0644U);
     QCOMPARE(files(), QStringList{QStringLiteral("exe.xml")});
 }
 
@@ -137,9 +208,9 @@ void TestFileWriter::modeStays()
 {
     QFETCH(const int, mode);
     Tests::writeFile(path(), "old");
-    setMode(path(), mode_t(mode));
+    setMode(path(), unsigned(mode));
     QVERIFY(write(path(), "new"));
-    QCOMPARE(statusOf(path()).st_mode & 07777, mode_t(mode));
+    QCOMPARE(modeOf(path()), unsigned(mode));
 }
 
 void TestFileWriter::ownerStays()
@@ -152,7 +223,85 @@ void TestFileWriter::ownerStays()
     QVERIFY(write(path(), "new"));
     QCOMPARE(statusOf(path()).st_uid, uid_t(12345));
     QCOMPARE(statusOf(path()).st_gid, gid_t(23456));
-    QCOMPARE(statusOf(path()).st_mode & 07777, mode_t(0640));
+    QCOMPARE(modeOf(path()), 0640U);
+}
+
+void TestFileWriter::accessListAndAttributesStay_data()
+{
+    QTest::addColumn<QByteArray>("list");
+    QTest::newRow("nobody else") << QByteArray();
+    QTest::newRow("a user who may only read") << Tests::accessList(04, 0, 04, 0);
+    QTest::newRow("a group that may less than a user") << Tests::accessList(06, 0, 06, 04);
+}
+
+void TestFileWriter::accessListAndAttributesStay()
+{
+    QFETCH(const QByteArray, list);
+    Tests::writeFile(path(), "old");
+    if (!Tests::setAttribute(path(), "user.note", "mine")
+        || !(list.isEmpty() || Tests::setAttribute(path(), Tests::accessListName, list)))
+        QSKIP("no attributes on this file system");
+    const unsigned mode = modeOf(path());
+
+    QVERIFY(write(path(), "new"));
+    QCOMPARE(Tests::attribute(path(), Tests::accessListName), list);
+    QCOMPARE(Tests::attribute(path(), "user.note"), QByteArray("mine"));
+    QCOMPARE(modeOf(path()), mode);
+}
+
+void TestFileWriter::listOfTheFolderDoesNotComeIn()
+{
+    Tests::writeFile(path(), "old");
+    setMode(path(), 0640);
+    if (!Tests::setAttribute(
+            QFileInfo(path()).path(), Tests::passedOnListName, Tests::accessList(06, 06, 06, 0)))
+        QSKIP("no access lists on this file system");
+    QVERIFY(write(path(), "new"));
+    QCOMPARE(Tests::attribute(path(), Tests::accessListName), QByteArray());
+    QCOMPARE(modeOf(path()), 0640U);
+}
+
+void TestFileWriter::anotherGroupHasNoMoreRights_data()
+{
+    QTest::addColumn<unsigned>("before");
+    QTest::addColumn<unsigned>("after");
+    QTest::addColumn<QByteArray>("listBefore");
+    QTest::addColumn<QByteArray>("listAfter");
+    const QByteArray none;
+    QTest::newRow("readable by all") << 0644U << 0644U << none << none;
+    QTest::newRow("the group may write") << 0664U << 0644U << none << none;
+    QTest::newRow("the group's alone") << 0660U << 0600U << none << none;
+    QTest::newRow("all but the group") << 0606U << 0600U << none << none;
+    QTest::newRow("in the group's name") << 02775U << 0755U << none << none;
+    QTest::newRow("a user beside the group")
+        << 0U << 0664U << Tests::accessList(06, 06, 06, 04) << Tests::accessList(06, 04, 06, 04);
+    QTest::newRow("a user who may nothing")
+        << 0U << 0660U << Tests::accessList(0, 06, 06, 04) << Tests::accessList(0, 0, 06, 0);
+    QTest::newRow("a mask below the group")
+        << 0U << 0644U << Tests::accessList(06, 06, 04, 06) << Tests::accessList(06, 04, 04, 04);
+}
+
+// The one who writes cannot give the new file the old one's group.
+void TestFileWriter::anotherGroupHasNoMoreRights()
+{
+    QFETCH(const unsigned, before);
+    QFETCH(const unsigned, after);
+    QFETCH(const QByteArray, listBefore);
+    QFETCH(const QByteArray, listAfter);
+    Tests::writeFile(path(), "old");
+    if (chown(QFile::encodeName(path()).constData(), getuid(), 23456) != 0)
+        QSKIP("only the superuser gives a file a group of others");
+    if (listBefore.isEmpty())
+        setMode(path(), before);
+    else if (!Tests::setAttribute(path(), Tests::accessListName, listBefore))
+        QSKIP("no access lists on this file system");
+    {
+        const Tests::Unprivileged user(m_sandbox.root());
+        QVERIFY(write(path(), "new"));
+    }
+    QVERIFY(statusOf(path()).st_gid != 23456);
+    QCOMPARE(Tests::attribute(path(), Tests::accessListName), listAfter);
+    QCOMPARE(QString::number(modeOf(path()), 8), QString::number(after, 8));
 }
 
 void TestFileWriter::symbolicLinkStays_data()
@@ -193,22 +342,80 @@ void TestFileWriter::linkBehindALinkedFolderStays()
     QCOMPARE(Tests::readFile(path("store/dll.xml")), QByteArray("foreign"));
 }
 
-void TestFileWriter::danglingLinkGetsItsTarget()
+void TestFileWriter::danglingLinkGetsItsTarget_data()
 {
-    QVERIFY(QFile::link(QStringLiteral("target.xml"), path()));
-    QVERIFY(write(path(), "new"));
-    QVERIFY(QFileInfo(path()).isSymLink());
-    QCOMPARE(Tests::readFile(path("target.xml")), QByteArray("new"));
+    QTest::addColumn<QByteArray>("link");
+    QTest::addColumn<QByteArray>("target");
+    QTest::newRow("beside it") << QByteArray("other.xml") << QByteArray("other.xml");
+    QTest::newRow("behind a linked folder")
+        << QByteArray("folder/other.xml") << QByteArray("far/deep/other.xml");
+    QTest::newRow("out of a linked folder")
+        << QByteArray("folder/../other.xml") << QByteArray("far/other.xml");
+    QTest::newRow("by another link")
+        << QByteArray("folder/link.xml") << QByteArray("far/other.xml");
+    QTest::newRow("into a folder that is no text")
+        << QByteArray("\xff/other.xml") << QByteArray("\xff/other.xml");
 }
 
-void TestFileWriter::circleOfLinksIsRefused()
+// What of the same name is elsewhere stays as it is, what a killed process left included.
+void TestFileWriter::danglingLinkGetsItsTarget()
 {
+    QFETCH(const QByteArray, link);
+    QFETCH(const QByteArray, target);
+    const QByteArray folder = QFile::encodeName(QFileInfo(path()).path()) + '/';
+    const QByteArray real = folder + target;
+    QVERIFY(QDir().mkpath(path("far/deep")));
+    const bool isText = target.at(0) != '\xff';
+    QVERIFY(isText || mkdir((folder + '\xff').constData(), 0700) == 0);
+    QVERIFY(QFile::link(QStringLiteral("far/deep"), path("folder")));
+    QVERIFY(QFile::link(QStringLiteral("../other.xml"), path("far/deep/link.xml")));
+    QCOMPARE(symlink(link.constData(), QFile::encodeName(path()).constData()), 0);
+    for (const char *name : {"other.xml", "far/other.xml", "far/deep/other.xml"}) {
+        Tests::writeFile(path(name) + QLatin1String("_quillmont_unfinished"), "half");
+        if (target != name && target != "other.xml")
+            Tests::writeFile(path(name), "foreign");
+    }
+    const QStringList before = files();
+
+    FileWriter::clearUnfinished(path());
+    QCOMPARE(files().size(), before.size() - (isText ? 1 : 0));
+    QVERIFY(access((real + "_quillmont_unfinished").constData(), F_OK) != 0);
+    QVERIFY(write(path(), "new"));
+    QVERIFY(QFileInfo(path()).isSymLink());
+    QCOMPARE(Tests::readFile(path()), QByteArray("new"));
+    QCOMPARE(access(real.constData(), F_OK), 0);
+    const auto tree = Tests::treeOf(m_sandbox.path(QStringLiteral("config")));
+    QCOMPARE(tree.values().count("new"), isText ? 1 : 0);
+}
+
+void TestFileWriter::linkThatLeadsToNoNameIsRefused_data()
+{
+    QTest::addColumn<QString>("link");
+    for (const char *link : {"other.xml",
+                             "exe.xml",
+                             "folder/..",
+                             "folder/.",
+                             "folder/",
+                             "folder",
+                             "gone/other.xml",
+                             "gone/../gone.xml",
+                             "file/other.xml"})
+        QTest::newRow(link) << QString::fromLatin1(link);
+}
+
+// The first two lead around in circles.
+void TestFileWriter::linkThatLeadsToNoNameIsRefused()
+{
+    QFETCH(const QString, link);
+    QVERIFY(QDir().mkpath(path("folder")));
+    Tests::writeFile(path("file"), "file");
     QVERIFY(QFile::link(QStringLiteral("exe.xml"), path("other.xml")));
-    QVERIFY(QFile::link(QStringLiteral("other.xml"), path()));
+    QVERIFY(QFile::link(link, path()));
+    const auto before = Tests::treeOf(m_sandbox.path(QStringLiteral("config")));
+    FileWriter::clearUnfinished(path());
     QVERIFY(!write(path(), "new"));
     QVERIFY(!m_problem.isEmpty());
-    QVERIFY(QFileInfo(path()).isSymLink());
-    QVERIFY(QFileInfo(path("other.xml")).isSymLink());
+    QCOMPARE(Tests::treeOf(m_sandbox.path(QStringLiteral("config"))), before);
 }
 
 /// The price of never having half a file: the name gets a new one.
@@ -231,6 +438,27 @@ void TestFileWriter::openReaderKeepsTheOldBytes()
     QVERIFY(write(path(), "new"));
     QCOMPARE(reader.readAll(), QByteArray("old"));
     QCOMPARE(Tests::readFile(path()), QByteArray("new"));
+}
+
+void TestFileWriter::bytesAreOnDiskBeforeTheyAreInPlace_data()
+{
+    addWays({{"much", 100 * 1024}});
+}
+
+// Otherwise a loss of power could leave an empty file in the place of a good one.
+void TestFileWriter::bytesAreOnDiskBeforeTheyAreInPlace()
+{
+    QFETCH(const int, size);
+    QFETCH(const QString, way);
+    Tests::writeFile(path(), "old");
+    s_steps.clear();
+    QVERIFY(writeInItsWay(path(), QByteArray(size, 'x')));
+    if (s_steps.isEmpty())
+        QSKIP("no view of what the system is asked for");
+    const QString onDisk = QStringLiteral("%1 bytes on disk").arg(size);
+    // A file with two names is only written over.
+    const QString then = way.endsWith(QLatin1String("names")) ? onDisk : QStringLiteral("in place");
+    QCOMPARE(s_steps, QStringList({onDisk, then}));
 }
 
 void TestFileWriter::leftOversDoNotDisturb()
@@ -276,20 +504,127 @@ void TestFileWriter::nothingElseIsCleared()
     QCOMPARE(Tests::treeOf(m_sandbox.path(QStringLiteral("config"))), before);
 }
 
-void TestFileWriter::folderInThePlaceOfTheUnfinishedFileDoesNotDisturb()
+void TestFileWriter::nameOfAnyLengthCanBeWritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isBlocked");
+    for (const int size : {7, 227, 228, 234, 235, 248, 249, 254, 255}) {
+        for (const bool isBlocked : {false, true}) {
+            const QString name = QString(size % 2, u'x') + QString(size / 2, QChar(0xfc));
+            QTest::addRow("%d bytes%s", size, isBlocked ? ", the unfinished name is taken" : "")
+                << name << isBlocked;
+        }
+    }
+}
+
+// A folder in its place makes that name useless.
+void TestFileWriter::nameOfAnyLengthCanBeWritten()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, isBlocked);
+    const QString file = m_sandbox.path(QStringLiteral("config/")) + name;
+    const QByteArray unfinished = Replacement::unfinishedName(QFile::encodeName(file));
+    const QString left = QFile::decodeName(unfinished);
+    QCOMPARE(QFile::encodeName(left), unfinished);
+    Tests::writeFile(left, "half");
+    FileWriter::clearUnfinished(file);
+    QCOMPARE(files(), QStringList());
+
+    QVERIFY(!isBlocked || QDir().mkdir(left));
+    for (const char *content : {"old", "new"}) {
+        QVERIFY2(write(file, content), qUtf8Printable(m_problem));
+        QCOMPARE(Tests::readFile(file), QByteArray(content));
+        QCOMPARE(files().size(), isBlocked ? 2 : 1);
+    }
+}
+
+void TestFileWriter::longNamesHaveUnfinishedFilesOfTheirOwn()
+{
+    const QByteArray name = '/' + QByteArray(254, 'x');
+    const QByteArray first = Replacement::unfinishedName(name + 'a');
+    QVERIFY(first != Replacement::unfinishedName(name + 'b'));
+    QCOMPARE(first, Replacement::unfinishedName(name + 'a'));
+    QVERIFY(first.startsWith("/xxxx") && first.endsWith("_quillmont_unfinished"));
+}
+
+void TestFileWriter::rewrittenFileKeepsItsFurtherNames_data()
+{
+    contentIsReplaced_data();
+}
+
+void TestFileWriter::rewrittenFileKeepsItsFurtherNames()
+{
+    QFETCH(const QByteArray, bytes);
+    Tests::writeFile(path(), "old content");
+    QCOMPARE(::link(QFile::encodeName(path()).constData(),
+                    QFile::encodeName(path("other.xml")).constData()),
+             0);
+    QVERIFY(rewrite(path(), bytes));
+    QCOMPARE(Tests::readFile(path()), bytes);
+    QCOMPARE(Tests::readFile(path("other.xml")), bytes);
+    QCOMPARE(files().size(), 2);
+}
+
+void TestFileWriter::rewrittenFileNeedsNoFileBesideIt()
 {
     Tests::writeFile(path(), "old");
-    QVERIFY(QDir().mkpath(path("exe.xml_quillmont_unfinished")));
-    QVERIFY(write(path(), "new"));
-    QCOMPARE(Tests::readFile(path()), QByteArray("new"));
-    QCOMPARE(files().size(), 2);
+    setMode(m_sandbox.path(QStringLiteral("config")), 0555);
+    bool isWritten = false;
+    {
+        const Tests::Unprivileged user(m_sandbox.root());
+        isWritten = rewrite(path(), "the new one");
+    }
+    setMode(m_sandbox.path(QStringLiteral("config")), 0755);
+    QVERIFY2(isWritten, qPrintable(m_problem));
+    QCOMPARE(Tests::readFile(path()), QByteArray("the new one"));
+}
+
+void TestFileWriter::whatCannotBeFinishedIsTakenBack_data()
+{
+    contentIsReplaced_data();
+}
+
+// The file has a second name, so that its bytes are written over.
+void TestFileWriter::whatCannotBeFinishedIsTakenBack()
+{
+    QFETCH(const QByteArray, bytes);
+    Tests::writeFile(path(), "old content");
+    QCOMPARE(::link(QFile::encodeName(path()).constData(),
+                    QFile::encodeName(path("other.xml")).constData()),
+             0);
+    StubbornFile file(path());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(!FileWriter::rewrite(&file, bytes, &m_problem));
+    QCOMPARE(Tests::readFile(path()), QByteArray("old content"));
+}
+
+// Each of these many bytes is written in each way that a file can be.
+void TestFileWriter::addWays(const QVector<QPair<const char *, int>> &sizes)
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("way");
+    for (const auto &[what, size] : sizes) {
+        for (const char *way : {"written", "rewritten", "rewritten under two names"})
+            QTest::addRow("%s, %s", what, way) << size << QString::fromLatin1(way);
+    }
+}
+
+bool TestFileWriter::writeInItsWay(const QString &path, const QByteArray &bytes)
+{
+    QFETCH(const QString, way);
+    if (way == QLatin1String("written"))
+        return write(path, bytes);
+    const QByteArray second = QFile::encodeName(path + QLatin1String(".link"));
+    if (way != QLatin1String("rewritten"))
+        ::link(QFile::encodeName(path).constData(), second.constData());
+    const bool isWritten = rewrite(path, bytes);
+    unlink(second.constData());
+    return isWritten;
 }
 
 void TestFileWriter::fileSizeLimitLeavesTheOldBytes_data()
 {
-    QTest::addColumn<int>("size");
-    QTest::newRow("what a buffer holds") << 10 * 1024;
-    QTest::newRow("more") << 100 * 1024;
+    addWays({{"what a buffer holds", 10 * 1024}, {"more", 100 * 1024}});
 }
 
 void TestFileWriter::fileSizeLimitLeavesTheOldBytes()
@@ -300,7 +635,7 @@ void TestFileWriter::fileSizeLimitLeavesTheOldBytes()
     QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
     const struct rlimit limit = {5000, before.rlim_max};
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const bool isWritten = write(path(), QByteArray(size, 'x'));
+    const bool isWritten = writeInItsWay(path(), QByteArray(size, 'x'));
     QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
 
     QVERIFY(!isWritten);
@@ -314,16 +649,12 @@ void TestFileWriter::fileSizeLimitLeavesTheOldBytes()
 
 void TestFileWriter::fullDiskLeavesTheOldBytes_data()
 {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<bool>("isFilled");
-    QTest::newRow("no block left") << 10 * 1024 << true;
-    QTest::newRow("some blocks left") << 200 * 1024 << false;
+    addWays({{"no block left", 10 * 1024}, {"some blocks left", 200 * 1024}});
 }
 
 void TestFileWriter::fullDiskLeavesTheOldBytes()
 {
     QFETCH(const int, size);
-    QFETCH(const bool, isFilled);
 #ifdef Q_OS_LINUX
     const QByteArray disk = QFile::encodeName(path("disk"));
     QVERIFY(QDir().mkpath(path("disk")));
@@ -334,17 +665,17 @@ void TestFileWriter::fullDiskLeavesTheOldBytes()
     Tests::writeFile(path("disk/exe.xml"), "old");
     QFile filler(path("disk/filler"));
     QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    while (isFilled && filler.write(QByteArray(4096, 'x')) > 0)
+    constexpr int diskSize = 100 * 1024;
+    while (size < diskSize && filler.write(QByteArray(4096, 'x')) > 0)
         continue;
     const QStringList before = files();
 
-    QVERIFY(!write(path("disk/exe.xml"), QByteArray(size, 'x')));
+    QVERIFY(!writeInItsWay(path("disk/exe.xml"), QByteArray(size, 'x')));
     QVERIFY(!m_problem.isEmpty());
     QCOMPARE(Tests::readFile(path("disk/exe.xml")), QByteArray("old"));
     QCOMPARE(files(), before);
 #else
     Q_UNUSED(size)
-    Q_UNUSED(isFilled)
     QSKIP("needs a small disk");
 #endif
 }
@@ -367,10 +698,9 @@ void TestFileWriter::readOnlyFolderIsRefused()
 
 void TestFileWriter::readOnlyFileIsRefused()
 {
-    if (getuid() == 0)
-        QSKIP("to the superuser no file is read-only");
     Tests::writeFile(path(), "old");
     setMode(path(), 0444);
+    const Tests::Unprivileged user(m_sandbox.root());
     QVERIFY(!write(path(), "new"));
     QVERIFY(!m_problem.isEmpty());
     QCOMPARE(Tests::readFile(path()), QByteArray("old"));
@@ -383,6 +713,7 @@ void TestFileWriter::whatIsNoFileIsRefused_data()
     QTest::newRow("pipe") << path("pipe");
     QTest::newRow("device") << QStringLiteral("/dev/null");
     QTest::newRow("no name") << QString();
+    QTest::newRow("a name that goes on behind a NUL") << path("exe.xml") + QChar(QChar::Null);
     QTest::newRow("missing folder") << path("missing/exe.xml");
 }
 
