@@ -3,6 +3,8 @@
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
 #include "Controllers/UserDataRoot.h"
+#include "Library/Helpers/FileHelper.h"
+#include "Library/Helpers/FileWriter.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/SimulatorFiles.h"
@@ -16,6 +18,8 @@
 
 #include <algorithm>
 
+using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
@@ -71,6 +75,8 @@ void ScanController::createMappingFile()
         return;
     }
     makeFolderOf(path);
+    FileWriter::clearUnfinished(path);
+
     QFile file(path);
     if (!file.exists())
         file.open(QIODevice::Append); // empties nothing, should it be there after all
@@ -103,7 +109,11 @@ void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool 
     const QString path = recordPath();
     qDebug().noquote().nospace() << "mapping path: " << path;
 
-    const QString text = readFile(path);
+    QString text;
+    if (!readText(path, &text) && !FileHelper::isMissing(path)) {
+        reportUnwritten(path, QStringLiteral("its records would be lost"));
+        return;
+    }
     QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
     removeLastRecord(records, mapping->scan->name);
     if (!uninstalled)

@@ -85,12 +85,12 @@ public:
     /// Replaces the record of @p mapping by a fresh one, or deletes it when @p uninstalled.
     void saveInstallationInfo(Models::FlightSimulatorMapping *mapping, bool uninstalled);
 
-    /// The whole text of a file. One that cannot be opened reads as empty and leaves a line in
-    /// m_errorMessage.
+    /// The whole text of a file. One that cannot be opened or read, or is bigger than any record,
+    /// reads as empty and leaves a line in m_errorMessage.
     QString readFile(const QString &path);
 
-    /// Makes @p content the whole text of a file, making missing folders. One that cannot be opened
-    /// leaves a line in m_errorMessage.
+    /// Makes @p content the whole text of a file, making missing folders. A file that cannot be
+    /// opened, or finds no room for it, keeps its text and leaves a line in m_errorMessage.
     void saveFile(const QString &path, const QString &content);
 
     // For other platforms; they do nothing here.
@@ -127,6 +127,9 @@ private:
 
     QList<Models::FlightSimScan *> catalogueEntries(const QString &content);
     Models::FlightSimulatorMapping *mappingFor(Models::FlightSimScan *scan);
+
+    bool readText(const QString &path, QString *text);
+    void reportUnwritten(const QString &path, const QString &problem);
 
     void copyPluginFiles(Models::FlightSimulatorMapping *mapping);
     void removePluginFiles(Models::FlightSimulatorMapping *mapping);

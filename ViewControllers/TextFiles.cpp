@@ -3,14 +3,16 @@
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
 #include "Library/Helpers/FileHelper.h"
+#include "Library/Helpers/FileWriter.h"
 #include "ViewControllers/SimulatorFiles.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
+#include <QTextCodec>
 #include <QTextStream>
 
 using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 
@@ -19,40 +21,54 @@ namespace Quillmont::Utility::ViewControllers {
 namespace {
 
 // Hundreds of thousands of records have less; what is bigger only eats up memory.
-constexpr qint64 biggestSize = 96LL * 1024 * 1024;
+constexpr qint64 maxSize = 96LL * 1024 * 1024;
 
-// Opening a pipe that stands in a file's place would wait for its other end for ever.
-bool isSomethingElse(const QString &path)
+bool open(QFile *file, QIODevice::OpenMode mode, QString *problem)
 {
-    const QFileInfo info(path);
-    return !PathEncoding::survives(path) || (info.exists() && !FileHelper::isOrdinary(path));
+    if (PathEncoding::survives(file->fileName()))
+        return FileHelper::open(file, mode, problem);
+    *problem = QStringLiteral("its name is not valid text");
+    return false;
 }
 
-// Handed over in one, the stream would first copy the whole text and then all its bytes.
-bool writeInPieces(const QString &content, QFile *file)
+QString wholeText(QFile *file, QString *problem)
 {
-    constexpr int size = 16 * 1024;
-    QTextStream stream(file);
-    for (int begin = 0; begin < content.size(); begin += size)
-        stream << content.midRef(begin, size);
-    stream.flush();
-    return file->flush() && file->error() == QFileDevice::NoError;
+    if (file->size() > maxSize) {
+        *problem = QStringLiteral("too big");
+        return {};
+    }
+    QString text = QTextStream(file).readAll();
+    if (file->error() != QFileDevice::NoError)
+        *problem = file->errorString();
+    return text;
 }
 
 } // namespace
 
 QString ScanController::readFile(const QString &path)
 {
+    QString text;
+    readText(path, &text);
+    return text;
+}
+
+bool ScanController::readText(const QString &path, QString *text)
+{
     const QString native = QDir::toNativeSeparators(path);
     QFile file(native);
-    if (!isSomethingElse(native) && file.size() <= biggestSize && file.open(QIODevice::ReadOnly))
-        return QTextStream(&file).readAll();
+    QString problem;
+    if (open(&file, QIODevice::ReadOnly, &problem))
+        *text = wholeText(&file, &problem);
+    if (problem.isEmpty())
+        return true;
 
+    text->clear();
+    logAction() << "not read:" << native << problem;
     // Says "empty" of a file that could not be opened: what support has been told to look for.
     m_errorMessage += tr("The file '%0' is empty. Quillmont Orbwell installer was not able to "
                          "change your configuration.")
                           .arg(native);
-    return {};
+    return false;
 }
 
 void ScanController::saveFile(const QString &path, const QString &content)
@@ -61,17 +77,21 @@ void ScanController::saveFile(const QString &path, const QString &content)
     makeFolderOf(native);
 
     QFile file(native);
-    if (!isSomethingElse(native) && file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
-        if (writeInPieces(content, &file))
-            logAction() << "written:" << native;
-        else
-            logAction() << "not wholly written:" << native << file.errorString();
-        return;
-    }
-    logAction() << "not written:" << native << file.errorString();
+    QString problem;
+    // As a text stream encodes it.
+    if (open(&file, QIODevice::ReadWrite, &problem)
+        && FileWriter::rewrite(&file, QTextCodec::codecForLocale()->fromUnicode(content), &problem))
+        logAction() << "written:" << native;
+    else
+        reportUnwritten(native, problem);
+}
+
+void ScanController::reportUnwritten(const QString &path, const QString &problem)
+{
+    logAction() << "not written:" << path << problem;
     m_errorMessage += tr("Unable to write configuration to file '%0'. Please check if you have "
                          "permission to that file.")
-                          .arg(native);
+                          .arg(path);
 }
 
 void ScanController::createRestrictedProcess(const QString &) { }

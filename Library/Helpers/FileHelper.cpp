@@ -4,11 +4,13 @@
 #include "Library/Helpers/LibraryLog.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTextCodec>
 
 #include <filesystem>
 #include <string>
+#include <sys/stat.h>
 #include <system_error>
 
 namespace Quillmont::Library::Helpers {
@@ -22,12 +24,26 @@ QString write(const QString &path, const QString &text, const QString &encoding)
         return QStringLiteral("unknown encoding \"%1\"").arg(encoding);
     if (!codec->canEncode(text))
         return QStringLiteral("the encoding \"%1\" lacks a character of the text").arg(encoding);
-    if (path.isEmpty() || !QDir().mkpath(QFileInfo(path).absolutePath()))
+    // The absolute path would be without "..", which leads elsewhere behind a linked folder.
+    if (path.isEmpty() || !QDir().mkpath(QFileInfo(path).path()))
         return QStringLiteral("its folder cannot be made");
 
     QString problem;
     FileWriter::write(path, codec->fromUnicode(text), &problem);
     return problem;
+}
+
+bool isRegular(int handle)
+{
+    struct stat status = {};
+    return fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+// Some of the system's files have neither a size nor an end. One that another process gives its
+// first bytes in this moment is none of them.
+bool hasAnEnd(QFile *file)
+{
+    return file->size() > 0 || file->peek(1).isEmpty() || file->size() > 0;
 }
 
 } // namespace
@@ -47,11 +63,23 @@ bool FileHelper::isMissing(const QString &path)
     return std::filesystem::status(name, ignored).type() == std::filesystem::file_type::not_found;
 }
 
+bool FileHelper::open(QFile *file, QIODevice::OpenMode mode, QString *problem)
+{
+    const QFileInfo info(file->fileName());
+    const bool isSomethingElse = info.exists() && !info.isFile();
+    if (!isSomethingElse && file->open(mode) && isRegular(file->handle()) && hasAnEnd(file))
+        return true;
+    *problem = isSomethingElse || file->isOpen() ? QStringLiteral("not an ordinary file")
+                                                 : file->errorString();
+    file->close();
+    return false;
+}
+
 bool FileHelper::isOrdinary(const QString &path)
 {
     QFile file(path);
-    return QFileInfo(path).isFile()
-        && (file.size() > 0 || !file.open(QIODevice::ReadOnly) || file.peek(1).isEmpty());
+    QString ignored;
+    return open(&file, QIODevice::ReadOnly, &ignored);
 }
 
 } // namespace Quillmont::Library::Helpers

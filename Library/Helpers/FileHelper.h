@@ -1,11 +1,14 @@
 #ifndef LIBRARY_HELPERS_FILEHELPER_H
 #define LIBRARY_HELPERS_FILEHELPER_H
 
+#include <QIODevice>
+
+class QFile;
 class QString;
 
 namespace Quillmont::Library::Helpers {
 
-/// Writes text files, and tells whether a file is there.
+/// Opens files, writes text files, and tells whether a file is there.
 class FileHelper
 {
 public:
@@ -17,8 +20,12 @@ public:
     /// Whether there surely is no such file; one that cannot be looked at may well be there.
     static bool isMissing(const QString &path);
 
-    /// Whether there is a regular file whose bytes come to an end. Some of the system's have
-    /// neither a size nor an end.
+    /// Opens @p file if it is a regular one whose bytes come to an end, or one that @p mode makes:
+    /// some of the system's have neither a size nor an end. A pipe or a device is not even opened.
+    /// On failure the file is closed and @p problem says why.
+    static bool open(QFile *file, QIODevice::OpenMode mode, QString *problem);
+
+    /// Whether there is a regular file whose bytes come to an end.
     static bool isOrdinary(const QString &path);
 };
 

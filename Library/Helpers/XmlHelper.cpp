@@ -21,17 +21,14 @@ using Edit = std::function<QByteArray(const QByteArray &, QString *)>;
 QByteArray read(const QString &path, QString *problem)
 {
     // Configuration files have some kilobytes; what is bigger than this only eats up memory.
-    constexpr qint64 biggestSize = 32LL * 1024 * 1024;
+    constexpr qint64 maxSize = 32LL * 1024 * 1024;
     QFile file(path);
-    // A pipe is not even opened: that would wait for somebody at its other end.
-    if (!FileHelper::isOrdinary(path))
-        *problem = QStringLiteral("not an ordinary file");
-    else if (file.size() > biggestSize)
-        *problem = QStringLiteral("too big");
-    else if (!file.open(QIODevice::ReadOnly))
-        *problem = file.errorString();
-    if (!file.isOpen())
+    if (!FileHelper::open(&file, QIODevice::ReadOnly, problem))
         return {};
+    if (file.size() > maxSize) {
+        *problem = QStringLiteral("too big");
+        return {};
+    }
 
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)

@@ -3,7 +3,10 @@
 #include "tests/EndToEnd/Simulators.h"
 
 #include <QDir>
+#include <QFile>
 #include <QJsonDocument>
+
+#include <unistd.h>
 
 namespace Tests {
 
@@ -50,6 +53,21 @@ static QJsonObject file(const char *source, const char *destination)
             {QStringLiteral("destination"), QLatin1String(destination)}};
 }
 
+// Of a simulator that the catalogue does not have.
+static QJsonObject othersRecord()
+{
+    return {{QStringLiteral("name"), QStringLiteral("Elsewhere")},
+            {QStringLiteral("path"), QStringLiteral("/else/where")},
+            {QStringLiteral("files"), QJsonArray{QStringLiteral("/else/where/lin.xpl")}}};
+}
+
+static void giveSecondName(const QString &file, const QString &name)
+{
+    QFile::remove(name);
+    if (::link(QFile::encodeName(file).constData(), QFile::encodeName(name).constData()) != 0)
+        qFatal("no second name for %s", qPrintable(file));
+}
+
 static bool isBackup(const QString &path)
 {
     return path.contains(QLatin1String("_quillmont_orbwell_before_"));
@@ -83,6 +101,7 @@ DisturbedComputer::DisturbedComputer(Beginning beginning)
     for (const auto &each : qAsConst(m_catalogue))
         m_computer.putPlugin(&installed, each.toObject());
     m_computer.finish(&installed, {});
+    takeOut(&installed, recordPath());
     for (auto it = installed.cbegin(); it != installed.cend(); ++it) {
         if (!it.key().endsWith(u'/'))
             m_allowed.insert(it.key(), {it.value(), oldPlugin});
@@ -115,20 +134,37 @@ void DisturbedComputer::reset()
     }
     QByteArray configuration = manyConfigured();
     const QStringList files = pluginFiles(entry(kept())).keys();
+    QJsonArray records{othersRecord()};
     if (m_beginning == PartlyInstalled) {
         m_computer.write(relative(kept(), files.constLast()), oldPlugin);
     } else {
-        QJsonArray records;
         for (const QString &simulator : names) {
             for (const QString &each : files)
                 m_computer.write(relative(simulator, each), oldPlugin);
             records.append(m_computer.recordFor(entry(simulator)));
         }
-        m_computer.setRecords(records);
         // In front of others' entries, so that it moves when it goes and comes back.
         configuration.insert(configuration.indexOf("    <Launch.Addon>"), pluginEntry());
     }
     m_computer.write(m_computer.configuration(kept()), configuration);
+    m_computer.setRecords(records);
+    if (m_beginning == RecordedTwice)
+        giveSecondName(m_computer.absolute(recordPath()),
+                       m_computer.absolute(QStringLiteral("second")));
+}
+
+// The other simulator's, and of ours each at most once.
+bool DisturbedComputer::isWholeRecord(const QByteArray &text) const
+{
+    QJsonArray expected{othersRecord()};
+    const QJsonArray records = QJsonDocument::fromJson(text).array();
+    const QStringList names = simulators();
+    for (const QString &simulator : names) {
+        const QJsonObject record = m_computer.recordFor(entry(simulator));
+        if (records.contains(record))
+            expected.append(record);
+    }
+    return records.contains(othersRecord()) && records.size() == expected.size();
 }
 
 /// The configuration file that the one at @p path is a backup of, or itself.
@@ -152,12 +188,14 @@ QStringList DisturbedComputer::harm() const
     }
     for (auto it = left.cbegin(); it != left.cend(); ++it) {
         const QString path = configurationOf(it.key());
+        const bool isRecord = path == recordPath();
         const bool ours = m_allowed.contains(path);
-        if (path.endsWith(QLatin1String("/.mapping")))
-            continue;
-        if (ours && !m_allowed.value(path).contains(it.value()))
+        if (isRecord && !isWholeRecord(it.value()))
+            lines.append(QStringLiteral("torn record: ") + QString::fromUtf8(it.value()));
+        else if (ours && !m_allowed.value(path).contains(it.value()))
             lines.append(QStringLiteral("torn ") + it.key());
-        else if (!ours && m_before.contains(path) && m_before.value(path) != it.value())
+        else if (!ours && !isRecord && m_before.contains(path)
+                 && m_before.value(path) != it.value())
             lines.append(QStringLiteral("changed ") + it.key());
     }
     return lines;

@@ -7,7 +7,7 @@ namespace Tests {
 
 /// A computer on which runs go wrong. It has two simulators with a configuration each, three
 /// plugin files in several folders, and files of others all around: "Kept" has other add-ons in
-/// its configuration file, "Bare" has no such file yet.
+/// its configuration file, "Bare" has no such file yet. The record has another simulator, too.
 class DisturbedComputer
 {
 public:
@@ -15,7 +15,8 @@ public:
     enum Beginning {
         PartlyInstalled, ///< one plugin file of an older version in "Kept"
         Installed, ///< all plugin files of an older version, with their records
-        OnlyRecorded ///< the same, and nothing but the record knows where the simulators are
+        OnlyRecorded, ///< the same, and nothing but the record knows where the simulators are
+        RecordedTwice ///< as Installed, and the record has a second name somewhere else
     };
 
     explicit DisturbedComputer(Beginning beginning);
@@ -28,7 +29,7 @@ public:
     void reset();
 
     /// What a run did that no run may do, a line each: bytes of others changed or lost, a
-    /// configuration or plugin file that is neither old nor new.
+    /// configuration or plugin file that is neither old nor new, a record that is not whole.
     QStringList harm() const;
     /// The files that a run left and no whole run leaves.
     QStringList leftovers() const;
@@ -53,6 +54,7 @@ public:
 
 private:
     QJsonObject entry(const QString &simulator) const;
+    bool isWholeRecord(const QByteArray &text) const;
     QString configurationOf(const QString &path) const;
     /// By the simulators' names.
     QMap<QString, QJsonObject> recordsOn(const Disk &disk) const;

@@ -45,6 +45,7 @@ private slots:
     void opensItsWindowWithoutADataFolder();
     void namesWhatASmallDiskDoesNotTake();
     void leavesAConfigurationOnAFullDisk();
+    void tellsOfARecordOnAFullDisk();
     void namesWhatIsOverTheLimit();
     void leavesAConfigurationOverTheLimit();
     void namesAReadOnlyDisk();
@@ -279,6 +280,30 @@ void TestRealConditions::leavesAConfigurationOnAFullDisk()
     QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden),
              QStringList(QStringLiteral("dll.xml")));
     QCOMPARE(readFile(place()), QByteArray("module"));
+}
+
+void TestRealConditions::tellsOfARecordOnAFullDisk()
+{
+    const QString folder
+        = m_computer->absolute(m_computer->data(QStringLiteral("Quillmont/Orbwell")));
+    if (!m_mounts->addDisk(folder, 20))
+        QSKIP(noMount);
+    installInto(1, "module");
+    const QString others = QStringLiteral("Somebody else's");
+    m_computer->setRecords({QJsonObject{{QStringLiteral("name"), others}}});
+    QFile filler(folder + QLatin1String("/filler"));
+    QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(4096, 'x')) > 0)
+        continue;
+    const QByteArray before = readFile(folder + QLatin1String("/.mapping"));
+
+    QCOMPARE(m_computer->run({QStringLiteral("--REPAIR")}), 2);
+    QVERIFY(m_computer->said().constLast().endsWith(QLatin1String("Det: Not updated")));
+    QVERIFY(m_computer->said().constFirst().contains(
+        QLatin1String("Unable to write configuration to file '")));
+    QCOMPARE(readFile(folder + QLatin1String("/.mapping")), before);
+    QCOMPARE(readFile(place()), QByteArray("module"));
+    QVERIFY(!m_computer->program().standardError().contains("orbwell: written"));
 }
 
 void TestRealConditions::namesWhatIsOverTheLimit()

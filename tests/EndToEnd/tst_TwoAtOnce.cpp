@@ -4,21 +4,25 @@
 #include "tests/support/Sandbox.h"
 
 #include <QDir>
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <memory>
+#include <vector>
+
 using namespace Tests;
 
-/// Two copies of the program, each with a simulator of its own to install into. Both simulators
-/// load what one configuration file says, each copy's entry under a name of its own.
+/// Copies of the program, each with a simulator of its own to install into. All simulators load
+/// what one configuration file says, each copy's entry under a name of its own.
 class TestTwoAtOnce : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void keepBothEntries_data();
-    void keepBothEntries();
+    void keepAllEntries_data();
+    void keepAllEntries();
 
 private:
     QString simulator(const QString &name) const
@@ -26,19 +30,25 @@ private:
         return m_sandbox.path(QStringLiteral("sims/") + name);
     }
 
-    void installTogether();
+    void installTogether(int copies);
 
     QString m_configuration;
     Sandbox m_sandbox;
-    Program m_first{m_sandbox, nullptr, QStringLiteral("first")};
-    Program m_second{m_sandbox, nullptr, QStringLiteral("second")};
+    std::vector<std::unique_ptr<Program>> m_programs;
 };
 
-// More of them show more; ORBWELL_ROUNDS says how many.
-static int rounds()
+static const QStringList names{QStringLiteral("A"),
+                               QStringLiteral("B"),
+                               QStringLiteral("C"),
+                               QStringLiteral("D"),
+                               QStringLiteral("E")};
+
+// More of them show more; ORBWELL_ROUNDS says how many with two copies.
+static int rounds(int copies)
 {
     const int asked = qEnvironmentVariableIntValue("ORBWELL_ROUNDS");
-    return asked > 0 ? asked : 10;
+    const int withTwo = asked > 0 ? asked : 10;
+    return copies == 2 ? withTwo : qMax(1, withTwo / 4);
 }
 
 // One file for each, so that the configuration file is edited once: a second edit would mend what
@@ -72,54 +82,67 @@ static QStringList entryNames(const QByteArray &document)
 void TestTwoAtOnce::initTestCase()
 {
     m_configuration = m_sandbox.dataRoot() + QStringLiteral("Maker/dll.xml");
-    place(m_first, {entryOf(QStringLiteral("A"), simulator(QStringLiteral("A")))});
-    place(m_second, {entryOf(QStringLiteral("B"), simulator(QStringLiteral("B")))});
+    for (const QString &name : names) {
+        m_programs.push_back(std::make_unique<Program>(m_sandbox, nullptr, name));
+        place(*m_programs.back(), {entryOf(name, simulator(name))});
+    }
 }
 
-void TestTwoAtOnce::installTogether()
+// A box, which nobody answers, would keep one from its end.
+void TestTwoAtOnce::installTogether(int copies)
 {
-    m_first.start(quietInstallation());
-    m_second.start(quietInstallation());
-    QCOMPARE(m_first.exitStatus(), 2);
-    QCOMPARE(m_second.exitStatus(), 2);
+    for (int i = 0; i < copies; ++i)
+        m_programs.at(i)->start(quietInstallation());
+    for (int i = 0; i < copies; ++i)
+        QCOMPARE(m_programs.at(i)->exitStatus(), 2);
 }
 
-void TestTwoAtOnce::keepBothEntries_data()
+void TestTwoAtOnce::keepAllEntries_data()
 {
+    QTest::addColumn<int>("copies");
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QString>("alreadyThere");
-
-    QTest::newRow("others' file") << othersConfiguration()
-                                  << QStringLiteral("Somebody's \u00e9tude");
-    QTest::newRow("no file yet") << QByteArray() << QStringLiteral("Quillmont Orbwell");
+    for (const int copies : {2, 5}) {
+        QTest::addRow("%d, others' file", copies)
+            << copies << othersConfiguration() << QStringLiteral("Somebody's \u00e9tude");
+        QTest::addRow("%d, no file yet", copies)
+            << copies << QByteArray() << QStringLiteral("Quillmont Orbwell");
+    }
 }
 
-void TestTwoAtOnce::keepBothEntries()
+void TestTwoAtOnce::keepAllEntries()
 {
+    QFETCH(int, copies);
     QFETCH(QByteArray, before);
     QFETCH(QString, alreadyThere);
+    const QStringList simulators = names.mid(0, copies);
+    QStringList expected(alreadyThere);
+    for (const QString &name : simulators)
+        expected.append(QStringLiteral("Orbwell for ") + name);
+    expected.sort();
 
-    for (int round = 0; round < rounds(); ++round) {
+    for (int round = 0; round < rounds(copies); ++round) {
         QDir(m_sandbox.path(QStringLiteral("sims"))).removeRecursively();
         QDir(m_sandbox.dataRoot()).removeRecursively();
-        for (const char *name : {"A", "B"})
-            QVERIFY(QDir().mkpath(simulator(QLatin1String(name))));
+        for (const QString &name : simulators)
+            QVERIFY(QDir().mkpath(simulator(name)));
         if (!before.isEmpty())
             writeFile(m_configuration, before);
 
-        installTogether();
+        installTogether(copies);
         if (QTest::currentTestFailed())
             return;
 
-        QStringList expected{QStringLiteral("Orbwell for A"), QStringLiteral("Orbwell for B")};
-        expected.append(alreadyThere);
-        expected.sort();
         QCOMPARE(entryNames(readFile(m_configuration)), expected);
-        for (const char *name : {"A", "B"}) {
+        // Who writes the record last wins, but it is always a whole one.
+        const auto kept = treeOf(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell"));
+        QCOMPARE(kept.keys(), QStringList({QStringLiteral(".mapping"), QStringLiteral(".path")}));
+        QVERIFY(!QJsonDocument::fromJson(kept.first()).array().isEmpty());
+        for (const QString &name : simulators) {
             const QMap<QString, QByteArray> files{
                 {QStringLiteral("Gauges/"), QByteArray()},
                 {QStringLiteral("Gauges/QuillmontOrbwell_64.dll"), QByteArray("module")}};
-            QCOMPARE(treeOf(simulator(QLatin1String(name))), files);
+            QCOMPARE(treeOf(simulator(name)), files);
         }
     }
 }

@@ -277,6 +277,41 @@ private slots:
                  cannotWrite(shop.sandbox.dataRoot() + "/Quillmont/Orbwell/.mapping"_s));
     }
 
+    void isNotWrittenIfItWasNotRead_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<bool>("isWritten");
+        constexpr qint64 bound = 96LL * 1024 * 1024;
+        QTest::newRow("the biggest that is read") << bound << true;
+        QTest::newRow("one byte more") << bound + 1 << false;
+    }
+
+    // What is read here is no list of records, and as such makes room for a new one.
+    void isNotWrittenIfItWasNotRead()
+    {
+        QFETCH(qint64, size);
+        QFETCH(bool, isWritten);
+        Workshop shop;
+        shop.controller();
+        QVERIFY(QFile::resize(shop.recordPath(), size));
+        save(shop, false);
+        QCOMPARE(QFileInfo(shop.recordPath()).size() == size, !isWritten);
+        const QString said = shop.controller().m_errorMessage;
+        QCOMPARE(said.count(QStringLiteral("/.mapping' is empty. ")), isWritten ? 0 : 1);
+        QCOMPARE(said.count(QStringLiteral("Unable to write configuration ")), isWritten ? 0 : 1);
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("is in")).size(), isWritten ? 1 : 0);
+    }
+
+    void isRidOfWhatAKilledRunLeftAtTheNextStart()
+    {
+        Workshop shop;
+        shop.writeRecord("[]");
+        writeFile(shop.recordPath() + QStringLiteral("_quillmont_unfinished"), "[]");
+        shop.controller();
+        QCOMPARE(Tests::treeOf(shop.dataPath("Quillmont/Orbwell")).keys(),
+                 QStringList(QStringLiteral(".mapping")));
+    }
+
     void isReadAsItWasWritten()
     {
         Workshop shop;

@@ -5,8 +5,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
+#include <QTextCodec>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using Tests::Workshop;
 using Tests::writeFile;
@@ -126,6 +129,62 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
+    void writesInTheLocalesEncoding()
+    {
+        Workshop shop;
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+        shop.controller().saveFile(shop.path("file"), QStringLiteral("\u00fc\u65e5"));
+        QCOMPARE(Tests::readFile(shop.path("file")), QByteArray("\xfc?"));
+    }
+
+    void keepsTheOldTextWhereTheNewOneFindsNoRoom_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<bool>("hasTwoNames");
+        QTest::newRow("a text") << QByteArray("old") << false;
+        QTest::newRow("a text under two names") << QByteArray("old") << true;
+        QTest::newRow("none") << QByteArray() << false;
+    }
+
+    // What was not there is there now, and empty.
+    void keepsTheOldTextWhereTheNewOneFindsNoRoom()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(bool, hasTwoNames);
+        Workshop shop;
+        const QString file = shop.path("folder/file");
+        if (!before.isEmpty())
+            writeFile(file, before);
+        if (hasTwoNames)
+            QCOMPARE(::link(QFile::encodeName(file).constData(),
+                            QFile::encodeName(shop.path("second")).constData()),
+                     0);
+        shop.controller();
+        struct rlimit usual = {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
+        const struct rlimit limit = {5000, usual.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+        shop.controller().saveFile(file, QString(6000, u'x'));
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+
+        QCOMPARE(shop.controller().m_errorMessage, unableToWriteLine(file));
+        QCOMPARE(Tests::treeOf(shop.path("folder")),
+                 (QMap<QString, QByteArray>{{QStringLiteral("file"), before}}));
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("written: ")).size(), 1);
+        QVERIFY(shop.log.actions().constLast().startsWith(QLatin1String("not written: ")));
+    }
+
+    void writesThroughALinkAndKeepsIt()
+    {
+        Workshop shop;
+        writeFile(shop.path("far/file"), "old");
+        QVERIFY(QFile::link(QStringLiteral("far/file"), shop.path("link")));
+        shop.controller().saveFile(shop.path("link"), QStringLiteral("new"));
+        QVERIFY(QFileInfo(shop.path("link")).isSymLink());
+        QCOMPARE(Tests::treeOf(shop.path("far")),
+                 (QMap<QString, QByteArray>{{QStringLiteral("file"), "new"}}));
+    }
+
     void waitsForNobodyAtAPipe()
     {
         Workshop shop;
@@ -148,19 +207,27 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(link));
     }
 
-    // A gigabyte that takes no room on the disk. It counts as unreadable, and as any record that
-    // is no use it makes room for a new one.
-    void doesNotReadWhatIsTooBig()
+    void readsNothingThatIsTooBig_data()
     {
+        QTest::addColumn<qint64>("size");
+        QTest::addColumn<bool>("isRead");
+        constexpr qint64 bound = 96LL * 1024 * 1024;
+        QTest::newRow("the biggest") << bound << true;
+        QTest::newRow("one byte more") << bound + 1 << false;
+        QTest::newRow("a gigabyte") << 1024LL * 1024 * 1024 << false;
+    }
+
+    // It takes no room on the disk.
+    void readsNothingThatIsTooBig()
+    {
+        QFETCH(qint64, size);
+        QFETCH(bool, isRead);
         Workshop shop;
         const QString file = shop.path("big");
         writeFile(file, {});
-        QVERIFY(QFile::resize(file, 1024LL * 1024 * 1024));
-        QCOMPARE(shop.controller().readFile(file), QString());
-        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(file));
-        shop.controller().saveFile(file, QStringLiteral("text"));
-        QCOMPARE(Tests::readFile(file), QByteArray("text"));
-        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(file));
+        QVERIFY(QFile::resize(file, size));
+        QCOMPARE(shop.controller().readFile(file).size(), isRead ? int(size) : 0);
+        QCOMPARE(shop.controller().m_errorMessage, isRead ? QString() : isEmptyLine(file));
     }
 
     void backsUpBesideTheFileWithTheLocalTime_data()

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using Quillmont::Library::Helpers::FileHelper;
 
 /// Saves texts as whole files.
@@ -25,6 +27,11 @@ private slots:
     void whatCannotBeWrittenChangesNothing();
     void folderThatCannotBeMadeIsAFailure();
     void symbolicLinkStays();
+    void linkOutOfALinkedFolderStays_data();
+    void linkOutOfALinkedFolderStays();
+    void onlyWhatComesToAnEndIsOpened_data();
+    void onlyWhatComesToAnEndIsOpened();
+    void fileThatGetsItsFirstBytesIsOpened();
     void onlyWhatIsSurelyNotThereIsMissing();
 
 private:
@@ -34,6 +41,25 @@ private:
 
     Tests::Sandbox m_sandbox;
 };
+
+namespace {
+
+// Empty when it is first asked for its size, and never again: another process has just written.
+class GrowingFile : public QFile
+{
+public:
+    using QFile::QFile;
+
+    qint64 size() const override
+    {
+        const qint64 before = QFile::size();
+        if (before == 0)
+            Tests::writeFile(fileName(), "text");
+        return before;
+    }
+};
+
+} // namespace
 
 void TestFileHelper::init()
 {
@@ -118,6 +144,84 @@ void TestFileHelper::symbolicLinkStays()
     QVERIFY(FileHelper::saveText(path(), QStringLiteral("new"), QString()));
     QVERIFY(QFileInfo(path()).isSymLink());
     QCOMPARE(Tests::readFile(folder() + QStringLiteral("/target.xml")), QByteArray("new"));
+}
+
+void TestFileHelper::linkOutOfALinkedFolderStays_data()
+{
+    QTest::addColumn<QString>("saved");
+    QTest::newRow("a link") << path();
+    QTest::newRow("a path through it") << folder() + QStringLiteral("/linked/../new/other.xml");
+}
+
+// What ".." means there is not what the text says; the neighbour of the same name stays.
+void TestFileHelper::linkOutOfALinkedFolderStays()
+{
+    QFETCH(const QString, saved);
+    Tests::writeFile(folder() + QStringLiteral("/new/other.xml"), "foreign");
+    QVERIFY(QDir().mkpath(folder() + QStringLiteral("/far/deep")));
+    QVERIFY(QFile::link(QStringLiteral("far/deep"), folder() + QStringLiteral("/linked")));
+    if (saved == path()) {
+        QVERIFY(QDir().mkpath(folder() + QStringLiteral("/far/new")));
+        QVERIFY(QFile::link(QStringLiteral("linked/../new/other.xml"), path()));
+    }
+    QVERIFY(FileHelper::saveText(saved, QStringLiteral("new"), QString()));
+    QCOMPARE(Tests::readFile(folder() + QStringLiteral("/far/new/other.xml")), QByteArray("new"));
+    QCOMPARE(Tests::readFile(folder() + QStringLiteral("/new/other.xml")), QByteArray("foreign"));
+}
+
+void TestFileHelper::onlyWhatComesToAnEndIsOpened_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("forReading");
+    QTest::addColumn<bool>("forWriting");
+    const auto row = [this](const char *name, bool forReading, bool forWriting) {
+        const QString file
+            = name[0] == '/' ? QString::fromLatin1(name) : folder() + u'/' + QLatin1String(name);
+        QTest::newRow(name) << file << forReading << forWriting;
+    };
+    row("full", true, true);
+    row("empty", true, true);
+    row("link", true, true);
+    row("missing", false, true);
+    row("folder", false, false);
+    row("pipe", false, false);
+    row("/dev/zero", false, false);
+    row("/proc/self/comm", false, false);
+    row("/proc/self/pagemap", false, false);
+}
+
+void TestFileHelper::onlyWhatComesToAnEndIsOpened()
+{
+    QFETCH(const QString, file);
+    QFETCH(const bool, forReading);
+    QFETCH(const bool, forWriting);
+    Tests::writeFile(folder() + QStringLiteral("/full"), "text");
+    Tests::writeFile(folder() + QStringLiteral("/empty"), {});
+    QVERIFY(QFile::link(QStringLiteral("full"), folder() + QStringLiteral("/link")));
+    QVERIFY(QDir().mkpath(folder() + QStringLiteral("/folder")));
+    const QByteArray pipe = QFile::encodeName(folder() + QStringLiteral("/pipe"));
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+
+    for (const auto mode : {QIODevice::ReadOnly, QIODevice::ReadWrite}) {
+        QFile opened(file);
+        QString problem;
+        const bool expected = mode == QIODevice::ReadOnly ? forReading : forWriting;
+        QCOMPARE(FileHelper::open(&opened, mode, &problem), expected);
+        QCOMPARE(opened.isOpen(), expected);
+        QCOMPARE(problem.isEmpty(), expected);
+        if (expected)
+            QCOMPARE(opened.readAll(),
+                     QByteArray(file.endsWith(u'l') || file.endsWith(u'k') ? "text" : ""));
+    }
+}
+
+void TestFileHelper::fileThatGetsItsFirstBytesIsOpened()
+{
+    Tests::writeFile(path(), {});
+    GrowingFile file(path());
+    QString problem;
+    QVERIFY2(FileHelper::open(&file, QIODevice::ReadOnly, &problem), qPrintable(problem));
+    QCOMPARE(file.readAll(), QByteArray("text"));
 }
 
 void TestFileHelper::onlyWhatIsSurelyNotThereIsMissing()
