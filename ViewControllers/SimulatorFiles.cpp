@@ -4,6 +4,7 @@
 #include "Controllers/PathEncoding.h"
 #include "Controllers/UserDataRoot.h"
 #include "Library/Helpers/FileHelper.h"
+#include "Library/Helpers/FileStatus.h"
 #include "Library/Helpers/LetterCase.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
@@ -16,6 +17,7 @@
 #include <QFileInfo>
 
 using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Library::Helpers::FileStatus;
 using Quillmont::Library::Helpers::LetterCase;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
@@ -23,6 +25,40 @@ using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+// QFile::copy() gives the copy the permissions that the original says it has. Its mode alone would
+// grant more than a file does that has an access list or another group.
+class Original : public QFile // clazy:exclude=missing-qobject-macro
+{
+public:
+    using QFile::QFile;
+
+    Permissions permissions() const override { return ReadOwner | WriteOwner; }
+};
+
+void copyStatus(const QString &from, const QString &to)
+{
+    QFile original(from);
+    QFile copy(to);
+    if (original.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly))
+        FileStatus::copy(original.handle(), copy.handle());
+}
+
+bool copyOrdinary(const QString &from, const QString &to)
+{
+    Original original(from);
+    QString ignored;
+    // Copying a pipe would wait for its other end for ever, and a device may have no end.
+    const bool copied
+        = FileHelper::open(&original, QIODevice::ReadOnly, &ignored) && original.copy(to);
+    if (copied)
+        copyStatus(from, to);
+    return copied;
+}
+
+} // namespace
 
 QString simulatorFolder(const FlightSimulatorMapping *mapping)
 {
@@ -74,8 +110,7 @@ void backUp(const QString &file, const QString &suffix)
         return;
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
-    // Copying a pipe would wait for its other end for ever, and a device may have no end.
-    const bool copied = FileHelper::isOrdinary(file) && QFile::copy(file, backup);
+    const bool copied = copyOrdinary(file, backup);
     qDebug().noquote().nospace() << "file backups to '" << backup
                                  << "'. Result: " << (copied ? "succeed" : "error");
 }

@@ -75,11 +75,4 @@ bool FileHelper::open(QFile *file, QIODevice::OpenMode mode, QString *problem)
     return false;
 }
 
-bool FileHelper::isOrdinary(const QString &path)
-{
-    QFile file(path);
-    QString ignored;
-    return open(&file, QIODevice::ReadOnly, &ignored);
-}
-
 } // namespace Quillmont::Library::Helpers

@@ -24,9 +24,6 @@ public:
     /// some of the system's have neither a size nor an end. A pipe or a device is not even opened.
     /// On failure the file is closed and @p problem says why.
     static bool open(QFile *file, QIODevice::OpenMode mode, QString *problem);
-
-    /// Whether there is a regular file whose bytes come to an end.
-    static bool isOrdinary(const QString &path);
 };
 
 } // namespace Quillmont::Library::Helpers

@@ -1,4 +1,6 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/Attributes.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -7,12 +9,25 @@
 #include <QTest>
 #include <QTextCodec>
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using Tests::Workshop;
 using Tests::writeFile;
+
+// The modes that files have been given by their names.
+static QVector<unsigned> s_modes;
+
+#ifdef Q_OS_LINUX
+// Stands in front of the C library's.
+extern "C" int chmod(const char *name, mode_t mode) noexcept
+{
+    s_modes.append(mode);
+    return fchmodat(AT_FDCWD, name, mode, 0);
+}
+#endif
 
 namespace {
 
@@ -263,6 +278,53 @@ private slots:
         QCOMPARE(shop.countOfLine(QStringLiteral("file backups to '") + backup
                                   + QStringLiteral("'. Result: succeed")),
                  1);
+    }
+
+    void letsNobodyElseAtABackup_data()
+    {
+        QTest::addColumn<unsigned>("mode");
+        QTest::addColumn<QByteArray>("list");
+        for (const unsigned mode : {0600U, 0640U, 0644U, 0444U})
+            QTest::newRow(QByteArray::number(mode, 8).constData()) << mode << QByteArray();
+        QTest::newRow("a user who may only read") << 0640U << Tests::accessList(04, 0, 04, 0);
+    }
+
+    void letsNobodyElseAtABackup()
+    {
+        QFETCH(unsigned, mode);
+        QFETCH(QByteArray, list);
+        Workshop shop;
+        const QString file = shop.dataPath("Vendor/dll.xml");
+        writeFile(file, "<a></a>");
+        Tests::setMode(file, mode);
+        if (!list.isEmpty() && !Tests::setAttribute(file, Tests::accessListName, list))
+            QSKIP("no access lists on this file system");
+        s_modes.clear();
+        changeConfiguration(shop, true);
+        const QString backup = shop.backups().constFirst();
+        QCOMPARE(Tests::modeOf(backup), mode);
+        // Nor for the moment before it has the list.
+        if (!s_modes.isEmpty())
+            QCOMPARE(s_modes, QVector<unsigned>{0600});
+        QCOMPARE(Tests::attribute(backup, Tests::accessListName), list);
+    }
+
+    // Whoever runs the program cannot give the backup the file's group.
+    void givesAnotherGroupNoMoreRightsToABackup()
+    {
+        Workshop shop;
+        const QString file = shop.dataPath("Vendor/dll.xml");
+        writeFile(file, "<a></a>");
+        if (chown(QFile::encodeName(file).constData(), getuid(), 23456) != 0)
+            QSKIP("only the superuser gives a file a group of others");
+        Tests::setMode(file, 0664);
+        shop.folder("A");
+        auto *mapping = shop.mapping(simulator, shop.path("A"));
+        {
+            const Tests::Unprivileged user(shop.sandbox.root());
+            shop.controller().installToFlightSim(mapping);
+        }
+        QCOMPARE(Tests::modeOf(shop.backups().constFirst()), 0644U);
     }
 
     void neverOverwritesABackupAndGoesOn_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
