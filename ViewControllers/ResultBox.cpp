@@ -1,6 +1,7 @@
 #include "ViewControllers/ResultBox.h"
 
 #include "ViewControllers/BusyPointer.h"
+#include "ViewControllers/FittingBox.h"
 
 #include <QMessageBox>
 
@@ -31,6 +32,7 @@ QString shown(const QString &text)
 void showInformation(const QString &title, const QString &text)
 {
     const BusyPointerPause pause;
+    const FittingBox fitting;
     QMessageBox::information(nullptr, title, shown(text), QMessageBox::Ok);
 }
 

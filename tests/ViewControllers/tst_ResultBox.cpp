@@ -2,7 +2,13 @@
 
 #include "tests/support/BoxAnswerer.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextDocument>
 
@@ -34,6 +40,65 @@ private slots:
         const Tests::BoxAnswerer answerer;
         showInformation(QStringLiteral("Title"), text);
         QCOMPARE(answerer.boxes().constFirst().text, text);
+    }
+
+    void fitsTheScreenWithItsButton_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isHigherThanTheScreen");
+        const QString line = QStringLiteral("Unable to copy '/sims/a/b c' to '/sims/d'.\r\n");
+        QTest::newRow("one line") << line << false;
+        QTest::newRow("ten lines") << line.repeated(10) << false;
+        QTest::newRow("sixty lines") << line.repeated(60) << true;
+        QTest::newRow("two thousand lines") << line.repeated(2000) << true;
+        QTest::newRow("sixty long lines")
+            << (QStringLiteral("Unable to copy '%1'.\r\n").arg(QString(300, u'p'))).repeated(60)
+            << true;
+        QTest::newRow("one line of many words")
+            << QStringLiteral("Simulator ").repeated(1000) << true;
+    }
+
+    void fitsTheScreenWithItsButton()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const bool, isHigherThanTheScreen);
+        Tests::BoxAnswerer answerer;
+        answerer.whileOpen([&] {
+            const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+            QVERIFY2(box->height() <= screen.height() && box->width() <= screen.width(),
+                     qPrintable(QStringLiteral("%1 x %2").arg(box->width()).arg(box->height())));
+            const auto *button = box->button(QMessageBox::Ok);
+            const QRect place(button->mapTo(box, QPoint()), button->size());
+            QVERIFY(box->rect().contains(place));
+            QCOMPARE(box->focusWidget(), button);
+            const auto *area = box->findChild<QScrollArea *>();
+            QCOMPARE(area != nullptr, isHigherThanTheScreen);
+            if (!area)
+                return;
+            QVERIFY(!place.intersects(QRect(area->mapTo(box, QPoint()), area->size())));
+            const auto *label = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+            const int hidden = label->height() - area->viewport()->height();
+            QCOMPARE(area->verticalScrollBar()->maximum(), hidden);
+            QVERIFY(label->height() >= label->heightForWidth(label->width()));
+            QVERIFY(area->focusPolicy() & Qt::TabFocus);
+        });
+        showInformation(QStringLiteral("Title"), text);
+        QCOMPARE(answerer.boxes().constFirst().text, text);
+    }
+
+    void leavesABoxThatFitsAsQtMakesIt()
+    {
+        const QString text = QStringLiteral("Quillmont Orbwell for Skylark has been uninstalled.");
+        QVector<QImage> pictures;
+        Tests::BoxAnswerer answerer;
+        answerer.whileOpen(
+            [&] { pictures.append(QApplication::activeModalWidget()->grab().toImage()); });
+        showInformation(QStringLiteral("Title"), text);
+        QMessageBox::information(nullptr, QStringLiteral("Title"), text, QMessageBox::Ok);
+        QCOMPARE(pictures.size(), 2);
+        QCOMPARE(pictures.constFirst(), pictures.constLast());
     }
 
     void cutsOffLinesThatNobodyCanCount()

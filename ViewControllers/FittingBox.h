@@ -1,0 +1,25 @@
+#ifndef VIEWCONTROLLERS_FITTINGBOX_H
+#define VIEWCONTROLLERS_FITTINGBOX_H
+
+#include <QObject>
+
+class QMessageBox;
+
+namespace Quillmont::Utility::ViewControllers {
+
+/// While it lives, a message box whose text needs more height than the screen has shows that text
+/// in a scroll area, so that its button stays on the screen. Other boxes are as Qt makes them.
+class FittingBox : public QObject
+{
+    Q_OBJECT
+
+public:
+    FittingBox();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+} // namespace Quillmont::Utility::ViewControllers
+
+#endif
