@@ -5,7 +5,6 @@
 #include "Models/FlightSimScan.h"
 #include "Widgets/NameItem.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -19,14 +18,6 @@
 
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Quillmont::Utility::Controllers::logAction;
-
-// The icons lie in a static library: nothing would register them by itself. What does must not be
-// in a namespace.
-static void registerArtwork()
-{
-    Q_INIT_RESOURCE(quillmontorbwellsetup);
-}
-Q_COREAPP_STARTUP_FUNCTION(registerArtwork)
 
 namespace Quillmont::Utility::Widgets {
 
