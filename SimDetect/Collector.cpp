@@ -20,16 +20,22 @@ QString printable(const QString &path)
     return text;
 }
 
-void turnDown(const QString &code, const QString &path, const QString &reason)
-{
-    qCDebug(detectionLog).noquote().nospace()
-        << code << " not taken: " << printable(path) << ": " << reason;
-}
-
 QString whyNotFound(const QString &path)
 {
     return path.startsWith(u'/') ? QStringLiteral("no such folder")
                                  : QStringLiteral("not an absolute path");
+}
+
+QString objectionTo(const QString &folder, const Collector::Test &test)
+{
+    const QFileInfo info(folder);
+    if (!info.isDir())
+        return QStringLiteral("not a folder");
+    QString objection = test(folder);
+    // Nothing is seen inside a closed folder, and "it lacks this or that" would mislead.
+    if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable()))
+        return QStringLiteral("no permission to look inside");
+    return objection;
 }
 
 } // namespace
@@ -40,45 +46,46 @@ Collector::Collector(FolderLookup &lookup)
 
 void Collector::offer(const QString &code, const QVector<Candidate> &candidates, const Test &test)
 {
-    for (const auto &candidate : candidates) {
-        if (has(code))
-            return;
-        consider(code, candidate, test);
-    }
+    if (has(code))
+        return;
+    const QString folder = firstValid(code, candidates, test);
+    if (!folder.isEmpty())
+        m_paths.insert(code, folder);
 }
 
-void Collector::consider(const QString &code, const Candidate &candidate, const Test &test)
+void Collector::turnDown(const QString &code, const QString &path, const QString &reason)
 {
-    const QString folder
-        = candidate.objection.isEmpty() ? m_lookup.find(candidate.path) : QString();
+    qCDebug(detectionLog).noquote().nospace()
+        << code << " not taken: " << printable(path) << ": " << reason;
+}
+
+QString
+Collector::firstValid(const QString &code, const QVector<Candidate> &candidates, const Test &test)
+{
+    for (const auto &candidate : candidates) {
+        QString folder = validFolder(code, candidate, test);
+        if (!folder.isEmpty())
+            return folder;
+    }
+    return {};
+}
+
+QString Collector::validFolder(const QString &code, const Candidate &candidate, const Test &test)
+{
+    QString folder = candidate.objection.isEmpty() ? m_lookup.find(candidate.path) : QString();
     const QString resolved = QFileInfo(folder).canonicalFilePath();
     if (!isFirstOffer(code, resolved.isEmpty() ? candidate.path : resolved))
-        return;
+        return {};
     if (!candidate.objection.isEmpty()) {
         turnDown(code, candidate.path, candidate.objection);
     } else if (folder.isEmpty()) {
         turnDown(code, candidate.path, whyNotFound(candidate.path));
-    } else if (const auto objection = objectionTo(folder, resolved, test); !objection.isEmpty()) {
+    } else if (const auto objection = objectionTo(folder, test); !objection.isEmpty()) {
         turnDown(code, folder, objection);
     } else {
-        m_paths.insert(code, folder);
-        m_owners.insert(resolved, code);
+        return folder;
     }
-}
-
-QString
-Collector::objectionTo(const QString &folder, const QString &resolved, const Test &test) const
-{
-    const QFileInfo info(folder);
-    if (!info.isDir())
-        return QStringLiteral("not a folder");
-    QString objection = test(folder);
-    // Nothing is seen inside a closed folder, and "it lacks this or that" would mislead.
-    if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable()))
-        return QStringLiteral("no permission to look inside");
-    if (objection.isEmpty() && m_owners.contains(resolved))
-        return QStringLiteral("it is taken as %1").arg(m_owners.value(resolved));
-    return objection;
+    return {};
 }
 
 bool Collector::isFirstOffer(const QString &code, const QString &identity)

@@ -32,17 +32,22 @@ public:
     /// folder; a folder that was offered for it before, by whatever path, is not looked at again.
     void offer(const QString &code, const QVector<Candidate> &candidates, const Test &test);
 
+    /// The first valid one of @p candidates, which the simulator does not get as its folder; empty
+    /// where there is none. A folder counts as offered for it afterwards.
+    QString firstValid(const QString &code, const QVector<Candidate> &candidates, const Test &test);
+
+    /// Writes the debug line that says why @p path is not taken as @p code.
+    static void turnDown(const QString &code, const QString &path, const QString &reason);
+
     /// Simulator code to folder, of all that were found.
     const QMap<QString, QString> &paths() const { return m_paths; }
 
 private:
-    void consider(const QString &code, const Candidate &candidate, const Test &test);
-    QString objectionTo(const QString &folder, const QString &resolved, const Test &test) const;
+    QString validFolder(const QString &code, const Candidate &candidate, const Test &test);
     bool isFirstOffer(const QString &code, const QString &identity);
 
     FolderLookup &m_lookup;
     QMap<QString, QString> m_paths;
-    QHash<QString, QString> m_owners;
     QHash<QString, QSet<QString>> m_offered;
 };
 

@@ -3,9 +3,11 @@
 #include "SimDetect/Candidate.h"
 #include "SimDetect/Collector.h"
 #include "SimDetect/Environment.h"
+#include "SimDetect/FlightGearLauncher.h"
 #include "SimDetect/FolderLookup.h"
 #include "SimDetect/PlainFile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QVector>
@@ -18,9 +20,10 @@ namespace Quillmont::SimDetect {
 namespace {
 
 // The number behind "fgdata_"; both "2020_3" and "2020.3" are seen.
-QVersionNumber versionIn(const QString &name)
+QVersionNumber versionIn(const QString &path)
 {
-    return QVersionNumber::fromString(name.section(u'_', 1).replace(u'_', u'.'));
+    const QString number = path.section(u'/', -1).section(u'_', 1);
+    return QVersionNumber::fromString(QString(number).replace(u'_', u'.'));
 }
 
 QString test(const QString &folder)
@@ -49,13 +52,26 @@ void FlightGear::find()
 {
     const QString chosen = m_environment.variables.value(QStringLiteral("FG_ROOT"));
     if (!chosen.isEmpty())
-        offer({chosen});
-    QStringList present = packaged() + downloaded();
-    present.erase(std::remove_if(present.begin(),
-                                 present.end(),
-                                 [](const QString &path) { return !QFileInfo(path).isDir(); }),
-                  present.end());
+        offer({{chosen, {}}});
+    const FlightGearLauncher launcher(home(), m_lookup);
+    offer(launcher.roots());
+    QVector<Candidate> present;
+    const QStringList folders = packaged() + downloaded(launcher.downloadFolders());
+    for (const auto &folder : folders)
+        if (QFileInfo(folder).isDir())
+            present.append({folder, {}});
     offer(present);
+}
+
+// Where it keeps what belongs to the user; empty without a home.
+QString FlightGear::home() const
+{
+    const QString chosen = m_environment.variables.value(QStringLiteral("FG_HOME"));
+    if (chosen.startsWith(u'/'))
+        return QDir::cleanPath(chosen);
+    return m_environment.inHome(m_environment.system == Environment::MacOS
+                                    ? QStringLiteral("Library/Application Support/FlightGear")
+                                    : QStringLiteral(".fgfs"));
 }
 
 QStringList FlightGear::packaged() const
@@ -75,30 +91,28 @@ QStringList FlightGear::packaged() const
     return folders;
 }
 
-QStringList FlightGear::downloaded()
+// The highest version first, wherever it is; that in its home before an equal one elsewhere.
+QStringList FlightGear::downloaded(const QStringList &chosen)
 {
-    const QString place
-        = m_environment.inHome(m_environment.system == Environment::MacOS
-                                   ? QStringLiteral("Library/Application Support/FlightGear")
-                                   : QStringLiteral(".fgfs"));
-    if (place.isEmpty())
-        return {};
-    QStringList names
-        = m_lookup.names(place).filter(QRegularExpression(QStringLiteral("^fgdata_")));
-    std::stable_sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
+    static const QRegularExpression data(QStringLiteral("^fgdata_"));
+    QStringList folders;
+    const QStringList places = QStringList(home()) + chosen;
+    for (const auto &place : places) {
+        if (!place.startsWith(u'/'))
+            continue;
+        const QStringList names = m_lookup.names(place).filter(data);
+        for (const auto &name : names)
+            folders.append(place + u'/' + name);
+    }
+    std::stable_sort(folders.begin(), folders.end(), [](const QString &left, const QString &right) {
         return versionIn(left) > versionIn(right);
     });
-    for (auto &name : names)
-        name.prepend(place + u'/');
-    return names;
+    return folders;
 }
 
-void FlightGear::offer(const QStringList &folders)
+void FlightGear::offer(const QVector<Candidate> &folders)
 {
-    QVector<Candidate> candidates;
-    for (const auto &folder : folders)
-        candidates.append({folder, {}});
-    m_collector.offer(QStringLiteral("FGFS"), candidates, test);
+    m_collector.offer(QStringLiteral("FGFS"), folders, test);
 }
 
 } // namespace Quillmont::SimDetect

@@ -2,15 +2,17 @@
 #define SIMDETECT_FLIGHTGEAR_H
 
 #include <QStringList>
+#include <QVector>
 
 namespace Quillmont::SimDetect {
 
+struct Candidate;
 struct Environment;
 class Collector;
 class FolderLookup;
 
-/// FlightGear, by its data folder: where the user says, where a package puts it, or where its
-/// launcher has downloaded it.
+/// FlightGear, by its data folder: where the user says, in the environment or in its launcher,
+/// where a package puts it, or where its launcher has downloaded it.
 class FlightGear
 {
 public:
@@ -21,9 +23,10 @@ public:
     void find();
 
 private:
+    QString home() const;
     QStringList packaged() const;
-    QStringList downloaded();
-    void offer(const QStringList &folders);
+    QStringList downloaded(const QStringList &chosen);
+    void offer(const QVector<Candidate> &folders);
 
     Collector &m_collector;
     FolderLookup &m_lookup;

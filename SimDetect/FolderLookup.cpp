@@ -24,6 +24,12 @@ QString inOtherCase(const QString &name)
     return upper == name ? name.toLower() : upper;
 }
 
+// Unlike what folds to the same letters, which can be more of them.
+bool isSameName(const QString &left, const QString &right)
+{
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
 // A disk that ignores letter case has the name under any spelling.
 bool isThereInOtherCase(const QString &folder, const QString &name)
 {
@@ -65,6 +71,19 @@ QString FolderLookup::find(const QString &folder, const QString &relative)
     return found.isEmpty() ? QStringLiteral("/") : found;
 }
 
+QString FolderLookup::spelled(const QString &folder, const QString &relative)
+{
+    QString path = folder;
+    const auto names = relative.split(u'/', Qt::SkipEmptyParts);
+    for (const auto &name : names) {
+        const QString exact = path + u'/' + name;
+        const auto found = QFileInfo::exists(exact) ? QStringList() : spellings(path, name);
+        const bool isSure = found.size() == 1 && isSameName(found.constFirst(), name);
+        path = isSure ? path + u'/' + found.constFirst() : exact;
+    }
+    return path;
+}
+
 QStringList FolderLookup::names(const QString &folder)
 {
     const auto known = m_names.constFind(folder);
@@ -104,7 +123,7 @@ QString FolderLookup::child(const QString &folder, const QString &name)
         return exact;
     for (const auto &spelling : all) {
         QString path = folder + u'/' + spelling;
-        if (spelling.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo::exists(path))
+        if (isSameName(spelling, name) && QFileInfo::exists(path))
             return path;
     }
     return isThere ? exact : QString();

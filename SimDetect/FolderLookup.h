@@ -20,6 +20,10 @@ public:
     /// The same for @p relative inside @p folder, which is taken as it is.
     QString find(const QString &folder, const QString &relative);
 
+    /// @p relative inside @p folder, spelled as on disk as far as it is there; the rest stays as it
+    /// is written. Of several spellings that all differ from what is written, none is guessed.
+    QString spelled(const QString &folder, const QString &relative);
+
     /// The names in @p folder, hidden ones too, sorted; none where it cannot be listed.
     QStringList names(const QString &folder);
 

@@ -7,11 +7,14 @@
 #include "SimDetect/Steam.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextCodec>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace Quillmont::SimDetect {
 
@@ -35,40 +38,9 @@ QString packagesPath(const QString &text)
     return line.match(text).captured(1);
 }
 
-// Empty where @p path does not begin with a drive.
-QString insidePrefix(const QString &prefix, const QString &path)
-{
-    static const QRegularExpression drive(QStringLiteral("^([A-Za-z]):/"));
-    const QString slashed = QString(path).replace(u'\\', u'/');
-    const QString letter = drive.match(slashed).captured(1).toLower();
-    if (letter.isEmpty())
-        return {};
-    const QString place = letter == QLatin1String("c")
-        ? QStringLiteral("drive_c")
-        : QStringLiteral("dosdevices/%1:").arg(letter);
-    QString rest = QDir::cleanPath(slashed.mid(2));
-    while ((rest + u'/').startsWith(QLatin1String("/../")))
-        rest.remove(0, 3); // No way leads above a drive.
-    return prefix + u'/' + place + rest;
-}
-
-Candidate candidateOf(const QString &file, const QString &prefix, qint64 &allowance)
-{
-    const PlainFile settings(file, allowance);
-    if (!settings.problem().isEmpty())
-        return {file, settings.problem()};
-    const QString written = packagesPath(decoded(settings.content()));
-    if (written.isEmpty())
-        return {file, QStringLiteral("no InstalledPackagesPath in it")};
-    const QString path = insidePrefix(prefix, written);
-    if (path.isEmpty())
-        return {file, QStringLiteral("its InstalledPackagesPath is on no drive")};
-    return {path, {}};
-}
-
 } // namespace
 
-MsfsPackages::MsfsPackages(Collector &collector, FolderLookup &lookup, const Steam &steam)
+MsfsPackages::MsfsPackages(Collector &collector, FolderLookup &lookup, Steam &steam)
     : m_collector(collector)
     , m_lookup(lookup)
     , m_steam(steam)
@@ -86,22 +58,63 @@ void MsfsPackages::find()
         [this](const QString &folder) { return test2024(folder); });
 }
 
-// Each library is asked, whether it holds the game or not: Steam makes the prefix in the library
-// that it likes, and a game that was moved leaves it behind.
+// Each prefix is asked, whether the game is beside it or not: Steam makes it in the library that it
+// likes.
 QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString &name)
 {
     QVector<Candidate> candidates;
-    for (const auto &library : m_steam.libraries()) {
-        const QString prefix
-            = m_lookup.find(library, QStringLiteral("compatdata/%1/pfx").arg(appId));
-        if (prefix.isEmpty())
-            continue;
+    const QStringList prefixes = m_steam.prefixes(appId);
+    for (const auto &prefix : prefixes) {
         const QString roaming = QStringLiteral("drive_c/users/steamuser/AppData/Roaming/");
         const QString file = m_lookup.find(prefix, roaming + name + QStringLiteral("/UserCfg.opt"));
         if (!file.isEmpty())
-            candidates.append(candidateOf(file, prefix, m_lookup.allowance()));
+            candidates.append(candidateOf(file, prefix));
     }
     return candidates;
+}
+
+Candidate MsfsPackages::candidateOf(const QString &file, const QString &prefix)
+{
+    const PlainFile settings(file, m_lookup.allowance());
+    if (!settings.problem().isEmpty())
+        return {file, settings.problem()};
+    const QString written = packagesPath(decoded(settings.content()));
+    if (written.isEmpty())
+        return {file, QStringLiteral("no InstalledPackagesPath in it")};
+    const QString path = onDisk(prefix, written);
+    if (path.isEmpty())
+        return {file, QStringLiteral("its InstalledPackagesPath is on no drive")};
+    return {path, {}};
+}
+
+// Empty where @p path does not begin with a drive.
+QString MsfsPackages::onDisk(const QString &prefix, const QString &path)
+{
+    static const QRegularExpression root(QStringLiteral("^([A-Za-z]):/"));
+    const QString slashed = QString(path).replace(u'\\', u'/');
+    const QString letter = root.match(slashed).captured(1).toLower();
+    if (letter.isEmpty())
+        return {};
+    QString rest = QDir::cleanPath(slashed.mid(2));
+    while ((rest + u'/').startsWith(QLatin1String("/../")))
+        rest.remove(0, 3); // No way leads above a drive.
+    if (letter == QLatin1String("c"))
+        return prefix + QStringLiteral("/drive_c") + rest;
+    return drive(prefix + QStringLiteral("/dosdevices/%1:").arg(letter)) + rest;
+}
+
+// Where the link at @p path leads, and not one link further: that is the folder which the user
+// knows, and Proton takes some of these links away when it starts.
+QString MsfsPackages::drive(const QString &path)
+{
+    std::error_code failure;
+    const QString link = m_lookup.find(path);
+    const auto target
+        = std::filesystem::read_symlink(QFile::encodeName(link).toStdString(), failure);
+    const QString written = QFile::decodeName(target.c_str());
+    const QString folder = target.is_absolute() ? m_lookup.find(written)
+                                                : m_lookup.find(QFileInfo(link).path(), written);
+    return failure || folder.isEmpty() ? path : folder;
 }
 
 QString MsfsPackages::test2020(const QString &folder)

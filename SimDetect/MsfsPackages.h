@@ -17,20 +17,23 @@ class MsfsPackages
 {
 public:
     /// What is handed in has to outlive this.
-    MsfsPackages(Collector &collector, FolderLookup &lookup, const Steam &steam);
+    MsfsPackages(Collector &collector, FolderLookup &lookup, Steam &steam);
 
     /// Offers what it finds to the collector.
     void find();
 
 private:
     QVector<Candidate> candidates(const QString &appId, const QString &name);
+    Candidate candidateOf(const QString &file, const QString &prefix);
+    QString onDisk(const QString &prefix, const QString &path);
+    QString drive(const QString &path);
     QString test2020(const QString &folder);
     QString test2024(const QString &folder);
     bool hasFolder(const QString &folder, const char *relative);
 
     Collector &m_collector;
     FolderLookup &m_lookup;
-    const Steam &m_steam;
+    Steam &m_steam;
 };
 
 } // namespace Quillmont::SimDetect

@@ -1,6 +1,5 @@
 #include "SimDetect/Steam.h"
 
-#include "SimDetect/Candidate.h"
 #include "SimDetect/DetectionLog.h"
 #include "SimDetect/FolderLookup.h"
 #include "SimDetect/SteamLibraryList.h"
@@ -37,17 +36,46 @@ QVector<Candidate> Steam::candidates(const QString &appId)
 {
     QVector<Candidate> candidates;
     for (const auto &library : qAsConst(m_libraries)) {
-        const QString path
-            = m_lookup.find(library, QStringLiteral("appmanifest_%1.acf").arg(appId));
-        if (path.isEmpty())
-            continue;
-        const SteamManifest manifest(path, appId, m_lookup.allowance());
-        if (manifest.objection().isEmpty())
-            candidates.append({library + QLatin1String("/common/") + manifest.folderName(), {}});
-        else
-            candidates.append({path, manifest.objection()});
+        const Candidate game = gameIn(library, appId);
+        if (!game.path.isEmpty())
+            candidates.append(game);
     }
     return candidates;
+}
+
+QStringList Steam::prefixes(const QString &appId)
+{
+    QStringList withGame;
+    QStringList others;
+    for (const auto &library : qAsConst(m_libraries)) {
+        const QString prefix
+            = m_lookup.find(library, QStringLiteral("compatdata/%1/pfx").arg(appId));
+        if (!QFileInfo(prefix).isDir())
+            continue;
+        const Candidate game = gameIn(library, appId);
+        const bool isHere = !game.path.isEmpty() && game.objection.isEmpty();
+        (isHere ? withGame : others).append(prefix);
+    }
+    QStringList prefixes;
+    QSet<QString> seen;
+    const QStringList all = withGame + others;
+    for (const auto &prefix : all)
+        if (isNew(prefix, seen))
+            prefixes.append(prefix);
+    return prefixes;
+}
+
+// Without a path where the library has no manifest of the game.
+Candidate Steam::gameIn(const QString &library, const QString &appId)
+{
+    const QString path = m_lookup.find(library, QStringLiteral("appmanifest_%1.acf").arg(appId));
+    if (path.isEmpty() || m_games.contains(path))
+        return m_games.value(path);
+    const SteamManifest manifest(path, appId, m_lookup.allowance());
+    Candidate game{path, manifest.objection()};
+    if (game.objection.isEmpty())
+        game.path = library + QLatin1String("/common/") + manifest.folderName();
+    return *m_games.insert(path, game);
 }
 
 void Steam::addRoot(const SteamRoot &root)

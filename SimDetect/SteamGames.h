@@ -1,8 +1,11 @@
 #ifndef SIMDETECT_STEAMGAMES_H
 #define SIMDETECT_STEAMGAMES_H
 
+class QString;
+
 namespace Quillmont::SimDetect {
 
+struct Environment;
 class Collector;
 class FolderLookup;
 class Steam;
@@ -12,15 +15,19 @@ class SteamGames
 {
 public:
     /// What is handed in has to outlive this.
-    SteamGames(Collector &collector, FolderLookup &lookup, Steam &steam);
+    SteamGames(Collector &collector, FolderLookup &lookup, const Environment &environment);
 
-    /// Offers what it finds to the collector.
-    void find();
+    /// Offers what @p steam finds to the collector.
+    void find(Steam &steam);
 
 private:
+    void findAerofly(Steam &steam);
+    bool hasFile(const QString &folder, const char *name);
+    bool hasFolder(const QString &folder, const char *name);
+
     Collector &m_collector;
     FolderLookup &m_lookup;
-    Steam &m_steam;
+    const Environment &m_environment;
 };
 
 } // namespace Quillmont::SimDetect

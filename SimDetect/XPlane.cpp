@@ -130,7 +130,20 @@ QString XPlane::test(const QString &folder, int version, int otherwise)
         return QStringLiteral("no X-Plane executable");
     const int told = m_version.in(folder);
     const int really = told != 0 ? told : otherwise;
-    return really == version ? QString() : QStringLiteral("it is X-Plane %1").arg(really);
+    return really == version ? objectionToSharing(folder, version)
+                             : QStringLiteral("it is X-Plane %1").arg(really);
+}
+
+// A folder holds one X-Plane. Two codes for it would install into it twice, and remove half.
+QString XPlane::objectionToSharing(const QString &folder, int version) const
+{
+    const QString resolved = QFileInfo(folder).canonicalFilePath();
+    for (const int other : versions) {
+        const QString taken = m_collector.paths().value(codeOf(other));
+        if (other != version && QFileInfo(taken).canonicalFilePath() == resolved)
+            return QStringLiteral("it is taken as %1").arg(codeOf(other));
+    }
+    return {};
 }
 
 } // namespace Quillmont::SimDetect

@@ -37,6 +37,7 @@ private:
     void offer(const Source &source);
     void offerMisnamed(int version, const QMap<int, QVector<Candidate>> &named);
     QString test(const QString &folder, int version, int otherwise);
+    QString objectionToSharing(const QString &folder, int version) const;
 
     Collector &m_collector;
     FolderLookup &m_lookup;

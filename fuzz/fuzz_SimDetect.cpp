@@ -39,7 +39,7 @@ private:
 constexpr auto Library = "home/.local/share/Steam";
 
 // What is read of them, in the input's order.
-constexpr std::array<const char *, 7> Files = {
+constexpr std::array<const char *, 8> Files = {
     "home/.local/share/Steam/config/libraryfolders.vdf",
     "home/.local/share/Steam/steamapps/appmanifest_314160.acf",
     "home/.x-plane/x-plane_install_12.txt",
@@ -48,6 +48,7 @@ constexpr std::array<const char *, 7> Files = {
     "X-Plane/Log.txt",
     "X-Plane/X-Plane.app/Contents/Info.plist",
     "home/.fgfs/fgdata_2020_3/version",
+    "home/.fgfs/FlightGear/FlightGear.ini",
 };
 
 FuzzedComputer::FuzzedComputer()

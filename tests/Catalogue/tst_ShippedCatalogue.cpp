@@ -32,6 +32,7 @@ constexpr auto everySimulator = R"(
     game $S 1995890 Aerofly
     dir $S/steamapps/common/Aerofly/scenery
     dir $S/steamapps/common/Aerofly/aircraft
+    file $S/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/Aerofly FS 4/main.mcf =
     dir $S/steamapps/compatdata/1250410/pfx/drive_c/2020/Community
     file $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:/2020"\n
     dir $S/steamapps/compatdata/2537590/pfx/drive_c/2024/Community

@@ -1,6 +1,6 @@
 #include "tests/SimDetect/DescribedComputer.h"
 
-#include "SimDetect/SimDetect.h"
+#include "SimDetect/Survey.h"
 #include "tests/support/Files.h"
 #include "tests/support/LogCatcher.h"
 
@@ -93,6 +93,8 @@ void DescribedComputer::makeOne(const QString &what, const QString &path, const 
         makeXPlane(path);
     else if (what == QLatin1String("variable"))
         environment.variables.insert(path, rest);
+    else if (what == QLatin1String("prefix"))
+        m_asked.append({path.toInt(), rest});
     else
         qFatal("cannot make this: %s %s", qPrintable(what), qPrintable(path));
 }
@@ -146,12 +148,19 @@ QString DescribedComputer::detect()
 {
     const LogCatcher catcher;
     const std::clock_t before = std::clock();
-    const auto paths = simPaths(environment);
+    Survey survey(environment);
     m_duration = (std::clock() - before) * 1000 / CLOCKS_PER_SEC;
-    m_log = catcher.debugLines() + catcher.warnings();
     QStringList lines;
+    const auto &paths = survey.paths();
     for (auto it = paths.cbegin(); it != paths.cend(); ++it)
         lines.append(it.key() + QStringLiteral(": ") + it.value());
+    for (const auto &asked : qAsConst(m_asked)) {
+        const QString prefix = survey.prefix(asked.first);
+        if (!prefix.isEmpty())
+            lines.append(QStringLiteral("%1: ").arg(asked.first)
+                         + survey.fileIn(prefix, asked.second));
+    }
+    m_log = catcher.debugLines() + catcher.warnings();
     return lines.join(u'\n');
 }
 

@@ -4,8 +4,10 @@
 #include "SimDetect/Environment.h"
 #include "tests/support/Sandbox.h"
 
+#include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace Tests {
 
@@ -20,6 +22,7 @@ namespace Tests {
 ///     libraries ROOT = PATH, ...  a Steam root's list of libraries
 ///     game LIBRARY ID NAME        a game that Steam says is installed there
 ///     variable NAME = VALUE
+///     prefix ID = PATH            asks where PATH is in the Proton prefix of that game
 ///
 /// In every line $R is the root of everything, $H the home folder, $S the place of Steam, and $L
 /// that of X-Plane's own lists; \n, \r, \t, \0, \\ and \xHH are the bytes that they are in C.
@@ -34,7 +37,8 @@ public:
     /// @p text with $R, $H, $S and $L put in.
     QString expanded(const QString &text) const;
 
-    /// Looks for simulators. The answer is one line for each, "CODE: folder", in code order.
+    /// Looks for simulators. The answer is one line for each, "CODE: folder", in code order, and
+    /// behind them "ID: path" for each prefix that was asked for and is there.
     QString detect();
 
     /// What the last detection wrote to the log, debug lines first.
@@ -54,6 +58,7 @@ private:
     void makeXPlane(const QString &path) const;
 
     Sandbox m_sandbox;
+    QVector<QPair<int, QString>> m_asked;
     QStringList m_log;
     qint64 m_duration = 0;
 };

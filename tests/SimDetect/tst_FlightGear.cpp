@@ -14,10 +14,36 @@ private slots:
 
     void findsItsData() { checkCase(); }
 
+    void asksItsLauncher_data();
+
+    void asksItsLauncher() { checkCase(); }
+
+    void findsDownloadsWhereTheLauncherPutsThem_data();
+
+    void findsDownloadsWhereTheLauncherPutsThem() { checkCase(); }
+
     void passesOverWhatIsNoData_data();
 
     void passesOverWhatIsNoData() { checkCase(); }
 };
+
+namespace {
+
+// Data folders, which a space separates.
+QByteArray data(const QByteArray &folders)
+{
+    QByteArray tree;
+    for (const QByteArray &folder : folders.split(' '))
+        tree += "file " + folder + "/version = 2020.3.19\nfile " + folder + "/defaults.xml =\n";
+    return tree;
+}
+
+QByteArray launcher(const QByteArray &content)
+{
+    return "file $H/.fgfs/FlightGear/FlightGear.ini = " + content + '\n';
+}
+
+} // namespace
 
 void TestFlightGear::findsItsData_data()
 {
@@ -88,6 +114,153 @@ void TestFlightGear::findsItsData_data()
                file $H/.fgfs/fgdata_2024_1/version = 2024.1.1
                file $H/.fgfs/fgdata_2024_1/defaults.xml =)",
             "FGFS: $R/usr/share/flightgear");
+}
+
+void TestFlightGear::asksItsLauncher_data()
+{
+    caseColumns();
+    const QByteArray chosen = "[General]\\nfg-root-2024-1=$R/chosen\\n";
+    const QByteArray packaged = "$R/usr/share/flightgear";
+    addCase("before a packaged one",
+            OnLinux,
+            data("$R/chosen " + packaged) + launcher(chosen),
+            "FGFS: $R/chosen");
+    addCase("after FG_ROOT",
+            OnLinux,
+            data("$R/chosen $R/data") + launcher(chosen) + "variable FG_ROOT = $R/data",
+            "FGFS: $R/data");
+    addCase("in its place on macOS",
+            OnMacOS,
+            data("$R/chosen")
+                + "file $H/Library/Application Support/FlightGear/FlightGear/FlightGear.ini = "
+                + chosen,
+            "FGFS: $R/chosen");
+    addCase("where FG_HOME says",
+            OnBoth,
+            data("$R/chosen $R/other") + launcher("[General]\\nfg-root-2024-1=$R/other")
+                + "variable FG_HOME = $R/fg/\nfile $R/fg/FlightGear/FlightGear.ini = " + chosen,
+            "FGFS: $R/chosen");
+    for (const char *home : {"", "fg"}) {
+        addCase("FG_HOME is \"" + QByteArray(home) + '"',
+                OnLinux,
+                data("$R/chosen") + launcher(chosen) + "variable FG_HOME = " + home,
+                "FGFS: $R/chosen");
+    }
+    addCase(
+        "the highest version of all files",
+        OnLinux,
+        data("$R/a $R/b $R/c")
+            + launcher(R"([General]\nfg-root-2020-3-19=$R/a\nfg-root-2020-3-9=$R/b)")
+            + R"(file $H/.fgfs/FlightGear/FlightGear-2024.ini = [General]\nfg-root-2020-3-20=$R/c)",
+        "FGFS: $R/c");
+    addCase("the highest version is gone, and another is no data",
+            OnLinux,
+            data("$R/a")
+                + launcher(
+                    R"([General]\nfg-root-2020-3=$R/a\nfg-root-2024-1=$R/gone\nfg-root-2022-1=$R)"),
+            "FGFS: $R/a",
+            "FGFS not taken: $R/gone: no such folder\n"
+            "FGFS not taken: $R: no file \"version\" that begins with one");
+    const auto passedOver =
+        [packaged](const char *name, const QByteArray &tree, const QByteArray &log) {
+            addCase(name, OnLinux, data("$R/chosen " + packaged) + tree, "FGFS: " + packaged, log);
+        };
+    passedOver("the user wants to be asked", launcher("[General]\\nfg-root-2024-1=!ask"), "");
+    passedOver("nothing is chosen", launcher("[General]\\nfg-root-2024-1=\\nfg-root-2020-3"), "");
+    passedOver(
+        "other sections",
+        launcher(
+            R"(fg-root-1=$R/chosen\n[Other]\nfg-root-2=$R/chosen\n[%General]\nfg-root-3=$R/chosen)"),
+        "");
+    passedOver(
+        "other keys",
+        launcher(R"([General]\nroot=$R/chosen\nold-fg-root-1=$R/chosen\n;fg-root-2=$R/chosen)"),
+        "");
+    passedOver("other files",
+               R"(file $H/.fgfs/FlightGear/Other.ini = [General]\nfg-root-1=$R/chosen
+                  file $H/.fgfs/FlightGear/FlightGear.ini.bak = [General]\nfg-root-1=$R/chosen)",
+               "");
+    passedOver("an object instead of a folder",
+               launcher(R"([General]\nfg-root-1=@Variant(\\0\\0\\0\\t\\x7f))"),
+               "FGFS not taken: @Variant(000t?): not an absolute path");
+    passedOver("a pipe",
+               "fifo $H/.fgfs/FlightGear/FlightGear.ini",
+               "FGFS not taken: $H/.fgfs/FlightGear/FlightGear.ini: not a plain file");
+    addCase("the other file is a folder",
+            OnLinux,
+            data("$R/chosen") + launcher(chosen) + "dir $H/.fgfs/FlightGear/FlightGear-2020.ini",
+            "FGFS: $R/chosen",
+            "FGFS not taken: $H/.fgfs/FlightGear/FlightGear-2020.ini: not a plain file");
+    for (const int others : {255, 256}) {
+        addCase("behind " + QByteArray::number(others) + " that are gone",
+                OnLinux,
+                data("$R/chosen")
+                    + launcher("[General]\\n" + QByteArray("fg-root-2=$R/gone\\n").repeated(others)
+                               + "fg-root-1=$R/chosen"),
+                others < 256 ? "FGFS: $R/chosen" : "",
+                "FGFS not taken: $R/gone: no such folder");
+    }
+    const QByteArray head = "[General]\\n";
+    for (const int size : {1024 * 1024, 1024 * 1024 + 1}) {
+        addCase("beside a file of " + QByteArray::number(size) + " bytes",
+                OnLinux,
+                data("$R/chosen") + launcher(chosen)
+                    + "file $H/.fgfs/FlightGear/FlightGear-2020.ini = " + head
+                    + QByteArray(size - head.size() + 1, 'x'),
+                "FGFS: $R/chosen",
+                size > 1024 * 1024
+                    ? "FGFS not taken: $H/.fgfs/FlightGear/FlightGear-2020.ini: too large"
+                    : "");
+    }
+    const auto written = [](const char *name, const char *line, const char *folder) {
+        addCase(name,
+                OnLinux,
+                "file " + QByteArray(folder) + "/version = 2020.3\nfile " + folder
+                    + "/defaults.xml =\n" + launcher("[General]\\n" + QByteArray(line)),
+                "FGFS: " + QByteArray(folder));
+    };
+    written("quotes", R"(fg-root-2024-1="$R/a, b; c=d")", "$R/a, b; c=d");
+    written("escapes",
+            R"(fg-root-2024-1=$R/Flugger\\xe4t \\x98db\\xd83d\\xdeec)",
+            "$R/Fluggerät 飛🛬");
+    written("a backslash and a quote", R"(fg-root-2024-1="$R/a\\\\b\\"c")", "$R/a\\b\"c");
+    written("UTF-8", "fg-root-2024-1=$R/Fluggerät", "$R/Fluggerät");
+    written("Latin-1", R"(fg-root-2024-1=$R/Flugger\xE4t)", "$R/Fluggerät");
+    written("blanks and other line ends", R"(\r\n fg-root-2024-1 = $R/a b \r\n)", "$R/a b");
+    addCase("a byte-order mark, and the section in other letter case",
+            OnLinux,
+            data("$R/chosen") + launcher(R"(\xEF\xBB\xBF[general]\nfg-root-2024-1=$R/chosen/)"),
+            "FGFS: $R/chosen");
+}
+
+void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
+{
+    caseColumns();
+    const QByteArray there = launcher("[General]\\ndownload-dir=$R/downloads\\n");
+    addCase("the highest version of both places",
+            OnLinux,
+            there
+                + data("$H/.fgfs/fgdata_2020_3 $R/downloads/fgdata_2024_1 $H/.fgfs/fgdata_2022_1"),
+            "FGFS: $R/downloads/fgdata_2024_1");
+    addCase("the highest version is at home",
+            OnLinux,
+            there + data("$H/.fgfs/fgdata_2024_1 $R/downloads/fgdata_2020_3"),
+            "FGFS: $H/.fgfs/fgdata_2024_1");
+    addCase("after a packaged one",
+            OnLinux,
+            there + data("$R/downloads/fgdata_2024_1 $R/usr/share/flightgear"),
+            "FGFS: $R/usr/share/flightgear");
+    addCase("where FG_HOME says",
+            OnBoth,
+            data("$R/fg/fgdata_2020_3 $H/.fgfs/fgdata_2024_1") + "variable FG_HOME = $R/fg",
+            "FGFS: $R/fg/fgdata_2020_3");
+    addCase(
+        "a download under way, and a place that is none",
+        OnLinux,
+        launcher(
+            R"([General]\ndownload-dir=downloads\ndownload-dir=$R/gone\ndownload-dir=$R/downloads)")
+            + data("$R/downloads/_download_data_2024_1 $R/downloads/fgdata_2020_3"),
+        "FGFS: $R/downloads/fgdata_2020_3");
 }
 
 void TestFlightGear::passesOverWhatIsNoData_data()

@@ -98,12 +98,43 @@ void TestMsfsPackages::findsThePackages_data()
         "Simulator\\Packages\"\r\n");
     add("UTF-16, low byte first", utf16(line, false));
     add("UTF-16, high byte first", utf16(QStringLiteral("Version 1\r\n") + line, true));
-    addCase("another drive",
+    const auto drive = [](const char *name, const char *rest, const QByteArray &found) {
+        addCase(name,
+                OnLinux,
+                settings(R"(InstalledPackagesPath "D:\\msfs\\packages")") + "dir " + prefix2020()
+                    + "/dosdevices\n" + QByteArray(rest).replace("$P", prefix2020()),
+                "MSFS2020: " + QByteArray(found).replace("$P", prefix2020()));
+    };
+    drive("another drive, where its link leads",
+          R"(dir $R/games/MSFS/Packages/Official/OneStore
+             link $P/dosdevices/d: -> $R/games/)",
+          "$R/games/MSFS/Packages");
+    drive("another drive, and not one link further",
+          R"(dir $R/games/MSFS/Packages/Community
+             link $R/mounted -> $R/games
+             link $P/dosdevices/d: -> $R/mounted)",
+          "$R/mounted/MSFS/Packages");
+    drive("another drive inside the prefix",
+          R"(dir $P/drive_c/games/MSFS/Packages/Community
+             link $P/dosdevices/d: -> ../drive_c/games)",
+          "$P/drive_c/games/MSFS/Packages");
+    drive("another drive that is a folder of the prefix",
+          "dir $P/dosdevices/d:/MSFS/Packages/Community",
+          "$P/dosdevices/d:/MSFS/Packages");
+    addCase("the drive that is the whole disk",
             OnLinux,
-            settings(R"(InstalledPackagesPath "D:\\msfs\\packages")")
-                + "dir $R/games/MSFS/Packages/Official/OneStore\n" + "link " + prefix2020()
-                + "/dosdevices/d: -> $R/games",
-            "MSFS2020: " + prefix2020() + "/dosdevices/d:/MSFS/Packages");
+            settings(R"(InstalledPackagesPath "Z:$R/games/packages/")")
+                + "dir $R/games/Packages/Community\nlink " + prefix2020() + "/dosdevices/z: -> /",
+            "MSFS2020: $R/games/Packages");
+    addCase("a drive whose way leads up from where the prefix really is",
+            OnLinux,
+            R"(dir $R/proton/games/P/Community
+               file $R/proton/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "D:\\P"
+               dir $S/steamapps/compatdata
+               link $S/steamapps/compatdata/1250410 -> $R/proton/1250410
+               dir $R/proton/1250410/pfx/dosdevices
+               link $R/proton/1250410/pfx/dosdevices/d: -> ../../../games)",
+            "MSFS2020: $R/proton/games/P");
     addCase(
         "both editions, each by its own file",
         OnLinux,
@@ -118,6 +149,15 @@ void TestMsfsPackages::findsThePackages_data()
                dir $R/b/SteamApps/CompatData/1250410/pfx/drive_c/Packages/Community
                file $R/b/SteamApps/CompatData/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:\\Packages")",
             "MSFS2020: $R/b/SteamApps/CompatData/1250410/pfx/drive_c/Packages");
+    addCase("the prefix beside the game before one that a moved game left behind",
+            OnLinux,
+            R"(libraries $S = $R/a, $R/b
+               game $R/b 1250410 MicrosoftFlightSimulator
+               dir $R/a/steamapps/compatdata/1250410/pfx/drive_c/P/Community
+               file $R/a/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:\\P"
+               dir $R/b/steamapps/compatdata/1250410/pfx/drive_c/P/Community
+               file $R/b/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:\\P")",
+            "MSFS2020: $R/b/steamapps/compatdata/1250410/pfx/drive_c/P");
 }
 
 void TestMsfsPackages::wantsItsMarks_data()
@@ -155,8 +195,7 @@ void TestMsfsPackages::wantsItsMarks_data()
                 + R"(/UserCfg.opt = InstalledPackagesPath "C:\\P")" + "\ndir " + prefix2024()
                 + "/drive_c/P/Community\nlink " + prefix2020() + "/dosdevices/z: -> " + prefix2024()
                 + "/drive_c",
-            "MSFS2020: " + prefix2020() + "/dosdevices/z:/P",
-            "MSFS2024 not taken: " + prefix2024() + "/drive_c/P: it is taken as MSFS2020");
+            "MSFS2020: " + prefix2024() + "/drive_c/P\nMSFS2024: " + prefix2024() + "/drive_c/P");
 }
 
 void TestMsfsPackages::passesOverWhatNamesNone_data()
@@ -193,6 +232,13 @@ void TestMsfsPackages::passesOverWhatNamesNone_data()
         R"(InstalledPackagesPath "E:\\P")",
         prefix2020() + "/dosdevices/e:/P",
         "no such folder");
+    addCase("a drive whose link leads nowhere",
+            OnLinux,
+            "dir $R/P/Community\n" + settings(R"(InstalledPackagesPath "E:\\P")") + "dir "
+                + prefix2020() + "/dosdevices\nlink " + prefix2020()
+                + "/dosdevices/e: -> $R/unplugged",
+            "",
+            "MSFS2020 not taken: " + prefix2020() + "/dosdevices/e:/P: no such folder");
     addCase("a folder for the file",
             OnLinux,
             "dir " + file,

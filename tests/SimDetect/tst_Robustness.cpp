@@ -61,16 +61,22 @@ const auto Everything = QStringLiteral(R"(
     game $S 1995890 Aerofly
     dir $S/steamapps/common/Aerofly/scenery
     dir $S/steamapps/common/Aerofly/aircraft
+    file $S/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/Aerofly FS 4/main.mcf =
+    dir $S/steamapps/compatdata/314160/pfx
+    dir $S/steamapps/compatdata/2014780/pfx
+    game $R/drive 2014780 X-Plane 12
     dir $S/steamapps/compatdata/1250410/pfx/drive_c/P/Community
     file $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:\\P"\n
     dir $S/steamapps/compatdata/2537590/pfx/drive_c/P/Community
     file $S/steamapps/compatdata/2537590/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator 2024/UserCfg.opt = InstalledPackagesPath "C:\\P"\n
-    variable FG_ROOT = $R/data
+    variable FG_HOME = $H/.fgfs
+    file $H/.fgfs/FlightGear/FlightGear.ini = [General]\nfg-root-2020-3=$R/data\ndownload-dir=$R\n
     file $R/data/version = 2020.3.19\n
     file $R/data/defaults.xml =)");
 
 const auto EverythingFound
-    = QStringLiteral("AFS4: $S/steamapps/common/Aerofly\n"
+    = QStringLiteral("AFS4: $S/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/"
+                     "Aerofly FS 4\n"
                      "FGFS: $R/data\n"
                      "FSXSE: $S/steamapps/common/FSX\n"
                      "MSFS2020: $S/steamapps/compatdata/1250410/pfx/drive_c/P\n"
@@ -128,7 +134,10 @@ void TestRobustness::findsNothingInRandomBytes()
     QFETCH(int, system);
     DescribedComputer computer(static_cast<Environment::System>(system));
     computer.make(Everything);
-    QCOMPARE(computer.detect(), computer.expanded(EverythingFound));
+    QString found = EverythingFound;
+    if (system == Environment::MacOS)
+        found = found.section(u'\n', 1); // all but Aerofly
+    QCOMPARE(computer.detect(), computer.expanded(found));
     const auto paths = filesWithContent(computer);
     QRandomGenerator random(20260101);
     for (int round = 0; round < 50; ++round) {
@@ -280,7 +289,7 @@ void TestRobustness::opensNoFileTwice()
 {
 #ifdef Q_OS_LINUX
     DescribedComputer computer(Environment::Linux);
-    computer.make(Everything);
+    computer.make(Everything + QStringLiteral("\nprefix 314160 =\nprefix 2014780 ="));
     const auto paths = filesWithContent(computer);
     const int watcher = inotify_init1(IN_NONBLOCK);
     for (const auto &path : paths)

@@ -5,7 +5,7 @@
 #include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
-#include <QDir>
+#include <QFile>
 #include <QTest>
 
 using namespace Quillmont::SimDetect;
@@ -25,7 +25,6 @@ private slots:
     void findsNothingWithoutAHome();
     void asksTheComputerItRunsOn();
     void takesNoHomeForNoHome();
-    void givesOneFolderToOneSimulator();
     void writesNothing();
 };
 
@@ -34,9 +33,10 @@ void TestSimDetect::findsWhatIsThere_data()
     caseColumns();
     addCase("an empty home", OnBoth, "dir $H", "");
     addCase("no home folder on the disk", OnBoth, "", "");
-    addCase("a pilot's Linux computer",
-            OnLinux,
-            R"(xplane $R/sims/X-Plane 12
+    addCase(
+        "a pilot's Linux computer",
+        OnLinux,
+        R"(xplane $R/sims/X-Plane 12
                file $L/x-plane_install_12.txt = $R/sims/X-Plane 12/\n
                libraries $S = $S, $R/media/games
                game $R/media/games 269950 X-Plane 11
@@ -47,9 +47,10 @@ void TestSimDetect::findsWhatIsThere_data()
                game $S 1995890 Aerofly FS 4
                dir $S/steamapps/common/Aerofly FS 4/scenery
                dir $S/steamapps/common/Aerofly FS 4/aircraft
+               file $S/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/Aerofly FS 4/main.mcf =
                file $R/usr/share/games/flightgear/version = 2020.3.16\n
                file $R/usr/share/games/flightgear/defaults.xml =)",
-            R"(AFS4: $S/steamapps/common/Aerofly FS 4
+        R"(AFS4: $S/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/Aerofly FS 4
                FGFS: $R/usr/share/games/flightgear
                FSXSE: $S/steamapps/common/FSX
                XP11: $R/media/games/steamapps/common/X-Plane 11
@@ -62,21 +63,10 @@ void TestSimDetect::findsWhatIsThere_data()
                file $R/Volumes/Sim Drive/Steam/steamapps/._appmanifest_2014780.acf = \0\x05\x16\x07
                file $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12/._X-Plane.app = \0\x05
                file $S/config/._libraryfolders.vdf = \0\x05\x16\x07
-               game $S 1995890 Aerofly FS 4
-               dir $S/steamapps/common/Aerofly FS 4/scenery
-               dir $S/steamapps/common/Aerofly FS 4/aircraft)",
-            R"(AFS4: $S/steamapps/common/Aerofly FS 4
+               game $S 269950 X-Plane 11
+               xplane $S/steamapps/common/X-Plane 11)",
+            R"(XP11: $S/steamapps/common/X-Plane 11
                XP12: $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12)");
-    addCase("one folder as two games",
-            OnBoth,
-            R"(game $S 314160 Both
-               game $S 1995890 Both
-               file $S/steamapps/common/Both/fsx.exe =
-               dir $S/steamapps/common/Both/SimObjects
-               dir $S/steamapps/common/Both/scenery
-               dir $S/steamapps/common/Both/aircraft)",
-            "FSXSE: $S/steamapps/common/Both",
-            "AFS4 not taken: $S/steamapps/common/Both: it is taken as FSXSE");
 }
 
 void TestSimDetect::findsNothingWithoutAHome_data()
@@ -119,25 +109,6 @@ void TestSimDetect::takesNoHomeForNoHome()
     sandbox.setVariable("HOME", {});
     QCOMPARE(Environment::current().home, QString());
     GetAllSimPaths();
-}
-
-void TestSimDetect::givesOneFolderToOneSimulator()
-{
-    DescribedComputer computer(Environment::Linux);
-    computer.make(QStringLiteral(R"(
-        file $H/packages/version = 2020.3
-        file $H/packages/defaults.xml =
-        dir $H/packages/scenery
-        dir $H/packages/aircraft
-        game $S 1995890 Aerofly
-        link $H/data -> $H/packages
-        variable FG_ROOT = $H/data)"));
-    QDir().rmdir(computer.expanded(QStringLiteral("$S/steamapps/common/Aerofly")));
-    computer.make(QStringLiteral("link $S/steamapps/common/Aerofly -> $H/packages"));
-    QCOMPARE(computer.detect(),
-             computer.expanded(QStringLiteral("AFS4: $S/steamapps/common/Aerofly")));
-    QCOMPARE(computer.log(),
-             {computer.expanded(QStringLiteral("FGFS not taken: $H/data: it is taken as AFS4"))});
 }
 
 void TestSimDetect::writesNothing()

@@ -35,6 +35,14 @@ private slots:
 
     void wantsTheGamesMarks() { checkCase(); }
 
+    void findsAeroflysUserFolder_data();
+
+    void findsAeroflysUserFolder() { checkCase(); }
+
+    void findsThePrefixOfAGame_data();
+
+    void findsThePrefixOfAGame() { checkCase(); }
+
     void keepsThePartsOfAHomeApart();
 };
 
@@ -345,43 +353,139 @@ void TestSteam::wantsTheGamesMarks_data()
             R"(game $S 314160 FSX
                file $S/steamapps/common/FSX/FSX.EXE =
                dir $S/steamapps/common/FSX/simobjects
-               game $S 1995890 Aerofly FS 4
-               dir $S/steamapps/common/Aerofly FS 4/scenery
-               dir $S/steamapps/common/Aerofly FS 4/aircraft
                game $S 292180 X-Plane 10
                xplane $S/steamapps/common/X-Plane 10)",
-            R"(AFS4: $S/steamapps/common/Aerofly FS 4
-               FSXSE: $S/steamapps/common/FSX
+            R"(FSXSE: $S/steamapps/common/FSX
                XP10: $S/steamapps/common/X-Plane 10)");
     addCase("half of them",
             OnBoth,
             R"(game $S 314160 FSX
-               file $S/steamapps/common/FSX/fsx.exe =
-               game $S 1995890 Aerofly FS 4
-               dir $S/steamapps/common/Aerofly FS 4/aircraft)",
+               file $S/steamapps/common/FSX/fsx.exe =)",
             "",
-            R"(FSXSE not taken: $S/steamapps/common/FSX: no SimObjects
-               AFS4 not taken: $S/steamapps/common/Aerofly FS 4: no scenery)");
+            "FSXSE not taken: $S/steamapps/common/FSX: no SimObjects");
     addCase("the other half",
             OnBoth,
             R"(game $S 314160 FSX
                dir $S/steamapps/common/FSX/SimObjects
-               dir $S/steamapps/common/FSX/fsx.exe
-               game $S 1995890 Aerofly FS 4
-               dir $S/steamapps/common/Aerofly FS 4/scenery
-               file $S/steamapps/common/Aerofly FS 4/aircraft =)",
+               dir $S/steamapps/common/FSX/fsx.exe)",
             "",
-            R"(FSXSE not taken: $S/steamapps/common/FSX: no fsx.exe
-               AFS4 not taken: $S/steamapps/common/Aerofly FS 4: no aircraft)");
+            "FSXSE not taken: $S/steamapps/common/FSX: no fsx.exe");
     addCase("an invalid one falls through to the next library",
             OnBoth,
             R"(libraries $S = $R/drive
-               game $S 1995890 Aerofly FS 4
-               game $R/drive 1995890 Aerofly FS 4
-               dir $R/drive/steamapps/common/Aerofly FS 4/scenery
-               dir $R/drive/steamapps/common/Aerofly FS 4/aircraft)",
-            "AFS4: $R/drive/steamapps/common/Aerofly FS 4",
-            "AFS4 not taken: $S/steamapps/common/Aerofly FS 4: no scenery");
+               game $S 314160 FSX
+               game $R/drive 314160 FSX
+               file $R/drive/steamapps/common/FSX/fsx.exe =
+               dir $R/drive/steamapps/common/FSX/SimObjects)",
+            "FSXSE: $R/drive/steamapps/common/FSX",
+            "FSXSE not taken: $S/steamapps/common/FSX: no fsx.exe");
+}
+
+void TestSteam::findsAeroflysUserFolder_data()
+{
+    caseColumns();
+    const QByteArray game = "$S/steamapps/common/Aerofly FS 4";
+    const QByteArray sound
+        = "game $S 1995890 Aerofly FS 4\ndir " + game + "/scenery\ndir " + game + "/aircraft\n";
+    const QByteArray user = "/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/"
+                            "Aerofly FS 4";
+    for (const char *mark : {"main.mcf", "tm.log", "TM.LOG"}) {
+        addCase(mark, OnLinux, sound + "file $S" + user + '/' + mark + " =", "AFS4: $S" + user);
+    }
+    addCase("not on macOS", OnMacOS, sound + "file $S" + user + "/main.mcf =", "");
+    addCase("in letter case that differs from the disk's, in another library than the game",
+            OnLinux,
+            sound + R"(libraries $S = $R/a, $R/b
+               dir $R/a/steamapps/compatdata/1995890
+               file $R/b/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/documents/aerofly fs 4/main.mcf =)",
+            "AFS4: $R/b/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/documents/aerofly "
+            "fs 4");
+    addCase("none in the first prefix",
+            OnLinux,
+            sound + "libraries $S = $R/b\ndir $S" + user + "\nfile $R/b" + user + "/tm.log =",
+            "AFS4: $R/b" + user,
+            "AFS4 not taken: $S" + user + ": no main.mcf or tm.log");
+    addCase("the game has not been started",
+            OnLinux,
+            sound + "dir $S/steamapps/compatdata/1995890/pfx/drive_c",
+            "",
+            "AFS4 not taken: $S" + user + ": no such folder");
+    addCase("a game without a prefix",
+            OnLinux,
+            sound,
+            "",
+            "AFS4 not taken: " + game + ": it has no Proton prefix");
+    addCase(
+        "a prefix that a removed game left behind", OnLinux, "file $S" + user + "/main.mcf =", "");
+    addCase("no scenery",
+            OnLinux,
+            "game $S 1995890 Aerofly FS 4\ndir " + game + "/aircraft\nfile $S" + user
+                + "/main.mcf =",
+            "",
+            "AFS4 not taken: " + game + ": no scenery");
+    addCase("no aircraft",
+            OnLinux,
+            "game $S 1995890 Aerofly FS 4\ndir " + game + "/scenery\nfile " + game
+                + "/aircraft =\nfile $S" + user + "/main.mcf =",
+            "",
+            "AFS4 not taken: " + game + ": no aircraft");
+}
+
+void TestSteam::findsThePrefixOfAGame_data()
+{
+    caseColumns();
+    const QByteArray prefix = "/steamapps/compatdata/4711/pfx";
+    for (const char *place : {".local/share/Steam",
+                              ".steam/steam",
+                              ".steam/root",
+                              ".steam/debian-installation",
+                              ".var/app/com.valvesoftware.Steam/.local/share/Steam",
+                              ".var/app/com.valvesoftware.Steam/data/Steam",
+                              "snap/steam/common/.local/share/Steam",
+                              ".snap/data/steam/common/.local/share/Steam"}) {
+        const QByteArray found = QByteArray("$H/") + place + prefix;
+        addCase(
+            place, OnLinux, "dir " + found + "\nprefix 4711 = a.xml", "4711: " + found + "/a.xml");
+    }
+    const auto add = [](const char *name, const QByteArray &tree, const QByteArray &found) {
+        addCase(name, OnLinux, tree + "\nprefix 4711 = a/b.xml", found);
+    };
+    const QByteArray both = "libraries $S = $R/a, $R/b\ndir $R/a" + prefix + "\ndir $R/b" + prefix;
+    add("the first of two libraries", both, "4711: $R/a" + prefix + "/a/b.xml");
+    add("the game's library first",
+        both + "\ngame $R/b 4711 Kestrel",
+        "4711: $R/b" + prefix + "/a/b.xml");
+    add("a game that is being downloaded is not there yet",
+        both + R"(
+               file $R/b/steamapps/appmanifest_4711.acf = AppState { installdir Kestrel StateFlags 1026 })",
+        "4711: $R/a" + prefix + "/a/b.xml");
+    add("the game's library has no prefix",
+        both + "\ngame $S 4711 Kestrel\ndir $S/steamapps/compatdata/4711",
+        "4711: $R/a" + prefix + "/a/b.xml");
+    add("another root's library",
+        "game $S 4711 Kestrel\ndir $H/.steam/root" + prefix,
+        "4711: $H/.steam/root" + prefix + "/a/b.xml");
+    add("a link to the game's folder",
+        "dir $R/fast/pfx\ndir $S/steamapps/compatdata\n"
+        "link $S/steamapps/compatdata/4711 -> $R/fast",
+        "4711: $S" + prefix + "/a/b.xml");
+    add("letter case that differs from the disk's",
+        "dir $S/SteamApps/CompatData/4711/pfx/A",
+        "4711: $S/SteamApps/CompatData/4711/pfx/A/b.xml");
+    add("the whole file in letter case that differs",
+        "file $S" + prefix + "/A/B.XML =\nfile $S" + prefix + "/A/c.xml =",
+        "4711: $S" + prefix + "/A/B.XML");
+    add("an exact match before another",
+        "dir $S" + prefix + "/A\nfile $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.xml =",
+        "4711: $S" + prefix + "/a/b.xml");
+    add("several that all differ",
+        "file $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.XML =",
+        "4711: $S" + prefix + "/a/b.xml");
+    add("a file for a prefix", "file $S" + prefix + " =", "");
+    add("a link that leads nowhere",
+        "dir $S/steamapps/compatdata/4711\nlink $S" + prefix + " -> $R/unplugged",
+        "");
+    add("none", "game $S 4711 Kestrel\ndir $S/steamapps/compatdata/471", "");
 }
 
 // A home folder that is itself a link, as some systems have it: Steam writes where it leads.

@@ -240,6 +240,14 @@ void TestXPlane::tellsTheVersion_data()
                file $L/x-plane_install_12.txt = $R/sim/\n)",
             "XP12: $R/sim",
             "XP11 not taken: $R/sim: it is taken as XP12");
+    addCase("two lists name one folder, one of them by a link",
+            OnBoth,
+            R"(xplane $R/sim
+               link $R/link -> $R/sim
+               file $L/x-plane_install_11.txt = $R/sim/\n
+               file $L/x-plane_install_12.txt = $R/link/\n)",
+            "XP12: $R/link",
+            "XP11 not taken: $R/sim: it is taken as XP12");
     addCase("listed as another version only",
             OnBoth,
             R"(xplane $R/sim
