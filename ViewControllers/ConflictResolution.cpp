@@ -37,8 +37,12 @@ void applySolution(const FlightSimulatorMapping *mapping)
 {
     const auto *conflict = mapping->scan->conflict;
     auto *config = mapping->scan->config;
-    if (config && !conflict->solution.isEmpty())
-        config->path = conflict->solution;
+    if (!config || conflict->solution.isEmpty())
+        return;
+    config->path = conflict->solution;
+    // It is relative to the data root, also where it takes the place of a file in a prefix.
+    config->prefix.clear();
+    config->steam = 0;
 }
 
 } // namespace

@@ -133,8 +133,12 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
 {
     if (mapping->scan->root >= 1)
         return;
-    if (!hasConfiguration(mapping)) {
+    if (!mapping->scan->config) {
         qCDebug(xmlLog).noquote() << "no configuration entry to add for" << mapping->scan->name;
+        return;
+    }
+    if (!hasConfigurationFile(mapping)) {
+        logAction() << "no Proton prefix, so no configuration file to edit:" << mapping->scan->name;
         return;
     }
     qDebug("hit reg search...");

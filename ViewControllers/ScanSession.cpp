@@ -2,6 +2,7 @@
 
 #include "Controllers/ActionLog.h"
 #include "Library/Helpers/FileWriter.h"
+#include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimConflict.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -9,6 +10,7 @@
 #include "ViewControllers/BusyPointer.h"
 #include "ViewControllers/InstallationLock.h"
 #include "ViewControllers/SimulatorFiles.h"
+#include "ViewControllers/SteamPrefix.h"
 #include "Views/ScannerView.h"
 
 #include <QCoreApplication>
@@ -45,10 +47,9 @@ QStringList configurationFiles(const QList<FlightSimulatorMapping *> &mappings)
     QStringList files;
     for (const auto *mapping : mappings) {
         const auto *conflict = mapping->scan->conflict;
-        if (!hasConfiguration(mapping))
-            continue;
-        files.append(configurationFile(mapping));
-        if (conflict && !conflict->solution.isEmpty())
+        if (hasConfigurationFile(mapping))
+            files.append(configurationFile(mapping));
+        if (mapping->scan->config && conflict && !conflict->solution.isEmpty())
             files.append(configurationFile(conflict->solution));
     }
     return files;
@@ -90,8 +91,11 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
 
     QList<FlightSimulatorMapping *> result;
     const auto entries = catalogueEntries(content);
-    for (auto *entry : entries)
+    for (auto *entry : entries) {
+        if (entry->config)
+            findPrefix(entry->config);
         result.append(mappingFor(entry));
+    }
     clearUnfinishedChanges(configurationFiles(result));
     sloveConflict(result);
     logAction() << "entries in the catalogue:" << result.size();

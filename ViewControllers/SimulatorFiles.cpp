@@ -73,9 +73,14 @@ QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destina
     return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
 }
 
-bool hasConfiguration(const FlightSimulatorMapping *mapping)
+bool hasConfigurationFile(const FlightSimulatorMapping *mapping)
 {
-    return mapping->scan->config && PathEncoding::survives(userDataRoot());
+    const auto *config = mapping->scan->config;
+    if (!config || !PathEncoding::survives(userDataRoot()))
+        return false;
+    // Nothing is made in a prefix that is not there: it would mislead Steam and others.
+    return config->steam == 0
+        || (!config->prefix.isEmpty() && QFileInfo(userDataRoot() + config->prefix).isDir());
 }
 
 QString configurationFile(const FlightSimulatorMapping *mapping)

@@ -15,12 +15,13 @@ QString simulatorFolder(const Models::FlightSimulatorMapping *mapping);
 /// The native path of the plugin file that belongs at @p destination in the simulator.
 QString pluginFile(const Models::FlightSimulatorMapping *mapping, const QString &destination);
 
-/// Whether the entry describes a configuration, and the path of its file is known.
-bool hasConfiguration(const Models::FlightSimulatorMapping *mapping);
+/// Whether there is a configuration file to edit: the entry describes one, and its path is known.
+/// Where that is in the Proton prefix of a game, the last scan found the prefix and it is still there.
+bool hasConfigurationFile(const Models::FlightSimulatorMapping *mapping);
 
-/// The simulator's configuration file, "/"-separated; only where it has a configuration. If there
-/// is no file of that name but one that differs in letter case only, it is that one: to the
-/// simulator they are the same. Of several such files none is taken.
+/// The simulator's configuration file, "/"-separated; there has to be one to edit. If there is no
+/// file of that name but one that differs in letter case only, it is that one: to the simulator
+/// they are the same. Of several such files none is taken.
 QString configurationFile(const Models::FlightSimulatorMapping *mapping);
 
 /// The same for an entry whose configuration has @p path.

@@ -173,8 +173,11 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
     if (!mapping->scan->config)
         return;
 
-    if (hasConfiguration(mapping))
+    if (hasConfigurationFile(mapping))
         removeEntry(mapping);
+    else
+        logAction() << "no Proton prefix, so no configuration file to edit:" << mapping->scan->name;
+
     if (const auto *removal = mapping->scan->remove) {
         for (const auto *operation : removal->files)
             removeExtraFile(extraFile(mapping, operation));

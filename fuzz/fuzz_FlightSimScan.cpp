@@ -98,6 +98,7 @@ void checkRemoval(const FlightSimRemoval &removal, const QJsonObject &json)
 void checkConfig(const XmlInsertionModel &config, const QJsonObject &json)
 {
     expect(config.path == slashed(textAt(json, "path")), "a configuration's path has slashes");
+    expect(config.steam == numberAt(json, "steam"), "a game has a whole number");
     bool anyValue = false;
     const QJsonArray values = json[QLatin1String("values")].toArray();
     for (const QJsonValue &value : values)

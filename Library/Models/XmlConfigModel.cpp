@@ -9,6 +9,7 @@ namespace Quillmont::Library::Models {
 XmlConfigModel::XmlConfigModel(QObject *parent, const QJsonObject &json)
     : QObject(parent)
     , path(json.value(QLatin1String("path")).toString().replace(u'\\', u'/'))
+    , steam(json.value(QLatin1String("steam")).toInt(0))
 {
     const QJsonValue removal = json.value(QLatin1String("remove"));
     if (removal.isObject())

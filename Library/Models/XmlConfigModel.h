@@ -22,6 +22,10 @@ public:
     bool describesEntry() const { return !element.isEmpty(); }
 
     QString path; ///< The file, "/"-separated, relative to the per-user application-data root.
+    /// Steam's number of the game in whose Proton prefix the path as written is; 0 for none.
+    int steam = 0;
+    /// The way from the data root to that prefix; empty until it is found and the path set anew.
+    QString prefix;
     QString element; ///< Name of our element, a child of the document's root element.
     QString key; ///< Name of the child element that recognises an element as ours.
     QString value; ///< That child's text, compared trimmed.

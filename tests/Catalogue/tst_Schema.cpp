@@ -26,7 +26,7 @@ QJsonObject soundEntry()
         "target": "", "type": 0, "root": "0",
         "files": [{"source": "a\\b.so", "destination": "Modules/b.so"}],
         "config": {
-            "path": "Skylark\\launch.xml", "parent": "Launch.Addon",
+            "steam": 4711, "path": "drive_c\\launch.xml", "parent": "Launch.Addon",
             "values": [{"key": "Name", "value": "Quillmont Orbwell"}],
             "remove": {"parent": "Launch.Addon", "key": "Name", "value": "Quillmont Orbwell",
                        "delete_parent": true, "files": [{"root": "-1", "path": "x.cfg"}]}},
@@ -64,6 +64,8 @@ private slots:
     void acceptsEveryKey();
     void refusesWhatTheProgramWouldPassOver_data();
     void refusesWhatTheProgramWouldPassOver();
+    void refusesWhatLacksItsCounterpart_data();
+    void refusesWhatLacksItsCounterpart();
     void describesEveryKey();
 
 private:
@@ -150,6 +152,20 @@ void TestSchema::refusesWhatTheProgramWouldPassOver_data()
     row("conflict flag as a string",
         R"({"conflict": {"name": "A", "remove_on_conflict": "false"}})",
         "$[0].conflict:");
+    const auto file = [row](const char *what, const char *file) {
+        row(what,
+            QByteArray(R"({"config": {$, "parent": "A", "values": [{"key": "N", "value": "O"}]}})")
+                .replace('$', file)
+                .constData(),
+            "$[0].config:");
+    };
+    file("game as a string", R"("steam": "4711", "path": "drive_c/a.xml")");
+    file("game 0", R"("steam": 0, "path": "drive_c/a.xml")");
+    file("broken game", R"("steam": 4711.5, "path": "drive_c/a.xml")");
+    file("game past an int", R"("steam": 2147483648, "path": "drive_c/a.xml")");
+    file("prefix without its drive", R"("steam": 4711, "path": "users/a.xml")");
+    file("prefix without its game", R"("path": "drive_c/a.xml")");
+    file("prefix of one Steam", R"("path": "Steam\\steamapps\\compatdata\\4711\\pfx\\a.xml")");
     row("solution with backslashes",
         R"({"conflict": {"name": "A", "remove_on_conflict": true, "solution": "A\\b.xml"}})",
         "$[0].conflict:");
@@ -167,6 +183,34 @@ void TestSchema::refusesWhatTheProgramWouldPassOver()
     const QStringList complaints = m_schema.complaints(QJsonDocument(QJsonArray{entry}).toJson());
     QVERIFY(!complaints.isEmpty());
     QVERIFY2(complaints.first().startsWith(where), qPrintable(complaints.join(u'\n')));
+}
+
+void TestSchema::refusesWhatLacksItsCounterpart_data()
+{
+    QTest::addColumn<QByteArray>("entry"); // beside a name, files, and a type that edits nothing
+    QTest::addColumn<QString>("complaint");
+    const auto row = [](const char *entry, const char *complaint) {
+        QTest::newRow(entry) << QByteArray(entry) << QString::fromLatin1(complaint);
+    };
+    row(R"("location": 3, "simcode": "XP12", "conflict": {"name": "a", "remove_on_conflict": true})",
+        "'config' is a dependency of 'conflict'");
+    row(R"("location": 1)", "'path' is a required property");
+    row(R"("location": 0)", "is not valid under any of the given schemas"); // path or key
+    row(R"("simcode": "XP12")", "is not valid under any of the given schemas"); // location 0
+    for (const char *location : {R"("location": 2)", R"("location": 3)", R"("location": 4)"})
+        row(location, "'simcode' is a required property");
+    row(R"("location": 3, "simcode": "FSXSE", "type": 0)", "'config' is a required property");
+}
+
+void TestSchema::refusesWhatLacksItsCounterpart()
+{
+    QFETCH(QByteArray, entry);
+    QFETCH(QString, complaint);
+    const QByteArray others
+        = R"("name": "a", "files": [{"source": "b", "destination": "c"}], "type": 1, )";
+    const QStringList found = m_schema.complaints("[{" + others + entry + "}]");
+    QCOMPARE(found.size(), 1);
+    QVERIFY2(found.first().contains(complaint), qPrintable(found.first()));
 }
 
 void TestSchema::describesEveryKey()

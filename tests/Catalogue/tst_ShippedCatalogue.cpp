@@ -15,6 +15,8 @@
 #include <QJsonObject>
 #include <QtTest>
 
+#include <algorithm>
+
 using namespace Quillmont::Utility::Models;
 using namespace Tests;
 using Quillmont::Utility::ViewControllers::ScanController;
@@ -63,6 +65,7 @@ QJsonValue readBackConfig(const FlightSimScan &scan)
         values.append(QJsonObject{{QStringLiteral("key"), pair.first},
                                   {QStringLiteral("value"), pair.second}});
     return QJsonObject{{QStringLiteral("path"), scan.config->path},
+                       {QStringLiteral("steam"), scan.config->steam},
                        {QStringLiteral("parent"), scan.config->parentName},
                        {QStringLiteral("values"), values},
                        {QStringLiteral("remove"), readBack(scan.remove)}};
@@ -103,6 +106,7 @@ QJsonObject expected(QJsonObject entry)
     QJsonObject config = entry.value(QLatin1String("config")).toObject();
     if (!config.isEmpty()) {
         config.insert(QStringLiteral("path"), slashed(config.value(QLatin1String("path"))));
+        config.insert(QStringLiteral("steam"), config.value(QLatin1String("steam")).toInt());
         entry.insert(QStringLiteral("config"), config);
     }
     return entry;
@@ -125,8 +129,10 @@ QString ownFile(const QString &simcode)
 {
     if (simcode.startsWith(QLatin1String("XP")))
         return QStringLiteral("Resources/plugins/Somebody/64/lin.xpl");
-    if (simcode.startsWith(QLatin1String("MSFS")))
+    if (simcode == QLatin1String("MSFS2020"))
         return QStringLiteral("Community/somebody-scenery/layout.json");
+    if (simcode == QLatin1String("MSFS2024"))
+        return QStringLiteral("Community2024/somebody-scenery/layout.json");
     if (simcode == QLatin1String("FGFS"))
         return QStringLiteral("Protocol/atlas.xml");
     return QStringLiteral("fsx.exe");
@@ -141,7 +147,9 @@ class TestShippedCatalogue : public QObject
 private slots:
     void initTestCase();
 
-    void knowsTheSevenSimulatorsInTheWindowsOrder();
+    void knowsEachSimulatorInTheWindowsOrder();
+    void putsEachFileWhereItsSimulatorLooks_data();
+    void putsEachFileWhereItsSimulatorLooks();
     void namesWhatDetectionKnows();
     void isReadAsItIsWritten_data();
     void isReadAsItIsWritten();
@@ -165,13 +173,55 @@ void TestShippedCatalogue::initTestCase()
     QVERIFY(QFile::link(payloadFolder(), beside));
 }
 
-void TestShippedCatalogue::knowsTheSevenSimulatorsInTheWindowsOrder()
+void TestShippedCatalogue::knowsEachSimulatorInTheWindowsOrder()
 {
     QStringList codes;
     const QJsonArray entries = entriesOf(shippedCatalogue());
     for (const QJsonValue &entry : entries)
         codes.prepend(entry[QLatin1String("simcode")].toString());
-    QCOMPARE(codes.join(u' '), QStringLiteral("XP12 XP11 MSFS2024 MSFS2020 FSXSE FGFS AFS4"));
+    QCOMPARE(codes.join(u' '), QStringLiteral("XP12 XP11 XP10 MSFS2024 MSFS2020 FSXSE FGFS AFS4"));
+}
+
+void TestShippedCatalogue::putsEachFileWhereItsSimulatorLooks_data()
+{
+    QTest::addColumn<QString>("placed"); // each source and where it goes
+    const auto row = [](const char *code, const QStringList &placed) {
+        QTest::newRow(code) << placed.join(u'\n');
+    };
+    row("AFS4",
+        {QStringLiteral("Aerofly/QuillmontOrbwell.dll > external_dll/QuillmontOrbwell.dll")});
+    row("FGFS",
+        {QStringLiteral("FlightGear/quillmont-orbwell.xml > Protocol/quillmont-orbwell.xml")});
+    row("FSXSE", {QStringLiteral("FSX/QuillmontOrbwell.dll > Modules/QuillmontOrbwell.dll")});
+    for (const char *edition : {"MSFS2020 Community", "MSFS2024 Community2024"}) {
+        const QByteArrayList words = QByteArray(edition).split(' ');
+        QStringList placed;
+        for (const char *file : {"Modules/QuillmontOrbwell.wasm", "layout.json", "manifest.json"})
+            placed.append(QStringLiteral("MSFS/%1 > %2/quillmont-orbwell/%1")
+                              .arg(QLatin1String(file), QString::fromLatin1(words.at(1))));
+        row(words.at(0).constData(), placed);
+    }
+    for (const char *code : {"XP10", "XP11", "XP12"}) {
+        QStringList placed;
+        for (const char *file : {"64/lin.xpl", "64/mac.xpl", "64/win.xpl", "about.txt"})
+            placed.append(QStringLiteral("X-Plane/%1 > Resources/plugins/Orbwell/%1")
+                              .arg(QLatin1String(file)));
+        row(code, placed);
+    }
+}
+
+void TestShippedCatalogue::putsEachFileWhereItsSimulatorLooks()
+{
+    QFETCH(QString, placed);
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    QStringList found;
+    for (const QJsonValue &entry : entries) {
+        const FlightSimScan scan(nullptr, entry.toObject());
+        for (auto it = scan.files.begin(); it != scan.files.end(); ++it)
+            if (scan.simcode == QLatin1String(QTest::currentDataTag()))
+                found.append(*it + QStringLiteral(" > ") + it.key());
+    }
+    QCOMPARE(found.join(u'\n'), placed);
 }
 
 void TestShippedCatalogue::namesWhatDetectionKnows()
@@ -187,6 +237,8 @@ void TestShippedCatalogue::namesWhatDetectionKnows()
     for (const QJsonValue &entry : entries) {
         const QString code = entry[QLatin1String("simcode")].toString();
         QVERIFY2(detected.contains(code), qPrintable(code));
+        // A fixed folder would beat it, left over or not.
+        QCOMPARE(entry[QLatin1String("location")].toInt(), 3);
     }
 
     const QJsonDocument schema = QJsonDocument::fromJson(readFile(CatalogueSchema::path()));
@@ -274,16 +326,25 @@ void TestShippedCatalogue::leavesEachSimulatorAsItWas()
 void TestShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
 {
     const Sandbox sandbox;
-    const QJsonArray entries = entriesOf(shippedCatalogue());
-    FlightSimScan scan(nullptr, entries.at(2).toObject());
-    QCOMPARE(scan.simcode, QStringLiteral("FSXSE"));
-    QVERIFY(scan.remove->deleteParent);
-
+    const QString prefix
+        = sandbox.dataRoot() + QStringLiteral("Steam/steamapps/compatdata/314160/pfx");
+    QVERIFY(QDir().mkpath(prefix));
+    writeFile(QCoreApplication::applicationDirPath() + QStringLiteral("/flightsims.json"),
+              shippedCatalogue());
     ScanController controller(nullptr, nullptr);
     const QScopedPointer<ScannerView> window(controller.view);
-    auto *mapping = new FlightSimulatorMapping(&scan, sandbox.path(QStringLiteral("simulator")));
+    // Not a silent one, which would install into what the test's own computer has.
+    controller.startScan(false, false, ScanController::ModeNone);
+    const auto mappings = controller.findChildren<FlightSimulatorMapping *>();
+    auto *mapping = *std::find_if(mappings.begin(), mappings.end(), [](const auto *one) {
+        return one->scan->simcode == QLatin1String("FSXSE");
+    });
+    QVERIFY(mapping->scan->remove->deleteParent);
+
+    mapping->path = sandbox.path(QStringLiteral("simulator"));
     QVERIFY(controller.install(mapping, true, false));
-    const QString file = sandbox.dataRoot() + scan.config->path;
+    const QString file
+        = prefix + QStringLiteral("/drive_c/users/steamuser/AppData/Roaming/Microsoft/FSX/dll.xml");
     const QByteArray content = readFile(file);
     QCOMPARE(content.count("<Launch.Addon>"), 1);
     QVERIFY(content.contains("<Path>Modules\\QuillmontOrbwell.dll</Path>"));

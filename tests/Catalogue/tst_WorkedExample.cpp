@@ -37,6 +37,7 @@ private slots:
     void installsWhatTheGuidePromises();
     void takesEverythingOutAgain();
     void leavesTheEmptyFolderThatTheGuideWarnsOf();
+    void editsTheFileInThePrefixOfAGame();
     void givesTheSecondEditionAFileOfItsOwn();
 
 private:
@@ -56,7 +57,7 @@ void TestWorkedExample::init()
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
     const QString payload = m_program->folder() + QStringLiteral("/plugins/Kestrel/");
-    for (const char *file : {"Orbwell.so", "gauge.png", "panel.cfg"})
+    for (const char *file : {"Orbwell.so", "Orbwell.dll", "gauge.png", "panel.cfg"})
         writeFile(payload + QLatin1String(file), file);
     writeFile(simulator("Kestrel Flight Deck/Panels/Somebody/panel.cfg"), "somebody else's");
     writeFile(data("Kestrel/launch.xml"), othersEntry);
@@ -130,10 +131,23 @@ void TestWorkedExample::leavesTheEmptyFolderThatTheGuideWarnsOf()
     QVERIFY(QFile::exists(simulator("Kestrel Flight Deck/Panels/Orbwell")));
 }
 
+void TestWorkedExample::editsTheFileInThePrefixOfAGame()
+{
+    const QString file = data("Steam/steamapps/compatdata/4711/pfx/drive_c/users/steamuser/AppData/"
+                              "Roaming/Kestrel/launch.xml");
+    writeFile(file, othersEntry);
+    QDir().mkpath(simulator("SteamLibrary/steamapps/common/Kestrel"));
+    start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(1));
+    pressAndConfirm("Kestrel Flight Deck for Windows");
+    QVERIFY(readFile(file).contains("Modules\\Orbwell.dll"));
+    pressAndConfirm("Kestrel Flight Deck for Windows");
+    QCOMPARE(readFile(file), QByteArray(othersEntry));
+}
+
 void TestWorkedExample::givesTheSecondEditionAFileOfItsOwn()
 {
     QDir().mkpath(simulator("Kestrel Flight Deck 2"));
-    start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(1));
+    start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(2));
     pressAndConfirm("Kestrel Flight Deck 2");
     QCOMPARE(readFile(data("Kestrel/launch.xml")), QByteArray(othersEntry));
     QVERIFY(readFile(data("Kestrel 2/launch.xml")).contains("Modules\\Orbwell.so"));

@@ -3,6 +3,9 @@
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace Tests {
 
 namespace {
@@ -48,10 +51,13 @@ void addTree(QMap<QString, QByteArray> &trees, const QString &folder)
 
 } // namespace
 
-PilotsHome::PilotsHome(const Sandbox &sandbox, const QString &flightGear)
+PilotsHome::PilotsHome(const Sandbox &sandbox, const QString &flightGear, const PilotsSteam &steam)
     : m_home(sandbox.home())
     , m_drives(sandbox.path(QStringLiteral("media")))
     , m_flightGear(flightGear)
+    , m_steam(sandbox.path(steam.root))
+    , m_games(sandbox.path(steam.games))
+    , m_prefixes(steam.prefixes.isEmpty() ? QString() : sandbox.path(steam.prefixes))
 {
     makeXPlane(xplane12(), 12);
     writeFile(
@@ -71,33 +77,46 @@ QString PilotsHome::xplane12() const
 
 QString PilotsHome::xplane11() const
 {
-    return m_drives + QStringLiteral("/SteamLibrary/steamapps/common/X-Plane 11");
+    return second() + QStringLiteral("/steamapps/common/X-Plane 11");
 }
 
 QString PilotsHome::fsx() const
 {
-    return steam() + QStringLiteral("/steamapps/common/FSX");
+    return m_games + QStringLiteral("/steamapps/common/FSX");
 }
 
 QString PilotsHome::dllXml() const
 {
-    return prefix() + QStringLiteral("/AppData/Roaming/Microsoft/FSX/dll.xml");
+    return user("314160") + QStringLiteral("/AppData/Roaming/Microsoft/FSX/dll.xml");
 }
 
-QString PilotsHome::steam() const
+QString PilotsHome::aerofly() const
 {
-    return m_home + QStringLiteral("/.local/share/Steam");
+    return user("1995890") + QStringLiteral("/Documents/Aerofly FS 4");
 }
 
-QString PilotsHome::prefix() const
+QString PilotsHome::packages() const
 {
-    return steam() + QStringLiteral("/steamapps/compatdata/314160/pfx/drive_c/users/steamuser");
+    return m_drives + QStringLiteral("/MSFS/Packages");
+}
+
+// A library on another drive.
+QString PilotsHome::second() const
+{
+    return m_drives + QStringLiteral("/SteamLibrary");
+}
+
+// What the user of the game's prefix has.
+QString PilotsHome::user(const char *id) const
+{
+    return m_prefixes + QStringLiteral("/steamapps/compatdata/") + QLatin1String(id)
+        + QStringLiteral("/pfx/drive_c/users/steamuser");
 }
 
 QMap<QString, QByteArray> PilotsHome::trees() const
 {
     QMap<QString, QByteArray> trees;
-    for (const QString &folder : {m_drives, steam(), m_flightGear})
+    for (const QString &folder : {m_drives, m_steam, m_flightGear})
         addTree(trees, folder);
     return trees;
 }
@@ -112,23 +131,64 @@ void PilotsHome::makeXPlane(const QString &folder, int version)
 
 void PilotsHome::makeSteam() const
 {
-    const QString second = m_drives + QStringLiteral("/SteamLibrary");
-    writeFile(steam() + QStringLiteral("/config/libraryfolders.vdf"),
-              "\"libraryfolders\"\n{\n\t\"0\"\n\t{\n\t\t\"path\"\t\t\"" + steam().toUtf8()
-                  + "\"\n\t}\n\t\"1\"\n\t{\n\t\t\"path\"\t\t\"" + second.toUtf8() + "\"\n\t}\n}\n");
-    writeFile(second + QStringLiteral("/steamapps/appmanifest_269950.acf"),
+    // Flatpak shows its Steam the root under another name.
+    const QString flatpak = m_home + QStringLiteral("/.var/app/com.valvesoftware.Steam");
+    const QString seen = QString(m_steam).replace(flatpak, m_home);
+    QByteArray list = "\"libraryfolders\"\n{\n";
+    int number = 0;
+    for (const QString &library : {seen, second(), m_games, m_prefixes}) {
+        list += "\t\"" + QByteArray::number(number) + "\"\n\t{\n\t\t\"path\"\t\t\""
+            + library.toUtf8() + "\"\n\t}\n";
+        ++number;
+    }
+    writeFile(m_steam + QStringLiteral("/config/libraryfolders.vdf"), list + "}\n");
+    writeFile(second() + QStringLiteral("/steamapps/appmanifest_269950.acf"),
               manifest("269950", "X-Plane 11"));
-    writeFile(steam() + QStringLiteral("/steamapps/appmanifest_314160.acf"),
-              manifest("314160", "FSX"));
+}
+
+void PilotsHome::makeGame(const char *id, const QString &name) const
+{
+    writeFile(m_games + QStringLiteral("/steamapps/appmanifest_%1.acf").arg(QLatin1String(id)),
+              manifest(id, name.toUtf8()));
 }
 
 void PilotsHome::makeFsx() const
 {
+    makeGame("314160", QStringLiteral("FSX"));
     writeFile(fsx() + QStringLiteral("/fsx.exe"), "");
     writeFile(fsx() + QStringLiteral("/SimObjects/Airplanes/Somebody/aircraft.cfg"), "");
     writeFile(fsx() + QStringLiteral("/Modules/Somebody.dll"), "other module");
+    if (m_prefixes.isEmpty())
+        return;
     writeFile(dllXml(), wellFilledDllXml());
-    writeFile(prefix() + QStringLiteral("/AppData/Roaming/Microsoft/FSX/fsx.CFG"), "[Main]\r\n");
+    writeFile(QFileInfo(dllXml()).path() + QStringLiteral("/fsx.CFG"), "[Main]\r\n");
+}
+
+void PilotsHome::addNewerSimulators() const
+{
+    makeGame("1995890", QStringLiteral("Aerofly FS 4"));
+    for (const char *folder : {"scenery", "aircraft"})
+        QDir().mkpath(m_games + QStringLiteral("/steamapps/common/Aerofly FS 4/")
+                      + QLatin1String(folder));
+    for (const char *folder : {"Community", "Community2024"})
+        writeFile(packages() + u'/' + QLatin1String(folder)
+                      + QStringLiteral("/somebody-scenery/layout.json"),
+                  "{}");
+    if (m_prefixes.isEmpty())
+        return;
+    writeFile(aerofly() + QStringLiteral("/main.mcf"), "");
+    makeUserCfg("1250410", QStringLiteral("Microsoft Flight Simulator"));
+    makeUserCfg("2537590", QStringLiteral("Microsoft Flight Simulator 2024"));
+}
+
+void PilotsHome::makeUserCfg(const char *id, const QString &name) const
+{
+    const QString file = user(id) + QStringLiteral("/AppData/Roaming/%1/UserCfg.opt").arg(name);
+    const QString windows = QStringLiteral("Z:") + packages().replace(u'/', u'\\');
+    writeFile(file, "InstalledPackagesPath \"" + windows.toUtf8() + "\"\r\n");
+    const QString drives = user(id) + QStringLiteral("/../../../dosdevices");
+    QDir().mkpath(drives);
+    QFile::link(QStringLiteral("/"), drives + QStringLiteral("/z:"));
 }
 
 void PilotsHome::makeFlightGear() const

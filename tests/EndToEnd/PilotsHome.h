@@ -9,6 +9,14 @@ namespace Tests {
 
 class Sandbox;
 
+/// Where a pilot has Steam; each is a path inside the sandbox.
+struct PilotsSteam
+{
+    QString root = QStringLiteral("home/.local/share/Steam");
+    QString games = root; ///< The library that holds the simulators for Windows.
+    QString prefixes = root; ///< The library that holds their prefixes; empty where there are none.
+};
+
 /// A computer as a pilot has it, inside a sandbox: X-Plane 12 on a drive of its own and in
 /// X-Plane's list, X-Plane 11 in a Steam library on another drive, FSX: Steam Edition under Proton
 /// with other add-ons in its dll.xml, and FlightGear's data.
@@ -16,7 +24,11 @@ class PilotsHome
 {
 public:
     /// Puts all of it on the disk but for FlightGear, which lies at @p flightGear.
-    PilotsHome(const Sandbox &sandbox, const QString &flightGear);
+    PilotsHome(const Sandbox &sandbox, const QString &flightGear, const PilotsSteam &steam = {});
+
+    /// Adds what else runs under Proton: Aerofly FS 4, and both Microsoft Flight Simulators with
+    /// their packages in one folder of another drive.
+    void addNewerSimulators() const;
 
     QString xplane12() const;
     QString xplane11() const;
@@ -24,8 +36,10 @@ public:
 
     QString flightGear() const { return m_flightGear; }
 
-    /// FSX's list of add-ons.
+    /// FSX's list of add-ons; its prefix has to be there.
     QString dllXml() const;
+    QString aerofly() const;
+    QString packages() const;
 
     /// Everything that belongs to the simulators, their configuration files included, by full
     /// path. Backups, which the program never deletes, are left out.
@@ -38,12 +52,17 @@ private:
     void makeSteam() const;
     void makeFsx() const;
     void makeFlightGear() const;
-    QString steam() const;
-    QString prefix() const;
+    void makeGame(const char *id, const QString &name) const;
+    void makeUserCfg(const char *id, const QString &name) const;
+    QString second() const;
+    QString user(const char *id) const;
 
     const QString m_home;
     const QString m_drives;
     const QString m_flightGear;
+    const QString m_steam;
+    const QString m_games;
+    const QString m_prefixes; ///< Empty where there are none.
 };
 
 } // namespace Tests

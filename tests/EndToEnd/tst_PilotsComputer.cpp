@@ -5,6 +5,9 @@
 #include "tests/support/Program.h"
 #include "tests/support/Sandbox.h"
 
+#include <QDir>
+#include <QJsonArray>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <algorithm>
@@ -17,7 +20,11 @@
 
 using namespace Tests;
 
+Q_DECLARE_METATYPE(Tests::PilotsSteam)
+
 namespace {
+
+using Tree = QMap<QString, QByteArray>;
 
 QString packagedFlightGear()
 {
@@ -63,6 +70,8 @@ private slots:
     void isShownInTheDescribedOrder();
     void getsThePluginInOneGo();
     void isAsBeforeWhenEachIsRemoved();
+    void isChangedOnlyWhereItsSimulatorsRead_data();
+    void isChangedOnlyWhereItsSimulatorsRead();
     void findsAPackagedFlightGear();
     void showsAnUpgradedXPlaneOnce();
 
@@ -71,7 +80,12 @@ private:
     void scanAndInstall();
     void remove(const QString &simulator);
     QStringList shown();
-    void use(const QString &flightGear);
+    void begin();
+    void use(const QString &flightGear, const PilotsSteam &steam = {});
+    void placeDataRoot(const QString &place, bool isLink);
+    Tree disk() const;
+    QString keyOf(const QString &path) const;
+    void addPlugin(Tree &tree, const QMap<QString, QString> &folders) const;
 
     QScopedPointer<Sandbox> m_sandbox;
     QScopedPointer<Program> m_program;
@@ -87,11 +101,8 @@ void TestPilotsComputer::initTestCase()
 
 void TestPilotsComputer::init()
 {
-    m_sandbox.reset(new Sandbox);
-    m_program.reset(new Program(*m_sandbox));
+    begin();
     use(m_sandbox->path(QStringLiteral("usr/share/games/flightgear")));
-    // Looked at first, so a FlightGear of the computer that the test runs on is left alone.
-    m_program->setVariable("FG_ROOT", m_home->flightGear());
 }
 
 void TestPilotsComputer::cleanup()
@@ -100,17 +111,35 @@ void TestPilotsComputer::cleanup()
     m_sandbox.reset();
 }
 
-void TestPilotsComputer::use(const QString &flightGear)
+void TestPilotsComputer::begin()
 {
-    m_home.reset(new PilotsHome(*m_sandbox, flightGear));
+    cleanup(); // before the next one keeps what the environment is
+    m_sandbox.reset(new Sandbox);
+    m_program.reset(new Program(*m_sandbox));
+}
+
+void TestPilotsComputer::use(const QString &flightGear, const PilotsSteam &steam)
+{
+    m_home.reset(new PilotsHome(*m_sandbox, flightGear, steam));
+    // Looked at first, so a FlightGear of the computer that the test runs on is left alone.
+    m_program->setVariable("FG_ROOT", flightGear);
+}
+
+void TestPilotsComputer::placeDataRoot(const QString &place, bool isLink)
+{
+    const QString usual = m_sandbox->dataRoot().chopped(1);
+    const QString folder = place.isEmpty() ? usual : m_sandbox->path(place);
+    QDir().mkpath(folder);
+    QDir().mkpath(QFileInfo(usual).path());
+    if (isLink)
+        QVERIFY(QFile::link(folder, usual));
+    else if (!place.isEmpty())
+        m_program->setVariable("XDG_DATA_HOME", folder);
 }
 
 void TestPilotsComputer::start()
 {
-    // No folder of the computer that the test runs on may be a well-known one.
-    const QByteArray applications = m_sandbox->path(QStringLiteral("Applications/")).toUtf8();
-    writeFile(m_program->folder() + QStringLiteral("/flightsims.json"),
-              shippedCatalogue().replace("/Applications/", applications));
+    writeFile(m_program->folder() + QStringLiteral("/flightsims.json"), shippedCatalogue());
     const auto payload = treeOf(payloadFolder());
     for (auto it = payload.begin(); it != payload.end(); ++it) {
         if (!it.key().endsWith(u'/'))
@@ -118,6 +147,45 @@ void TestPilotsComputer::start()
     }
     m_program->start();
     m_program->window();
+}
+
+// All that is not the program's own, without backups, which stay.
+Tree TestPilotsComputer::disk() const
+{
+    Tree disk = treeOf(m_sandbox->root());
+    for (const QString &path : disk.keys()) {
+        const bool isOurs = path.contains(QLatin1String("/Quillmont/"))
+            || path.contains(QRegularExpression(QStringLiteral("^(program|runtime|home/.cache)/")));
+        if (isOurs || path.endsWith(QLatin1String(".bak")))
+            disk.remove(path);
+    }
+    return disk;
+}
+
+QString TestPilotsComputer::keyOf(const QString &path) const
+{
+    const QDir root(QFileInfo(m_sandbox->root()).canonicalFilePath());
+    const QFileInfo folder(QFileInfo(path).path());
+    return root.relativeFilePath(folder.canonicalFilePath()) + u'/' + QFileInfo(path).fileName();
+}
+
+// What the catalogue puts into each simulator's folder.
+void TestPilotsComputer::addPlugin(Tree &tree, const QMap<QString, QString> &folders) const
+{
+    const QJsonArray entries = entriesOf(shippedCatalogue());
+    for (const QJsonValue &entry : entries) {
+        const QString folder = folders.value(entry[QLatin1String("name")].toString());
+        const QJsonArray files
+            = folder.isEmpty() ? QJsonArray() : entry[QLatin1String("files")].toArray();
+        for (const QJsonValue &file : files) {
+            QString path = folder + u'/' + file[QLatin1String("destination")].toString();
+            tree.insert(
+                keyOf(path),
+                readFile(payloadFolder() + u'/' + file[QLatin1String("source")].toString()));
+            for (path = QFileInfo(path).path(); path != folder; path = QFileInfo(path).path())
+                tree.insert(keyOf(path) + u'/', {});
+        }
+    }
 }
 
 // Name and folder of each row, from the top.
@@ -160,6 +228,7 @@ void TestPilotsComputer::isShownInTheDescribedOrder()
                      QLatin1String("X-Plane 11: ") + m_home->xplane11(),
                      QLatin1String("Microsoft Flight Simulator X: Steam Edition: ") + m_home->fsx(),
                      QLatin1String("FlightGear: ") + m_home->flightGear(),
+                     QStringLiteral("X-Plane 10"),
                      QStringLiteral("Microsoft Flight Simulator 2024"),
                      QStringLiteral("Microsoft Flight Simulator 2020"),
                      QStringLiteral("Aerofly FS 4")}));
@@ -167,7 +236,7 @@ void TestPilotsComputer::isShownInTheDescribedOrder()
     const auto rows = m_program->rows();
     for (const SeenRow &row : rows)
         icons.append(row.icon.section(u'-', 0, 0));
-    QCOMPARE(icons.join(u' '), QStringLiteral("check check check check minus minus minus"));
+    QCOMPARE(icons.join(u' '), QStringLiteral("check check check check minus minus minus minus"));
 }
 
 void TestPilotsComputer::getsThePluginInOneGo()
@@ -218,6 +287,84 @@ void TestPilotsComputer::isAsBeforeWhenEachIsRemoved()
     QVERIFY(!backupsOf(m_home->dllXml(), QStringLiteral("uninstallation")).isEmpty());
 }
 
+void TestPilotsComputer::isChangedOnlyWhereItsSimulatorsRead_data()
+{
+    QTest::addColumn<PilotsSteam>("steam");
+    QTest::addColumn<QString>("dataRoot"); // empty: in its place
+    QTest::addColumn<bool>("isLink"); // in its place to where it is, or $XDG_DATA_HOME names that
+    const auto row = [](const char *name,
+                        const PilotsSteam &steam,
+                        const QString &dataRoot = {},
+                        bool isLink = false) {
+        QTest::newRow(name) << steam << dataRoot << isLink;
+    };
+    const auto all = [](const QString &root) {
+        return PilotsSteam{root, root, root};
+    };
+    const QString native = PilotsSteam().root;
+    const QString debian = QStringLiteral("home/.steam/debian-installation");
+    const QString flatpak
+        = QStringLiteral("home/.var/app/com.valvesoftware.Steam/.local/share/Steam");
+    const QString drive = QStringLiteral("media/Spiele \u2013 \u904A\u6232/Steam");
+    const QString share = QStringLiteral("media/share");
+    row("a native Steam", all(native));
+    row("Debian's own Steam", all(debian));
+    row("Flatpak", all(flatpak));
+    row("Snap", all(QStringLiteral("home/snap/steam/common/.local/share/Steam")));
+    row("a second drive", {native, drive, drive});
+    row("prefixes in another library", {flatpak, drive, flatpak});
+    row("no prefix", {debian, drive, {}});
+    row("a data root that is a link", all(native), share, true);
+    row("a data root that is a link, and Debian's own Steam", {debian, drive, debian}, share, true);
+    row("a data root elsewhere", {debian, drive, drive}, share);
+}
+
+void TestPilotsComputer::isChangedOnlyWhereItsSimulatorsRead()
+{
+    QFETCH(PilotsSteam, steam);
+    QFETCH(QString, dataRoot);
+    QFETCH(bool, isLink);
+    begin();
+    placeDataRoot(dataRoot, isLink);
+    use(m_sandbox->path(QStringLiteral("usr/share/games/flightgear")), steam);
+    m_home->addNewerSimulators();
+    QMap<QString, QString> folders{
+        {QStringLiteral("X-Plane 12"), m_home->xplane12()},
+        {QStringLiteral("X-Plane 11"), m_home->xplane11()},
+        {QStringLiteral("Microsoft Flight Simulator X: Steam Edition"), m_home->fsx()},
+        {QStringLiteral("FlightGear"), m_home->flightGear()}};
+    if (!steam.prefixes.isEmpty()) {
+        folders.insert(QStringLiteral("Aerofly FS 4"), m_home->aerofly());
+        folders.insert(QStringLiteral("Microsoft Flight Simulator 2020"), m_home->packages());
+        folders.insert(QStringLiteral("Microsoft Flight Simulator 2024"), m_home->packages());
+    }
+    const auto before = disk();
+
+    start();
+    const auto rows = m_program->rows();
+    for (const SeenRow &row : rows)
+        QCOMPARE(row.path, folders.value(row.name));
+    m_program->press(QStringLiteral("Scan & Install"));
+    m_program->box();
+    m_program->press(QStringLiteral("OK"));
+    m_program->window();
+    auto expected = before;
+    addPlugin(expected, folders);
+    if (!steam.prefixes.isEmpty()) {
+        const QByteArray list = readFile(m_home->dllXml());
+        QCOMPARE(list.count("<Name>Quillmont Orbwell</Name>"), 2); // one is a comment
+        expected.insert(keyOf(m_home->dllXml()), list);
+        QVERIFY(!backupsOf(m_home->dllXml(), QStringLiteral("installation")).isEmpty());
+    }
+    QCOMPARE(disk().keys(), expected.keys());
+    QCOMPARE(disk(), expected);
+
+    for (auto it = folders.keyBegin(); it != folders.keyEnd(); ++it)
+        remove(*it);
+    QCOMPARE(disk().keys(), before.keys());
+    QCOMPARE(disk(), before);
+}
+
 void TestPilotsComputer::findsAPackagedFlightGear()
 {
     if (!canPackage())
@@ -239,11 +386,13 @@ void TestPilotsComputer::findsAPackagedFlightGear()
 
 void TestPilotsComputer::showsAnUpgradedXPlaneOnce()
 {
-    // Found as X-Plane 11 by its name, and as X-Plane 12 by what is in it.
-    const QString folder = m_sandbox->path(QStringLiteral("Applications/X-Plane 11"));
+    // X-Plane 11 by its name and by a list, and X-Plane 12 by what is in it.
+    const QString folder = m_sandbox->path(QStringLiteral("games/X-Plane 11"));
     PilotsHome::makeXPlane(folder, 12);
-    writeFile(m_sandbox->home() + QStringLiteral("/.x-plane/x-plane_install_12.txt"),
-              folder.toUtf8());
+    for (const char *list : {"11", "12"})
+        writeFile(m_sandbox->home()
+                      + QStringLiteral("/.x-plane/x-plane_install_%1.txt").arg(QLatin1String(list)),
+                  folder.toUtf8());
     QVERIFY(QDir(m_home->xplane11()).removeRecursively());
     start();
     QCOMPARE(m_program->row(QStringLiteral("X-Plane 12")).path, folder);

@@ -16,6 +16,7 @@ foreach(class
     ResultBox
     ScanController
     ScanSession
+    SteamPrefix
     TextFiles
     Uninstallation)
   orbwell_add_test(ViewControllers/${class})

@@ -24,6 +24,20 @@ private slots:
         QCOMPARE(XmlConfigModel(nullptr, json(R"({"path": "a\\b"})")).path, "a/b"_s);
     }
 
+    void takesTheGameFromAWholeNumber_data()
+    {
+        QTest::addColumn<int>("steam");
+        QTest::newRow(R"({"steam": 314160})") << 314160;
+        QTest::newRow("{}") << 0;
+        for (const char *value : {R"("314160")", "314160.5", "99999999999", "true", "null", "[1]"})
+            QTest::addRow(R"({"steam": %s})", value) << 0;
+    }
+
+    void takesTheGameFromAWholeNumber()
+    {
+        QTEST(XmlConfigModel(nullptr, json(QTest::currentDataTag())).steam, "steam");
+    }
+
     // Element, key and value that make an element ours; nothing where there is none to speak of.
     void saysHowOurElementIsRecognised_data()
     {

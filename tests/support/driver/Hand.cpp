@@ -10,10 +10,21 @@
 #include <QFileDialog>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QtTest>
 
 namespace Tests {
+
+// As a person does before pressing what lies behind the list's edge.
+static void scrollTo(const QWidget *row)
+{
+    auto *list = qobject_cast<QListWidget *>(row->parentWidget()->parentWidget());
+    for (int i = 0; list && i < list->count(); ++i) {
+        if (list->itemWidget(list->item(i)) == row)
+            list->scrollToItem(list->item(i));
+    }
+}
 
 Hand::Hand(const QJsonObject &command)
     : m_command(command)
@@ -46,6 +57,7 @@ QString Hand::reachRow()
     const QWidget *row = Eye::rowOf(text("row"));
     if (!row)
         return QStringLiteral("no row for ") + text("row");
+    scrollTo(row);
     m_target = Eye::buttonOf(row, text("control") == QLatin1String("browse"));
     return m_target ? QString() : QStringLiteral("no such control in the row");
 }
