@@ -16,6 +16,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Helpers::XmlHelper;
@@ -53,6 +54,15 @@ void removeOldFile(const QString &path)
         logAction() << "old file removed:" << path;
     else
         logAction() << "old file not removed:" << path << file.errorString();
+}
+
+// Nothing can be put in the place of a link that leads nowhere, though nothing seems to be there.
+void reportDeadLink(const QString &path)
+{
+    for (QFileInfo info(path); !info.isRoot(); info.setFile(info.path())) {
+        if (info.isSymLink() && !info.exists())
+            logAction() << "this link leads nowhere:" << info.filePath();
+    }
 }
 
 void writeLaunchDocument(const QString &path)
@@ -108,6 +118,7 @@ void ScanController::copyPluginFile(const QString &source,
         logAction() << "file copied:" << source << "to" << target;
     } else {
         logAction() << "file not copied:" << source << "to" << target << file.errorString();
+        reportDeadLink(QFileInfo(target).absoluteFilePath());
         m_errorMessage += tr("Unable to copy '%0' to '%1'. Please check if you have permission to "
                              "folder '%2'.\r\n")
                               .arg(source, target, folder);

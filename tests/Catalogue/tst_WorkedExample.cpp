@@ -39,6 +39,7 @@ private slots:
     void leavesTheEmptyFolderThatTheGuideWarnsOf();
     void editsTheFileInThePrefixOfAGame();
     void givesTheSecondEditionAFileOfItsOwn();
+    void installsIntoTheSecondCopyOfASimulator();
 
 private:
     QString simulator(const char *name) const;
@@ -154,6 +155,36 @@ void TestWorkedExample::givesTheSecondEditionAFileOfItsOwn()
 
     pressAndConfirm("Kestrel Flight Deck");
     QVERIFY(readFile(data("Kestrel/launch.xml")).contains("Modules\\Orbwell.so"));
+}
+
+void TestWorkedExample::installsIntoTheSecondCopyOfASimulator()
+{
+    const QString payload = m_program->folder() + QStringLiteral("/plugins/X-Plane/");
+    for (const char *file : {"64/lin.xpl", "about.txt"})
+        writeFile(payload + QLatin1String(file), file);
+    for (const char *folder : {"X-Plane 12", "X-Plane 12 beta"}) {
+        writeFile(simulator(folder) + QStringLiteral("/X-Plane-x86_64"), "");
+        writeFile(simulator(folder) + QStringLiteral("/Resources/plugins/Somebody/64/lin.xpl"), "");
+    }
+#ifdef Q_OS_MACOS
+    const QString lists = QStringLiteral("/Library/Preferences");
+#else
+    const QString lists = QStringLiteral("/.x-plane");
+#endif
+    writeFile(m_sandbox->home() + lists + QStringLiteral("/x-plane_install_12.txt"),
+              (simulator("X-Plane 12") + u'\n' + simulator("X-Plane 12 beta")).toUtf8());
+    const auto before = treeOf(m_sandbox->path(QStringLiteral("opt")));
+    start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(3));
+    for (const char *name : {"X-Plane 12 beta", "X-Plane 12"}) {
+        QCOMPARE(m_program->row(QLatin1String(name)).path, simulator(name));
+        pressAndConfirm(name);
+        QCOMPARE(
+            readFile(simulator(name) + QStringLiteral("/Resources/plugins/Orbwell/64/lin.xpl")),
+            QByteArray("64/lin.xpl"));
+    }
+    for (const char *name : {"X-Plane 12", "X-Plane 12 beta"})
+        pressAndConfirm(name);
+    QCOMPARE(treeOf(m_sandbox->path(QStringLiteral("opt"))), before);
 }
 
 QTEST_GUILESS_MAIN(TestWorkedExample)

@@ -241,15 +241,18 @@ private slots:
     void leavesObstaclesAsTheyAre_data()
     {
         QTest::addColumn<QString>("obstacle");
-        QTest::newRow("a folder in the file's place") << "folder";
-        QTest::newRow("a file in the folder's place") << "file";
-        QTest::newRow("a dangling link in the folder's place") << "link";
-        QTest::newRow("a dangling link in the file's place") << "file link";
+        QTest::addColumn<QByteArray>("deadLink"); // as the log names it
+        QTest::newRow("a folder in the file's place") << "folder" << QByteArray();
+        QTest::newRow("a file in the folder's place") << "file" << QByteArray();
+        QTest::newRow("a dangling link in the folder's place") << "link" << QByteArray("A/Modules");
+        QTest::newRow("a dangling link in the file's place")
+            << "file link" << QByteArray("A/Modules/one.dll");
     }
 
     void leavesObstaclesAsTheyAre()
     {
         QFETCH(QString, obstacle);
+        QFETCH(QByteArray, deadLink);
         Workshop shop;
         writePayload(shop);
         if (obstacle == QLatin1String("folder"))
@@ -273,6 +276,10 @@ private slots:
                                         unableToCopyLine(QStringLiteral("A/one.dll"),
                                                          shop.path("A/Modules/one.dll"),
                                                          shop.path("A/")))));
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("leads nowhere")).join(u'\n'),
+                 deadLink.isEmpty()
+                     ? QString()
+                     : QStringLiteral("this link leads nowhere: \"%1\"").arg(shop.path(deadLink)));
     }
 
     void aSimulatorFolderThatIsNoneIsLeftAlone_data()
