@@ -59,6 +59,10 @@ void removeOldFile(const QString &path)
 // Nothing can be put in the place of a link that leads nowhere, though nothing seems to be there.
 void reportDeadLink(const QString &path)
 {
+    // A record can name a path of a million folders, which no system takes.
+    constexpr int maxPathLength = 4096;
+    if (path.size() > maxPathLength)
+        return;
     for (QFileInfo info(path); !info.isRoot(); info.setFile(info.path())) {
         if (info.isSymLink() && !info.exists())
             logAction() << "this link leads nowhere:" << info.filePath();
