@@ -28,7 +28,7 @@ ConfigurationController *ConfigurationController::instance()
 
 QVariant ConfigurationController::getSettings(const QString &key) const
 {
-    if (!SettingsFile::canRead(settingsFilePath))
+    if (!SettingsFile(settingsFilePath).canRead(key))
         return {};
     return QSettings(settingsFilePath, QSettings::IniFormat).value(key);
 }
@@ -42,14 +42,24 @@ QVariant ConfigurationController::getSettings(const QString &key,
 
 void ConfigurationController::saveSettings(const QString &key, const QVariant &value) const
 {
-    if (SettingsFile::canWrite(settingsFilePath))
-        QSettings(settingsFilePath, QSettings::IniFormat).setValue(key, value);
+    change([&key, &value](QSettings *settings) { settings->setValue(key, value); });
 }
 
 void ConfigurationController::removeSettings(const QString &key) const
 {
-    if (SettingsFile::canWrite(settingsFilePath))
-        QSettings(settingsFilePath, QSettings::IniFormat).remove(key);
+    change([&key](QSettings *settings) { settings->remove(key); });
+}
+
+void ConfigurationController::change(const std::function<void(QSettings *)> &change) const
+{
+    const SettingsFile file(settingsFilePath);
+    if (!file.canWrite())
+        return;
+    QSettings settings(settingsFilePath, QSettings::IniFormat);
+    change(&settings);
+    settings.sync();
+    if (settings.status() == QSettings::AccessError)
+        file.logLoss(QStringLiteral("the file cannot be written"));
 }
 
 QString ConfigurationController::appDataPath()

@@ -5,10 +5,15 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
+
+class QSettings;
+
 namespace Quillmont::Utility::Controllers {
 
 /// The user's persistent settings, shared with the maker's other programs. Each operation reads
-/// or writes the file afresh; a failure reads as "nothing stored" and is not reported.
+/// or writes the file afresh; a failure reads as "nothing stored", and only the log has a line for
+/// it.
 class ConfigurationController : public QObject
 {
     Q_OBJECT
@@ -42,6 +47,7 @@ public:
 
 private:
     explicit ConfigurationController(QObject *parent = nullptr);
+    void change(const std::function<void(QSettings *)> &change) const;
 
     QString settingsFilePath;
     [[maybe_unused]] void *m_reserved

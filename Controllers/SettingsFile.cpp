@@ -1,109 +1,142 @@
 #include "Controllers/SettingsFile.h"
 
+#include "Controllers/ActionLog.h"
+#include "Controllers/IniReader.h"
 #include "Controllers/PathEncoding.h"
+#include "Controllers/SerialisedObject.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
-#include <QMetaType>
-#include <QRegularExpression>
-#include <QVector>
+#include <QLockFile>
+
+#include <functional>
 
 namespace Quillmont::Utility::Controllers {
 
 namespace {
 
-// A folder a simulator is a few lines; what is bigger than this only eats up memory.
-constexpr qint64 biggestSize = 8LL * 1024 * 1024;
+// A folder per simulator is a few lines; what is bigger than this only eats up memory.
+constexpr qint64 maxSize = 8LL * 1024 * 1024;
 
-// A text as the toolkit takes it: without quotes, with joined lines and characters for escapes.
-QString plain(const QByteArray &bytes)
-{
-    static const QRegularExpression escape(
-        QStringLiteral(R"("|\\(?:x([0-9a-fA-F]+)|([0-7]+)|\r\n|([\s\S])|$))"));
-    static const QMap<QChar, QChar> named{{QLatin1Char('a'), QLatin1Char('\a')},
-                                          {QLatin1Char('b'), QLatin1Char('\b')},
-                                          {QLatin1Char('f'), QLatin1Char('\f')},
-                                          {QLatin1Char('n'), QLatin1Char('\n')},
-                                          {QLatin1Char('r'), QLatin1Char('\r')},
-                                          {QLatin1Char('t'), QLatin1Char('\t')},
-                                          {QLatin1Char('v'), QLatin1Char('\v')},
-                                          {QLatin1Char('"'), QLatin1Char('"')},
-                                          {QLatin1Char('?'), QLatin1Char('?')},
-                                          {QLatin1Char('\''), QLatin1Char('\'')},
-                                          {QLatin1Char('\\'), QLatin1Char('\\')}};
-    const QString text = QString::fromLatin1(bytes);
-    QString result;
-    int begin = 0;
-    auto it = escape.globalMatch(text);
-    while (it.hasNext()) {
-        const auto match = it.next();
-        result += text.midRef(begin, match.capturedStart() - begin);
-        begin = match.capturedEnd();
-        if (match.capturedLength(1) > 0)
-            result += QChar(static_cast<ushort>(match.capturedRef(1).right(4).toUInt(nullptr, 16)));
-        else if (match.capturedLength(2) > 0)
-            result += QChar(static_cast<ushort>(match.capturedRef(2).right(6).toUInt(nullptr, 8)));
-        else if (match.capturedLength(3) > 0 && named.contains(match.captured(3).at(0)))
-            result += named.value(match.captured(3).at(0));
-    }
-    return result + text.midRef(begin);
-}
+using Filter = std::function<bool(const IniReader &)>;
 
-// The toolkit rebuilds any object that a value describes. A list of objects can ask for all memory
-// in a few bytes, or lie in a list in a list until the stack ends; a colour or a font cannot.
-bool describesOnlyPlainObjects(const QString &text)
-{
-    static const QVector<int> plainTypes{QMetaType::LongLong,
-                                         QMetaType::ULongLong,
-                                         QMetaType::Double,
-                                         QMetaType::Float,
-                                         QMetaType::QDate,
-                                         QMetaType::QTime,
-                                         QMetaType::QDateTime,
-                                         QMetaType::QRect,
-                                         QMetaType::QRectF,
-                                         QMetaType::QSize,
-                                         QMetaType::QSizeF,
-                                         QMetaType::QPoint,
-                                         QMetaType::QPointF,
-                                         QMetaType::QColor,
-                                         QMetaType::QFont};
-    const QString object = QStringLiteral("@Variant(");
-    for (int i = text.indexOf(object); i >= 0; i = text.indexOf(object, i + 1)) {
-        const QString type = text.mid(i + object.size(), 4);
-        if (type.size() < 4 || !type.startsWith(QString(3, QChar()))
-            || !plainTypes.contains(type.at(3).unicode()))
-            return false;
-    }
-    return true;
-}
-
-// At a pipe the toolkit would wait for ever.
-bool isFileOrFree(const QString &path)
+bool isThere(const QString &path)
 {
     const QFileInfo info(path);
-    return (info.isFile() && info.isWritable()) || !(info.exists() || info.isSymLink());
+    return info.exists() || info.isSymLink();
+}
+
+// The content of the file at @p path; on failure @p problem says why.
+QByteArray content(const QString &path, QString *problem)
+{
+    // At a pipe the toolkit would wait for ever.
+    QFile file(path);
+    if (!QFileInfo(path).isFile())
+        *problem = QStringLiteral("not a regular file");
+    else if (!file.open(QIODevice::ReadOnly))
+        *problem = file.errorString();
+    QByteArray bytes = file.isOpen() ? file.read(maxSize + 1) : QByteArray();
+    if (bytes.size() > maxSize)
+        *problem = QStringLiteral("too big");
+    return bytes;
+}
+
+// What is wrong with the first value that is worse than @p tolerable, of those that are wanted.
+QString
+problemOf(const QByteArray &bytes, SerialisedObject::Verdict tolerable, const Filter &isWanted)
+{
+    constexpr int maxKey = 200;
+    qint64 effort = 256LL * 1024 * 1024;
+    IniReader ini(bytes);
+    while (ini.next()) {
+        const QStringList texts = isWanted(ini) ? ini.texts() : QStringList();
+        for (const QString &text : texts) {
+            const auto verdict = SerialisedObject::verdict(text, &effort);
+            if (verdict > tolerable)
+                return (verdict == SerialisedObject::Harmful
+                            ? QStringLiteral("\"%1\" holds an object that could crash any program")
+                            : QStringLiteral("\"%1\" holds an object that would be lost"))
+                    .arg(ini.key().left(maxKey));
+        }
+    }
+    return {};
 }
 
 } // namespace
 
-bool SettingsFile::canRead(const QString &path)
+SettingsFile::SettingsFile(const QString &path)
+    : m_path(path)
+{ }
+
+bool SettingsFile::canRead(const QString &key) const
 {
-    QFile file(path);
-    if (!PathEncoding::survives(path) || !QFileInfo(path).isFile() || file.size() > biggestSize
-        || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo::exists(m_path))
         return false;
-    const QByteArray bytes = file.read(biggestSize + 1);
-    return bytes.size() <= biggestSize && describesOnlyPlainObjects(plain(bytes));
+    const QString problem = problemToRead(key);
+    // It is asked for each row, at each scan.
+    static QString lastProblem;
+    if (!problem.isEmpty() && problem != lastProblem)
+        logAction() << "settings not read:" << m_path << problem;
+    lastProblem = problem;
+    return problem.isEmpty();
 }
 
-// The toolkit waits for the lock file beside it, and for the one with which it clears a dead one.
-bool SettingsFile::canWrite(const QString &path)
+bool SettingsFile::canWrite() const
 {
-    const QString lock = path + QStringLiteral(".lock");
-    return PathEncoding::survives(path) && (canRead(path) || !QFileInfo::exists(path))
-        && isFileOrFree(lock) && !QFileInfo::exists(lock + QStringLiteral(".rmlock"));
+    const QString problem = problemToWrite();
+    if (!problem.isEmpty())
+        logLoss(problem);
+    return problem.isEmpty();
+}
+
+void SettingsFile::logLoss(const QString &reason) const
+{
+    logAction() << "settings not saved:" << m_path << reason;
+}
+
+QString SettingsFile::problemToRead(const QString &key) const
+{
+    if (!PathEncoding::survives(m_path))
+        return QStringLiteral("their name is not valid text");
+    QString problem;
+    const QByteArray bytes = content(m_path, &problem);
+    const auto isWanted = [&key](const IniReader &ini) {
+        return ini.isReadFor(key);
+    };
+    return problem.isEmpty() ? problemOf(bytes, SerialisedObject::Lossy, isWanted) : problem;
+}
+
+QString SettingsFile::problemToWrite() const
+{
+    if (!PathEncoding::survives(m_path))
+        return QStringLiteral("their name is not valid text");
+    QString problem;
+    const bool isNew = !QFileInfo::exists(m_path);
+    const QByteArray bytes = isNew ? QByteArray() : content(m_path, &problem);
+    const auto isWanted = [](const IniReader &) {
+        return true;
+    };
+    if (problem.isEmpty())
+        problem = problemOf(bytes, SerialisedObject::Whole, isWanted);
+    return problem.isEmpty() ? problemToLock() : problem;
+}
+
+// The toolkit waits for its lock as long as it takes. What happens between this look and its own
+// is another program's ordinary work.
+QString SettingsFile::problemToLock() const
+{
+    const QString name = m_path + QStringLiteral(".lock");
+    // With each further one it clears the one before, if that is dead.
+    for (QString lock = name; isThere(lock); lock += QStringLiteral(".rmlock"))
+        if (!QFileInfo(lock).isFile())
+            return QStringLiteral("\"%1\" is not a regular file").arg(lock);
+
+    static int patience = 10000;
+    QLockFile lock(name);
+    if (lock.tryLock(patience) || lock.error() != QLockFile::LockFailedError)
+        return {};
+    patience = 0;
+    return QStringLiteral("another program has locked them");
 }
 
 } // namespace Quillmont::Utility::Controllers

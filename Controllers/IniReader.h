@@ -1,0 +1,48 @@
+#ifndef CONTROLLERS_INIREADER_H
+#define CONTROLLERS_INIREADER_H
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace Quillmont::Utility::Controllers {
+
+/// Goes through an INI file as QSettings does, but takes every value for text.
+class IniReader
+{
+public:
+    /// @p bytes has to live as long as this.
+    explicit IniReader(const QByteArray &bytes);
+
+    /// Goes on to the next value; false behind the last one.
+    bool next();
+
+    /// The value's key as the file spells it, with its section: "flightsim/A".
+    QString key() const;
+
+    /// The value's texts: one, or those of a list.
+    QStringList texts() const;
+
+    /// Whether QSettings has to read this value before it can answer for @p wanted: it reads a
+    /// section at once, and none before somebody asks for it.
+    bool isReadFor(const QString &wanted) const;
+
+private:
+    bool nextLine();
+    void skipBetweenLines();
+    int behindEscape(int backslash) const;
+    int unescape(int begin, QString *text) const;
+    int digitsEnd(int begin, int base) const;
+    int skipBlanks(int begin) const;
+    int plainEnd(int begin) const;
+
+    const QByteArray &m_bytes;
+    const bool m_isMarked;
+    QByteArray m_section;
+    int m_begin = 0;
+    int m_equals = -1;
+    int m_end = 0;
+};
+
+} // namespace Quillmont::Utility::Controllers
+
+#endif
