@@ -18,6 +18,10 @@
 using Maker = std::function<void(const QString &path)>;
 Q_DECLARE_METATYPE(Maker)
 
+/// What a file is made as big as.
+using Sizes = QVector<QPair<QString, int>>;
+Q_DECLARE_METATYPE(Sizes)
+
 using namespace Quillmont::SimDetect;
 using namespace Tests;
 
@@ -35,6 +39,8 @@ private slots:
     void answersSoonWithAllOfItAtOnce();
     void looksAtNoMoreFoldersThanMakeSense();
     void readsNoMoreThanMakesSense();
+    void readsFilesUpToABound_data();
+    void readsFilesUpToABound();
     void opensNoFileTwice();
     void saysThatAFolderIsClosed();
 };
@@ -283,6 +289,68 @@ void TestRobustness::readsNoMoreThanMakesSense()
     QCOMPARE(computer.detect(), computer.expanded(QStringLiteral("XP12: $R/sims/X-Plane 12")));
     // A second as the program ships; gigabytes would take minutes.
     QVERIFY2(computer.duration() < 15000, qPrintable(QString::number(computer.duration())));
+}
+
+void TestRobustness::readsFilesUpToABound_data()
+{
+    QTest::addColumn<QString>("description");
+    QTest::addColumn<Sizes>("sizes");
+    QTest::addColumn<QString>("found");
+    QTest::addColumn<QString>("foundBehindIt");
+    constexpr int small = 1024 * 1024;
+    constexpr int big = 8 * small;
+    const auto path = [](const char *name) {
+        return QString::fromLatin1(name);
+    };
+    QTest::newRow("X-Plane's list")
+        << "xplane $R/sim\nfile $L/x-plane_install_12.txt = $R/sim\\n"
+        << Sizes{{path("$L/x-plane_install_12.txt"), small}} << "XP12: $R/sim"
+        << "";
+    QTest::newRow("X-Plane's version")
+        << "xplane $R/sim\nfile $L/x-plane_install_12.txt = $R/sim\\n\n"
+           "file $R/sim/X-Plane.app/Contents/Info.plist = "
+           "<plist><dict><key>CFBundleShortVersionString</key><string>11.55</string>"
+           "</dict></plist>"
+        << Sizes{{path("$R/sim/X-Plane.app/Contents/Info.plist"), small}} << "XP11: $R/sim"
+        << "XP12: $R/sim";
+    QTest::newRow("MSFS' options")
+        << "dir $S/steamapps/compatdata/1250410/pfx/drive_c/P/Community\n"
+           "link $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/"
+           "Microsoft Flight Simulator -> $R\n"
+           R"(file $R/UserCfg.opt = InstalledPackagesPath "C:\\P"\n)"
+        << Sizes{{path("$R/UserCfg.opt"), small}}
+        << "MSFS2020: $S/steamapps/compatdata/1250410/pfx/drive_c/P"
+        << "";
+    const auto game = path("game $R/drive 292180 X\nlibraries $S = $R/drive\n"
+                           "xplane $R/drive/steamapps/common/X");
+    const auto libraries = path("$S/config/libraryfolders.vdf");
+    const auto manifest = path("$R/drive/steamapps/appmanifest_292180.acf");
+    const auto found = path("XP10: $R/drive/steamapps/common/X");
+    QTest::newRow("Steam's libraries") << game << Sizes{{libraries, big}} << found << "";
+    QTest::newRow("Steam's game") << game << Sizes{{manifest, big}} << found << "";
+    QTest::newRow("all in all") << game
+                                << Sizes{{libraries, big},
+                                         {manifest, big},
+                                         {path("$L/x-plane_install_10.txt"), 0}}
+                                << found << "";
+}
+
+void TestRobustness::readsFilesUpToABound()
+{
+    QFETCH(const QString, description);
+    QFETCH(const Sizes, sizes);
+    QFETCH(const QString, found);
+    QFETCH(const QString, foundBehindIt);
+    DescribedComputer computer(Environment::Linux);
+    const QString last = sizes.constLast().first;
+    computer.make(QStringLiteral("file %1 =\n").arg(last) + description);
+    for (const auto &size : sizes) {
+        const QString path = computer.expanded(size.first);
+        writeFile(path, readFile(path).leftJustified(size.second, '\n'));
+    }
+    QCOMPARE(computer.detect(), computer.expanded(found));
+    writeFile(computer.expanded(last), readFile(computer.expanded(last)) + '\n');
+    QCOMPARE(computer.detect(), computer.expanded(foundBehindIt));
 }
 
 void TestRobustness::opensNoFileTwice()
