@@ -63,7 +63,8 @@ void reportDeadLink(const QString &path)
     constexpr int maxPathLength = 4096;
     if (path.size() > maxPathLength)
         return;
-    for (QFileInfo info(path); !info.isRoot(); info.setFile(info.path())) {
+    for (int end = path.size(); end > 0; end = path.lastIndexOf(u'/', end - 1)) {
+        const QFileInfo info(path.left(end));
         if (info.isSymLink() && !info.exists())
             logAction() << "this link leads nowhere:" << info.filePath();
     }
