@@ -5,6 +5,7 @@
 #include "Widgets/AccessibleRow.h"
 #include "Widgets/AddonListItem.h"
 #include "Widgets/AddonListItemDelegate.h"
+#include "Widgets/OnePress.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -21,6 +22,8 @@ using Quillmont::Utility::Widgets::AccessibleButton;
 using Quillmont::Utility::Widgets::AccessibleRow;
 using Quillmont::Utility::Widgets::AddonListItem;
 using Quillmont::Utility::Widgets::AddonListItemDelegate;
+using Quillmont::Utility::Widgets::isBehindDialog;
+using Quillmont::Utility::Widgets::OnePress;
 
 namespace Quillmont::Utility::Views {
 
@@ -46,6 +49,7 @@ ScannerView::ScannerView(QWidget *parent)
 {
     // Before the first part says anything: what was asked for once is kept.
     QAccessible::installFactory(accessiblePart);
+    OnePress::watch();
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(makeIntroduction());
     layout->addWidget(makeList());
@@ -58,10 +62,13 @@ ScannerView::ScannerView(QWidget *parent)
         showRowAround(now);
     });
 
-    connect(m_close, &QPushButton::clicked, this, [] { QCoreApplication::exit(0); });
-    // A screen reader presses it even while a folder is being chosen for a row.
+    // A screen reader presses them even while a folder is being chosen for a row.
+    connect(m_close, &QPushButton::clicked, this, [this] {
+        if (!isBehindDialog(this))
+            QCoreApplication::exit(0);
+    });
     connect(m_scanAndInstall, &QPushButton::clicked, this, [this] {
-        if (!QApplication::activeModalWidget())
+        if (!isBehindDialog(this))
             emit scanRequested();
     });
 
@@ -119,9 +126,12 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
         m_list->setFocus();
     m_list->clear();
     int found = 0;
-    for (auto *mapping : qAsConst(mappings)) {
-        addRow(mapping, updateDefault);
-        if (!mapping->path.isEmpty())
+    // All items before the first row: for each that comes behind a row Qt lays out the whole list.
+    for (int i = 0; i < mappings.size(); ++i)
+        m_list->addItem(new QListWidgetItem);
+    for (int i = 0; i < mappings.size(); ++i) {
+        setRow(i, mappings.at(i), updateDefault);
+        if (!mappings.at(i)->path.isEmpty())
             ++found;
     }
     moveButtonsBehindRows();
@@ -131,12 +141,10 @@ void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
         showCount(found);
 }
 
-void ScannerView::addRow(FlightSimulatorMapping *mapping, bool updateDefault)
+void ScannerView::setRow(int index, FlightSimulatorMapping *mapping, bool updateDefault)
 {
     auto *row = new AddonListItem(m_list, mapping, updateDefault);
-    auto *item = new QListWidgetItem;
-    m_list->addItem(item);
-    m_list->setItemWidget(item, row);
+    m_list->setItemWidget(m_list->item(index), row);
     connect(row, &AddonListItem::install, this, &ScannerView::install);
     connect(row, &AddonListItem::uninstall, this, &ScannerView::uninstall);
 }
@@ -200,9 +208,9 @@ void ScannerView::focusControl(const RowControl &wanted)
 
 void ScannerView::scrollTo(int position)
 {
-    if (position == 0)
-        return;
-    m_list->doItemsLayout(); // or the scroll bar does not reach that far yet
+    // A window that has not come up yet has not got its size yet.
+    if (m_list->isVisible() || position > 0)
+        m_list->doItemsLayout(); // or the scroll bar does not reach that far
     m_list->verticalScrollBar()->setValue(position);
 }
 

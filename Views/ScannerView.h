@@ -52,7 +52,7 @@ private:
     int rowOf(const RowControl &wanted) const;
     void focusControl(const RowControl &wanted);
     void scrollTo(int position);
-    void addRow(Models::FlightSimulatorMapping *mapping, bool updateDefault);
+    void setRow(int index, Models::FlightSimulatorMapping *mapping, bool updateDefault);
     void moveButtonsBehindRows();
     void showCount(int count);
 

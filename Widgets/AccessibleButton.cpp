@@ -17,13 +17,25 @@ QStringList AccessibleButton::actionNames() const
     return names;
 }
 
+// Pressed a moment later, and not before it is clear that no other press has opened a dialog.
 void AccessibleButton::doAction(const QString &actionName)
 {
-    if (actionName != pressAction())
+    if (actionName != pressAction()) {
         QAccessibleWidget::doAction(actionName);
-    // Pressed now, let go of a moment later, but not behind the back of a dialog that is open.
-    else if (!QApplication::activeModalWidget())
-        qobject_cast<QToolButton *>(object())->animateClick();
+        return;
+    }
+    auto *button = qobject_cast<QToolButton *>(object());
+    const auto press = [button] {
+        if (!isBehindDialog(button))
+            button->click();
+    };
+    QMetaObject::invokeMethod(button, press, Qt::QueuedConnection);
+}
+
+bool isBehindDialog(const QWidget *widget)
+{
+    const auto *dialog = QApplication::activeModalWidget();
+    return dialog && dialog != widget->window();
 }
 
 } // namespace Quillmont::Utility::Widgets

@@ -18,6 +18,9 @@ public:
     void doAction(const QString &actionName) override;
 };
 
+/// Whether a dialog is open that keeps mouse and keys from @p widget; it keeps no screen reader.
+bool isBehindDialog(const QWidget *widget);
+
 } // namespace Quillmont::Utility::Widgets
 
 #endif

@@ -4,6 +4,7 @@
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
 #include "Widgets/NameItem.h"
+#include "Widgets/OnePress.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -45,6 +46,7 @@ AddonListItem::AddonListItem(QWidget *parent,
     , m_browse(new QToolButton(this))
     , m_action(new QToolButton(this))
 {
+    OnePress::watch();
     m_icon->setFixedSize(48, 48);
     m_name->setToolTip(m_name->text());
 
@@ -61,6 +63,7 @@ AddonListItem::AddonListItem(QWidget *parent,
 
     arrange();
     nameControls();
+    watchParts();
 
     connect(m_browse, &QToolButton::clicked, this, &AddonListItem::browsePath);
     connect(
@@ -74,7 +77,7 @@ AddonListItem::AddonListItem(QWidget *parent,
 
 void AddonListItem::arrange()
 {
-    auto *outer = new QHBoxLayout(this);
+    auto *outer = new QHBoxLayout;
     outer->addWidget(m_icon, 0);
 
     auto *column = new QVBoxLayout;
@@ -86,6 +89,9 @@ void AddonListItem::arrange()
     pathLine->addWidget(m_path, 0);
     pathLine->addWidget(m_browse, 2);
     pathLine->addWidget(m_action, 2);
+    // Only now: a layout that has its widget posts a request, and Qt looks through all that wait
+    // for one like it, which of thousands of rows takes longer than the rows themselves.
+    setLayout(outer);
 }
 
 // A screen reader says these without the row around them.
@@ -99,6 +105,24 @@ void AddonListItem::nameControls()
     m_path->setObjectName(QStringLiteral("path"));
     m_browse->setObjectName(QStringLiteral("browse"));
     m_action->setObjectName(QStringLiteral("action"));
+}
+
+void AddonListItem::watchParts()
+{
+    installEventFilter(this);
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_icon, m_name, m_path, m_browse, m_action})
+        part->installEventFilter(this);
+}
+
+// What comes up asks to be painted, and Qt looks through all rows behind it for one that covers
+// it. Where thousands come up at once, only those in sight may ask.
+bool AddonListItem::eventFilter(QObject *part, QEvent *event)
+{
+    const auto *list = parentWidget();
+    const bool isOutOfSight = list && !list->rect().intersects(geometry());
+    return (event->type() == QEvent::UpdateLater && isOutOfSight)
+        || QWidget::eventFilter(part, event);
 }
 
 void AddonListItem::applyMappedPath(bool updateDefault)
@@ -183,8 +207,7 @@ void AddonListItem::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     for (auto *button : {m_browse, m_action}) {
-        // A key that is held down must not go on to answer, and then to undo.
-        if (enter && button->hasFocus() && !event->isAutoRepeat()) {
+        if (enter && button->hasFocus()) {
             button->click();
             return;
         }

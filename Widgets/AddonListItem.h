@@ -34,6 +34,7 @@ public slots:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *part, QEvent *event) override;
 
 private:
     QString getMappedPath();
@@ -46,6 +47,7 @@ private:
     QString stateInWords(bool exists, bool installed) const;
     void arrange();
     void nameControls();
+    void watchParts();
     void applyMappedPath(bool updateDefault);
     void showPath(const QString &path);
     void requestAction();

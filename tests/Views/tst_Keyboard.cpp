@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -34,6 +35,8 @@ private slots:
     void pressesEveryButtonByKey_data();
     void pressesEveryButtonByKey();
     void takesAKeyHeldDownForOnePress();
+    void actsOncePerPressHoweverLongTheKeyIsHeld_data();
+    void actsOncePerPressHoweverLongTheKeyIsHeld();
     void leavesABoxByKey_data();
     void leavesABoxByKey();
     void bringsTheRowWithTheFocusIntoSight();
@@ -149,6 +152,82 @@ void TestKeyboard::takesAKeyHeldDownForOnePress()
         QApplication::sendEvent(row(0).action, &press);
     }
     QCOMPARE(install.count(), 1);
+}
+
+static void send(QWidget *widget, QEvent::Type type, int key, ulong time, bool isMarked = false)
+{
+    QKeyEvent event(type, key, Qt::NoModifier, {}, isMarked);
+    event.setTimestamp(time);
+    QApplication::sendEvent(widget, &event);
+}
+
+// As an X server repeats a key: both ends at one time, whether Qt notices or not.
+static void repeat(QWidget *widget, int key, ulong *time, bool isMarked)
+{
+    for (int i = 0; i < 20; ++i) {
+        *time += 33;
+        send(widget, QEvent::KeyRelease, key, *time, isMarked);
+        send(widget, QEvent::KeyPress, key, *time, isMarked);
+    }
+}
+
+void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("isMarked");
+    QTest::addColumn<bool>("isRow");
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        for (const bool isMarked : {true, false})
+            for (const bool isRow : {true, false})
+                QTest::addRow("%s %s %s",
+                              QMetaEnum::fromType<Qt::Key>().valueToKey(key),
+                              isMarked ? "marked" : "unmarked",
+                              isRow ? "row" : "window")
+                    << key << isMarked << isRow;
+}
+
+void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
+{
+    QFETCH(const int, key);
+    QFETCH(const bool, isMarked);
+    QFETCH(const bool, isRow);
+    showRows(numbered(1));
+    QWidget *control
+        = isRow ? static_cast<QWidget *>(row(0).action) : button(QStringLiteral("Scan && Install"));
+    control->setFocus();
+    ulong time = 1000;
+    int started = 0;
+    bool isAnswered = false;
+    const auto act = [&] {
+        ++started;
+        QMessageBox box(QMessageBox::Information, QStringLiteral("Title"), {}, QMessageBox::Ok);
+        QTimer::singleShot(0, &box, [&] {
+            if (key == Qt::Key_Space)
+                send(box.button(QMessageBox::Ok), QEvent::KeyPress, key, time, isMarked);
+            repeat(box.button(QMessageBox::Ok), key, &time, isMarked);
+            isAnswered = isAnswered || !box.isVisible();
+            box.close();
+        });
+        box.exec();
+    };
+    connect(m_view.get(), &ScannerView::install, this, act);
+    connect(m_view.get(), &ScannerView::scanRequested, this, act);
+
+    send(control, QEvent::KeyPress, key, time);
+    time += 500;
+    if (key == Qt::Key_Space) // which presses a button when it is let go
+        send(control, QEvent::KeyRelease, key, time, isMarked);
+    repeat(control, key, &time, isMarked);
+    send(control, QEvent::KeyRelease, key, time += 20);
+    QCOMPARE(started, 1);
+    QVERIFY(!isAnswered);
+
+    QApplication::setActiveWindow(m_view.get());
+    control->setFocus();
+    send(control, QEvent::KeyPress, key, time += 80);
+    send(control, QEvent::KeyRelease, key, time += 80);
+    QCOMPARE(started, 2);
+    disconnect(m_view.get(), nullptr, this, nullptr);
 }
 
 void TestKeyboard::leavesABoxByKey_data()
