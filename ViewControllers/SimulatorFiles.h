@@ -16,7 +16,8 @@ QString simulatorFolder(const Models::FlightSimulatorMapping *mapping);
 QString pluginFile(const Models::FlightSimulatorMapping *mapping, const QString &destination);
 
 /// Whether there is a configuration file to edit: the entry describes one, and its path is known.
-/// Where that is in the Proton prefix of a game, the last scan found the prefix and it is still there.
+/// Where that is in the Proton prefix of a game, the last scan found the prefix and it is still
+/// there.
 bool hasConfigurationFile(const Models::FlightSimulatorMapping *mapping);
 
 /// The simulator's configuration file, "/"-separated; there has to be one to edit. If there is no
