@@ -54,8 +54,8 @@ problemOf(const QByteArray &bytes, SerialisedObject::Verdict tolerable, const Fi
             const auto verdict = SerialisedObject::verdict(text, &effort);
             if (verdict > tolerable)
                 return (verdict == SerialisedObject::Harmful
-                            ? QStringLiteral("\"%1\" holds an object that could crash any program")
-                            : QStringLiteral("\"%1\" holds an object that would be lost"))
+                            ? QStringLiteral("%1 holds an object that could crash any program")
+                            : QStringLiteral("%1 holds an object that would be lost"))
                     .arg(ini.key().left(maxKey));
         }
     }
@@ -129,7 +129,7 @@ QString SettingsFile::problemToLock() const
     // With each further one it clears the one before, if that is dead.
     for (QString lock = name; isThere(lock); lock += QStringLiteral(".rmlock"))
         if (!QFileInfo(lock).isFile())
-            return QStringLiteral("\"%1\" is not a regular file").arg(lock);
+            return QStringLiteral("%1 is not a regular file").arg(lock);
 
     static int patience = 10000;
     QLockFile lock(name);
