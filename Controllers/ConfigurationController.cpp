@@ -28,9 +28,12 @@ ConfigurationController *ConfigurationController::instance()
 
 QVariant ConfigurationController::getSettings(const QString &key) const
 {
-    if (!SettingsFile(settingsFilePath).canRead(key))
+    SettingsFile file(settingsFilePath);
+    if (!file.canRead(key))
         return {};
-    return QSettings(settingsFilePath, QSettings::IniFormat).value(key);
+    QSettings settings(settingsFilePath, QSettings::IniFormat);
+    file.prepare(&settings);
+    return settings.value(key);
 }
 
 QVariant ConfigurationController::getSettings(const QString &key,
@@ -52,10 +55,11 @@ void ConfigurationController::removeSettings(const QString &key) const
 
 void ConfigurationController::change(const std::function<void(QSettings *)> &change) const
 {
-    const SettingsFile file(settingsFilePath);
+    SettingsFile file(settingsFilePath);
     if (!file.canWrite())
         return;
     QSettings settings(settingsFilePath, QSettings::IniFormat);
+    file.prepare(&settings);
     change(&settings);
     settings.sync();
     if (settings.status() == QSettings::AccessError)

@@ -21,12 +21,34 @@ int digitOf(char character)
     return character >= '0' && character <= '9' ? character - '0' : -1;
 }
 
+QTextCodec *utf8()
+{
+    static QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
+    return codec;
+}
+
+bool isMarked(const QByteArray &bytes)
+{
+    return bytes.startsWith("\xef\xbb\xbf");
+}
+
+// Neither escapes nor Latin-1 look like that.
+bool hasUtf8(const QByteArray &bytes)
+{
+    const bool isAscii = std::all_of(
+        bytes.cbegin(), bytes.cend(), [](char character) { return (character & 0x80) == 0; });
+    QTextCodec::ConverterState state;
+    if (!isAscii)
+        utf8()->toUnicode(bytes.constData(), bytes.size(), &state);
+    return !isAscii && state.invalidChars == 0 && state.remainingChars == 0;
+}
+
 } // namespace
 
 IniReader::IniReader(const QByteArray &bytes)
     : m_bytes(bytes)
-    , m_isMarked(bytes.startsWith("\xef\xbb\xbf"))
-    , m_end(m_isMarked ? 3 : 0)
+    , m_isUtf8(isMarked(bytes) || hasUtf8(bytes))
+    , m_end(isMarked(bytes) ? 3 : 0)
 { }
 
 bool IniReader::next()
@@ -106,11 +128,9 @@ QStringList IniReader::texts() const
             i = skipBlanks(i + 1);
         } else {
             const int end = plainEnd(i);
-            // Behind a byte-order mark, values are in UTF-8.
-            static QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
             const char *const piece = m_bytes.constData() + i;
-            texts.last() += m_isMarked ? codec->toUnicode(piece, end - i)
-                                       : QString::fromLatin1(piece, end - i);
+            texts.last() += m_isUtf8 ? utf8()->toUnicode(piece, end - i)
+                                     : QString::fromLatin1(piece, end - i);
             i = end;
         }
     }

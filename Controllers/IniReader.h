@@ -13,6 +13,10 @@ public:
     /// @p bytes has to live as long as this.
     explicit IniReader(const QByteArray &bytes);
 
+    /// Whether who wrote the file last had Qt write texts as UTF-8, instead of escaping what ASCII
+    /// lacks.
+    bool isUtf8() const { return m_isUtf8; }
+
     /// Goes on to the next value; false behind the last one.
     bool next();
 
@@ -36,7 +40,7 @@ private:
     int plainEnd(int begin) const;
 
     const QByteArray &m_bytes;
-    const bool m_isMarked;
+    const bool m_isUtf8;
     QByteArray m_section;
     int m_begin = 0;
     int m_equals = -1;

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QSettings>
 
 #include <functional>
 
@@ -42,21 +43,19 @@ QByteArray content(const QString &path, QString *problem)
 }
 
 // What is wrong with the first value that is worse than @p tolerable, of those that are wanted.
-QString
-problemOf(const QByteArray &bytes, SerialisedObject::Verdict tolerable, const Filter &isWanted)
+QString problemOf(IniReader *ini, SerialisedObject::Verdict tolerable, const Filter &isWanted)
 {
     constexpr int maxKey = 200;
     qint64 effort = 256LL * 1024 * 1024;
-    IniReader ini(bytes);
-    while (ini.next()) {
-        const QStringList texts = isWanted(ini) ? ini.texts() : QStringList();
+    while (ini->next()) {
+        const QStringList texts = isWanted(*ini) ? ini->texts() : QStringList();
         for (const QString &text : texts) {
             const auto verdict = SerialisedObject::verdict(text, &effort);
             if (verdict > tolerable)
                 return (verdict == SerialisedObject::Harmful
                             ? QStringLiteral("%1 holds an object that could crash any program")
                             : QStringLiteral("%1 holds an object that would be lost"))
-                    .arg(ini.key().left(maxKey));
+                    .arg(ini->key().left(maxKey));
         }
     }
     return {};
@@ -68,7 +67,7 @@ SettingsFile::SettingsFile(const QString &path)
     : m_path(path)
 { }
 
-bool SettingsFile::canRead(const QString &key) const
+bool SettingsFile::canRead(const QString &key)
 {
     if (!QFileInfo::exists(m_path))
         return false;
@@ -81,7 +80,7 @@ bool SettingsFile::canRead(const QString &key) const
     return problem.isEmpty();
 }
 
-bool SettingsFile::canWrite() const
+bool SettingsFile::canWrite()
 {
     const QString problem = problemToWrite();
     if (!problem.isEmpty())
@@ -89,12 +88,18 @@ bool SettingsFile::canWrite() const
     return problem.isEmpty();
 }
 
+void SettingsFile::prepare(QSettings *settings) const
+{
+    if (m_isUtf8)
+        settings->setIniCodec("UTF-8");
+}
+
 void SettingsFile::logLoss(const QString &reason) const
 {
     logAction() << "settings not saved:" << m_path << reason;
 }
 
-QString SettingsFile::problemToRead(const QString &key) const
+QString SettingsFile::problemToRead(const QString &key)
 {
     if (!PathEncoding::survives(m_path))
         return QStringLiteral("their name is not valid text");
@@ -103,10 +108,12 @@ QString SettingsFile::problemToRead(const QString &key) const
     const auto isWanted = [&key](const IniReader &ini) {
         return ini.isReadFor(key);
     };
-    return problem.isEmpty() ? problemOf(bytes, SerialisedObject::Lossy, isWanted) : problem;
+    IniReader ini(bytes);
+    m_isUtf8 = ini.isUtf8();
+    return problem.isEmpty() ? problemOf(&ini, SerialisedObject::Lossy, isWanted) : problem;
 }
 
-QString SettingsFile::problemToWrite() const
+QString SettingsFile::problemToWrite()
 {
     if (!PathEncoding::survives(m_path))
         return QStringLiteral("their name is not valid text");
@@ -116,8 +123,10 @@ QString SettingsFile::problemToWrite() const
     const auto isWanted = [](const IniReader &) {
         return true;
     };
+    IniReader ini(bytes);
+    m_isUtf8 = ini.isUtf8();
     if (problem.isEmpty())
-        problem = problemOf(bytes, SerialisedObject::Whole, isWanted);
+        problem = problemOf(&ini, SerialisedObject::Whole, isWanted);
     return problem.isEmpty() ? problemToLock() : problem;
 }
 

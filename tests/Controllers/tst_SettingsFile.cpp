@@ -87,6 +87,7 @@ private slots:
 
     void keepsWhatOtherProgramsStored_data();
     void keepsWhatOtherProgramsStored();
+    void keepsTextsInUtf8();
     void leavesAloneWhatItWouldLose_data();
     void leavesAloneWhatItWouldLose();
     void refusesHarmfulObjects_data();
@@ -226,6 +227,26 @@ void TestSettingsFile::keepsWhatOtherProgramsStored()
     QCOMPARE(log.actions() + log.warnings(), QStringList());
 }
 
+// A program that has Qt write UTF-8 would read anything else as that, too.
+void TestSettingsFile::keepsTextsInUtf8()
+{
+    const QString written = m_sandbox.path(QStringLiteral("written"));
+    {
+        QSettings other(written, QSettings::IniFormat);
+        other.setIniCodec("UTF-8");
+        other.setValue(ours, QStringLiteral("/a"));
+        other.setValue(QStringLiteral("flightsim/B"), QStringLiteral("/飛行 ü"));
+        other.setValue(QStringLiteral("other/date"), QDateTime::fromSecsSinceEpoch(1600000000));
+    }
+    QByteArray expected = readFile(written);
+    QVERIFY(QFile::remove(written));
+    writeFile(file(), expected);
+    QCOMPARE(folder(QStringLiteral("flightsim/B")), QStringLiteral("/飛行 ü"));
+    m_settings->saveSettings(ours, QStringLiteral("/é"));
+    QCOMPARE(readFile(file()), expected.replace("A=/a\n", "A=/é\n"));
+    QCOMPARE(folder(ours), QStringLiteral("/é"));
+}
+
 void TestSettingsFile::leavesAloneWhatItWouldLose_data()
 {
     QTest::addColumn<QByteArray>("value");
@@ -296,10 +317,12 @@ void TestSettingsFile::refusesHarmfulObjects_data()
     QByteArray bomb = serialised(70, picture(8, 8));
     add("picture that is none", object(QByteArray(bomb).replace("IDAT", "XXXX")));
     add("picture of another kind", object(number(70) + number(1) + "BM" + QByteArray(60, '\0')));
-    add("text in a picture",
-        object(QByteArray(bomb).replace(
-            QByteArray("\0\0\0", 3) + QByteArray(1, bomb.at(bomb.indexOf("IDAT") - 1)) + "IDAT",
-            number(300000) + "zTXt" + QByteArray(300004, 'x') + number(9) + "IDAT")));
+    QImage described = picture(8, 8);
+    QRandomGenerator random(1);
+    QString noise(400000, QChar());
+    std::generate(noise.begin(), noise.end(), [&random] { return QChar(random.bounded(33, 127)); });
+    described.setText(QStringLiteral("about"), noise);
+    add("long text in a picture", object(serialised(70, described)));
     add("brush", object(number(66) + '\x0f' + QByteArray(15, '\0') + number(0x7fffffff)));
     add("pen",
         object(number(77) + QByteArray(9, '\0') + '\x0f' + QByteArray(15, '\0')
