@@ -4,14 +4,14 @@
 #include <QFile>
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 namespace Quillmont::Utility::Controllers {
 
 namespace {
 
-constexpr const char *userFolders[]
-    = {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"};
+constexpr std::array<const char *, 4> userFolders{
+    "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"};
 
 // U+FFFD comes in for bytes that are no text, but a name may hold it as well.
 bool isLostIn(const char *variable)
@@ -26,7 +26,7 @@ bool isLostIn(const char *variable)
 bool PathEncoding::survives(const QString &path)
 {
     return !path.contains(QChar::ReplacementCharacter)
-        || std::none_of(std::begin(userFolders), std::end(userFolders), isLostIn);
+        || std::none_of(userFolders.cbegin(), userFolders.cend(), isLostIn);
 }
 
 void PathEncoding::ignoreRelativeFolders()

@@ -46,6 +46,7 @@ QVector<Candidate> Steam::candidates(const QString &appId)
 QStringList Steam::prefixes(const QString &appId)
 {
     QStringList withGame;
+    QStringList withManifest;
     QStringList others;
     for (const auto &library : qAsConst(m_libraries)) {
         const QString prefix
@@ -53,12 +54,14 @@ QStringList Steam::prefixes(const QString &appId)
         if (!QFileInfo(prefix).isDir())
             continue;
         const Candidate game = gameIn(library, appId);
-        const bool isHere = !game.path.isEmpty() && game.objection.isEmpty();
-        (isHere ? withGame : others).append(prefix);
+        const bool isListed = !game.path.isEmpty() && game.objection.isEmpty();
+        // A manifest can outlive its game.
+        const bool isHere = isListed && QFileInfo(m_lookup.find(game.path)).isDir();
+        (isHere ? withGame : isListed ? withManifest : others).append(prefix);
     }
     QStringList prefixes;
     QSet<QString> seen;
-    const QStringList all = withGame + others;
+    const QStringList all = withGame + withManifest + others;
     for (const auto &prefix : all)
         if (isNew(prefix, seen))
             prefixes.append(prefix);

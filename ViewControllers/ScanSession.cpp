@@ -1,6 +1,8 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
+#include "Controllers/UserDataRoot.h"
 #include "Library/Helpers/FileWriter.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimConflict.h"
@@ -25,6 +27,8 @@
 
 using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
+using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -49,7 +53,8 @@ QStringList configurationFiles(const QList<FlightSimulatorMapping *> &mappings)
         const auto *conflict = mapping->scan->conflict;
         if (hasConfigurationFile(mapping))
             files.append(configurationFile(mapping));
-        if (mapping->scan->config && conflict && !conflict->solution.isEmpty())
+        if (mapping->scan->config && conflict && !conflict->solution.isEmpty()
+            && PathEncoding::survives(userDataRoot()))
             files.append(configurationFile(conflict->solution));
     }
     return files;

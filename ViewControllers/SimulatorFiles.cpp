@@ -58,6 +58,17 @@ bool copyOrdinary(const QString &from, const QString &to)
     return copied;
 }
 
+QString inAnyLetterCase(const QString &folder, const QString &relative)
+{
+    const QString exact = folder + relative;
+    if (QFileInfo::exists(exact) || QFileInfo(exact).isSymLink())
+        return exact;
+    const QStringList others = LetterCase::files(folder, relative);
+    if (others.size() > 1)
+        logAction() << "no configuration file of several that differ in letter case:" << others;
+    return others.size() == 1 ? others.constFirst() : exact;
+}
+
 } // namespace
 
 QString simulatorFolder(const FlightSimulatorMapping *mapping)
@@ -85,19 +96,16 @@ bool hasConfigurationFile(const FlightSimulatorMapping *mapping)
 
 QString configurationFile(const FlightSimulatorMapping *mapping)
 {
-    return configurationFile(mapping->scan->config->path);
+    const auto *config = mapping->scan->config;
+    // The way to a file in a prefix was found on the disk; in other letter case it would lead to
+    // another prefix.
+    const int name = config->steam != 0 ? config->path.lastIndexOf(u'/') + 1 : 0;
+    return inAnyLetterCase(userDataRoot() + config->path.left(name), config->path.mid(name));
 }
 
 QString configurationFile(const QString &path)
 {
-    const QString root = userDataRoot();
-    const QString exact = root + path;
-    if (QFileInfo::exists(exact) || QFileInfo(exact).isSymLink())
-        return exact;
-    const QStringList others = LetterCase::files(root, path);
-    if (others.size() > 1)
-        logAction() << "no configuration file of several that differ in letter case:" << others;
-    return others.size() == 1 ? others.constFirst() : exact;
+    return inAnyLetterCase(userDataRoot(), path);
 }
 
 void makeFolderOf(const QString &path)

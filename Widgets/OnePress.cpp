@@ -49,7 +49,8 @@ bool OnePress::eventFilter(QObject *watched, QEvent *event)
         m_hasClicked = true;
         return false;
     case QEvent::MouseButtonDblClick: // in place of a second press
-        return m_hasClicked && m_clickWindow != receiver->window();
+        return m_hasClicked && m_clickWindow != receiver->window()
+            && receiver->window()->windowType() != Qt::Popup;
     default:
         return false;
     }
