@@ -456,9 +456,9 @@ void TestSteam::findsThePrefixOfAGame_data()
         both + "\ngame $R/b 4711 Kestrel",
         "4711: $R/b" + prefix + "/a/b.xml");
     add("a manifest that outlived its game",
-        both
-            + "\ngame $R/a 4711 Kestrel\ngame $R/b 4711 Kestrel"
-              "\ndir $R/b/steamapps/common/Kestrel",
+        both + R"(
+               file $R/a/steamapps/appmanifest_4711.acf = AppState { installdir Kestrel StateFlags 4 }
+               game $R/b 4711 Kestrel)",
         "4711: $R/b" + prefix + "/a/b.xml");
     add("a game that is being downloaded is not there yet",
         both + R"(
