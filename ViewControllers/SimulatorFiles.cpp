@@ -60,7 +60,7 @@ bool copyOrdinary(const QString &from, const QString &to)
 
 QString inAnyLetterCase(const QString &folder, const QString &relative)
 {
-    const QString exact = folder + relative;
+    QString exact = folder + relative;
     if (QFileInfo::exists(exact) || QFileInfo(exact).isSymLink())
         return exact;
     const QStringList others = LetterCase::files(folder, relative);

@@ -115,9 +115,11 @@ ScannerView::~ScannerView()
     disconnect(qApp, &QApplication::focusChanged, this, nullptr);
 }
 
-void ScannerView::setScanResult(QList<FlightSimulatorMapping *> mappings,
-                                bool updateDefault,
-                                bool quiet)
+// By value, as its callers know it.
+void ScannerView::setScanResult(
+    QList<FlightSimulatorMapping *> mappings, // NOLINT clazy:exclude=function-args-by-ref
+    bool updateDefault,
+    bool quiet)
 {
     const RowControl focused = focusedControl();
     const int scrolled = m_list->verticalScrollBar()->value();
