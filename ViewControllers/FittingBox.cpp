@@ -64,7 +64,8 @@ void fit(QMessageBox *box)
 
 } // namespace
 
-FittingBox::FittingBox()
+FittingBox::FittingBox(QObject *parent)
+    : QObject(parent)
 {
     QCoreApplication::instance()->installEventFilter(this);
 }

@@ -14,7 +14,7 @@ class FittingBox : public QObject
     Q_OBJECT
 
 public:
-    FittingBox();
+    explicit FittingBox(QObject *parent = nullptr);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
