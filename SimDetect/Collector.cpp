@@ -55,8 +55,11 @@ void Collector::offer(const QString &code, const QVector<Candidate> &candidates,
 
 void Collector::turnDown(const QString &code, const QString &path, const QString &reason)
 {
-    qCDebug(detectionLog).noquote().nospace()
-        << code << " not taken: " << printable(path) << ": " << reason;
+    qCDebug(detectionLog,
+            "%s not taken: %s: %s",
+            qUtf8Printable(code),
+            qUtf8Printable(printable(path)),
+            qUtf8Printable(reason));
 }
 
 QString

@@ -77,7 +77,7 @@ Candidate Steam::gameIn(const QString &library, const QString &appId)
     const SteamManifest manifest(path, appId, m_lookup.allowance());
     Candidate game{path, manifest.objection()};
     if (game.objection.isEmpty())
-        game.path = library + QLatin1String("/common/") + manifest.folderName();
+        game.path = library + QStringLiteral("/common/") + manifest.folderName();
     return *m_games.insert(path, game);
 }
 
@@ -107,8 +107,10 @@ QStringList Steam::listedBy(const SteamRoot &root)
             continue;
         const SteamLibraryList list(path, m_lookup.allowance());
         if (!list.problem().isEmpty()) {
-            qCDebug(detectionLog).noquote().nospace()
-                << "Steam's libraries not read: " << path << ": " << list.problem();
+            qCDebug(detectionLog,
+                    "Steam's libraries not read: %s: %s",
+                    qUtf8Printable(path),
+                    qUtf8Printable(list.problem()));
         }
         folders += list.folders();
     }

@@ -150,7 +150,8 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     if (mapping->scan->root >= 1)
         return;
     if (!mapping->scan->config) {
-        qCDebug(xmlLog).noquote() << "no configuration entry to add for" << mapping->scan->name;
+        const QString name = mapping->scan->name;
+        qCDebug(xmlLog, "no configuration entry to add for %s", qUtf8Printable(name));
         return;
     }
     if (!hasConfigurationFile(mapping)) {

@@ -52,7 +52,7 @@ bool FileHelper::saveText(const QString &path, const QString &text, const QStrin
 {
     const QString problem = write(path, text, encoding);
     if (!problem.isEmpty())
-        qCDebug(fileLog).noquote().nospace() << "file not written: " << path << ": " << problem;
+        qCDebug(fileLog, "file not written: %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
     return problem.isEmpty();
 }
 

@@ -43,9 +43,12 @@ bool change(const QString &path, const Edit &edit)
     const QByteArray after = problem.isEmpty() ? edit(before, &problem) : before;
     if (after != before)
         FileWriter::write(path, after, &problem);
-    if (!problem.isEmpty())
-        qCDebug(xmlLog).noquote().nospace()
-            << "configuration file not changed: " << path << ", " << problem;
+    if (!problem.isEmpty()) {
+        qCDebug(xmlLog,
+                "configuration file not changed: %s, %s",
+                qUtf8Printable(path),
+                qUtf8Printable(problem));
+    }
     return problem.isEmpty();
 }
 
