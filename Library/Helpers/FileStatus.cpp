@@ -79,11 +79,8 @@ bool FileStatus::copy(int from, int to)
     if (fstat(to, &now) != 0)
         return false;
 
-    const bool isSameGroup = now.st_gid == before.st_gid;
-    const bool isSame = isSameGroup && now.st_uid == before.st_uid;
-    // What lets others act as the owner or the group is not for another one.
-    AccessList list(from, isSame ? before.st_mode : before.st_mode & ACCESSPERMS);
-    if (!isSameGroup)
+    AccessList list(from, before.st_mode);
+    if (now.st_gid != before.st_gid)
         list.narrow();
     // In this order, since the mode may well forbid to write attributes.
     return copyAttributes(from, to) && list.giveTo(to);
