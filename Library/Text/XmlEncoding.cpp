@@ -34,7 +34,8 @@ QTextCodec *codecNamed(const QByteArray &name)
     return codec;
 }
 
-// By the byte-order mark, or by the zero byte in the first character of a file that lacks one.
+// By the byte-order mark, or by the zero byte in the first character of a file that lacks one; null
+// if there is neither.
 QTextCodec *markedCodec(const QByteArray &bytes)
 {
     if (bytes.startsWith(QByteArray("<\0", 2)))

@@ -29,6 +29,13 @@ QVector<int> holders(const Models::XmlValues &values, const QVector<XmlElement> 
     return result;
 }
 
+const XmlElement *firstWithPosition(const QVector<XmlElement> &children)
+{
+    const auto first = std::find_if(
+        children.cbegin(), children.cend(), [](const auto &child) { return child.hasPosition; });
+    return first == children.cend() ? nullptr : &*first;
+}
+
 QString problemOf(const QByteArray &bytes)
 {
     const Text::XmlSource source(bytes);
@@ -64,29 +71,19 @@ void EntryChanges::add(const Models::XmlInsertionModel &model)
 
 void EntryChanges::update(const RootChild &entry, const Models::XmlValues &values)
 {
-    // A new child goes behind the one that it follows in the model, on a line like that one's.
-    int place = entry.contentBegin;
-    const auto first = std::find_if(entry.children.cbegin(),
-                                    entry.children.cend(),
-                                    [](auto &child) { return child.hasPosition; });
-    QString line;
-    if (first != entry.children.cend())
-        line = XmlSpace::lineBefore(m_document.text(), first->begin);
-
     const QVector<int> children = holders(values, entry.children);
+    const XmlElement *previous = nullptr;
     for (int i = 0; i < values.size(); ++i) {
         const auto &[name, text] = values.at(i);
         if (children.at(i) < 0) {
-            m_splices.append({place, place, line + newElement(name, text)});
+            insertBehind(previous, entry, newElement(name, text));
             continue;
         }
         const XmlElement &child = entry.children.at(children.at(i));
         if (!child.hasText(text))
             replaceText(child, text);
-        if (child.hasPosition) {
-            place = child.end;
-            line = XmlSpace::lineBefore(m_document.text(), child.begin);
-        }
+        if (child.hasPosition)
+            previous = &child;
     }
 
     if (!entry.hasPosition && !m_splices.isEmpty())
@@ -120,6 +117,17 @@ QByteArray EntryChanges::edited(QString *problem) const
         // What was at both sides of an element may have become the end of a CDATA section.
         *problem = problemOf(result);
     return problem->isEmpty() ? result : m_source.bytes();
+}
+
+// Behind @p neighbour, on a line like that one's; without one, as the first child of @p entry.
+void EntryChanges::insertBehind(const XmlElement *neighbour,
+                                const RootChild &entry,
+                                const QString &markup)
+{
+    const int place = neighbour ? neighbour->end : entry.contentBegin;
+    const XmlElement *other = neighbour ? neighbour : firstWithPosition(entry.children);
+    const QString line = other ? XmlSpace::lineBefore(m_document.text(), other->begin) : QString();
+    m_splices.append({place, place, line + markup});
 }
 
 void EntryChanges::replaceText(const XmlElement &child, const QString &text)

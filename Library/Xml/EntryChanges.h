@@ -15,8 +15,7 @@ class XmlInsertionModel;
 
 namespace Quillmont::Library::Xml {
 
-/// Collects changes of a document's add-on elements, from its beginning to its end, and makes
-/// them.
+/// Collects changes of a document's add-on elements, in the document's order, and makes them.
 class EntryChanges
 {
 public:
@@ -37,6 +36,7 @@ public:
     [[nodiscard]] QByteArray edited(QString *problem) const;
 
 private:
+    void insertBehind(const XmlElement *neighbour, const RootChild &entry, const QString &markup);
     void replaceText(const XmlElement &child, const QString &text);
     void open(const XmlElement &element, const QString &content);
     QString newElement(const QString &name, const QString &text);

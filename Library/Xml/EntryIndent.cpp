@@ -10,7 +10,7 @@ namespace {
 using Outline = XmlDocument::Outline;
 
 // The last child of the root that begins a line, else the last of all; null if there is none.
-// Optionally only of those that have children themselves.
+// With @p isParent, only of those that have children themselves.
 const Outline *neighbour(const XmlDocument &document, bool isParent)
 {
     const Outline *result = nullptr;

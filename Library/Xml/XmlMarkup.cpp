@@ -37,7 +37,7 @@ QString element(const QString &name, const QString &text)
     stream.setCodec("UTF-8");
     element.save(stream, -1);
     stream.flush();
-    // A line end in the text is not one of the file.
+    // So that it stays a line feed, whatever line ends the file has.
     markup.replace(u'\n', QLatin1String("&#10;"));
     return means(markup, name, text) ? markup : QString();
 }
