@@ -8,7 +8,7 @@ XmlSource::XmlSource(const QByteArray &bytes)
     , m_offsets(bytes, m_encoding)
 { }
 
-QByteArray XmlSource::spliced(const TextSplices &splices) const
+QByteArray XmlSource::spliced(const QVector<Splice> &splices) const
 {
     const QVector<int> offsets = byteOffsets(splices);
     if (offsets.isEmpty())
@@ -26,7 +26,7 @@ QByteArray XmlSource::spliced(const TextSplices &splices) const
 }
 
 // Invalid bytes may join into a character, or a shift state reach into what is new.
-bool XmlSource::reads(const QByteArray &bytes, const TextSplices &splices) const
+bool XmlSource::reads(const QByteArray &bytes, const QVector<Splice> &splices) const
 {
     const OffsetMap after(bytes, m_encoding);
     int here = 0;
@@ -36,7 +36,7 @@ bool XmlSource::reads(const QByteArray &bytes, const TextSplices &splices) const
         there += expected.size();
         return isSame;
     };
-    for (const TextSplice &splice : splices) {
+    for (const Splice &splice : splices) {
         const QString piece = m_encoding.writable(splice.text);
         if (!goesOn(text().midRef(here, splice.begin - here)) || !goesOn(QStringRef(&piece)))
             return false;
@@ -47,7 +47,7 @@ bool XmlSource::reads(const QByteArray &bytes, const TextSplices &splices) const
 
 // Of the begin and the end of each splice, or none at all. A place between two characters is found
 // by the one after it, or where that is not ASCII, by the one before.
-QVector<int> XmlSource::byteOffsets(const TextSplices &splices) const
+QVector<int> XmlSource::byteOffsets(const QVector<Splice> &splices) const
 {
     QVector<int> characters;
     QVector<int> sizes;
@@ -56,7 +56,7 @@ QVector<int> XmlSource::byteOffsets(const TextSplices &splices) const
         characters.append(isAfter ? place : place - 1);
         sizes.append(isAfter ? 0 : m_encoding.unit());
     };
-    for (const TextSplice &splice : splices) {
+    for (const Splice &splice : splices) {
         add(splice.begin);
         add(splice.end);
     }

@@ -2,11 +2,11 @@
 #define LIBRARY_TEXT_XMLSOURCE_H
 
 #include "Library/Text/OffsetMap.h"
-#include "Library/Text/TextSplice.h"
 #include "Library/Text/XmlEncoding.h"
 
 #include <QByteArray>
 #include <QString>
+#include <QVector>
 
 namespace Quillmont::Library::Text {
 
@@ -15,6 +15,15 @@ namespace Quillmont::Library::Text {
 class XmlSource
 {
 public:
+    /// One change of the text: something else takes the place of the characters from begin up to
+    /// end.
+    struct Splice
+    {
+        int begin;
+        int end;
+        QString text;
+    };
+
     explicit XmlSource(const QByteArray &bytes);
 
     const QByteArray &bytes() const { return m_bytes; }
@@ -26,13 +35,14 @@ public:
     bool canWrite(const QString &text) const { return m_encoding.writable(text) == text; }
 
     /// The bytes with @p splices made; a character that the encoding lacks is written as a
-    /// character reference. Every splice needs an ASCII character at one side of its begin and of
-    /// its end. A null array if the bytes do not allow it: bytes that stay would be read otherwise.
-    [[nodiscard]] QByteArray spliced(const TextSplices &splices) const;
+    /// character reference. Splices are ascending and do not overlap; each needs an ASCII character
+    /// at one side of its begin and of its end. A null array if the bytes do not allow it: some
+    /// that stay would be read otherwise.
+    [[nodiscard]] QByteArray spliced(const QVector<Splice> &splices) const;
 
 private:
-    bool reads(const QByteArray &bytes, const TextSplices &splices) const;
-    QVector<int> byteOffsets(const TextSplices &splices) const;
+    bool reads(const QByteArray &bytes, const QVector<Splice> &splices) const;
+    QVector<int> byteOffsets(const QVector<Splice> &splices) const;
 
     QByteArray m_bytes;
     XmlEncoding m_encoding;

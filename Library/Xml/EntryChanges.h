@@ -2,12 +2,12 @@
 #define LIBRARY_XML_ENTRYCHANGES_H
 
 #include "Library/Models/XmlValues.h"
-#include "Library/Text/TextSplice.h"
 #include "Library/Text/XmlSource.h"
 #include "Library/Xml/XmlDocument.h"
 
 #include <QByteArray>
 #include <QString>
+#include <QVector>
 
 namespace Quillmont::Library::Models {
 class XmlInsertionModel;
@@ -44,7 +44,7 @@ private:
 
     Text::XmlSource m_source;
     XmlDocument m_document;
-    Text::TextSplices m_splices;
+    QVector<Text::XmlSource::Splice> m_splices;
     QString m_problem;
 };
 
