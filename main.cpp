@@ -1,6 +1,6 @@
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
-#include "Library/Helpers/FileSizeSignal.h"
+#include "Library/Files/FileSizeSignal.h"
 #include "ViewControllers/ScanController.h"
 
 #include <QApplication>
@@ -14,7 +14,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-using Quillmont::Library::Helpers::FileSizeSignal;
+using Quillmont::Library::Files::FileSizeSignal;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::ViewControllers::ScanController;

@@ -1,7 +1,7 @@
 #include "Controllers/ConfigurationController.h"
 
 #include "Controllers/SettingsFile.h"
-#include "Controllers/UserDataRoot.h"
+#include "Controllers/UserFiles.h"
 
 #include <QMutex>
 #include <QSettings>
@@ -12,7 +12,7 @@ ConfigurationController *ConfigurationController::m_instance = nullptr;
 
 ConfigurationController::ConfigurationController(QObject *parent)
     : QObject(parent)
-    , settingsFilePath(userDataRoot() + QStringLiteral("Quillmont/Vellum/.settings"))
+    , settingsFilePath(settingsFile())
 { }
 
 ConfigurationController *ConfigurationController::instance()
@@ -68,11 +68,7 @@ void ConfigurationController::change(const std::function<void(QSettings *)> &cha
 
 QString ConfigurationController::appDataPath()
 {
-    QString path = userDataRoot() + QStringLiteral("/Quillmont/Vellum/");
-    // One pass makes two slashes of four; folders of the program's own name leave such a row.
-    while (path.contains(QLatin1String("//")))
-        path.replace(QLatin1String("//"), QLatin1String("/"));
-    return path;
+    return settingsFolder();
 }
 
 bool ConfigurationController::startWithWindows()

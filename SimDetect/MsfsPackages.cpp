@@ -4,7 +4,7 @@
 #include "SimDetect/Collector.h"
 #include "SimDetect/FolderLookup.h"
 #include "SimDetect/PlainFile.h"
-#include "SimDetect/Steam.h"
+#include "SimDetect/Steam/Steam.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,8 +4,8 @@
 #include "SimDetect/Environment.h"
 #include "SimDetect/FlightGear.h"
 #include "SimDetect/MsfsPackages.h"
-#include "SimDetect/SteamGames.h"
-#include "SimDetect/XPlane.h"
+#include "SimDetect/Steam/SteamGames.h"
+#include "SimDetect/XPlane/XPlane.h"
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 #define SIMDETECT_SURVEY_H
 
 #include "SimDetect/FolderLookup.h"
-#include "SimDetect/Steam.h"
+#include "SimDetect/Steam/Steam.h"
 
 #include <QMap>
 #include <QString>

@@ -1,21 +1,22 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
-#include "Controllers/ConfigurationController.h"
 #include "Controllers/PathEncoding.h"
+#include "Controllers/UserFiles.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
-#include "ViewControllers/ResultBox.h"
+#include "Widgets/ResultBox.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
 using Quillmont::Library::Helpers::FileHelper;
-using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Controllers::launcherPathFile;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::Widgets::showInformation;
 
 namespace Quillmont::Utility::ViewControllers {
 
@@ -24,9 +25,7 @@ namespace {
 // The maker's other programs look here for this one. They know it by one name on every system.
 void writeLauncherPath()
 {
-    const QString folder = ConfigurationController::appDataPath().replace(QLatin1String("Vellum"),
-                                                                          QLatin1String("Orbwell"));
-    const QString path = QDir::toNativeSeparators(QStringLiteral("%0.path").arg(folder));
+    const QString path = QDir::toNativeSeparators(launcherPathFile());
     const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                                      + QStringLiteral("/QuillmontOrbwell.exe"));
     const QString content = QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\"));

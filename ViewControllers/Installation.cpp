@@ -1,16 +1,16 @@
 #include "ViewControllers/ScanController.h"
 
 #include "Controllers/ActionLog.h"
+#include "Library/Files/LibraryLog.h"
 #include "Library/Helpers/FileHelper.h"
-#include "Library/Helpers/LibraryLog.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
-#include "ViewControllers/BusyPointer.h"
-#include "ViewControllers/InstallationLock.h"
-#include "ViewControllers/ResultBox.h"
-#include "ViewControllers/SimulatorFiles.h"
+#include "ViewControllers/Payload/InstallationLock.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
+#include "Widgets/BusyPointer.h"
+#include "Widgets/ResultBox.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -18,11 +18,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+using Quillmont::Library::Files::xmlLog;
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Helpers::XmlHelper;
-using Quillmont::Library::Helpers::xmlLog;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::Widgets::BusyPointer;
+using Quillmont::Utility::Widgets::showInformation;
 
 namespace Quillmont::Utility::ViewControllers {
 

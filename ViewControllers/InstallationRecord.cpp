@@ -2,12 +2,12 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
-#include "Controllers/UserDataRoot.h"
+#include "Controllers/UserFiles.h"
+#include "Library/Files/FileWriter.h"
 #include "Library/Helpers/FileHelper.h"
-#include "Library/Helpers/FileWriter.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
-#include "ViewControllers/SimulatorFiles.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
 
 #include <QDebug>
 #include <QDir>
@@ -18,21 +18,17 @@
 
 #include <algorithm>
 
+using Quillmont::Library::Files::FileWriter;
 using Quillmont::Library::Helpers::FileHelper;
-using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
-using Quillmont::Utility::Controllers::userDataRoot;
+using Quillmont::Utility::Controllers::recordFile;
+using Quillmont::Utility::Controllers::recordFileToRead;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
 namespace {
-
-QString recordPath()
-{
-    return userDataRoot() + QStringLiteral("/Quillmont/Orbwell/.mapping");
-}
 
 bool allExist(const QJsonArray &files)
 {
@@ -69,7 +65,7 @@ void removeLastRecord(QJsonArray &records, const QString &name)
 
 void ScanController::createMappingFile()
 {
-    const QString path = recordPath();
+    const QString path = recordFile();
     if (!PathEncoding::survives(path)) {
         logAction() << "nothing is written below a folder whose name is no text:" << path;
         return;
@@ -84,8 +80,7 @@ void ScanController::createMappingFile()
 
 void ScanController::getUserSimulatorMapping()
 {
-    // The doubled slash has always been in the reading path; the file is the same.
-    const QString text = readFile(userDataRoot() + QStringLiteral("/Quillmont/Orbwell//.mapping"));
+    const QString text = readFile(recordFileToRead());
     const QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
     for (const QJsonValue &element : records) {
         const QJsonObject record = element.toObject();
@@ -106,7 +101,7 @@ void ScanController::getUserSimulatorMapping()
 
 void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool uninstalled)
 {
-    const QString path = recordPath();
+    const QString path = recordFile();
     qDebug().noquote().nospace() << "mapping path: " << path;
 
     QString text;

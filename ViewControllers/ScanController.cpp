@@ -4,8 +4,8 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
-#include "ViewControllers/ResultBox.h"
 #include "Views/ScannerView.h"
+#include "Widgets/ResultBox.h"
 
 #include <QCoreApplication>
 #include <QMetaEnum>
@@ -15,6 +15,7 @@
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Views::ScannerView;
+using Quillmont::Utility::Widgets::showInformation;
 
 namespace Quillmont::Utility::ViewControllers {
 

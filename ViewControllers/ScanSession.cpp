@@ -2,18 +2,18 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
-#include "Controllers/UserDataRoot.h"
-#include "Library/Helpers/FileWriter.h"
+#include "Controllers/UserFiles.h"
+#include "Library/Files/FileWriter.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimConflict.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
-#include "ViewControllers/BusyPointer.h"
-#include "ViewControllers/InstallationLock.h"
-#include "ViewControllers/SimulatorFiles.h"
-#include "ViewControllers/SteamPrefix.h"
+#include "ViewControllers/Payload/InstallationLock.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
+#include "ViewControllers/Payload/SteamPrefix.h"
 #include "Views/ScannerView.h"
+#include "Widgets/BusyPointer.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,12 +25,13 @@
 
 #include <algorithm>
 
-using Quillmont::Library::Helpers::FileWriter;
+using Quillmont::Library::Files::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::Widgets::BusyPointer;
 
 namespace Quillmont::Utility::ViewControllers {
 

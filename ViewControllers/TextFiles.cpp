@@ -2,17 +2,17 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
+#include "Library/Files/FileWriter.h"
 #include "Library/Helpers/FileHelper.h"
-#include "Library/Helpers/FileWriter.h"
-#include "ViewControllers/SimulatorFiles.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTextCodec>
 #include <QTextStream>
 
+using Quillmont::Library::Files::FileWriter;
 using Quillmont::Library::Helpers::FileHelper;
-using Quillmont::Library::Helpers::FileWriter;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 

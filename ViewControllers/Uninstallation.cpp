@@ -2,17 +2,17 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
-#include "Controllers/UserDataRoot.h"
+#include "Controllers/UserFiles.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FileOperation.h"
 #include "Models/FlightSimRemoval.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
-#include "ViewControllers/BusyPointer.h"
-#include "ViewControllers/InstallationLock.h"
-#include "ViewControllers/ResultBox.h"
-#include "ViewControllers/SimulatorFiles.h"
+#include "ViewControllers/Payload/InstallationLock.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
+#include "Widgets/BusyPointer.h"
+#include "Widgets/ResultBox.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,6 +27,8 @@ using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
 using Quillmont::Utility::Models::FileOperation;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::Widgets::BusyPointer;
+using Quillmont::Utility::Widgets::showInformation;
 
 namespace Quillmont::Utility::ViewControllers {
 

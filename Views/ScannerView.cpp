@@ -1,8 +1,8 @@
 #include "Views/ScannerView.h"
 
-#include "Views/AccessibleList.h"
-#include "Widgets/AccessibleButton.h"
-#include "Widgets/AccessibleRow.h"
+#include "Widgets/Accessible/AccessibleButton.h"
+#include "Widgets/Accessible/AccessibleList.h"
+#include "Widgets/Accessible/AccessibleRow.h"
 #include "Widgets/AddonListItem.h"
 #include "Widgets/AddonListItemDelegate.h"
 #include "Widgets/OnePress.h"
@@ -38,7 +38,7 @@ QAccessibleInterface *accessiblePart(const QString &, QObject *object)
         return new AccessibleButton(button);
     auto *list = qobject_cast<QListWidget *>(object);
     if (list && qobject_cast<ScannerView *>(list->parentWidget()))
-        return new AccessibleList(list);
+        return new Widgets::AccessibleList(list);
     return nullptr;
 }
 

@@ -31,10 +31,18 @@ if(ORBWELL_FUZZ)
   target_compile_options(orbwell-options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# orbwell_add_library(NAME SOURCE...): a static library of this project, included from the root.
+# orbwell_add_library(NAME SOURCE...): a static library of the sources in this folder. Headers are included
+# from the root of the tree, but whoever links to it sees only this folder there, and those of what it
+# is linked to in turn: an include of something above it does not compile.
 function(orbwell_add_library name)
+  file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+  set(visible "${PROJECT_BINARY_DIR}/include/${name}")
+  get_filename_component(above "${visible}/${folder}" DIRECTORY)
+  file(MAKE_DIRECTORY "${above}")
+  file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${visible}/${folder}" SYMBOLIC)
+
   add_library(${name} STATIC ${ARGN})
-  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_include_directories(${name} PUBLIC "${visible}")
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:orbwell-options>)
-  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
 endfunction()

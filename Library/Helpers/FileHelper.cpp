@@ -1,7 +1,7 @@
 #include "Library/Helpers/FileHelper.h"
 
-#include "Library/Helpers/FileWriter.h"
-#include "Library/Helpers/LibraryLog.h"
+#include "Library/Files/FileWriter.h"
+#include "Library/Files/LibraryLog.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +12,9 @@
 #include <string>
 #include <sys/stat.h>
 #include <system_error>
+
+using Quillmont::Library::Files::fileLog;
+using Quillmont::Library::Files::FileWriter;
 
 namespace Quillmont::Library::Helpers {
 

@@ -1,8 +1,8 @@
 #include "Library/Helpers/XmlHelper.h"
 
+#include "Library/Files/FileWriter.h"
+#include "Library/Files/LibraryLog.h"
 #include "Library/Helpers/FileHelper.h"
-#include "Library/Helpers/FileWriter.h"
-#include "Library/Helpers/LibraryLog.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Library/Xml/editedXml.h"
 
@@ -10,6 +10,9 @@
 #include <QFileInfo>
 
 #include <functional>
+
+using Quillmont::Library::Files::FileWriter;
+using Quillmont::Library::Files::xmlLog;
 
 namespace Quillmont::Library::Helpers {
 

@@ -1,4 +1,4 @@
 orbwell_add_test(Controllers/ConfigurationController)
 orbwell_add_test(Controllers/SettingsFile)
 orbwell_add_test(Controllers/ForeignDataLocation)
-orbwell_add_test(Controllers/UserDataRoot)
+orbwell_add_test(Controllers/UserFiles)

@@ -10,10 +10,13 @@ add_library(orbwell-documents STATIC
 target_compile_definitions(orbwell-documents PUBLIC ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
 target_link_libraries(orbwell-documents PUBLIC orbwell-test-support PRIVATE orbwell-options)
 
-foreach(story Links Messages Texts)
+foreach(story Architecture Links Messages Texts)
   orbwell_add_test(Documents/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-documents)
 endforeach()
+target_compile_definitions(tst_Architecture PRIVATE
+  ORBWELL_BUILD="${PROJECT_BINARY_DIR}"
+  ORBWELL_COMPILER="${CMAKE_CXX_COMPILER}")
 target_compile_definitions(tst_Texts PRIVATE ORBWELL_LUPDATE="${LUPDATE}")
 
 # The commands are written for Linux.

@@ -1,4 +1,4 @@
-#include "SimDetect/TextFormat.h"
+#include "SimDetect/Steam/TextFormat.h"
 
 #include <QTest>
 

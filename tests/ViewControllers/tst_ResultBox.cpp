@@ -1,4 +1,4 @@
-#include "ViewControllers/ResultBox.h"
+#include "Widgets/ResultBox.h"
 
 #include "tests/support/BoxAnswerer.h"
 
@@ -12,7 +12,7 @@
 #include <QTest>
 #include <QTextDocument>
 
-using Quillmont::Utility::ViewControllers::showInformation;
+using Quillmont::Utility::Widgets::showInformation;
 
 class TestResultBox : public QObject
 {

@@ -1,8 +1,8 @@
 // Takes pictures of the window and of every box, for a person to look at: how they come out
 // depends on the screen, the palette, the letters and the direction of writing.
 
-#include "ViewControllers/ResultBox.h"
 #include "Views/ScannerView.h"
+#include "Widgets/ResultBox.h"
 #include "tests/ViewControllers/Workshop.h"
 #include "tests/Widgets/RowParts.h"
 #include "tests/support/FolderPicker.h"
@@ -22,8 +22,8 @@
 
 #include <algorithm>
 
-using Quillmont::Utility::ViewControllers::showInformation;
 using Quillmont::Utility::Views::ScannerView;
+using Quillmont::Utility::Widgets::showInformation;
 using Tests::FlightSimulatorMapping;
 using Tests::RowParts;
 using Tests::ScanController;

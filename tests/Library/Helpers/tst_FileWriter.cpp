@@ -1,6 +1,6 @@
-#include "Library/Helpers/FileWriter.h"
+#include "Library/Files/FileWriter.h"
 
-#include "Library/Helpers/Replacement.h"
+#include "Library/Files/Replacement.h"
 #include "tests/support/Attributes.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
@@ -43,8 +43,8 @@ extern "C" int rename(const char *from, const char *to) noexcept
 }
 #endif
 
-using Quillmont::Library::Helpers::FileWriter;
-using Quillmont::Library::Helpers::Replacement;
+using Quillmont::Library::Files::FileWriter;
+using Quillmont::Library::Files::Replacement;
 using Tests::modeOf;
 using Tests::setMode;
 

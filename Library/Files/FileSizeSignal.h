@@ -1,0 +1,24 @@
+#ifndef LIBRARY_FILES_FILESIZESIGNAL_H
+#define LIBRARY_FILES_FILESIZESIGNAL_H
+
+#include <QtGlobal>
+
+#include <csignal>
+
+namespace Quillmont::Library::Files {
+
+/// While it lives, a write past the file-size limit fails instead of ending the process.
+class FileSizeSignal
+{
+public:
+    FileSizeSignal();
+    ~FileSizeSignal();
+    Q_DISABLE_COPY(FileSizeSignal)
+
+private:
+    struct sigaction m_before = {};
+};
+
+} // namespace Quillmont::Library::Files
+
+#endif

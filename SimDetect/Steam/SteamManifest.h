@@ -1,0 +1,34 @@
+#ifndef SIMDETECT_STEAM_STEAMMANIFEST_H
+#define SIMDETECT_STEAM_STEAMMANIFEST_H
+
+#include <QHash>
+#include <QString>
+
+class QByteArray;
+
+namespace Quillmont::SimDetect {
+
+/// What one appmanifest_<id>.acf says: whether Steam has a game, and in which folder.
+class SteamManifest
+{
+public:
+    /// Reads the file at @p path, which belongs to the game @p appId, within the @p allowance.
+    SteamManifest(const QString &path, const QString &appId, qint64 &allowance);
+
+    /// Why the game is not there to use; empty where it is.
+    const QString &objection() const { return m_objection; }
+
+    /// The name of the game's folder in "common", a single component as it is written.
+    QString folderName() const { return m_fields.value(QStringLiteral("installdir")); }
+
+private:
+    QString parse(const QByteArray &content);
+    QString objectionToState(const QString &appId) const;
+
+    QHash<QString, QString> m_fields;
+    QString m_objection;
+};
+
+} // namespace Quillmont::SimDetect
+
+#endif

@@ -1,0 +1,35 @@
+#include "SimDetect/XPlane/XPlaneList.h"
+
+#include "SimDetect/PlainFile.h"
+
+#include <QFileInfo>
+#include <QTextStream>
+
+namespace Quillmont::SimDetect {
+
+namespace {
+
+// Nobody installs it that often, and each costs a look at the disk.
+constexpr int mostFolders = 256;
+
+} // namespace
+
+QVector<Candidate> XPlaneList::read(const QString &path, qint64 &allowance)
+{
+    if (!QFileInfo::exists(path))
+        return {};
+    const PlainFile file(path, allowance);
+    if (!file.problem().isEmpty())
+        return {{path, file.problem()}};
+    QTextStream text(file.content());
+    text.setCodec("UTF-8");
+    QVector<Candidate> candidates;
+    while (!text.atEnd() && candidates.size() < mostFolders) {
+        const QString line = text.readLine().trimmed();
+        if (!line.isEmpty())
+            candidates.append({line, {}});
+    }
+    return candidates;
+}
+
+} // namespace Quillmont::SimDetect

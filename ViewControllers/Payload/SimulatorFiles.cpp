@@ -1,0 +1,131 @@
+#include "ViewControllers/Payload/SimulatorFiles.h"
+
+#include "Controllers/ActionLog.h"
+#include "Controllers/PathEncoding.h"
+#include "Controllers/UserFiles.h"
+#include "Library/Files/FileStatus.h"
+#include "Library/Files/LetterCase.h"
+#include "Library/Helpers/FileHelper.h"
+#include "Library/Models/XmlInsertionModel.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using Quillmont::Library::Files::FileStatus;
+using Quillmont::Library::Files::LetterCase;
+using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Utility::Controllers::logAction;
+using Quillmont::Utility::Controllers::PathEncoding;
+using Quillmont::Utility::Controllers::userDataRoot;
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+// QFile::copy() gives the copy the permissions that the original says it has. Its mode alone would
+// grant more than a file does that has an access list or another group.
+class Original : public QFile // clazy:exclude=missing-qobject-macro
+{
+public:
+    using QFile::QFile;
+
+    Permissions permissions() const override { return ReadOwner | WriteOwner; }
+};
+
+void copyStatus(const QString &from, const QString &to)
+{
+    QFile original(from);
+    QFile copy(to);
+    if (original.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly))
+        FileStatus::copy(original.handle(), copy.handle());
+}
+
+bool copyOrdinary(const QString &from, const QString &to)
+{
+    Original original(from);
+    QString ignored;
+    // Copying a pipe would wait for its other end for ever, and a device may have no end.
+    const bool copied
+        = FileHelper::open(&original, QIODevice::ReadOnly, &ignored) && original.copy(to);
+    if (copied)
+        copyStatus(from, to);
+    return copied;
+}
+
+QString inAnyLetterCase(const QString &folder, const QString &relative)
+{
+    QString exact = folder + relative;
+    if (QFileInfo::exists(exact) || QFileInfo(exact).isSymLink())
+        return exact;
+    const QStringList others = LetterCase::files(folder, relative);
+    if (others.size() > 1)
+        logAction() << "no configuration file of several that differ in letter case:" << others;
+    return others.size() == 1 ? others.constFirst() : exact;
+}
+
+} // namespace
+
+QString simulatorFolder(const FlightSimulatorMapping *mapping)
+{
+    const QString &path = mapping->path;
+    const bool ended = path.endsWith(u'\\') || path.endsWith(u'/');
+    return ended ? path : path + u'/';
+}
+
+QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destination)
+{
+    QString path = simulatorFolder(mapping) + destination;
+    return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
+}
+
+bool hasConfigurationFile(const FlightSimulatorMapping *mapping)
+{
+    const auto *config = mapping->scan->config;
+    if (!config || !PathEncoding::survives(userDataRoot()))
+        return false;
+    // Nothing is made in a prefix that is not there: it would mislead Steam and others.
+    return config->steam == 0
+        || (!config->prefix.isEmpty() && QFileInfo(userDataRoot() + config->prefix).isDir());
+}
+
+QString configurationFile(const FlightSimulatorMapping *mapping)
+{
+    const auto *config = mapping->scan->config;
+    // The way to a file in a prefix was found on the disk; in other letter case it would lead to
+    // another prefix.
+    const int name = config->steam != 0 ? config->path.lastIndexOf(u'/') + 1 : 0;
+    return inAnyLetterCase(userDataRoot() + config->path.left(name), config->path.mid(name));
+}
+
+QString configurationFile(const QString &path)
+{
+    return inAnyLetterCase(userDataRoot(), path);
+}
+
+void makeFolderOf(const QString &path)
+{
+    const QDir folder = QFileInfo(path).absoluteDir();
+    if (folder.exists())
+        return;
+    const bool made = PathEncoding::survives(path) && folder.mkpath(folder.absolutePath());
+    logAction() << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
+}
+
+void backUp(const QString &file, const QString &suffix)
+{
+    if (!QFile::exists(file) || !PathEncoding::survives(file))
+        return;
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
+    const bool copied = copyOrdinary(file, backup);
+    qDebug().noquote().nospace() << "file backups to '" << backup
+                                 << "'. Result: " << (copied ? "succeed" : "error");
+}
+
+} // namespace Quillmont::Utility::ViewControllers

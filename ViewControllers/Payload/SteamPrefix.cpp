@@ -1,0 +1,52 @@
+#include "ViewControllers/Payload/SteamPrefix.h"
+
+#include "Controllers/UserFiles.h"
+#include "Library/Models/XmlConfigModel.h"
+#include "SimDetect/Survey.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using Quillmont::Library::Models::XmlConfigModel;
+using Quillmont::SimDetect::Survey;
+using Quillmont::Utility::Controllers::userDataRoot;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+// What leads to @p path when it is put behind the data root; empty where nothing does, since the
+// data root is missing. The data root may be a link: so many steps up lead to the top of the disk,
+// whether they are taken as the system takes them, from where the link leads, or as text.
+QString wayFromDataRoot(const QString &path)
+{
+    const QString root = userDataRoot();
+    if (path.startsWith(root))
+        return path.mid(root.size());
+    const QString real = QFileInfo(root).canonicalFilePath();
+    if (real.isEmpty())
+        return {};
+    const auto steps = std::max(root.count(u'/'), real.count(u'/'));
+    const QString up = QStringLiteral("/..").repeated(steps);
+    return up.mid(root.endsWith(u'/') ? 1 : 0) + path;
+}
+
+} // namespace
+
+void findPrefix(XmlConfigModel *config)
+{
+    if (config->steam == 0)
+        return;
+    Survey &survey = Survey::last();
+    const QString prefix = config->path.isEmpty() ? QString() : survey.prefix(config->steam);
+    config->prefix = prefix.isEmpty() ? QString() : wayFromDataRoot(prefix);
+    // The folders as they are spelled on disk; which file is the one is asked when it is edited.
+    const int name = config->path.lastIndexOf(u'/') + 1;
+    const QString folder = survey.fileIn(prefix, config->path.left(name));
+    config->path = config->prefix.isEmpty()
+        ? QString()
+        : config->prefix + folder.mid(prefix.size()) + u'/' + config->path.mid(name);
+}
+
+} // namespace Quillmont::Utility::ViewControllers

@@ -1,0 +1,25 @@
+#ifndef WIDGETS_FITTINGBOX_H
+#define WIDGETS_FITTINGBOX_H
+
+#include <QObject>
+
+class QMessageBox;
+
+namespace Quillmont::Utility::Widgets {
+
+/// While it lives, a message box whose text needs more height than the screen has shows that text
+/// in a scroll area, so that its button stays on the screen. Other boxes are as Qt makes them.
+class FittingBox : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FittingBox(QObject *parent = nullptr);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+} // namespace Quillmont::Utility::Widgets
+
+#endif
