@@ -9,8 +9,8 @@
 using namespace Tests;
 
 // Unattended runs that are killed, or that one system call fails, at every point from where they
-// first touch what belongs to the user. script/faults tries them all; without its variables each
-// test takes a sample.
+// first touch what belongs to the user. script/fault-injection tries them all; without its
+// variables each test takes a sample.
 class TestFaults : public QObject
 {
     Q_OBJECT
@@ -174,7 +174,7 @@ void TestFaults::report(const Fault &fault, const QStringList &wrong)
                          << QStringLiteral("\n  ") + wrong.join(QLatin1String("\n  "));
 }
 
-// script/faults adds these lines up.
+// script/fault-injection adds these lines up.
 void TestFaults::summarise(int points) const
 {
     qInfo("%d points, %d fell short", points, m_fellShort);
