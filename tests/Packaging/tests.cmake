@@ -14,3 +14,6 @@ foreach(story InstalledTree Packages)
     ORBWELL_VERSION="${PROJECT_VERSION}")
   add_dependencies(tst_${story} QuillmontOrbwell)
 endforeach()
+# Both leave a list of what they installed in the build folder.
+set_tests_properties(Packaging/InstalledTree Packaging/Packages PROPERTIES
+  RESOURCE_LOCK orbwell-install-manifest)
