@@ -11,7 +11,7 @@ foreach(scale 2 1.5)
     ENVIRONMENT "${orbwell_test_environment};QT_SCALE_FACTOR=${scale}")
 endforeach()
 
-# The camera of script/screenshots.
+# The camera of script/pictures.
 add_executable(take-pictures
   Views/takePictures.cpp Widgets/RowParts.cpp Widgets/RowParts.h)
 target_link_libraries(take-pictures PRIVATE orbwell-workshop Qt5::Test orbwell-options)
