@@ -1,33 +1,24 @@
 # Read by the scripts that look at the program's window without a display of their own.
 # shellcheck shell=bash
 
-# Starts an X server without a screen and makes it this script's display, until the script ends.
+# Makes an X server without a screen this script's display, until the script ends: the server stays
+# for as long as the other end of the pipe is open.
 start_display() {
-    local folder
-    folder=$(mktemp -d)
-    # The server takes a free number and says which once it listens.
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp \
-        3>"$folder/number" >"$folder/log" 2>&1 &
-    display_server=$!
-    # shellcheck disable=SC2064 # the folder of now
-    trap "stop_display; rm -rf '$folder'" EXIT
-    wait_until test -s "$folder/number" || {
-        cat "$folder/log" >&2
-        return 1
-    }
-    DISPLAY=:$(cat "$folder/number")
-    export DISPLAY QT_QPA_PLATFORM=xcb
+    # shellcheck disable=SC2016 # for the shell in there
+    coproc xvfb-run --auto-servernum --server-args='-screen 0 1280x1024x24' \
+        sh -c 'echo "$DISPLAY $XAUTHORITY" && exec cat'
+    trap stop_program EXIT
+    read -r DISPLAY XAUTHORITY <&"${COPROC[0]}"
+    XDG_RUNTIME_DIR=$(dirname "$XAUTHORITY")
+    export DISPLAY XAUTHORITY XDG_RUNTIME_DIR QT_QPA_PLATFORM=xcb
     unset WAYLAND_DISPLAY XDG_CURRENT_DESKTOP QT_QPA_PLATFORMTHEME
-    export XDG_RUNTIME_DIR=$folder
 }
 
-stop_display() {
-    local process
-    for process in "${program:-}" "${display_server:-}"; do
-        [[ -n $process ]] || continue
-        kill "$process" 2>/dev/null || true
-        wait "$process" 2>/dev/null || true
-    done
+# Before the server goes.
+stop_program() {
+    [[ -n ${program:-} ]] || return 0
+    kill "$program" 2>/dev/null || true
+    wait "$program" 2>/dev/null || true
 }
 
 # wait_until COMMAND...: until it succeeds, at most 20 seconds.
