@@ -113,14 +113,10 @@ void TestArchitecture::letsALayerSeeWhatIsBelow()
         QSKIP("configured without compile_commands.json");
     const QTemporaryDir elsewhere;
     const auto compile = [&](const QString &header) {
-        return Command(QStringLiteral(ORBWELL_COMPILER),
-                       flags
-                           + QStringList{"-fsyntax-only"_s,
-                                         "-include"_s,
-                                         header,
-                                         "-x"_s,
-                                         "c++"_s,
-                                         "/dev/null"_s})
+        return Command(
+                   QStringLiteral(ORBWELL_COMPILER),
+                   flags
+                       + QStringList{"-E"_s, "-include"_s, header, "-x"_s, "c++"_s, "/dev/null"_s})
             .in(elsewhere.path())
             .run();
     };
