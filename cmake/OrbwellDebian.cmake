@@ -1,7 +1,7 @@
 # The Debian package; the tar archive comes from the same tree.
 set(CPACK_GENERATOR TGZ)
-find_program(DPKG dpkg)
-if(NOT DPKG)
+find_program(ORBWELL_DPKG dpkg)
+if(NOT ORBWELL_DPKG)
   return()
 endif()
 list(APPEND CPACK_GENERATOR DEB)
@@ -18,19 +18,16 @@ simulator's configuration file. What other add-ons wrote there stays as it
 is, and a copy of the file is kept beside it before anything changes.")
 
 # Debian wants every package to say whose it is and what has changed, in its own form.
-set(doc "${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_PACKAGE_NAME}")
+include(OrbwellGeneratedFiles)
 execute_process(
   COMMAND date --utc --rfc-email "--date=${ORBWELL_RELEASE_DATE}"
-  OUTPUT_VARIABLE release_time OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-configure_file("${from}/debian/changelog.in" "${made}/changelog" @ONLY)
-compressed("${made}/changelog")
-configure_file("${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${made}/CHANGELOG.md" COPYONLY)
-compressed("${made}/CHANGELOG.md")
-install(FILES "${from}/debian/copyright" "${made}/changelog.gz" "${made}/CHANGELOG.md.gz"
-  DESTINATION "${doc}")
+  OUTPUT_VARIABLE ORBWELL_RELEASE_TIME OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+set(ORBWELL_DOC_FOLDER "${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_PACKAGE_NAME}")
+orbwell_install_compressed("${PROJECT_SOURCE_DIR}/packaging/debian/changelog.in" "${ORBWELL_DOC_FOLDER}")
+orbwell_install_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${ORBWELL_DOC_FOLDER}")
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/debian/copyright" DESTINATION "${ORBWELL_DOC_FOLDER}")
 
-set(overrides "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides")
-install(FILES "${from}/debian/lintian-overrides"
-  DESTINATION "${overrides}" RENAME "${CPACK_PACKAGE_NAME}")
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/debian/lintian-overrides"
+  DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides" RENAME "${CPACK_PACKAGE_NAME}")
 # Nothing is bound while the program runs, so that what it calls cannot be redirected.
 target_link_options(QuillmontOrbwell PRIVATE LINKER:-z,relro,-z,now)

@@ -1,31 +1,27 @@
 # What a Linux desktop knows the program by: the launcher on the path, the entry in the menu with its
 # icons, the page in the software centre and the manual page.
-set(made "${PROJECT_BINARY_DIR}/packaging")
-set(from "${PROJECT_SOURCE_DIR}/packaging")
-set(share "${CMAKE_INSTALL_DATAROOTDIR}")
-file(MAKE_DIRECTORY "${made}")
+include(OrbwellGeneratedFiles)
 
-# Relative, so that the tree can be moved as a whole.
-file(RELATIVE_PATH program
-  "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}/quillmont-orbwell/QuillmontOrbwell")
-file(CREATE_LINK "${program}" "${made}/QuillmontOrbwell" SYMBOLIC)
-install(FILES "${made}/QuillmontOrbwell" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+# orbwell_install_desktop_files(FOLDER): for the program that is installed in FOLDER, a full path.
+function(orbwell_install_desktop_files folder)
+  set(packaging "${PROJECT_SOURCE_DIR}/packaging")
+  set(share "${CMAKE_INSTALL_DATAROOTDIR}")
 
-install(FILES "${from}/linux/QuillmontOrbwell.desktop" DESTINATION "${share}/applications")
-install(DIRECTORY "${from}/icons/hicolor" DESTINATION "${share}/icons")
-install(FILES "${PROJECT_SOURCE_DIR}/assets/artwork/quillmont-orbwell.svg"
-  DESTINATION "${share}/icons/hicolor/scalable/apps")
+  # Relative, so that the tree can be moved as a whole.
+  set(link "${PROJECT_BINARY_DIR}/packaging/QuillmontOrbwell")
+  file(RELATIVE_PATH program
+    "${CMAKE_INSTALL_FULL_BINDIR}" "${folder}/QuillmontOrbwell")
+  file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/packaging")
+  file(CREATE_LINK "${program}" "${link}" SYMBOLIC)
+  install(FILES "${link}" DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
-set(metainfo com.quillmont.orbwell.metainfo.xml)
-configure_file("${from}/linux/${metainfo}.in" "${made}/${metainfo}" @ONLY)
-install(FILES "${made}/${metainfo}" DESTINATION "${share}/metainfo")
+  install(FILES "${packaging}/linux/QuillmontOrbwell.desktop" DESTINATION "${share}/applications")
+  install(DIRECTORY "${packaging}/icons/hicolor" DESTINATION "${share}/icons")
+  install(FILES "${PROJECT_SOURCE_DIR}/assets/artwork/quillmont-orbwell.svg"
+    DESTINATION "${share}/icons/hicolor/scalable/apps")
 
-# compressed(FILE): FILE.gz, the same bytes whenever it is made.
-find_program(GZIP gzip REQUIRED)
-function(compressed file)
-  execute_process(COMMAND "${GZIP}" -9nc "${file}" OUTPUT_FILE "${file}.gz" COMMAND_ERROR_IS_FATAL ANY)
+  orbwell_generate("${packaging}/linux/com.quillmont.orbwell.metainfo.xml.in" metainfo)
+  install(FILES "${metainfo}" DESTINATION "${share}/metainfo")
+  orbwell_install_compressed(
+    "${packaging}/linux/QuillmontOrbwell.1.in" "${CMAKE_INSTALL_MANDIR}/man1")
 endfunction()
-
-configure_file("${from}/linux/QuillmontOrbwell.1.in" "${made}/QuillmontOrbwell.1" @ONLY)
-compressed("${made}/QuillmontOrbwell.1")
-install(FILES "${made}/QuillmontOrbwell.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")

@@ -8,22 +8,24 @@ endif()
 include(GNUInstallDirs)
 
 # The newest heading of the change log says when this version came out.
-file(STRINGS "${PROJECT_SOURCE_DIR}/CHANGELOG.md" release REGEX "^## ${PROJECT_VERSION} - " LIMIT_COUNT 1)
-string(REGEX MATCH "[0-9]+-[0-9]+-[0-9]+$" ORBWELL_RELEASE_DATE "${release}")
+file(STRINGS "${PROJECT_SOURCE_DIR}/CHANGELOG.md" ORBWELL_RELEASE_DATE
+  REGEX "^## ${PROJECT_VERSION} - " LIMIT_COUNT 1)
+string(REGEX MATCH "[0-9]+-[0-9]+-[0-9]+$" ORBWELL_RELEASE_DATE "${ORBWELL_RELEASE_DATE}")
 if(NOT ORBWELL_RELEASE_DATE)
   message(FATAL_ERROR "CHANGELOG.md has no heading \"## ${PROJECT_VERSION} - YEAR-MONTH-DAY\".")
 endif()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/CHANGELOG.md")
 
 if(APPLE)
-  set(together "QuillmontOrbwell.app/Contents/MacOS")
+  set(ORBWELL_PROGRAM_FOLDER "QuillmontOrbwell.app/Contents/MacOS")
 else()
-  set(together "${CMAKE_INSTALL_LIBDIR}/quillmont-orbwell")
+  set(ORBWELL_PROGRAM_FOLDER "${CMAKE_INSTALL_LIBDIR}/quillmont-orbwell")
   include(OrbwellDesktop)
+  orbwell_install_desktop_files("${CMAKE_INSTALL_FULL_LIBDIR}/quillmont-orbwell")
 endif()
 
 install(TARGETS QuillmontOrbwell
-  RUNTIME DESTINATION "${together}"
+  RUNTIME DESTINATION "${ORBWELL_PROGRAM_FOLDER}"
   BUNDLE DESTINATION .)
-install(FILES "${PROJECT_SOURCE_DIR}/catalogue/flightsims.json" DESTINATION "${together}")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/sample/plugins/" DESTINATION "${together}/plugins")
+install(FILES "${PROJECT_SOURCE_DIR}/catalogue/flightsims.json" DESTINATION "${ORBWELL_PROGRAM_FOLDER}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/sample/plugins/" DESTINATION "${ORBWELL_PROGRAM_FOLDER}/plugins")

@@ -17,9 +17,10 @@ target_compile_definitions(orbwell-options INTERFACE
   QT_DISABLE_DEPRECATED_BEFORE=0x050f00)
 
 if(ORBWELL_SANITIZE)
-  set(sanitize -fsanitize=${ORBWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_compile_options(orbwell-options INTERFACE ${sanitize})
-  target_link_options(orbwell-options INTERFACE ${sanitize})
+  set(ORBWELL_SANITIZE_OPTIONS
+    -fsanitize=${ORBWELL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(orbwell-options INTERFACE ${ORBWELL_SANITIZE_OPTIONS})
+  target_link_options(orbwell-options INTERFACE ${ORBWELL_SANITIZE_OPTIONS})
 endif()
 
 if(ORBWELL_COVERAGE)

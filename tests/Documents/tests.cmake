@@ -1,6 +1,6 @@
-get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
-get_filename_component(qt_tools "${qmake}" DIRECTORY)
-find_program(LUPDATE lupdate HINTS "${qt_tools}")
+get_target_property(ORBWELL_QMAKE Qt5::qmake IMPORTED_LOCATION)
+get_filename_component(ORBWELL_QT_TOOLS "${ORBWELL_QMAKE}" DIRECTORY)
+find_program(ORBWELL_LUPDATE lupdate HINTS "${ORBWELL_QT_TOOLS}")
 
 add_library(orbwell-documents STATIC
   Documents/Document.cpp
@@ -17,7 +17,7 @@ endforeach()
 target_compile_definitions(tst_Architecture PRIVATE
   ORBWELL_BUILD="${PROJECT_BINARY_DIR}"
   ORBWELL_COMPILER="${CMAKE_CXX_COMPILER}")
-target_compile_definitions(tst_Texts PRIVATE ORBWELL_LUPDATE="${LUPDATE}")
+target_compile_definitions(tst_Texts PRIVATE ORBWELL_LUPDATE="${ORBWELL_LUPDATE}")
 
 # The commands are written for Linux.
 if(NOT APPLE)
