@@ -19,7 +19,7 @@ constexpr auto othersEntry = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
 // The block of the guide that is no JSON: what the example says is added.
 QByteArray promisedEntry()
 {
-    const QByteArray guide = readFile(QStringLiteral(ORBWELL_GUIDE));
+    const QByteArray guide = readFile(QStringLiteral(ORBWELL_SOURCE "/docs/catalogue.md"));
     const int begin = guide.indexOf("```xml\n") + 7;
     return guide.mid(begin, guide.indexOf("```", begin) - begin);
 }

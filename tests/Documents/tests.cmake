@@ -2,13 +2,11 @@ get_target_property(ORBWELL_QMAKE Qt5::qmake IMPORTED_LOCATION)
 get_filename_component(ORBWELL_QT_TOOLS "${ORBWELL_QMAKE}" DIRECTORY)
 find_program(ORBWELL_LUPDATE lupdate HINTS "${ORBWELL_QT_TOOLS}")
 
-add_library(orbwell-documents STATIC
+orbwell_add_test_library(orbwell-documents
   Documents/Document.cpp
   Documents/Document.h
   Documents/TextList.cpp
   Documents/TextList.h)
-target_compile_definitions(orbwell-documents PUBLIC ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
-target_link_libraries(orbwell-documents PUBLIC orbwell-test-support PRIVATE orbwell-options)
 
 foreach(story Architecture Links Messages Texts)
   orbwell_add_test(Documents/${story})

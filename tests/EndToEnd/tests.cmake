@@ -1,7 +1,5 @@
-add_library(orbwell-simulators STATIC EndToEnd/Simulators.cpp EndToEnd/Simulators.h)
-target_link_libraries(orbwell-simulators
-  PUBLIC orbwell-program-support
-  PRIVATE orbwell-options)
+orbwell_add_test_library(orbwell-simulators EndToEnd/Simulators.cpp EndToEnd/Simulators.h)
+target_link_libraries(orbwell-simulators PUBLIC orbwell-program-support)
 
 foreach(story
     ActionLog AnyScript BadCatalogue ChosenFolder Closing FirstStart InstallByClick InstallTwice
@@ -16,13 +14,11 @@ orbwell_add_test(EndToEnd/ForeignConfigurations)
 target_link_libraries(tst_ForeignConfigurations
   PRIVATE orbwell-simulators orbwell-xml-test-support)
 
-add_library(orbwell-computer STATIC
+orbwell_add_test_library(orbwell-computer
   EndToEnd/Bookkeeping.cpp EndToEnd/Bookkeeping.h
   EndToEnd/Computer.cpp EndToEnd/Computer.h
   EndToEnd/Disk.cpp EndToEnd/Disk.h)
-target_link_libraries(orbwell-computer
-  PUBLIC orbwell-simulators
-  PRIVATE orbwell-options)
+target_link_libraries(orbwell-computer PUBLIC orbwell-simulators)
 
 foreach(story
     CommandLine HostileData RandomSequences ScanAndInstall Unattended UnattendedBadInput
@@ -35,7 +31,6 @@ endforeach()
 # Where screen readers talk to programs over a bus of their own.
 if(NOT APPLE)
   orbwell_add_test(EndToEnd/ScreenReader)
-  target_compile_definitions(tst_ScreenReader PRIVATE ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
   target_link_libraries(tst_ScreenReader PRIVATE orbwell-simulators)
 endif()
 

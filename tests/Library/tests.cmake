@@ -1,5 +1,5 @@
 # What the tests of the XML library share.
-add_library(orbwell-xml-test-support STATIC
+orbwell_add_test_library(orbwell-xml-test-support
   Library/Helpers/Corpus.cpp
   Library/Helpers/Corpus.h
   Library/Helpers/RoundTrip.cpp
@@ -10,11 +10,7 @@ add_library(orbwell-xml-test-support STATIC
   Library/Helpers/XmlGenerator.h
   Library/Helpers/XmlPromises.cpp
   Library/Helpers/XmlPromises.h)
-target_link_libraries(orbwell-xml-test-support
-  PUBLIC quillmont-library orbwell-test-support
-  PRIVATE orbwell-options)
-target_compile_definitions(orbwell-xml-test-support
-  PUBLIC SOURCE_FOLDER="${PROJECT_SOURCE_DIR}")
+target_link_libraries(orbwell-xml-test-support PUBLIC quillmont-library)
 set_target_properties(orbwell-xml-test-support PROPERTIES AUTOMOC ON)
 
 orbwell_add_test(Library/Helpers/FileHelper)
@@ -26,8 +22,8 @@ foreach(class XmlBounds XmlCorpus XmlEncodings XmlFaults XmlHelper XmlProperties
 endforeach()
 
 # The process that one of them ends again and again.
-add_executable(xml-edit-tool Library/Helpers/xmlEditTool.cpp)
-target_link_libraries(xml-edit-tool PRIVATE quillmont-library orbwell-options)
-add_dependencies(tst_XmlFaults xml-edit-tool)
+add_executable(orbwell-xml-edit-tool Library/Helpers/xmlEditTool.cpp)
+target_link_libraries(orbwell-xml-edit-tool PRIVATE quillmont-library orbwell-options)
+add_dependencies(tst_XmlFaults orbwell-xml-edit-tool)
 target_compile_definitions(tst_XmlFaults PRIVATE
-  EDIT_TOOL="$<TARGET_FILE:xml-edit-tool>")
+  ORBWELL_EDIT_TOOL="$<TARGET_FILE:orbwell-xml-edit-tool>")

@@ -10,7 +10,6 @@ foreach(story InstalledTree Packages)
     ORBWELL_CMAKE="${CMAKE_COMMAND}"
     ORBWELL_CPACK="${CMAKE_CPACK_COMMAND}"
     ORBWELL_LIBDIR="${CMAKE_INSTALL_LIBDIR}"
-    ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}"
     ORBWELL_VERSION="${PROJECT_VERSION}")
   add_dependencies(tst_${story} QuillmontOrbwell)
 endforeach()

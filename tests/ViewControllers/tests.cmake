@@ -1,9 +1,7 @@
-add_library(orbwell-workshop STATIC
+orbwell_add_test_library(orbwell-workshop
   ViewControllers/Workshop.cpp
   ViewControllers/Workshop.h)
-target_link_libraries(orbwell-workshop
-  PUBLIC orbwell-utility orbwell-test-support
-  PRIVATE orbwell-options)
+target_link_libraries(orbwell-workshop PUBLIC orbwell-utility)
 
 foreach(class
     AutoInstallation

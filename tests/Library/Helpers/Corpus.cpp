@@ -27,13 +27,13 @@ QMap<QString, QString> expectations(const QString &folder)
 
 QString Corpus::own()
 {
-    return QStringLiteral(SOURCE_FOLDER "/tests/Library/corpus");
+    return QStringLiteral(ORBWELL_SOURCE "/tests/Library/corpus");
 }
 
 QString Corpus::foreign()
 {
     return qEnvironmentVariable("ORBWELL_XML_CORPUS",
-                                QStringLiteral(SOURCE_FOLDER "/../shared/xml-corpus"));
+                                QStringLiteral(ORBWELL_SOURCE "/../shared/xml-corpus"));
 }
 
 void Corpus::addRows(const QString &folder)

@@ -181,7 +181,7 @@ int TestXmlFaults::run(const QStringList &options, const QString &operation)
     QStringList arguments{QStringLiteral("-f"), QStringLiteral("-q")};
     if (!options.contains(QLatin1String("-o")))
         arguments << QStringLiteral("-o") << QStringLiteral("/dev/null");
-    arguments << options << QStringLiteral(EDIT_TOOL) << operation << filePath();
+    arguments << options << QStringLiteral(ORBWELL_EDIT_TOOL) << operation << filePath();
     QProcess process;
     // A leak checker is a tracer too, and a process has one at most.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

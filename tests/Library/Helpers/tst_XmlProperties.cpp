@@ -32,7 +32,7 @@ QVector<QByteArray> corpus()
 {
     QVector<QByteArray> files;
     QStringList paths;
-    QDirIterator it(QStringLiteral(SOURCE_FOLDER "/tests/Library/corpus"),
+    QDirIterator it(QStringLiteral(ORBWELL_SOURCE "/tests/Library/corpus"),
                     {QStringLiteral("*.xml")},
                     QDir::Files,
                     QDirIterator::Subdirectories);

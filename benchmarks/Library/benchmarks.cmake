@@ -1,0 +1,2 @@
+orbwell_add_benchmark(Library/Helpers/XmlHelper)
+target_link_libraries(bench_XmlHelper PRIVATE quillmont-library)

@@ -1,0 +1,2 @@
+orbwell_add_benchmark(SimDetect/SimDetect)
+target_link_libraries(bench_SimDetect PRIVATE orbwell-simdetect-test-support)
