@@ -186,13 +186,18 @@ int IniReader::plainEnd(int begin) const
     return static_cast<int>(end - m_bytes.cbegin());
 }
 
-bool IniReader::isReadFor(const QString &wanted) const
+QString IniReader::sectionOf(const QString &key)
 {
-    const QStringList levels = wanted.split(u'/', Qt::SkipEmptyParts);
-    if (levels.size() < 2 || m_section.isEmpty())
-        return levels.size() < 2 && m_section.isEmpty();
+    const QStringList levels = key.split(u'/', Qt::SkipEmptyParts);
+    return levels.size() < 2 ? QString() : levels.constFirst();
+}
+
+bool IniReader::isReadWith(const QString &section) const
+{
+    if (section.isEmpty() || m_section.isEmpty())
+        return section.isEmpty() && m_section.isEmpty();
     // A name with a percent sign may be spelled in many ways.
-    return m_section.contains('%') || m_section.startsWith(levels.constFirst().toLatin1());
+    return m_section.contains('%') || m_section.startsWith(section.toLatin1());
 }
 
 } // namespace Quillmont::Utility::Controllers

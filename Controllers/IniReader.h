@@ -26,9 +26,12 @@ public:
     /// The value's texts: one, or those of a list.
     QStringList texts() const;
 
-    /// Whether QSettings has to read this value before it can answer for @p wanted: it reads a
-    /// section at once, and none before somebody asks for it.
-    bool isReadFor(const QString &wanted) const;
+    /// The section that @p key is in; empty for the one without a name.
+    static QString sectionOf(const QString &key);
+
+    /// Whether QSettings has to read this value before it can answer for a key in @p section: it
+    /// reads a section at once, and none before somebody asks for it.
+    bool isReadWith(const QString &section) const;
 
 private:
     bool nextLine();

@@ -1,6 +1,7 @@
 #include "Controllers/SettingsFile.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/FileStamp.h"
 #include "Controllers/IniReader.h"
 #include "Controllers/PathEncoding.h"
 #include "Controllers/SerialisedObject.h"
@@ -11,6 +12,8 @@
 #include <QSettings>
 
 #include <functional>
+#include <memory>
+#include <utility>
 
 namespace Quillmont::Utility::Controllers {
 
@@ -61,6 +64,41 @@ QString problemOf(IniReader *ini, SerialisedObject::Verdict tolerable, const Fil
     return {};
 }
 
+// What reading a section meets, and all that Qt reads with it.
+struct Look
+{
+    QByteArray stamp; // The file's; empty where it may be another by now.
+    QString section;
+    QString problem;
+    bool isUtf8 = false;
+    std::unique_ptr<QSettings> settings; // While there are any, Qt keeps what it has read.
+};
+
+// Each row of the window asks, and both our look and Qt's take as long as the file is.
+Look &lastLook()
+{
+    static Look last;
+    return last;
+}
+
+Look lookAt(const QString &path, const QString &section, const QByteArray &stamp)
+{
+    QString problem;
+    const QByteArray bytes = content(path, &problem);
+    const auto isWanted = [&section](const IniReader &ini) {
+        return ini.isReadWith(section);
+    };
+    IniReader ini(bytes);
+    if (problem.isEmpty())
+        problem = problemOf(&ini, SerialisedObject::Lossy, isWanted);
+    // What was not read, or changed meanwhile, is looked at again.
+    if (bytes.isEmpty() || stamp.isEmpty() || stamp != fileStamp(path))
+        return {{}, section, problem, ini.isUtf8(), nullptr};
+    auto settings
+        = problem.isEmpty() ? std::make_unique<QSettings>(path, QSettings::IniFormat) : nullptr;
+    return {stamp, section, problem, ini.isUtf8(), std::move(settings)};
+}
+
 } // namespace
 
 SettingsFile::SettingsFile(const QString &path)
@@ -103,20 +141,20 @@ QString SettingsFile::problemToRead(const QString &key)
 {
     if (!PathEncoding::survives(m_path))
         return QStringLiteral("their name is not valid text");
-    QString problem;
-    const QByteArray bytes = content(m_path, &problem);
-    const auto isWanted = [&key](const IniReader &ini) {
-        return ini.isReadFor(key);
-    };
-    IniReader ini(bytes);
-    m_isUtf8 = ini.isUtf8();
-    return problem.isEmpty() ? problemOf(&ini, SerialisedObject::Lossy, isWanted) : problem;
+    const QString section = IniReader::sectionOf(key);
+    const QByteArray stamp = fileStamp(m_path);
+    Look &last = lastLook();
+    if (stamp.isEmpty() || stamp != last.stamp || section != last.section)
+        last = lookAt(m_path, section, stamp);
+    m_isUtf8 = last.isUtf8;
+    return last.problem;
 }
 
 QString SettingsFile::problemToWrite()
 {
     if (!PathEncoding::survives(m_path))
         return QStringLiteral("their name is not valid text");
+    lastLook() = {};
     QString problem;
     const bool isNew = !QFileInfo::exists(m_path);
     const QByteArray bytes = isNew ? QByteArray() : content(m_path, &problem);

@@ -1,4 +1,6 @@
 #include "Controllers/ConfigurationController.h"
+#include "Controllers/FileStamp.h"
+#include "Controllers/SettingsFile.h"
 #include "tests/support/Files.h"
 #include "tests/support/LogCatcher.h"
 #include "tests/support/Sandbox.h"
@@ -9,6 +11,8 @@
 #include <sys/stat.h>
 
 using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Controllers::fileStamp;
+using Quillmont::Utility::Controllers::SettingsFile;
 using Tests::readFile;
 using Tests::writeFile;
 
@@ -93,6 +97,7 @@ private slots:
     void refusesHarmfulObjects_data();
     void refusesHarmfulObjects();
     void readsItsOwnBesideAHarmfulObject();
+    void looksAgainAtAFileThatChanged();
     void isReadUpToASize_data();
     void isReadUpToASize();
     void waitsForNobodyAtAPipe_data();
@@ -373,6 +378,38 @@ void TestSettingsFile::readsItsOwnBesideAHarmfulObject()
 {
     writeFile(file(), "[flightsim]\nA=/a\n\n[other]\nB=" + object(endless()) + '\n');
     QCOMPARE(folder(ours), QStringLiteral("/a"));
+}
+
+// As one that reads it for each row of the window might not.
+void TestSettingsFile::looksAgainAtAFileThatChanged()
+{
+    const QByteArray harmless = "[flightsim]\nA=/a\nB=" + object(number(9) + number(0)) + '\n';
+    const QByteArray harmful = "[flightsim]\nA=/a\nB=" + object(endless()) + '\n';
+    const QStringList paths{file(), file() + u'2', file() + u'3'};
+    for (const QString &path : paths) {
+        writeFile(path, harmless);
+        QVERIFY(fileStamp(path).isEmpty());
+    }
+    for (const QString &path : paths)
+        QTRY_VERIFY(!fileStamp(path).isEmpty());
+
+    const auto canRead = [](const QString &path) {
+        return SettingsFile(path).canRead(ours);
+    };
+    QVERIFY(canRead(paths.at(0)));
+    writeFile(paths.at(0), harmful);
+    QVERIFY2(!canRead(paths.at(0)), "written over");
+
+    QVERIFY(canRead(paths.at(1)));
+    QVERIFY(QFile::remove(paths.at(1)) && QFile::rename(paths.at(0), paths.at(1)));
+    QVERIFY2(!canRead(paths.at(1)), "replaced");
+
+    QVERIFY(canRead(paths.at(2)));
+    QFile dated(paths.at(2));
+    const QDateTime before = QFileInfo(dated).lastModified();
+    QVERIFY(dated.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && dated.write(harmful) > 0);
+    QVERIFY(dated.setFileTime(before, QFileDevice::FileModificationTime));
+    QVERIFY2(!canRead(paths.at(2)), "written over, with its old time");
 }
 
 void TestSettingsFile::isReadUpToASize_data()

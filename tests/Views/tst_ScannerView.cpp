@@ -1,6 +1,7 @@
 #include "Views/ScannerView.h"
 
 #include "Controllers/ConfigurationController.h"
+#include "Controllers/FileStamp.h"
 #include "Models/FlightSimScan.h"
 #include "Widgets/AddonListItem.h"
 #include "Widgets/AddonListItemDelegate.h"
@@ -26,7 +27,11 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <ctime>
+#include <limits>
+
 using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Controllers::fileStamp;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Views::ScannerView;
@@ -110,11 +115,15 @@ private slots:
     void survivesAScanFromARowsOwnRequest();
     void endsTheProgramWithSuccess();
     void translatesItsTextsInItsOwnContext();
+    void takesTenTimesAsLongForTenTimesTheRows_data();
+    void takesTenTimesAsLongForTenTimesTheRows();
     void isBuiltWithoutAWarning();
     void namesItsSignalsInOrder();
 
 private:
     FlightSimulatorMapping *mapping(const QString &name, const QString &path = QString());
+    void pickFolders(int rows) const;
+    double secondsFor(int windows, int rows);
 
     QString gone() const { return m_sandbox.path(QStringLiteral("gone")); }
 
@@ -449,6 +458,59 @@ void TestScannerView::translatesItsTextsInItsOwnContext()
     }
     QCOMPARE(boxes.boxes().last().text,
              context + QLatin1String("Scan found 2 flight simulators installed."));
+}
+
+void TestScannerView::pickFolders(int rows) const
+{
+    QByteArray settings = "[flightsim]\n";
+    for (int i = 0; i < rows; ++i)
+        settings += QByteArray::number(i) + "=/\n";
+    const QString file = m_sandbox.dataRoot() + QStringLiteral("Quillmont/Vellum/.settings");
+    Tests::writeFile(file, settings);
+    QTRY_VERIFY(!fileStamp(file).isEmpty());
+}
+
+// The processor's time for that many windows of that many rows.
+double TestScannerView::secondsFor(int windows, int rows)
+{
+    Mappings mappings;
+    for (int i = 0; i < rows; ++i)
+        mappings.append(mapping(QString::number(i), m_sandbox.root()));
+    std::clock_t taken = 0;
+    for (int i = 0; i < windows; ++i) {
+        const std::clock_t begin = std::clock();
+        ScannerView view(nullptr);
+        view.setScanResult(mappings, true, true);
+        view.show();
+        QCoreApplication::processEvents();
+        taken += std::clock() - begin;
+    }
+    return double(taken) / CLOCKS_PER_SEC;
+}
+
+void TestScannerView::takesTenTimesAsLongForTenTimesTheRows_data()
+{
+    QTest::addColumn<bool>("areStored");
+    QTest::newRow("without settings") << false;
+    QTest::newRow("with a folder picked for each") << true;
+}
+
+void TestScannerView::takesTenTimesAsLongForTenTimesTheRows()
+{
+    QFETCH(const bool, areStored);
+    constexpr int rows = 300;
+    secondsFor(1, rows); // what only the first window takes
+    double ratio = 0;
+    // A busy machine may take longer for either.
+    for (int attempt = 0; attempt < 5 && (attempt == 0 || ratio > 12); ++attempt) {
+        if (areStored)
+            pickFolders(rows);
+        const double few = secondsFor(10, rows) / 10;
+        if (areStored)
+            pickFolders(10 * rows);
+        ratio = secondsFor(1, 10 * rows) / few;
+    }
+    QVERIFY2(ratio <= 12, qPrintable(QString::number(ratio)));
 }
 
 void TestScannerView::isBuiltWithoutAWarning()

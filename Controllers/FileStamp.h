@@ -1,0 +1,16 @@
+#ifndef CONTROLLERS_FILESTAMP_H
+#define CONTROLLERS_FILESTAMP_H
+
+#include <QByteArray>
+
+class QString;
+
+namespace Quillmont::Utility::Controllers {
+
+/// Bytes that differ whenever the content of the file at @p path does. Empty when the system
+/// cannot tell: there is no file, or it changed so recently that a further change might not show.
+QByteArray fileStamp(const QString &path);
+
+} // namespace Quillmont::Utility::Controllers
+
+#endif
