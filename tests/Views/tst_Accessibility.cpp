@@ -14,10 +14,14 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMetaEnum>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextDocument>
+#include <QTimer>
 #include <QToolButton>
+
+#include <algorithm>
 
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -70,6 +74,8 @@ private slots:
     void saysTheStateOfAChosenFolder();
     void pressesAButtonWithoutWaitingForTheWork();
     void pressesNoButtonThatIsOff();
+    void pressesNothingBehindADialog_data();
+    void pressesNothingBehindADialog();
     void showsAPathInTheToolTipAsItIs_data();
     void showsAPathInTheToolTipAsItIs();
     void translatesItsTexts();
@@ -245,6 +251,40 @@ void TestAccessibility::pressesNoButtonThatIsOff()
     auto *actions = accessible(row(0).action)->actionInterface();
     QVERIFY(!actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
     QVERIFY(accessible(row(0).action)->state().disabled);
+}
+
+void TestAccessibility::pressesNothingBehindADialog_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("installing") << QStringLiteral("Install Orbwell: Skylark");
+    QTest::newRow("choosing a folder") << QStringLiteral("Choose the folder of Skylark");
+    QTest::newRow("scanning") << QStringLiteral("Scan & Install");
+    QTest::newRow("closing") << QStringLiteral("Close");
+}
+
+void TestAccessibility::pressesNothingBehindADialog()
+{
+    QFETCH(const QString, name);
+    m_view->setScanResult({mapping(QStringLiteral("Skylark"), m_sandbox.root())}, false, true);
+    const auto buttons = m_view->findChildren<QAbstractButton *>();
+    auto *button = *std::find_if(
+        buttons.cbegin(), buttons.cend(), [&name](QObject *each) { return nameOf(each) == name; });
+    const QSignalSpy install(m_view.get(), &ScannerView::install);
+    const QSignalSpy scan(m_view.get(), &ScannerView::scanRequested);
+    const Tests::FolderPicker person({});
+
+    QDialog dialog(m_view.get());
+    constexpr int leftOpen = 7; // closing the program would end it with another result
+    QTimer::singleShot(0, &dialog, [&dialog, button] {
+        const QSignalSpy clicked(button, &QAbstractButton::clicked);
+        accessible(button)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        if (qobject_cast<QPushButton *>(button))
+            QTRY_COMPARE(clicked.count(), 1);
+        QCoreApplication::processEvents();
+        dialog.done(leftOpen);
+    });
+    QCOMPARE(dialog.exec(), leftOpen);
+    QCOMPARE(install.count() + scan.count() + person.pickers().size(), 0);
 }
 
 void TestAccessibility::showsAPathInTheToolTipAsItIs_data()

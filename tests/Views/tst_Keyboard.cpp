@@ -37,6 +37,7 @@ private slots:
     void takesAKeyHeldDownForOnePress();
     void actsOncePerPressHoweverLongTheKeyIsHeld_data();
     void actsOncePerPressHoweverLongTheKeyIsHeld();
+    void takesTheSecondClickOfADoubleClickInTheSameWindowOnly();
     void leavesABoxByKey_data();
     void leavesABoxByKey();
     void bringsTheRowWithTheFocusIntoSight();
@@ -228,6 +229,31 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
     send(control, QEvent::KeyRelease, key, time += 80);
     QCOMPARE(started, 2);
     disconnect(m_view.get(), nullptr, this, nullptr);
+}
+
+static void doubleClick(QWidget *first, QWidget *second)
+{
+    QTest::mouseClick(first, Qt::LeftButton);
+    for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, second->rect().center(), Qt::LeftButton, {}, {});
+        QApplication::sendEvent(second, &event);
+    }
+}
+
+void TestKeyboard::takesTheSecondClickOfADoubleClickInTheSameWindowOnly()
+{
+    showRows(numbered(1));
+    auto *scan = button(QStringLiteral("Scan && Install"));
+    const QSignalSpy scanned(m_view.get(), &ScannerView::scanRequested);
+    doubleClick(scan, scan);
+    QCOMPARE(scanned.count(), 2);
+
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Title"), {}, QMessageBox::Ok);
+    connect(m_view.get(), &ScannerView::install, &box, &QWidget::show);
+    doubleClick(row(0).action, box.button(QMessageBox::Ok));
+    QVERIFY(box.isVisible());
+    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    QVERIFY(!box.isVisible());
 }
 
 void TestKeyboard::leavesABoxByKey_data()
