@@ -7,9 +7,8 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <memory>
@@ -17,6 +16,8 @@
 namespace Quillmont::Utility::Widgets {
 
 namespace {
+
+constexpr int minHeight = 64;
 
 // What the window's frame leaves of the screen that Qt opens the box on.
 QSize room()
@@ -27,39 +28,72 @@ QSize room()
     return screen->availableSize() * 9 / 10;
 }
 
-// A box wraps its lines only if it would be wide otherwise, and wide is what long lines need.
-int areaWidth(const QLabel &text, const QScrollArea &area, int maxWidth)
+// A view lays out only the lines in sight, but each of them whole. Nobody looks for the ends of
+// lines that are longer than any path.
+QString withEveryLineShort(const QString &text)
 {
-    constexpr int wide = 600;
-    const int own = text.width() + area.verticalScrollBar()->sizeHint().width();
-    return std::min(text.wordWrap() ? std::max(own, wide) : own, maxWidth);
+    constexpr int longest = 5000;
+    QString lines;
+    lines.reserve(text.size() + text.size() / longest);
+    int length = 0;
+    for (const QChar character : text) {
+        length = character == u'\n' ? 0 : length + 1;
+        if (length > longest && !character.isLowSurrogate()) {
+            lines += u'\n';
+            length = 1;
+        }
+        lines += character;
+    }
+    return lines;
 }
 
-void putIntoScrollArea(QLabel *text, QMessageBox *box, int height)
+// The label keeps the text, out of sight.
+QPlainTextEdit *putIntoView(QLabel *text, QMessageBox *box)
 {
-    auto *area = new QScrollArea(box);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setMinimumWidth(areaWidth(*text, *area, room().width() - box->width() + text->width()));
-    area->setFixedHeight(height);
-    area->setAccessibleName(box->windowTitle());
+    constexpr int wide = 600;
+    auto *view = new QPlainTextEdit(withEveryLineShort(text->text()), box);
+    view->setReadOnly(true);
+    view->setTabChangesFocus(true);
+    view->setMinimumWidth(std::min(wide, room().width() / 2));
+    view->setFixedHeight(minHeight);
+    view->setAccessibleName(box->windowTitle());
 
-    const std::unique_ptr<QLayoutItem> replaced(box->layout()->replaceWidget(text, area));
-    area->setWidget(text);
-    area->show();
+    const std::unique_ptr<QLayoutItem> replaced(box->layout()->replaceWidget(text, view));
+    text->hide();
+    view->show();
+    return view;
 }
 
 // A box knows its size only when it is about to be shown, and works it out once more then.
+void layOut(QMessageBox *box)
+{
+    QEvent request(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(box, &request);
+    box->layout()->activate();
+}
+
+QLabel *textOf(const QMessageBox *box)
+{
+    return box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+}
+
 void fit(QMessageBox *box)
 {
-    constexpr int minHeight = 64;
-    QEvent layOut(QEvent::LayoutRequest);
-    QCoreApplication::sendEvent(box, &layOut);
-    box->layout()->activate();
-    auto *text = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
-    const int lacking = box->height() - room().height();
-    if (text && lacking > 0 && !qobject_cast<QScrollArea *>(text->parentWidget()->parentWidget()))
-        putIntoScrollArea(text, box, std::max(text->height() - lacking, minHeight));
+    layOut(box);
+    auto *view = box->findChild<QPlainTextEdit *>();
+    if (!view && textOf(box) && box->height() > room().height()) {
+        view = putIntoView(textOf(box), box);
+        layOut(box);
+    }
+    if (view)
+        view->setFixedHeight(std::max(minHeight, minHeight + room().height() - box->height()));
+}
+
+// Qt would lay out the whole label, which takes minutes for a line of a million characters.
+bool isTooLongForLabel(const QMessageBox *box)
+{
+    constexpr int longest = 20000;
+    return textOf(box) && box->text().size() > longest && !box->findChild<QPlainTextEdit *>();
 }
 
 } // namespace
@@ -73,7 +107,9 @@ FittingBox::FittingBox(QObject *parent)
 bool FittingBox::eventFilter(QObject *watched, QEvent *event)
 {
     auto *box = qobject_cast<QMessageBox *>(watched);
-    if (box && event->type() == QEvent::Show)
+    if (box && event->type() == QEvent::Polish && isTooLongForLabel(box))
+        putIntoView(textOf(box), box);
+    else if (box && event->type() == QEvent::Show)
         fit(box);
     return false;
 }

@@ -8,7 +8,8 @@ class QMessageBox;
 namespace Quillmont::Utility::Widgets {
 
 /// While it lives, a message box whose text needs more height than the screen has shows that text
-/// in a scroll area, so that its button stays on the screen. Other boxes are as Qt makes them.
+/// in a view that scrolls, so that its button stays on the screen; the box's text() is the same.
+/// Other boxes are as Qt makes them.
 class FittingBox : public QObject
 {
     Q_OBJECT
