@@ -64,11 +64,21 @@ bool isSurelyEmpty(const QDir &folder)
     return !failure;
 }
 
+// QDir removes the folder that a path with ".." means as text, which behind a linked folder is not
+// the one that it lists.
+QString asTheSystemHasIt(const QString &folder)
+{
+    const bool leadsUp = (folder + u'/').contains(QLatin1String("/../"));
+    return leadsUp ? QFileInfo(folder).canonicalFilePath() : folder;
+}
+
 // Only what the user can see counts: a folder that holds nothing but hidden files is left over
 // from us and goes with them.
-void removeIfEmpty(QDir folder)
+void removeIfEmpty(const QString &path)
 {
-    if (isSurelyEmpty(folder) && folder.removeRecursively())
+    const QString real = asTheSystemHasIt(path);
+    QDir folder(real);
+    if (!real.isEmpty() && isSurelyEmpty(folder) && folder.removeRecursively())
         logAction() << "folder removed:" << folder.path();
 }
 
@@ -158,7 +168,7 @@ void ScanController::removePluginFile(const QString &target, const QString &simu
                                   .arg(target, simulatorName);
         }
     }
-    removeIfEmpty(QFileInfo(target).dir());
+    removeIfEmpty(QFileInfo(target).path());
 }
 
 void ScanController::showRemovalFailure(const QString &simulatorName)

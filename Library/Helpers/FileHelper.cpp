@@ -27,13 +27,24 @@ QString write(const QString &path, const QString &text, const QString &encoding)
         return QStringLiteral("unknown encoding \"%1\"").arg(encoding);
     if (!codec->canEncode(text))
         return QStringLiteral("the encoding \"%1\" lacks a character of the text").arg(encoding);
-    // The absolute path would be without "..", which leads elsewhere behind a linked folder.
-    if (path.isEmpty() || !QDir().mkpath(QFileInfo(path).path()))
+    if (path.isEmpty() || !FileHelper::makeFolderOf(path))
         return QStringLiteral("its folder cannot be made");
 
     QString problem;
     FileWriter::write(path, codec->fromUnicode(text), &problem);
     return problem;
+}
+
+// What ".." leads to is known only of a folder that is there.
+bool leadsOutOfWhatIsMissing(const QString &folder)
+{
+    const QString path = folder + u'/';
+    const QString up = QStringLiteral("/../");
+    for (int end = path.indexOf(up); end >= 0; end = path.indexOf(up, end + 1)) {
+        if (!QFileInfo(path.left(end + 1)).isDir())
+            return true;
+    }
+    return false;
 }
 
 bool isRegular(int handle)
@@ -57,6 +68,13 @@ bool FileHelper::saveText(const QString &path, const QString &text, const QStrin
     if (!problem.isEmpty())
         qCDebug(fileLog, "file not written: %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
     return problem.isEmpty();
+}
+
+bool FileHelper::makeFolderOf(const QString &path)
+{
+    // The absolute path would be without "..", which leads elsewhere behind a linked folder.
+    const QString folder = QFileInfo(path).path();
+    return !leadsOutOfWhatIsMissing(folder) && QDir().mkpath(folder);
 }
 
 bool FileHelper::isMissing(const QString &path)

@@ -8,7 +8,7 @@ class QString;
 
 namespace Quillmont::Library::Helpers {
 
-/// Opens files, writes text files, and tells whether a file is there.
+/// Opens files, writes text files, makes their folders, and tells whether a file is there.
 class FileHelper
 {
 public:
@@ -16,6 +16,11 @@ public:
     /// (empty: UTF-8), making missing folders. All or nothing: on failure, an unknown encoding
     /// included, the answer is false and the file is as it was.
     static bool saveText(const QString &path, const QString &text, const QString &encoding);
+
+    /// Makes the folder that the file at @p path is to lie in, and all above it, where it is
+    /// missing. ".." leads where the system says: out of a folder that is itself missing, that is
+    /// nowhere, and nothing is made. False where the folder is not there afterwards.
+    static bool makeFolderOf(const QString &path);
 
     /// Whether there surely is no such file; one that cannot be looked at may well be there.
     static bool isMissing(const QString &path);

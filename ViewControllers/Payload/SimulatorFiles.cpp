@@ -110,11 +110,11 @@ QString configurationFile(const QString &path)
 
 void makeFolderOf(const QString &path)
 {
-    const QDir folder = QFileInfo(path).absoluteDir();
-    if (folder.exists())
+    const QString folder = QFileInfo(path).path();
+    if (QFileInfo(folder).isDir())
         return;
-    const bool made = PathEncoding::survives(path) && folder.mkpath(folder.absolutePath());
-    logAction() << (made ? "folder made:" : "folder not made:") << folder.absolutePath();
+    const bool made = PathEncoding::survives(path) && FileHelper::makeFolderOf(path);
+    logAction() << (made ? "folder made:" : "folder not made:") << folder;
 }
 
 void backUp(const QString &file, const QString &suffix)
