@@ -1,6 +1,7 @@
 #include "Library/Files/FileStatus.h"
 
 #include "Library/Files/AccessList.h"
+#include "Library/Files/LibraryLog.h"
 
 #include <QByteArray>
 #include <QList>
@@ -35,11 +36,19 @@ void keepOwner(int handle, const struct stat &before)
 
 #ifdef Q_OS_LINUX
 
+// One that is not taken would stop every change of the file for good, so the file goes without it.
+// A disk without room is another matter: that passes.
 bool copyAttribute(int from, int to, const char *name)
 {
     QByteArray value(XATTR_SIZE_MAX, Qt::Uninitialized);
     const ssize_t size = fgetxattr(from, name, value.data(), size_t(value.size()));
-    return size >= 0 && fsetxattr(to, name, value.constData(), size_t(size), 0) == 0;
+    if (size >= 0 && fsetxattr(to, name, value.constData(), size_t(size), 0) == 0)
+        return true;
+    if (errno == ENOSPC || errno == EDQUOT || errno == EIO)
+        return false;
+    const int error = errno;
+    qCDebug(fileLog, "attribute not kept: %s: %s", name, qUtf8Printable(qt_error_string(error)));
+    return true;
 }
 
 bool copyAttributes(int from, int to)
@@ -84,6 +93,14 @@ bool FileStatus::copy(int from, int to)
         list.narrow();
     // In this order, since the mode may well forbid to write attributes.
     return copyAttributes(from, to) && list.giveTo(to);
+}
+
+bool FileStatus::areAlike(int left, int right)
+{
+    struct stat one = {};
+    struct stat other = {};
+    return fstat(left, &one) == 0 && fstat(right, &other) == 0 && one.st_uid == other.st_uid
+        && one.st_gid == other.st_gid && one.st_mode == other.st_mode;
 }
 
 } // namespace Quillmont::Library::Files

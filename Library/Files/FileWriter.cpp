@@ -51,20 +51,37 @@ bool openOld(const QByteArray &target, QFile *old)
     return old->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }
 
-bool fill(const Replacement &file, const QFile &old, const QByteArray &bytes)
+// What has to be kept of a file that is replaced.
+enum Keeping {
+    WhatCanBeKept,
+    AllOfIt
+};
+
+bool giveStatus(const Replacement &file, const QFile &old, Keeping keeping)
 {
-    return file.handle() >= 0 && (!old.isOpen() || FileStatus::copy(old.handle(), file.handle()))
+    if (!FileStatus::copy(old.handle(), file.handle()))
+        return false;
+    const bool isKept
+        = keeping == WhatCanBeKept || FileStatus::areAlike(old.handle(), file.handle());
+    if (!isKept)
+        errno = EPERM;
+    return isKept;
+}
+
+bool fill(const Replacement &file, const QFile &old, const QByteArray &bytes, Keeping keeping)
+{
+    return file.handle() >= 0 && (!old.isOpen() || giveStatus(file, old, keeping))
         && put(file.handle(), 0, bytes) && isOnDisk(file.handle());
 }
 
 // Lets a new file take the place of the old one, if that is open. The answer is the system's error
 // number, or zero.
-int replace(const QByteArray &target, const QFile &old, const QByteArray &bytes)
+int replace(const QByteArray &target, const QFile &old, const QByteArray &bytes, Keeping keeping)
 {
     int error = EINVAL;
     for (const auto kind : {Replacement::Nameless, Replacement::Named}) {
         Replacement file(target, kind, old.isOpen());
-        error = fill(file, old, bytes) && file.takePlace() ? 0 : errno;
+        error = fill(file, old, bytes, keeping) && file.takePlace() ? 0 : errno;
         if (error == 0)
             break;
     }
@@ -125,7 +142,7 @@ bool FileWriter::write(const QString &path, const QByteArray &bytes, QString *pr
         return false;
     }
     QFile old;
-    const int error = openOld(target, &old) ? replace(target, old, bytes) : errno;
+    const int error = openOld(target, &old) ? replace(target, old, bytes, WhatCanBeKept) : errno;
     if (error != 0)
         *problem = notWritten(error);
     return error == 0;
@@ -136,7 +153,7 @@ bool FileWriter::rewrite(QFile *file, const QByteArray &bytes, QString *problem)
     const FileSizeSignal ignored;
     const QByteArray target = linkTarget(file->fileName());
     const bool isReplaceable = !target.isEmpty() && !hasFurtherNames(*file);
-    int error = isReplaceable ? replace(target, *file, bytes) : EMLINK;
+    int error = isReplaceable ? replace(target, *file, bytes, AllOfIt) : EMLINK;
     if (error != 0 && !isFaultOfTheDisk(error))
         error = writeOver(file, bytes) ? 0 : errno;
     if (error != 0)

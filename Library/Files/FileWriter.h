@@ -18,10 +18,11 @@ public:
     /// was and @p problem says why.
     static bool write(const QString &path, const QByteArray &bytes, QString *problem);
 
-    /// The same for @p file, which is open for reading and writing. Where it has further hard
-    /// links, or the system refuses that another file takes its place, the new bytes go over the
-    /// old ones; then a process that is killed there leaves a part of either, but a disk without
-    /// room leaves the old ones.
+    /// The same for @p file, which is open for reading and writing and keeps its owner, group and
+    /// rights. Where another file could not have them, where this one has further hard links, or
+    /// the system refuses that another takes its place, the new bytes go over the old ones; then a
+    /// process that is killed there leaves a part of either, but a disk without room leaves the old
+    /// ones.
     static bool rewrite(QFile *file, const QByteArray &bytes, QString *problem);
 
     /// Whether there is something for clearUnfinished() to take away.

@@ -3,6 +3,7 @@
 #include "Library/Files/Replacement.h"
 #include "tests/support/Attributes.h"
 #include "tests/support/Files.h"
+#include "tests/support/LogCatcher.h"
 #include "tests/support/Sandbox.h"
 #include "tests/support/Unprivileged.h"
 
@@ -26,8 +27,20 @@
 // What the system is asked for, in order.
 static QStringList s_steps;
 
+// The error that attributes of users' fail with; 0 for none.
+static int s_attributeError = 0;
+
 #ifdef Q_OS_LINUX
-// Both stand in front of the C library's.
+// They stand in front of the C library's.
+extern "C" int
+fsetxattr(int handle, const char *name, const void *value, size_t size, int flags) noexcept
+{
+    if (s_attributeError == 0 || qstrncmp(name, "user.", 5) != 0)
+        return int(syscall(SYS_fsetxattr, handle, name, value, size, flags));
+    errno = s_attributeError;
+    return -1;
+}
+
 extern "C" int fsync(int handle)
 {
     struct stat status = {};
@@ -64,6 +77,8 @@ private slots:
     void ownerStays();
     void accessListAndAttributesStay_data();
     void accessListAndAttributesStay();
+    void attributeThatIsNotTakenStopsNothing_data();
+    void attributeThatIsNotTakenStopsNothing();
     void listOfTheFolderDoesNotComeIn();
     void anotherGroupHasNoMoreRights_data();
     void anotherGroupHasNoMoreRights();
@@ -87,6 +102,7 @@ private slots:
     void longNamesHaveUnfinishedFilesOfTheirOwn();
     void rewrittenFileKeepsItsFurtherNames_data();
     void rewrittenFileKeepsItsFurtherNames();
+    void rewrittenFileOfAnotherUserStaysTheirs();
     void rewrittenFileNeedsNoFileBesideIt();
     void whatCannotBeFinishedIsTakenBack_data();
     void whatCannotBeFinishedIsTakenBack();
@@ -247,6 +263,35 @@ void TestFileWriter::accessListAndAttributesStay()
     QCOMPARE(Tests::attribute(path(), Tests::accessListName), list);
     QCOMPARE(Tests::attribute(path(), "user.note"), QByteArray("mine"));
     QCOMPARE(modeOf(path()), mode);
+}
+
+void TestFileWriter::attributeThatIsNotTakenStopsNothing_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<bool>("stops");
+    QTest::newRow("not on this file system") << ENOTSUP << false;
+    QTest::newRow("not by this user") << EPERM << false;
+    QTest::newRow("no room") << ENOSPC << true;
+    QTest::newRow("no room for this user") << EDQUOT << true;
+    QTest::newRow("a broken disk") << EIO << true;
+}
+
+void TestFileWriter::attributeThatIsNotTakenStopsNothing()
+{
+    QFETCH(const int, error);
+    QFETCH(const bool, stops);
+    Tests::writeFile(path(), "old");
+    setMode(path(), 0640);
+    if (!Tests::setAttribute(path(), "user.note", "mine"))
+        QSKIP("no attributes on this file system");
+    const Tests::LogCatcher log;
+    s_attributeError = error;
+    const bool isWritten = write(path(), "new");
+    s_attributeError = 0;
+    QCOMPARE(isWritten, !stops);
+    QCOMPARE(Tests::readFile(path()), QByteArray(stops ? "old" : "new"));
+    QCOMPARE(modeOf(path()), 0640U);
+    QCOMPARE(log.hasDebugLineWith(QStringLiteral("attribute not kept: user.note")), !stops);
 }
 
 void TestFileWriter::listOfTheFolderDoesNotComeIn()
@@ -563,6 +608,30 @@ void TestFileWriter::rewrittenFileKeepsItsFurtherNames()
     QCOMPARE(Tests::readFile(path()), bytes);
     QCOMPARE(Tests::readFile(path("other.xml")), bytes);
     QCOMPARE(files().size(), 2);
+}
+
+// Whoever writes may write there, but gives no file away.
+void TestFileWriter::rewrittenFileOfAnotherUserStaysTheirs()
+{
+    if (getuid() != 0)
+        QSKIP("only the superuser gives a file away");
+    Tests::writeFile(path(), "old content");
+    setMode(path(), 0666);
+    setMode(m_sandbox.path(QStringLiteral("config")), 0777);
+    setMode(m_sandbox.root(), 0711);
+    QVERIFY(QDir().mkpath(m_sandbox.path(QStringLiteral("own"))));
+    const auto before = statusOf(path());
+    bool isWritten = false;
+    {
+        const Tests::Unprivileged user(m_sandbox.path(QStringLiteral("own")));
+        isWritten = rewrite(path(), "new");
+    }
+    QVERIFY2(isWritten, qPrintable(m_problem));
+    QCOMPARE(Tests::readFile(path()), QByteArray("new"));
+    QCOMPARE(statusOf(path()).st_uid, before.st_uid);
+    QCOMPARE(statusOf(path()).st_gid, before.st_gid);
+    QCOMPARE(modeOf(path()), 0666U);
+    QCOMPARE(files(), QStringList{QStringLiteral("exe.xml")});
 }
 
 void TestFileWriter::rewrittenFileNeedsNoFileBesideIt()
