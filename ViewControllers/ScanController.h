@@ -90,7 +90,8 @@ public:
     QString readFile(const QString &path);
 
     /// Makes @p content the whole text of a file, making missing folders. A file that cannot be
-    /// opened, or finds no room for it, keeps its text and leaves a line in m_errorMessage.
+    /// opened, or finds no room for it, keeps its text and leaves a line in m_errorMessage. So does
+    /// one that would be bigger than readFile() takes.
     void saveFile(const QString &path, const QString &content);
 
     // For other platforms; they do nothing here.

@@ -43,6 +43,16 @@ QString wholeText(QFile *file, QString *problem)
     return text;
 }
 
+// What readFile() refuses is not written either: no later run could read it, or mend it.
+bool write(QFile *file, const QByteArray &bytes, QString *problem)
+{
+    if (bytes.size() <= maxSize)
+        return open(file, QIODevice::ReadWrite, problem)
+            && FileWriter::rewrite(file, bytes, problem);
+    *problem = QStringLiteral("too big");
+    return false;
+}
+
 } // namespace
 
 QString ScanController::readFile(const QString &path)
@@ -79,8 +89,7 @@ void ScanController::saveFile(const QString &path, const QString &content)
     QFile file(native);
     QString problem;
     // As a text stream encodes it.
-    if (open(&file, QIODevice::ReadWrite, &problem)
-        && FileWriter::rewrite(&file, QTextCodec::codecForLocale()->fromUnicode(content), &problem))
+    if (write(&file, QTextCodec::codecForLocale()->fromUnicode(content), &problem))
         logAction() << "written:" << native;
     else
         reportUnwritten(native, problem);

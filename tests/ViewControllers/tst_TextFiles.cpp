@@ -232,6 +232,28 @@ private slots:
         QTest::newRow("a gigabyte") << 1024LL * 1024 * 1024 << false;
     }
 
+    void writesNothingThatIsTooBigToRead_data()
+    {
+        QTest::addColumn<int>("characters");
+        QTest::addColumn<bool>("isWritten");
+        constexpr int bound = 96 * 1024 * 1024 / 2;
+        QTest::newRow("the biggest") << bound << true;
+        QTest::newRow("one character more") << bound + 1 << false;
+    }
+
+    // Each character is of two bytes.
+    void writesNothingThatIsTooBigToRead()
+    {
+        QFETCH(int, characters);
+        QFETCH(bool, isWritten);
+        Workshop shop;
+        const QString file = shop.path("big");
+        writeFile(file, "old");
+        shop.controller().saveFile(file, QString(characters, u'\u00fc'));
+        QCOMPARE(QFileInfo(file).size(), isWritten ? characters * 2LL : 3LL);
+        QCOMPARE(shop.controller().m_errorMessage, isWritten ? QString() : unableToWriteLine(file));
+    }
+
     // It takes no room on the disk.
     void readsNothingThatIsTooBig()
     {
