@@ -55,9 +55,6 @@ FlightGearLauncher::FlightGearLauncher(const QString &home, FolderLookup &lookup
         else
             m_roots.append({path, file.problem()});
     }
-    std::stable_sort(m_chosen.begin(), m_chosen.end(), [](const Choice &left, const Choice &right) {
-        return left.first > right.first;
-    });
     for (const Choice &choice : qAsConst(m_chosen))
         m_roots.append({choice.second, {}});
 }
@@ -80,12 +77,24 @@ void FlightGearLauncher::readKey(const QString &key, const QString &value)
     const QString root = QStringLiteral("fg-root-");
     if (key == QLatin1String("download-dir") && m_downloadFolders.size() < mostFolders) {
         m_downloadFolders.append(plain(value));
-    } else if (key.startsWith(root) && m_chosen.size() < mostFolders) {
+        m_downloadFolders.removeDuplicates(); // versions side by side name one and the same
+    } else if (key.startsWith(root)) {
         const QString version = key.mid(root.size()).replace(u'-', u'.');
         const QString folder = plain(value);
         if (!folder.isEmpty() && folder != QLatin1String("!ask"))
-            m_chosen.append({QVersionNumber::fromString(version), folder});
+            choose({QVersionNumber::fromString(version), folder});
     }
+}
+
+void FlightGearLauncher::choose(const Choice &choice)
+{
+    const auto isHigher = [](const Choice &left, const Choice &right) {
+        return left.first > right.first;
+    };
+    const auto place = std::upper_bound(m_chosen.begin(), m_chosen.end(), choice, isHigher);
+    m_chosen.insert(place, choice);
+    if (m_chosen.size() > mostFolders)
+        m_chosen.removeLast();
 }
 
 } // namespace Quillmont::SimDetect

@@ -34,8 +34,9 @@ private:
 
     void read(const QString &text);
     void readKey(const QString &key, const QString &value);
+    void choose(const Choice &choice);
 
-    QVector<Choice> m_chosen;
+    QVector<Choice> m_chosen; ///< The highest version first, and no more than make sense.
     QVector<Candidate> m_roots;
     QStringList m_downloadFolders;
 };

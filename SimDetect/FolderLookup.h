@@ -34,7 +34,7 @@ private:
     QString child(const QString &folder, const QString &name);
     QStringList spellings(const QString &folder, const QString &name);
 
-    qint64 m_allowance = 16LL * 1024 * 1024;
+    qint64 m_allowance = 24LL * 1024 * 1024;
     QHash<QString, QStringList> m_names;
     /// Of each folder: the names, by what they have in common in any letter case.
     QHash<QString, QHash<QString, QStringList>> m_spellings;

@@ -16,10 +16,10 @@ PlainFile::PlainFile(const QString &path, qint64 &allowance, qint64 largest)
         m_problem = QStringLiteral("cannot be read");
     else if (file.size() > largest)
         m_problem = QStringLiteral("too large");
-    else if (file.size() > allowance)
+    else if (file.size() > allowance / 2) // so that no file leaves nothing for those to come
         m_problem = QStringLiteral("too much to read altogether");
     else
-        m_content = file.read(std::min(largest, allowance));
+        m_content = file.read(std::min(largest, allowance / 2));
     allowance -= m_content.size();
 }
 

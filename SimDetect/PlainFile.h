@@ -11,8 +11,8 @@ namespace Quillmont::SimDetect {
 class PlainFile
 {
 public:
-    /// Reads the file at @p path, if it has no more than @p largest bytes and no more than are
-    /// left of the @p allowance, from which they are taken.
+    /// Reads the file at @p path, if it has no more than @p largest bytes and no more than half
+    /// of what is left of the @p allowance, from which they are taken.
     PlainFile(const QString &path, qint64 &allowance, qint64 largest = 1024LL * 1024);
 
     /// Why there is no content; empty where the whole file was read.

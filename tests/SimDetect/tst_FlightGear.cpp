@@ -200,6 +200,12 @@ void TestFlightGear::asksItsLauncher_data()
                 others < 256 ? "FGFS: $R/chosen" : "",
                 "FGFS not taken: $R/gone: no such folder");
     }
+    addCase("a higher version behind 256 that are gone",
+            OnLinux,
+            data("$R/chosen")
+                + launcher("[General]\\n" + QByteArray("fg-root-1=$R/gone\\n").repeated(256)
+                           + "fg-root-2=$R/chosen"),
+            "FGFS: $R/chosen");
     const QByteArray head = "[General]\\n";
     for (const int size : {1024 * 1024, 1024 * 1024 + 1}) {
         addCase("beside a file of " + QByteArray::number(size) + " bytes",
@@ -250,6 +256,12 @@ void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
             OnLinux,
             there + data("$R/downloads/fgdata_2024_1 $R/usr/share/flightgear"),
             "FGFS: $R/usr/share/flightgear");
+    addCase("behind the same place again and again",
+            OnLinux,
+            launcher("[General]\\n" + QByteArray("download-dir=$R/gone\\n").repeated(256)
+                     + "download-dir=$R/downloads")
+                + data("$R/downloads/fgdata_2024_1"),
+            "FGFS: $R/downloads/fgdata_2024_1");
     addCase("where FG_HOME says",
             OnBoth,
             data("$R/fg/fgdata_2020_3 $H/.fgfs/fgdata_2024_1") + "variable FG_HOME = $R/fg",

@@ -41,6 +41,7 @@ private slots:
     void readsNoMoreThanMakesSense();
     void readsFilesUpToABound_data();
     void readsFilesUpToABound();
+    void readsWhatComesBehindJunk();
     void opensNoFileTwice();
     void saysThatAFolderIsClosed();
 };
@@ -68,8 +69,8 @@ const auto Everything = QStringLiteral(R"(
     dir $S/steamapps/common/Aerofly/scenery
     dir $S/steamapps/common/Aerofly/aircraft
     file $S/steamapps/compatdata/1995890/pfx/drive_c/users/steamuser/Documents/Aerofly FS 4/main.mcf =
-    dir $S/steamapps/compatdata/314160/pfx
-    dir $S/steamapps/compatdata/2014780/pfx
+    dir $S/steamapps/compatdata/314160/pfx/drive_c
+    dir $S/steamapps/compatdata/2014780/pfx/drive_c
     game $R/drive 2014780 X-Plane 12
     dir $S/steamapps/compatdata/1250410/pfx/drive_c/P/Community
     file $S/steamapps/compatdata/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "C:\\P"\n
@@ -328,10 +329,12 @@ void TestRobustness::readsFilesUpToABound_data()
     const auto found = path("XP10: $R/drive/steamapps/common/X");
     QTest::newRow("Steam's libraries") << game << Sizes{{libraries, big}} << found << "";
     QTest::newRow("Steam's game") << game << Sizes{{manifest, big}} << found << "";
-    QTest::newRow("all in all") << game
+    // Half of what the big ones leave.
+    const auto otherLibraries = path("$S/steamapps/libraryfolders.vdf");
+    QTest::newRow("all in all") << game + path("\nfile $S/steamapps/libraryfolders.vdf =")
                                 << Sizes{{libraries, big},
-                                         {manifest, big},
-                                         {path("$L/x-plane_install_10.txt"), 0}}
+                                         {otherLibraries, big},
+                                         {manifest, 4 * small}}
                                 << found << "";
 }
 
@@ -351,6 +354,24 @@ void TestRobustness::readsFilesUpToABound()
     QCOMPARE(computer.detect(), computer.expanded(found));
     writeFile(computer.expanded(last), readFile(computer.expanded(last)) + '\n');
     QCOMPARE(computer.detect(), computer.expanded(foundBehindIt));
+}
+
+void TestRobustness::readsWhatComesBehindJunk()
+{
+    DescribedComputer computer(Environment::Linux);
+    computer.make(QStringLiteral(R"(
+        game $R/drive 292180 X
+        xplane $R/drive/steamapps/common/X
+        libraries $H/.steam/root = $R/drive
+        file $S/config/libraryfolders.vdf =
+        file $S/steamapps/libraryfolders.vdf =
+        file $H/.steam/steam/config/libraryfolders.vdf =)"));
+    for (const char *junk : {"$S/config/libraryfolders.vdf",
+                             "$S/steamapps/libraryfolders.vdf",
+                             "$H/.steam/steam/config/libraryfolders.vdf"})
+        writeFile(computer.expanded(QLatin1String(junk)), QByteArray(8 * 1024 * 1024, '\n'));
+    QCOMPARE(computer.detect(),
+             computer.expanded(QStringLiteral("XP10: $R/drive/steamapps/common/X")));
 }
 
 void TestRobustness::opensNoFileTwice()
