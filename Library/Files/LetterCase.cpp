@@ -2,29 +2,65 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
+#include <QSet>
 
 namespace Quillmont::Library::Files {
 
 namespace {
+
+// Nobody has so many that differ in letter case only, and they multiply from folder to folder.
+constexpr int mostCandidates = 100;
 
 bool isStep(const QString &name)
 {
     return name.isEmpty() || name == QLatin1String(".") || name == QLatin1String("..");
 }
 
-QStringList children(const QString &folder, const QString &name)
+// What is in folders, each of which is listed once, whatever way leads to it.
+class Listings
 {
-    if (isStep(name))
-        return {folder + name};
-    constexpr auto everything
-        = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    QStringList found;
-    const QStringList all = QDir(folder).entryList(everything, QDir::NoSort);
-    for (const QString &each : all) {
-        if (each.compare(name, Qt::CaseInsensitive) == 0)
-            found.append(folder + each);
+public:
+    /// The paths in @p folder, which ends in a slash, that mean @p name in any letter case.
+    QStringList find(const QString &folder, const QString &name)
+    {
+        if (isStep(name))
+            return {folder + name};
+        QStringList found;
+        const QStringList all = names(folder);
+        for (const QString &each : all) {
+            if (each.compare(name, Qt::CaseInsensitive) == 0)
+                found.append(folder + each);
+        }
+        return found;
     }
-    return found;
+
+private:
+    QStringList names(const QString &folder)
+    {
+        constexpr auto everything
+            = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        const QString real = QFileInfo(folder).canonicalFilePath();
+        if (!m_names.contains(real))
+            m_names.insert(real, QDir(folder).entryList(everything, QDir::NoSort));
+        return m_names.value(real);
+    }
+
+    QHash<QString, QStringList> m_names;
+};
+
+// Several ways can lead to one folder, over ".." or a link: then the first is enough.
+QStringList differentFolders(const QStringList &paths)
+{
+    QStringList different;
+    QSet<QString> seen;
+    for (const QString &path : paths) {
+        const QString real = QFileInfo(path).canonicalFilePath();
+        if (!seen.contains(real))
+            different.append(path);
+        seen.insert(real);
+    }
+    return different;
 }
 
 // Another disk may well hold two folders that differ in letter case only; a way that was found
@@ -46,12 +82,16 @@ QStringList LetterCase::files(const QString &folder, const QString &relative)
     const int begin = folder.lastIndexOf(u'/') + 1;
     QStringList names = (folder.mid(begin) + relative).split(u'/');
     QStringList found{fixedPart(folder.left(begin), &names)};
-    for (int i = 0; i < names.size(); ++i) {
+    Listings listings;
+    for (int i = 0; i < names.size() && found.size() <= mostCandidates; ++i) {
         QStringList next;
-        for (const QString &each : qAsConst(found))
-            next += children(i == 0 ? each : each + u'/', names.at(i));
+        const QStringList folders = i == 0 ? found : differentFolders(found);
+        for (const QString &each : folders)
+            next += listings.find(i == 0 ? each : each + u'/', names.at(i));
         found = next;
     }
+    if (found.size() > mostCandidates)
+        return {};
 
     QStringList files;
     for (const QString &each : qAsConst(found)) {

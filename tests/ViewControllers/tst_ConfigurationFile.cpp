@@ -1,5 +1,6 @@
 #include "tests/ViewControllers/Workshop.h"
 
+#include <QDir>
 #include <QTest>
 
 using Tests::readFile;
@@ -14,6 +15,9 @@ class TestConfigurationFile : public QObject
 private slots:
     void isFoundInAnyLetterCase_data();
     void isFoundInAnyLetterCase();
+    void isOneHoweverManyWaysLeadToIt();
+    void isNotLookedForInMoreFoldersThanMakeSense_data();
+    void isNotLookedForInMoreFoldersThanMakeSense();
     void namesTheFilesOfWhichNoneIsTaken();
 };
 
@@ -77,6 +81,49 @@ void TestConfigurationFile::isFoundInAnyLetterCase()
     for (const QString &file : files)
         left += readFile(shop.dataPath(file.toUtf8())) == others ? 1 : 0;
     QCOMPARE(left, files.size());
+}
+
+// At each step up the ways to it double.
+void TestConfigurationFile::isOneHoweverManyWaysLeadToIt()
+{
+    Workshop shop;
+    writeFile(shop.dataPath("maker/DLL.XML"), others);
+    for (const char *folder : {"fsx", "Fsx"})
+        QVERIFY(QDir().mkpath(shop.dataPath("maker/") + QLatin1String(folder)));
+    const QByteArray ways = "Maker/" + QByteArray("FSX/../").repeated(20) + "dll.xml";
+    auto *mapping
+        = shop.mapping(QByteArray(entry).replace("Maker/FSX/dll.xml", ways), shop.folder("A"));
+    shop.controller().install(mapping, true, false);
+    QVERIFY(readFile(shop.dataPath("maker/DLL.XML")).contains("Our entry"));
+}
+
+void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense_data()
+{
+    QTest::addColumn<int>("folders");
+    QTest::addColumn<bool>("isFound");
+    QTest::newRow("100 folders") << 100 << true;
+    QTest::newRow("101 folders") << 101 << false;
+}
+
+// All are of one name in other letter case.
+void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense()
+{
+    QFETCH(const int, folders);
+    QFETCH(const bool, isFound);
+    Workshop shop;
+    QByteArray name = "simmaker";
+    for (int i = 1; i <= folders; ++i) {
+        name = "simmaker";
+        for (int bit = 0; bit < name.size(); ++bit)
+            name[bit] = char((i >> bit) % 2 != 0 ? name.at(bit) - 'a' + 'A' : name.at(bit));
+        QVERIFY(QDir().mkpath(shop.dataPath(name)));
+    }
+    const QString file = shop.dataPath(name + "/DLL.XML");
+    writeFile(file, others);
+    auto *mapping
+        = shop.mapping(QByteArray(entry).replace("Maker/FSX", "simmaker"), shop.folder("A"));
+    shop.controller().install(mapping, true, false);
+    QCOMPARE(readFile(file).contains("Our entry"), isFound);
 }
 
 void TestConfigurationFile::namesTheFilesOfWhichNoneIsTaken()
