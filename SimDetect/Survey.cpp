@@ -43,7 +43,7 @@ Survey &Survey::last()
     return ofThisComputer() ? *ofThisComputer() : renewed();
 }
 
-QString Survey::prefix(int appId)
+QString Survey::prefix(qint64 appId)
 {
     return m_steam.prefixes(QString::number(appId)).value(0);
 }

@@ -30,7 +30,7 @@ public:
 
     /// The Proton prefix of the game with Steam's number @p appId, an absolute path; empty where
     /// there is none.
-    QString prefix(int appId);
+    QString prefix(qint64 appId);
 
     /// The file @p relative in @p folder, spelled as on disk as far as it is there.
     QString fileIn(const QString &folder, const QString &relative);

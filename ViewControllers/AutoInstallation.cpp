@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Utility::Controllers::launcherPathFile;
@@ -29,8 +30,12 @@ void writeLauncherPath()
     const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                                      + QStringLiteral("/QuillmontOrbwell.exe"));
     const QString content = QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\"));
+    // A folder whose name is no text is not there by what the name became as text.
+    const bool isKnown = QFileInfo::exists(QCoreApplication::applicationDirPath());
+    if (!isKnown)
+        logAction() << "the name of the program's folder is not valid text:" << program;
     const bool written
-        = PathEncoding::survives(path) && FileHelper::saveText(path, content, QString());
+        = isKnown && PathEncoding::survives(path) && FileHelper::saveText(path, content, QString());
     logAction() << (written ? "launcher path written:" : "launcher path not written:") << path;
 }
 

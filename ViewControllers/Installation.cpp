@@ -103,6 +103,8 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
 void ScanController::copyPluginFiles(FlightSimulatorMapping *mapping)
 {
     const InstallationLock lock;
+    if (mapping->scan->root < 1)
+        logSkippedEdits(mapping);
     const QString payload = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins/");
     const auto &files = mapping->scan->files;
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
@@ -156,10 +158,8 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
         qCDebug(xmlLog, "no configuration entry to add for %s", qUtf8Printable(name));
         return;
     }
-    if (!hasConfigurationFile(mapping)) {
-        logAction() << "no Proton prefix, so no configuration file to edit:" << mapping->scan->name;
+    if (!hasConfigurationFile(mapping))
         return;
-    }
     qDebug("hit reg search...");
 
     const QString file = QDir::toNativeSeparators(configurationFile(mapping));

@@ -148,6 +148,7 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
 void ScanController::removePluginFiles(FlightSimulatorMapping *mapping)
 {
     const InstallationLock lock;
+    logSkippedEdits(mapping);
     const auto &files = mapping->scan->files;
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
         removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
@@ -187,8 +188,6 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
 
     if (hasConfigurationFile(mapping))
         removeEntry(mapping);
-    else
-        logAction() << "no Proton prefix, so no configuration file to edit:" << mapping->scan->name;
 
     if (const auto *removal = mapping->scan->remove) {
         for (const auto *operation : removal->files)

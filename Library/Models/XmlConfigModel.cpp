@@ -4,12 +4,31 @@
 
 #include <QJsonObject>
 
+#include <cmath>
+#include <limits>
+
 namespace Quillmont::Library::Models {
+
+namespace {
+
+// One that is given and no number of a game's must not pass for none: the path would then be taken
+// for one in the data root, and folders of a prefix be made there.
+qint64 gameNumber(const QJsonValue &value)
+{
+    constexpr qint64 most = std::numeric_limits<quint32>::max();
+    if (value.isUndefined())
+        return 0;
+    const double written = value.toDouble(-1);
+    const bool isGame = written >= 1 && written <= most && std::trunc(written) >= written;
+    return isGame ? qint64(written) : -1;
+}
+
+} // namespace
 
 XmlConfigModel::XmlConfigModel(QObject *parent, const QJsonObject &json)
     : QObject(parent)
     , path(json.value(QLatin1String("path")).toString().replace(u'\\', u'/'))
-    , steam(json.value(QLatin1String("steam")).toInt(0))
+    , steam(gameNumber(json.value(QLatin1String("steam"))))
 {
     const QJsonValue removal = json.value(QLatin1String("remove"));
     if (removal.isObject())

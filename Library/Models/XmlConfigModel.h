@@ -22,8 +22,9 @@ public:
     bool describesEntry() const { return !element.isEmpty(); }
 
     QString path; ///< The file, "/"-separated, relative to the per-user application-data root.
-    /// Steam's number of the game in whose Proton prefix the path as written is; 0 for none.
-    int steam = 0;
+    /// Steam's number of the game in whose Proton prefix the path as written is; 0 where it is in
+    /// no prefix, -1 where it is in one whose game is not told by a number of Steam's.
+    qint64 steam = 0;
     /// The way from the data root to that prefix; empty until it is found and the path set anew.
     QString prefix;
     QString element; ///< Name of our element, a child of the document's root element.

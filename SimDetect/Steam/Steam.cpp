@@ -51,7 +51,8 @@ QStringList Steam::prefixes(const QString &appId)
     for (const auto &library : qAsConst(m_libraries)) {
         const QString prefix
             = m_lookup.find(library, QStringLiteral("compatdata/%1/pfx").arg(appId));
-        if (!QFileInfo(prefix).isDir())
+        // Without a drive it is what an attempt to start the game has left.
+        if (!QFileInfo(m_lookup.find(prefix, QStringLiteral("drive_c"))).isDir())
             continue;
         const Candidate game = gameIn(library, appId);
         const bool isListed = !game.path.isEmpty() && game.objection.isEmpty();

@@ -19,6 +19,7 @@
 using Quillmont::Library::Files::FileStatus;
 using Quillmont::Library::Files::LetterCase;
 using Quillmont::Library::Helpers::FileHelper;
+using Quillmont::Library::Models::XmlConfigModel;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
@@ -69,6 +70,23 @@ QString inAnyLetterCase(const QString &folder, const QString &relative)
     return others.size() == 1 ? others.constFirst() : exact;
 }
 
+// The way leads over the top of the disk; as text it does so without a data root, too.
+QString prefixFolder(const XmlConfigModel &config)
+{
+    return QDir::cleanPath(userDataRoot() + config.prefix);
+}
+
+// The beginning of a line in the log; null where there is none.
+const char *objectionToEditing(const XmlConfigModel &config)
+{
+    if (!PathEncoding::survives(userDataRoot()))
+        return "the data folder's name is not valid text, so no configuration file to edit:";
+    // Nothing is made in a prefix that is not there: it would mislead Steam and others.
+    const bool isThere = config.steam == 0
+        || (!config.prefix.isEmpty() && QFileInfo(prefixFolder(config)).isDir());
+    return isThere ? nullptr : "no Proton prefix, so no configuration file to edit:";
+}
+
 } // namespace
 
 QString simulatorFolder(const FlightSimulatorMapping *mapping)
@@ -86,21 +104,28 @@ QString pluginFile(const FlightSimulatorMapping *mapping, const QString &destina
 
 bool hasConfigurationFile(const FlightSimulatorMapping *mapping)
 {
-    const auto *config = mapping->scan->config;
-    if (!config || !PathEncoding::survives(userDataRoot()))
-        return false;
-    // Nothing is made in a prefix that is not there: it would mislead Steam and others.
-    return config->steam == 0
-        || (!config->prefix.isEmpty() && QFileInfo(userDataRoot() + config->prefix).isDir());
+    return mapping->scan->config && !objectionToEditing(*mapping->scan->config);
+}
+
+void logSkippedEdits(const FlightSimulatorMapping *mapping)
+{
+    const auto *scan = mapping->scan;
+    if (scan->type != 0 || !scan->config || scan->files.isEmpty())
+        return;
+    if (const char *objection = objectionToEditing(*scan->config))
+        logAction() << objection << scan->name;
 }
 
 QString configurationFile(const FlightSimulatorMapping *mapping)
 {
     const auto *config = mapping->scan->config;
+    if (config->steam == 0)
+        return configurationFile(config->path);
     // The way to a file in a prefix was found on the disk; in other letter case it would lead to
     // another prefix.
-    const int name = config->steam != 0 ? config->path.lastIndexOf(u'/') + 1 : 0;
-    return inAnyLetterCase(userDataRoot() + config->path.left(name), config->path.mid(name));
+    const QString path = prefixFolder(*config) + config->path.mid(config->prefix.size());
+    const int name = path.lastIndexOf(u'/') + 1;
+    return inAnyLetterCase(path.left(name), path.mid(name));
 }
 
 QString configurationFile(const QString &path)

@@ -20,6 +20,10 @@ QString pluginFile(const Models::FlightSimulatorMapping *mapping, const QString 
 /// there.
 bool hasConfigurationFile(const Models::FlightSimulatorMapping *mapping);
 
+/// Writes down why no step of an installation or a removal edits a configuration file, though the
+/// entry describes one; nothing where there is one to edit.
+void logSkippedEdits(const Models::FlightSimulatorMapping *mapping);
+
 /// The simulator's configuration file, "/"-separated; there has to be one to edit. If there is no
 /// file of that name but one that differs in letter case only, it is that one: to the simulator
 /// they are the same. Of several such files none is taken.

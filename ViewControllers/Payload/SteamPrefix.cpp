@@ -16,17 +16,15 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// What leads to @p path when it is put behind the data root; empty where nothing does, since the
-// data root is missing. The data root may be a link: so many steps up lead to the top of the disk,
-// whether they are taken as the system takes them, from where the link leads, or as text.
+// What leads to @p path when it is put behind the data root. The data root may be a link: so many
+// steps up lead to the top of the disk, whether they are taken as the system takes them, from where
+// the link leads, or as text, which is the only way while the data root is missing.
 QString wayFromDataRoot(const QString &path)
 {
     const QString root = userDataRoot();
     if (path.startsWith(root))
         return path.mid(root.size());
     const QString real = QFileInfo(root).canonicalFilePath();
-    if (real.isEmpty())
-        return {};
     const auto steps = std::max(root.count(u'/'), real.count(u'/'));
     const QString up = QStringLiteral("/..").repeated(steps);
     return up.mid(root.endsWith(u'/') ? 1 : 0) + path;
@@ -39,7 +37,8 @@ void findPrefix(XmlConfigModel *config)
     if (config->steam == 0)
         return;
     Survey &survey = Survey::last();
-    const QString prefix = config->path.isEmpty() ? QString() : survey.prefix(config->steam);
+    const bool isNamed = config->steam > 0 && !config->path.isEmpty();
+    const QString prefix = isNamed ? survey.prefix(config->steam) : QString();
     config->prefix = prefix.isEmpty() ? QString() : wayFromDataRoot(prefix);
     // The folders as they are spelled on disk; which file is the one is asked when it is edited.
     const int name = config->path.lastIndexOf(u'/') + 1;

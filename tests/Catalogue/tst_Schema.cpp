@@ -26,7 +26,7 @@ QJsonObject soundEntry()
         "target": "", "type": 0, "root": "0",
         "files": [{"source": "a\\b.so", "destination": "Modules/b.so"}],
         "config": {
-            "steam": 4711, "path": "drive_c\\launch.xml", "parent": "Launch.Addon",
+            "steam": 4294967295, "path": "drive_c\\launch.xml", "parent": "Launch.Addon",
             "values": [{"key": "Name", "value": "Quillmont Orbwell"}],
             "remove": {"parent": "Launch.Addon", "key": "Name", "value": "Quillmont Orbwell",
                        "delete_parent": true, "files": [{"root": "-1", "path": "x.cfg"}]}},
@@ -162,7 +162,7 @@ void TestSchema::refusesWhatTheProgramWouldPassOver_data()
     file("game as a string", R"("steam": "4711", "path": "drive_c/a.xml")");
     file("game 0", R"("steam": 0, "path": "drive_c/a.xml")");
     file("broken game", R"("steam": 4711.5, "path": "drive_c/a.xml")");
-    file("game past an int", R"("steam": 2147483648, "path": "drive_c/a.xml")");
+    file("game past Steam's numbers", R"("steam": 4294967296, "path": "drive_c/a.xml")");
     file("prefix without its drive", R"("steam": 4711, "path": "users/a.xml")");
     file("prefix without its game", R"("path": "drive_c/a.xml")");
     file("prefix of one Steam", R"("path": "Steam\\steamapps\\compatdata\\4711\\pfx\\a.xml")");

@@ -106,7 +106,7 @@ QJsonObject expected(QJsonObject entry)
     QJsonObject config = entry.value(QLatin1String("config")).toObject();
     if (!config.isEmpty()) {
         config.insert(QStringLiteral("path"), slashed(config.value(QLatin1String("path"))));
-        config.insert(QStringLiteral("steam"), config.value(QLatin1String("steam")).toInt());
+        config.insert(QStringLiteral("steam"), config.value(QLatin1String("steam")).toDouble());
         entry.insert(QStringLiteral("config"), config);
     }
     return entry;

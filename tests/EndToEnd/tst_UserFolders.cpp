@@ -15,6 +15,7 @@ class TestUserFolders : public QObject
 private slots:
     void nothingIsWrittenBesideAFolderWhoseNameIsNoText_data();
     void nothingIsWrittenBesideAFolderWhoseNameIsNoText();
+    void noProgramIsNamedByAFolderWhoseNameIsNoText();
     void aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText();
     void aFolderNamedWithTheReplacementCharacterIsUsed();
     void aRelativeFolderIsIgnored();
@@ -75,10 +76,31 @@ void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText()
     QCOMPARE(difference(treeOf(computer.absolute(lost())), before), QString());
     QVERIFY(isThereAlready || !QFileInfo::exists(computer.absolute(lost())));
     QVERIFY2(log.contains("whose name is no text"), log.constData());
-    if (!arguments.isEmpty())
+    if (!arguments.isEmpty()) {
         QCOMPARE(status, 2);
+        QVERIFY2(log.contains("name is not valid text, so no configuration file"), log.constData());
+    }
+    QVERIFY(!log.contains("Proton"));
     if (arguments == words("--REPAIR"))
         QVERIFY(computer.said().constLast().endsWith(QLatin1String("Det: Not updated")));
+}
+
+// Nor is it itself there by such a name, so it finds no catalogue.
+void TestUserFolders::noProgramIsNamedByAFolderWhoseNameIsNoText()
+{
+    Computer computer;
+    computer.program().setTracer(
+        {QStringLiteral("bash"),
+         QStringLiteral("-c"),
+         QStringLiteral("folder='%1'$'caf\\xe9' && mkdir \"$folder\" && cp \"$1\" \"$folder\" && "
+                        "program=\"$folder/${1##*/}\" && shift && exec \"$program\" \"$@\"")
+             .arg(computer.absolute({})),
+         QStringLiteral("bash")});
+    computer.run(quietInstallation());
+    const QByteArray log = computer.program().standardError();
+    QVERIFY2(log.contains("launcher path not written"), log.constData());
+    QVERIFY2(log.contains("the program's folder is not valid text"), log.constData());
+    QVERIFY(treeOf(computer.absolute({})).keys().filter(QStringLiteral("/.path")).isEmpty());
 }
 
 void TestUserFolders::aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText()

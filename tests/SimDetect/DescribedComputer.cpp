@@ -94,7 +94,7 @@ void DescribedComputer::makeOne(const QString &what, const QString &path, const 
     else if (what == QLatin1String("variable"))
         environment.variables.insert(path, rest);
     else if (what == QLatin1String("prefix"))
-        m_asked.append({path.toInt(), rest});
+        m_asked.append({path.toLongLong(), rest});
     else
         qFatal("cannot make this: %s %s", qPrintable(what), qPrintable(path));
 }

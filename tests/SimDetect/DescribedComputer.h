@@ -58,7 +58,7 @@ private:
     void makeXPlane(const QString &path) const;
 
     Sandbox m_sandbox;
-    QVector<QPair<int, QString>> m_asked;
+    QVector<QPair<qint64, QString>> m_asked;
     QStringList m_log;
     qint64 m_duration = 0;
 };

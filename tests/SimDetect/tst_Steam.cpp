@@ -444,13 +444,17 @@ void TestSteam::findsThePrefixOfAGame_data()
                               "snap/steam/common/.local/share/Steam",
                               ".snap/data/steam/common/.local/share/Steam"}) {
         const QByteArray found = QByteArray("$H/") + place + prefix;
-        addCase(
-            place, OnLinux, "dir " + found + "\nprefix 4711 = a.xml", "4711: " + found + "/a.xml");
+        addCase(place,
+                OnLinux,
+                "dir " + found + "/drive_c\nprefix 4711 = a.xml",
+                "4711: " + found + "/a.xml");
     }
     const auto add = [](const char *name, const QByteArray &tree, const QByteArray &found) {
         addCase(name, OnLinux, tree + "\nprefix 4711 = a/b.xml", found);
     };
-    const QByteArray both = "libraries $S = $R/a, $R/b\ndir $R/a" + prefix + "\ndir $R/b" + prefix;
+    const QByteArray drive = prefix + "/drive_c\n";
+    const QByteArray both
+        = "libraries $S = $R/a, $R/b\ndir $R/a" + drive + "dir $R/b" + drive.trimmed();
     add("the first of two libraries", both, "4711: $R/a" + prefix + "/a/b.xml");
     add("the game's library first",
         both + "\ngame $R/b 4711 Kestrel",
@@ -468,25 +472,34 @@ void TestSteam::findsThePrefixOfAGame_data()
         both + "\ngame $S 4711 Kestrel\ndir $S/steamapps/compatdata/4711",
         "4711: $R/a" + prefix + "/a/b.xml");
     add("another root's library",
-        "game $S 4711 Kestrel\ndir $H/.steam/root" + prefix,
+        "game $S 4711 Kestrel\ndir $H/.steam/root" + drive,
         "4711: $H/.steam/root" + prefix + "/a/b.xml");
     add("a link to the game's folder",
-        "dir $R/fast/pfx\ndir $S/steamapps/compatdata\n"
+        "dir $R/fast/pfx/drive_c\ndir $S/steamapps/compatdata\n"
         "link $S/steamapps/compatdata/4711 -> $R/fast",
         "4711: $S" + prefix + "/a/b.xml");
     add("letter case that differs from the disk's",
-        "dir $S/SteamApps/CompatData/4711/pfx/A",
+        "dir $S/SteamApps/CompatData/4711/pfx/A\ndir $S/SteamApps/CompatData/4711/pfx/Drive_C",
         "4711: $S/SteamApps/CompatData/4711/pfx/A/b.xml");
     add("the whole file in letter case that differs",
-        "file $S" + prefix + "/A/B.XML =\nfile $S" + prefix + "/A/c.xml =",
+        "dir $S" + drive + "file $S" + prefix + "/A/B.XML =\nfile $S" + prefix + "/A/c.xml =",
         "4711: $S" + prefix + "/A/B.XML");
     add("an exact match before another",
-        "dir $S" + prefix + "/A\nfile $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.xml =",
+        "dir $S" + drive + "dir $S" + prefix + "/A\nfile $S" + prefix + "/a/B.xml =\nfile $S"
+            + prefix + "/a/b.xml =",
         "4711: $S" + prefix + "/a/b.xml");
     add("several that all differ",
-        "file $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.XML =",
+        "dir $S" + drive + "file $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.XML =",
         "4711: $S" + prefix + "/a/b.xml");
     add("a file for a prefix", "file $S" + prefix + " =", "");
+    add("a prefix without a drive",
+        "dir $S" + prefix + "\nfile $R/b" + prefix
+            + "/drive_c =\nlibraries $S = $R/b, $R/c\ndir $R/c" + drive,
+        "4711: $R/c" + prefix + "/a/b.xml");
+    addCase("a shortcut to a game that is not Steam's",
+            OnLinux,
+            "dir $S/steamapps/compatdata/4294967295/pfx/drive_c\nprefix 4294967295 = a.xml",
+            "4294967295: $S/steamapps/compatdata/4294967295/pfx/a.xml");
     add("a link that leads nowhere",
         "dir $S/steamapps/compatdata/4711\nlink $S" + prefix + " -> $R/unplugged",
         "");

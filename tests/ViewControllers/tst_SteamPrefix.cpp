@@ -36,7 +36,7 @@ QStringList paths(const QMap<QString, QByteArray> &tree)
 void prepare(Workshop &shop, const QByteArray &steam)
 {
     shop.folder("Kestrel");
-    shop.folder(steam + prefix);
+    shop.folder(steam + prefix + "/drive_c");
     shop.writePayload("x", "x");
     shop.writeCatalogue(catalogue());
 }
@@ -124,7 +124,6 @@ private slots:
         auto after = before;
         const QString inside = QString::fromLatin1(steam + prefix);
         for (const QString &made : {QStringLiteral("Kestrel/x"),
-                                    inside + QStringLiteral("/drive_c/"),
                                     inside + QStringLiteral("/drive_c/Roaming/"),
                                     inside + QStringLiteral("/drive_c/Roaming/launch.xml")})
             after.insert(made, {});
@@ -140,8 +139,9 @@ private slots:
     {
         Workshop shop;
         prepare(shop, "home/.steam/root");
-        const QString file
-            = shop.path("home/.steam/root" + QByteArray(prefix) + "/Drive_C/roaming/Launch.XML");
+        const QString inside = shop.path("home/.steam/root" + QByteArray(prefix));
+        QVERIFY(QDir().rmdir(inside + QStringLiteral("/drive_c")));
+        const QString file = inside + QStringLiteral("/Drive_C/roaming/Launch.XML");
         writeFile(file, "<SimBase.Document>\n</SimBase.Document>\n");
         shop.controller().startScan(false, true, ScanController::ModeNone);
         QVERIFY(readFile(file).contains("Quillmont Orbwell"));
@@ -149,11 +149,53 @@ private slots:
             paths(shop.disk()).filter(QRegularExpression(QStringLiteral("(?i)\\.xml$"))).size(), 1);
     }
 
+    void passesOverLeftoversInOtherLetterCase_data()
+    {
+        QTest::addColumn<QByteArray>("steam");
+        QTest::addColumn<QByteArray>("leftover");
+        for (const char *steam : {"home/.local/share/Steam", "home/.steam/root"}) {
+            QTest::addRow("an old steamapps in %s", steam)
+                << QByteArray(steam) << QByteArray(prefix).replace("steamapps", "SteamApps");
+            QTest::addRow("a folder in the prefix in %s", steam)
+                << QByteArray(steam) << QByteArray(prefix);
+        }
+    }
+
+    // As Wine does it: of each folder's names the exact one, with or without the file in it.
+    void passesOverLeftoversInOtherLetterCase()
+    {
+        QFETCH(QByteArray, steam);
+        QFETCH(QByteArray, leftover);
+        Workshop shop;
+        prepare(shop, steam);
+        shop.folder(steam + prefix + "/drive_c/Roaming");
+        const QString other = shop.path(steam + leftover + "/drive_c/roaming/LAUNCH.XML");
+        const QByteArray document = "<SimBase.Document>\n</SimBase.Document>\n";
+        writeFile(other, document);
+        shop.controller().startScan(false, true, ScanController::ModeNone);
+        const QString file = shop.path(steam + prefix + "/drive_c/Roaming/launch.xml");
+        QVERIFY(QFile::exists(file));
+        QVERIFY(readFile(file).contains("Quillmont Orbwell"));
+        QCOMPARE(readFile(other), document);
+    }
+
+    void withoutAPrefixOnlyFilesAreCopied_data()
+    {
+        QTest::addColumn<QByteArray>("game");
+        QTest::newRow("the game has none") << QByteArray("4712");
+        QTest::newRow("the game's number is a text") << QByteArray("\"4711\"");
+        QTest::newRow("the game's number is none of Steam's") << QByteArray("-4711");
+    }
+
     void withoutAPrefixOnlyFilesAreCopied()
     {
+        QFETCH(QByteArray, game);
         Workshop shop;
         prepare(shop, "home/.local/share/Steam");
-        QVERIFY(QDir().rmdir(shop.dataPath("Steam/steamapps/compatdata/4711/pfx")));
+        shop.writeCatalogue(
+            catalogue()
+                .replace("4711", game)
+                .replace(R"([{"source")", R"([{"source": "x", "destination": "y"}, {"source")"));
         shop.controller();
         writeFile(shop.sandbox.home() + QStringLiteral("/extra"), "");
         auto disk = shop.disk();
@@ -161,6 +203,7 @@ private slots:
         shop.controller().startScan(false, true, ScanController::ModeNone);
         auto *mapping = shop.controller().mappings.constFirst();
         disk.insert(QStringLiteral("Kestrel/x"), {});
+        disk.insert(QStringLiteral("Kestrel/y"), {});
         disk.remove(QStringLiteral("home/extra")); // cleared before it is installed
         QCOMPARE(paths(shop.disk()), paths(disk));
         QCOMPARE(shop.record().size(), 1);
@@ -169,6 +212,7 @@ private slots:
         writeFile(shop.sandbox.home() + QStringLiteral("/extra"), "");
         QVERIFY(shop.controller().uninstall(mapping, true, false));
         disk.remove(QStringLiteral("Kestrel/x"));
+        disk.remove(QStringLiteral("Kestrel/y"));
         disk.remove(QStringLiteral("Kestrel/"));
         QCOMPARE(paths(shop.disk()), paths(disk));
         QVERIFY(shop.record().isEmpty());
@@ -185,10 +229,10 @@ private slots:
     {
         Workshop shop;
         prepare(shop, "home/.local/share/Steam");
-        QVERIFY(QDir().rmdir(shop.dataPath("Steam/steamapps/compatdata/4711/pfx")));
+        QVERIFY(QDir().rmdir(shop.dataPath("Steam/steamapps/compatdata/4711/pfx/drive_c")));
         shop.controller().startScan(false, true, ScanController::ModeNone);
         QCOMPARE(shop.controller().mappings.constFirst()->scan->config->path, QString());
-        shop.folder("home/.steam/root" + QByteArray(prefix));
+        shop.folder("home/.steam/root" + QByteArray(prefix) + "/drive_c");
         shop.controller().startScan(false, true, ScanController::ModeNone);
         auto *mapping = shop.controller().mappings.constFirst();
         QVERIFY(!mapping->scan->config->path.isEmpty());
@@ -216,7 +260,7 @@ private slots:
         shop.writeCatalogue(catalogue(conflict).chopped(1) + other);
         shop.controller().startScan(false, true, ScanController::ModeNone);
         QVERIFY(readFile(shop.dataPath("Lark/launch.xml")).contains("Quillmont Orbwell"));
-        QVERIFY(QDir(shop.path(steam + prefix)).isEmpty());
+        QVERIFY(QDir(shop.path(steam + prefix + "/drive_c")).isEmpty());
 
         QVERIFY(QDir(shop.path(steam)).removeRecursively());
         auto *mapping = shop.controller().mappings.constLast();
@@ -225,15 +269,21 @@ private slots:
         QVERIFY(!readFile(shop.dataPath("Lark/launch.xml")).contains("Quillmont Orbwell"));
     }
 
-    void aDataRootThatIsMissingLeadsNowhere()
+    void isFoundWhileTheDataRootIsMissing()
     {
         Workshop shop;
         prepare(shop, "home/.steam/root");
         shop.controller();
-        QVERIFY(QDir(shop.path("home/.local")).removeRecursively());
+        const QString local = shop.path("home/.local");
+        QVERIFY(QDir(local).removeRecursively());
         shop.controller().startScan(false, false, ScanController::ModeNone);
-        const auto *scan = shop.controller().findChild<FlightSimScan *>();
-        QCOMPARE(scan->config->path, QString());
+        auto *mapping = shop.controller().findChild<FlightSimulatorMapping *>();
+        shop.controller().installToFlightSim(mapping);
+        const QString file
+            = shop.path("home/.steam/root" + QByteArray(prefix) + "/drive_c/Roaming/launch.xml");
+        QVERIFY(QFile::exists(file));
+        QVERIFY(readFile(file).contains("Quillmont Orbwell"));
+        QVERIFY(!QFile::exists(local));
     }
 };
 

@@ -26,11 +26,13 @@ private slots:
 
     void takesTheGameFromAWholeNumber_data()
     {
-        QTest::addColumn<int>("steam");
-        QTest::newRow(R"({"steam": 314160})") << 314160;
-        QTest::newRow("{}") << 0;
-        for (const char *value : {R"("314160")", "314160.5", "99999999999", "true", "null", "[1]"})
-            QTest::addRow(R"({"steam": %s})", value) << 0;
+        QTest::addColumn<qint64>("steam");
+        QTest::newRow(R"({"steam": 314160})") << 314160LL;
+        QTest::newRow(R"({"steam": 4294967295})") << 4294967295LL;
+        QTest::newRow("{}") << 0LL;
+        for (const char *value :
+             {R"("314160")", "314160.5", "4294967296", "0", "-1", "true", "null", "[1]"})
+            QTest::addRow(R"({"steam": %s})", value) << -1LL;
     }
 
     void takesTheGameFromAWholeNumber()
