@@ -114,6 +114,11 @@ void TestFlightGear::findsItsData_data()
                file $H/.fgfs/fgdata_2024_1/version = 2024.1.1
                file $H/.fgfs/fgdata_2024_1/defaults.xml =)",
             "FGFS: $R/usr/share/flightgear");
+    addCase("packaged ones in their order",
+            OnLinux,
+            data("$R/usr/share/games/FlightGear $R/usr/local/share/flightgear "
+                 "$R/usr/share/flightgear/data $R/usr/share/flightgear"),
+            "FGFS: $R/usr/share/flightgear");
 }
 
 void TestFlightGear::asksItsLauncher_data()
@@ -266,6 +271,12 @@ void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
             OnBoth,
             data("$R/fg/fgdata_2020_3 $H/.fgfs/fgdata_2024_1") + "variable FG_HOME = $R/fg",
             "FGFS: $R/fg/fgdata_2020_3");
+    addCase("in the place that the launcher names on either system",
+            OnBoth,
+            "variable FG_HOME = $R/fg\nfile $R/fg/FlightGear/FlightGear.ini = "
+            "[General]\\ndownload-dir=$R/downloads\n"
+                + data("$R/downloads/fgdata_2024_1"),
+            "FGFS: $R/downloads/fgdata_2024_1");
     addCase(
         "a download under way, and a place that is none",
         OnLinux,
