@@ -28,7 +28,7 @@ QByteArray linkTarget(const QString &path)
         return {};
     constexpr int longestChain = 40; // the system's own limit
     fs::path place = inRealFolder(QFile::encodeName(path).toStdString());
-    for (int i = 0; i < longestChain && !place.empty(); ++i) {
+    for (int i = 0; i <= longestChain && !place.empty(); ++i) {
         std::error_code failure;
         const fs::path link = fs::read_symlink(place, failure);
         if (failure == std::errc::invalid_argument // not a link

@@ -234,6 +234,7 @@ void TestFlightGear::asksItsLauncher_data()
     written("escapes",
             R"(fg-root-2024-1=$R/Flugger\\xe4t \\x98db\\xd83d\\xdeec)",
             "$R/Fluggerät 飛🛬");
+    written("a long escape", R"(fg-root-2024-1=$R/Flugger\\x000e4t)", "$R/Fluggerät");
     written("a backslash and a quote", R"(fg-root-2024-1="$R/a\\\\b\\"c")", "$R/a\\b\"c");
     written("UTF-8", "fg-root-2024-1=$R/Fluggerät", "$R/Fluggerät");
     written("Latin-1", R"(fg-root-2024-1=$R/Flugger\xE4t)", "$R/Fluggerät");
@@ -257,6 +258,21 @@ void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
             OnLinux,
             there + data("$H/.fgfs/fgdata_2024_1 $R/downloads/fgdata_2020_3"),
             "FGFS: $H/.fgfs/fgdata_2024_1");
+    addCase("one version in both places",
+            OnLinux,
+            there + data("$H/.fgfs/fgdata_2024_1 $R/downloads/fgdata_2024_1"),
+            "FGFS: $H/.fgfs/fgdata_2024_1");
+    addCase(
+        "a folder of another name", OnLinux, there + data("$R/downloads/old_fgdata_2024_1"), "");
+    for (const int others : {255, 256}) {
+        addCase("behind " + QByteArray::number(others) + " places that are gone",
+                OnLinux,
+                data("$R/downloads/fgdata_2024_1")
+                    + launcher("[General]\\n"
+                               + QByteArray("download-dir=$R/gone\\n").repeated(others)
+                               + "download-dir=$R/downloads"),
+                others < 256 ? "FGFS: $R/downloads/fgdata_2024_1" : "");
+    }
     addCase("after a packaged one",
             OnLinux,
             there + data("$R/downloads/fgdata_2024_1 $R/usr/share/flightgear"),

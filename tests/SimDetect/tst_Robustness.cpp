@@ -1,5 +1,7 @@
 #include "tests/SimDetect/DescribedComputer.h"
+#include "tests/support/Attributes.h"
 #include "tests/support/Files.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -38,11 +40,14 @@ private slots:
     void answersSoonWhateverIsThere();
     void answersSoonWithAllOfItAtOnce();
     void looksAtNoMoreFoldersThanMakeSense();
+    void followsPathsUpToABound_data();
+    void followsPathsUpToABound();
     void readsNoMoreThanMakesSense();
     void readsFilesUpToABound_data();
     void readsFilesUpToABound();
     void readsWhatComesBehindJunk();
     void opensNoFileTwice();
+    void saysThatAFolderIsClosed_data();
     void saysThatAFolderIsClosed();
 };
 
@@ -266,6 +271,30 @@ void TestRobustness::looksAtNoMoreFoldersThanMakeSense()
     QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
 }
 
+void TestRobustness::followsPathsUpToABound_data()
+{
+    QTest::addColumn<QString>("step"); // in front of the path
+    QTest::addColumn<int>("size"); // of the whole, in letters or in names
+    QTest::addColumn<bool>("isFollowed");
+    QTest::newRow("the longest") << QStringLiteral("/") << 4096 << true;
+    QTest::newRow("a longer one") << QStringLiteral("/") << 4097 << false;
+    QTest::newRow("the deepest") << QStringLiteral("/.") << 128 << true;
+    QTest::newRow("a deeper one") << QStringLiteral("/.") << 129 << false;
+}
+
+void TestRobustness::followsPathsUpToABound()
+{
+    QFETCH(const QString, step);
+    QFETCH(const int, size);
+    QFETCH(const bool, isFollowed);
+    DescribedComputer computer(Environment::Linux);
+    const QString path = computer.expanded(QStringLiteral("$R/sim"));
+    const int itsSize = step.size() == 1 ? path.size() : path.count(u'/');
+    computer.make(QStringLiteral("xplane %1\nfile $L/x-plane_install_12.txt = %2%1")
+                      .arg(path, step.repeated(size - itsSize)));
+    QCOMPARE(computer.detect(), isFollowed ? QStringLiteral("XP12: ") + path : QString());
+}
+
 // Each of a tolerable size, and with nothing wrong up to the last brace.
 void TestRobustness::readsNoMoreThanMakesSense()
 {
@@ -404,23 +433,38 @@ void TestRobustness::opensNoFileTwice()
 #endif
 }
 
+void TestRobustness::saysThatAFolderIsClosed_data()
+{
+    QTest::addColumn<unsigned>("mode");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("nothing is allowed") << 0U << "no permission to look inside";
+    QTest::newRow("only to list it") << 0400U << "no permission to look inside";
+    QTest::newRow("only to open what is in it") << 0100U << "no permission to look inside";
+    QTest::newRow("to look at it") << 0500U << "no X-Plane executable";
+}
+
+// FlightGear's data can be known without a list of what is beside it.
 void TestRobustness::saysThatAFolderIsClosed()
 {
-    if (geteuid() == 0)
-        QSKIP("Nothing is closed to root.");
+    QFETCH(const unsigned, mode);
+    QFETCH(const QString, reason);
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
-        xplane $R/closed
+        dir $R/closed/Resources/plugins
+        file $R/closed/version = 2020.3
+        file $R/closed/defaults.xml =
+        variable FG_ROOT = $R/closed
         xplane $R/good
         file $L/x-plane_install_12.txt = $R/closed\n$R/good\n)"));
-    const QString closed = computer.expanded(QStringLiteral("$R/closed"));
-    QFile::setPermissions(closed, {});
+    const Unprivileged user(computer.environment.root);
+    setMode(computer.expanded(QStringLiteral("$R/closed")), mode);
     const QString found = computer.detect();
-    QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QCOMPARE(found, computer.expanded(QStringLiteral("XP12: $R/good")));
-    QCOMPARE(computer.log(),
-             {computer.expanded(
-                 QStringLiteral("XP12 not taken: $R/closed: no permission to look inside"))});
+    setMode(computer.expanded(QStringLiteral("$R/closed")), 0700);
+    QCOMPARE(found,
+             computer.expanded((mode & 0100) != 0 ? QStringLiteral("FGFS: $R/closed\nXP12: $R/good")
+                                                  : QStringLiteral("XP12: $R/good")));
+    QCOMPARE(computer.log().constFirst(),
+             computer.expanded(QStringLiteral("XP12 not taken: $R/closed: ") + reason));
 }
 
 QTEST_GUILESS_MAIN(TestRobustness)

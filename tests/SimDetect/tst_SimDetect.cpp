@@ -5,7 +5,9 @@
 #include "tests/SimDetect/DescribedComputer.h"
 #include "tests/support/Files.h"
 
+#include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Quillmont::SimDetect;
@@ -73,7 +75,8 @@ void TestSimDetect::findsNothingWithoutAHome_data()
 {
     QTest::addColumn<QString>("home");
     QTest::newRow("none") << QString();
-    QTest::newRow("a relative one") << QStringLiteral("home");
+    const DescribedComputer any(Environment::Linux);
+    QTest::newRow("a relative one") << QFileInfo(any.environment.home).fileName();
     QTest::newRow("one that is a file") << QStringLiteral("/dev/null");
 }
 
@@ -82,6 +85,10 @@ void TestSimDetect::findsNothingWithoutAHome()
     QFETCH(QString, home);
     for (const auto system : {Environment::Linux, Environment::MacOS}) {
         DescribedComputer computer(system);
+        computer.make(QStringLiteral("xplane $R/sim\nfile $L/x-plane_install_12.txt = $R/sim"));
+        // Where a relative one would lead to the list.
+        QDir::setCurrent(QFileInfo(computer.environment.home).path());
+        const auto leave = qScopeGuard([] { QDir::setCurrent(QDir::rootPath()); });
         computer.environment.home = home;
         QCOMPARE(computer.detect(), QString());
         QCOMPARE(computer.log(), QStringList());

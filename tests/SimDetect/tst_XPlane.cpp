@@ -207,6 +207,25 @@ void TestXPlane::passesOverWhatIsNoXPlane_data()
             "",
             "XP12 not taken: $R/link: no Resources/plugins\n"
             "XP12 not taken: $R/gone: no such folder");
+    const QByteArray shown = '/' + QByteArray(499, 'p');
+    addCase("the log shows the beginning of a long path",
+            OnBoth,
+            "file $L/x-plane_install_12.txt = " + shown + "\\n" + shown + 'p',
+            "",
+            QByteArray("XP12 not taken: " + shown + ": no such folder\n").repeated(2));
+    addCase("the log shows a name in any script",
+            OnBoth,
+            "file $L/x-plane_install_12.txt = /飛行🛬",
+            "",
+            "XP12 not taken: /飛行🛬: no such folder");
+    for (const int others : {255, 256}) {
+        addCase("behind " + QByteArray::number(others) + " folders that are gone",
+                OnBoth,
+                "xplane $R/good\nfile $L/x-plane_install_12.txt = "
+                    + QByteArray("$R/gone\\n").repeated(others) + "$R/good",
+                others < 256 ? "XP12: $R/good" : "",
+                "XP12 not taken: $R/gone: no such folder");
+    }
     addCase("control characters stay out of the log",
             OnBoth,
             R"(file $L/x-plane_install_12.txt = $R/a\0b\x1B[31m)",

@@ -23,7 +23,7 @@ private slots:
 
 static const char *const entry = R"({"name": "Sim A",
     "files": [{"source": "A/one.dll", "destination": "one.dll"}],
-    "config": {"path": "Maker/FSX/dll.xml", "parent": "Launch.Addon",
+    "config": {"path": "$path", "parent": "Launch.Addon",
         "values": [{"key": "Name", "value": "Our entry"}],
         "remove": {"delete_parent": true}}})";
 
@@ -34,9 +34,13 @@ void TestConfigurationFile::isFoundInAnyLetterCase_data()
 {
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("expected");
+    QTest::addColumn<QByteArray>("path"); // as the catalogue has it
     const QString exact = QStringLiteral("Maker/FSX/dll.xml");
-    const auto row = [](const char *name, const QStringList &files, const QString &expected) {
-        QTest::newRow(name) << files << expected;
+    const auto row = [](const char *name,
+                        const QStringList &files,
+                        const QString &expected,
+                        const QByteArray &path = "Maker/FSX/dll.xml") {
+        QTest::newRow(name) << files << expected << path;
     };
     row("no file", {}, exact);
     row("exact", {exact}, exact);
@@ -55,6 +59,18 @@ void TestConfigurationFile::isFoundInAnyLetterCase_data()
         {QStringLiteral("Maker/FSX/exe.xml"), QStringLiteral("maker/fsx/dll.xml")},
         QStringLiteral("maker/fsx/dll.xml"));
     row("folder of that name", {QStringLiteral("Maker/FSX/DLL.XML/readme.txt")}, exact);
+    const QString other = QStringLiteral("maker/fsx/dll.xml");
+    row("two slashes", {other}, other, "Maker//FSX/dll.xml");
+    row("a step that stays", {other}, other, "Maker/./FSX/dll.xml");
+    row("a step up", {other}, other, "Maker/../Maker/FSX/dll.xml");
+    row("a step up from the folder that is there",
+        {QStringLiteral("Maker/x"), QStringLiteral("maker/x"), QStringLiteral("fsx/dll.xml")},
+        QStringLiteral("fsx/dll.xml"),
+        "Maker/../FSX/dll.xml");
+    row("hidden",
+        {QStringLiteral(".maker/.Dll.xml")},
+        QStringLiteral(".maker/.Dll.xml"),
+        ".Maker/.dll.xml");
     row("longer name", {QStringLiteral("Maker/FSX/DLL.XML.bak")}, exact);
 }
 
@@ -62,11 +78,12 @@ void TestConfigurationFile::isFoundInAnyLetterCase()
 {
     QFETCH(const QStringList, files);
     QFETCH(const QString, expected);
+    QFETCH(const QByteArray, path);
     Workshop shop;
     shop.writePayload("A/one.dll", "one");
     for (const QString &file : files)
         writeFile(shop.dataPath(file.toUtf8()), others);
-    auto *mapping = shop.mapping(entry, shop.folder("A"));
+    auto *mapping = shop.mapping(QByteArray(entry).replace("$path", path), shop.folder("A"));
 
     QVERIFY(shop.controller().install(mapping, true, false));
     for (const QString &file : files) {
@@ -132,7 +149,8 @@ void TestConfigurationFile::namesTheFilesOfWhichNoneIsTaken()
     shop.writePayload("A/one.dll", "one");
     writeFile(shop.dataPath("Maker/FSX/DLL.XML"), others);
     writeFile(shop.dataPath("Maker/FSX/Dll.xml"), others);
-    shop.controller().install(shop.mapping(entry, shop.folder("A")), true, false);
+    const QByteArray exact = QByteArray(entry).replace("$path", "Maker/FSX/dll.xml");
+    shop.controller().install(shop.mapping(exact, shop.folder("A")), true, false);
     const QString said = shop.log.actions().join(u'\n');
     QVERIFY2(said.contains(shop.dataPath("Maker/FSX/DLL.XML")), qPrintable(said));
     QVERIFY2(said.contains(shop.dataPath("Maker/FSX/Dll.xml")), qPrintable(said));

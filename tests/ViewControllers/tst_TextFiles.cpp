@@ -321,14 +321,20 @@ private slots:
         Tests::setMode(file, mode);
         if (!list.isEmpty() && !Tests::setAttribute(file, Tests::accessListName, list))
             QSKIP("no access lists on this file system");
+        const bool hasNote = Tests::setAttribute(file, "user.note", "mine");
         s_modes.clear();
-        changeConfiguration(shop, true);
+        shop.controller();
+        {
+            const Tests::Unprivileged user(shop.sandbox.root());
+            changeConfiguration(shop, true);
+        }
         const QString backup = shop.backups().constFirst();
         QCOMPARE(Tests::modeOf(backup), mode);
         // Nor for the moment before it has the list.
         if (!s_modes.isEmpty())
             QCOMPARE(s_modes, QVector<unsigned>{0600});
         QCOMPARE(Tests::attribute(backup, Tests::accessListName), list);
+        QCOMPARE(Tests::attribute(backup, "user.note"), QByteArray(hasNote ? "mine" : ""));
     }
 
     // Whoever runs the program cannot give the backup the file's group.

@@ -2,6 +2,7 @@
 #include "tests/support/Unprivileged.h"
 
 #include "Controllers/ConfigurationController.h"
+#include "Controllers/UserFiles.h"
 #include "Library/Helpers/XmlHelper.h"
 
 #include <QApplication>
@@ -14,6 +15,7 @@
 
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::ConfigurationController;
+using Quillmont::Utility::Controllers::userDataRoot;
 using Tests::box;
 using Tests::readFile;
 using Tests::SettingsHome;
@@ -540,6 +542,11 @@ private slots:
         row("data root", "17", "V/x.cfg", data + QStringLiteral("V/x.cfg"));
         row("home", "8", "/x.cfg", QStringLiteral("home/x.cfg"));
         row("home, glued", "8", "-x.cfg", QStringLiteral("home-x.cfg"));
+        const auto last = userDataRoot(QStandardPaths::AppConfigLocation);
+        row("last of all",
+            "18",
+            "/x.cfg",
+            QDir::cleanPath(last + QStringLiteral("/x.cfg")).mid(shop.sandbox.root().size() + 1));
         row("desktop", "0", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
         row("no number", "abc", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
         row("no root", "", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));

@@ -19,7 +19,12 @@ void giveAway(const QString &path)
 
 void become(uid_t user)
 {
+#ifdef Q_OS_LINUX
+    // The real user as well, of whom QFileInfo asks what may be done.
+    if (setresuid(user, user, 0) != 0)
+#else
     if (seteuid(user) != 0)
+#endif
         qFatal("cannot become user %u", user);
 }
 

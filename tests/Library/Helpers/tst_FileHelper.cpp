@@ -213,6 +213,7 @@ void TestFileHelper::onlyWhatComesToAnEndIsOpened()
         QCOMPARE(FileHelper::open(&opened, mode, &problem), expected);
         QCOMPARE(opened.isOpen(), expected);
         QCOMPARE(problem.isEmpty(), expected);
+        QCOMPARE(problem.startsWith(QLatin1String("not a")), !forWriting);
         if (expected)
             QCOMPARE(opened.readAll(),
                      QByteArray(file.endsWith(u'l') || file.endsWith(u'k') ? "text" : ""));

@@ -94,9 +94,9 @@ private slots:
 
     void keepsTheNamedValuesInOrder()
     {
-        const XmlInsertionModel model(nullptr, json(R"({"parent": "Launch.Addon", "values": [
-            {"key": "Path", "value": "x"}, {"value": "nameless"}, "no object",
-            {"key": "Name"}, {"key": "Path", "value": 1}]})"));
+        const XmlInsertionModel model(nullptr, json(R"({"parent": "Launch.Addon", "remove": {
+            "parent": "Other"}, "values": [{"key": "Path", "value": "x"}, {"value": "nameless"},
+            "no object", {"key": "Name"}, {"key": "Path", "value": 1}]})"));
         QCOMPARE(model.parentName, "Launch.Addon"_s);
         QCOMPARE(model.values, (XmlValues{{"Path"_s, "x"_s}, {"Name"_s, {}}, {"Path"_s, {}}}));
     }
