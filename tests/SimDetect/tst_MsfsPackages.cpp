@@ -172,7 +172,7 @@ void TestMsfsPackages::wantsItsMarks_data()
     }
     const QByteArray file2024
         = "file " + roaming2024() + R"(/UserCfg.opt = InstalledPackagesPath "C:\\P")" + "\n";
-    for (const char *mark : {"Community", "Community2024", "Official2024", "StreamedPackages"}) {
+    for (const char *mark : {"Community", "community2024", "Official2024", "StreamedPackages"}) {
         const QByteArray name = QByteArray("2024: ") + mark;
         addCase(name,
                 OnLinux,
@@ -183,7 +183,8 @@ void TestMsfsPackages::wantsItsMarks_data()
             OnLinux,
             settings(R"(InstalledPackagesPath "C:\\P")") + "dir " + prefix2020()
                 + "/drive_c/P/Official2024\n" + file2024 + "dir " + prefix2024()
-                + "/drive_c/P/Official/Steam\nfile " + prefix2024() + "/drive_c/P/Community =",
+                + "/drive_c/P/Official/Steam\nfile " + prefix2024()
+                + "/drive_c/P/Community =\nfile " + prefix2024() + "/drive_c/P/StreamedPackages =",
             "",
             "MSFS2020 not taken: " + prefix2020()
                 + "/drive_c/P: no Community, Official/Steam or Official/OneStore\n"

@@ -190,6 +190,12 @@ void TestSteam::findsItsLibraries_data()
         game
             + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "1" { "path" "$R/x" "path" "$R/drive" } "1" "$R/drive" } "libraryfolders" { "2" "$R/drive" })",
         "");
+    for (const int others : {254, 255, 256}) {
+        addCase("behind " + QByteArray::number(others) + " that are gone",
+                OnBoth,
+                game + "libraries $S = " + QByteArray("$R/gone, ").repeated(others) + "$R/drive",
+                others < 256 ? found : "");
+    }
     addCase("the list of games in it says nothing",
             OnBoth,
             R"(xplane $S/steamapps/common/X-Plane 12
@@ -488,6 +494,9 @@ void TestSteam::findsThePrefixOfAGame_data()
         "dir $S" + drive + "dir $S" + prefix + "/A\nfile $S" + prefix + "/a/B.xml =\nfile $S"
             + prefix + "/a/b.xml =",
         "4711: $S" + prefix + "/a/b.xml");
+    add("folders that fold to the same letters",
+        "dir $S" + prefix + "/\u00df\nprefix 4711 = SS/b.xml",
+        "4711: $S" + prefix + "/SS/b.xml\n4711: $S" + prefix + "/a/b.xml");
     add("several that all differ",
         "dir $S" + drive + "file $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.XML =",
         "4711: $S" + prefix + "/a/b.xml");

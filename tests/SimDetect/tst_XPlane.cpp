@@ -106,6 +106,17 @@ void TestXPlane::readsItsLists_data()
             R"(xplane $R/Sims/X-Plane 12
                file $L/x-plane_install_12.txt = $R/sims/x-plane 12/)",
             "XP12: $R/Sims/X-Plane 12");
+    addCase("a hidden folder in letter case that differs from the disk's",
+            OnBoth,
+            R"(xplane $R/.Sims/X-Plane 12
+               file $L/x-plane_install_12.txt = $R/.sims/X-Plane 12/)",
+            "XP12: $R/.Sims/X-Plane 12");
+    addCase("a name that only folds to the same letters",
+            OnBoth,
+            R"(xplane $R/Groß
+               file $L/x-plane_install_12.txt = $R/GROSS)",
+            "",
+            "XP12 not taken: $R/GROSS: no such folder");
     addCase("a link is reported as the link",
             OnBoth,
             R"(xplane $R/real
@@ -120,6 +131,12 @@ void TestXPlane::readsItsLists_data()
                file $L/x-plane_install_9.txt = $R/good/)",
             "",
             "XP10 not taken: $L/x-plane_install_10.txt: not a plain file");
+    addCase("a list that is a link",
+            OnBoth,
+            R"(xplane $R/good
+               link $L/x-plane_install_12.txt -> $R/list
+               file $R/list = $R/good/)",
+            "XP12: $R/good");
     addCase("the other system's list",
             OnLinux,
             R"(xplane $R/good

@@ -263,6 +263,32 @@ private slots:
         QCOMPARE(shop.record().size(), 1);
     }
 
+    void namesADeadLinkInAPathThatSystemsTake_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("isNamed");
+        QTest::newRow("the longest") << 4096 << true;
+        QTest::newRow("a longer one") << 4097 << false;
+    }
+
+    void namesADeadLinkInAPathThatSystemsTake()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, isNamed);
+        Workshop shop;
+        writePayload(shop);
+        const QString link = shop.path("link");
+        QVERIFY(QFile::link(shop.path("gone"), link));
+        const QString folder
+            = (link + QStringLiteral("/x").repeated(2100)).left(size - int(strlen("/one.dll")) - 1);
+        auto *mapping = shop.mapping(
+            R"({"type": 1, "files": [{"source": "A/one.dll", "destination": "one.dll"}]})",
+            folder + u'x');
+        QVERIFY(!shop.controller().install(mapping, true, false));
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("leads nowhere")).size(),
+                 isNamed ? 1 : 0);
+    }
+
     void aFailedCopyHasAlreadyRemovedTheOldFile()
     {
         Workshop shop;
@@ -272,6 +298,7 @@ private slots:
         auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
         QVERIFY(!shop.controller().install(mapping, true, false));
         QCOMPARE(Tests::treeOf(shop.path("A/Modules")).keys(), QStringList());
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("old file removed: ")).size(), 1);
         QCOMPARE(shop.controller().m_errorMessage,
                  unableToCopyLine(
                      QStringLiteral("A/one.dll"), shop.path("A/Modules/one.dll"), shop.path("A/")));
@@ -282,6 +309,7 @@ private slots:
         QTest::addColumn<QString>("obstacle");
         QTest::addColumn<QByteArray>("deadLink"); // as the log names it
         QTest::newRow("a folder in the file's place") << "folder" << QByteArray();
+        QTest::newRow("a folder behind a link") << "folder link" << QByteArray();
         QTest::newRow("a file in the folder's place") << "file" << QByteArray();
         QTest::newRow("a dangling link in the folder's place") << "link" << QByteArray("A/Modules");
         QTest::newRow("a dangling link in the file's place")
@@ -296,12 +324,15 @@ private slots:
         writePayload(shop);
         if (obstacle == QLatin1String("folder"))
             writeFile(shop.path("A/Modules/one.dll/precious"), "precious");
+        else if (obstacle == QLatin1String("folder link"))
+            QFile::link(shop.path("far"), shop.folder("A") + QStringLiteral("/Modules"));
         else if (obstacle == QLatin1String("file"))
             writeFile(shop.path("A/Modules"), "precious");
         else if (obstacle == QLatin1String("file link"))
             QFile::link(shop.path("gone"), shop.folder("A/Modules") + QStringLiteral("/one.dll"));
         else
             QFile::link(shop.path("gone"), shop.folder("A") + QStringLiteral("/Modules"));
+        writeFile(shop.path("far/one.dll/precious"), "precious");
         auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
         auto disk = shop.disk();
         QVERIFY(!shop.controller().install(mapping, false, false));

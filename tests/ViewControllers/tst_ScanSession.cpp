@@ -323,16 +323,24 @@ private slots:
     void hasTheBusyPointerUpWhileItWorks()
     {
         Workshop shop;
-        shop.writeCatalogue(R"([{"location": 1}])");
+        // A removal that fails opens a box in the midst of the scan.
+        writeFile(shop.path("A/x/inside"), "precious");
+        shop.writeCatalogue(R"([{"location": 1, "path": "$ROOT/A", "type": 1,
+            "files": [{"destination": "x"}, {"destination": "y"}]}])");
         shop.controller();
-        bool busy = false;
+        int lines = 0;
+        int busy = 0;
         shop.log.atEachDebugLine([&](const QString &) {
             const auto *pointer = QApplication::overrideCursor();
-            busy = pointer && pointer->shape() == Qt::WaitCursor;
+            busy += pointer && pointer->shape() == Qt::WaitCursor ? 1 : 0;
+            ++lines;
         });
         shop.controller().startScan(false, false, ScanController::ModeScanAndInstall);
-        QVERIFY(busy);
-        QVERIFY(!shop.answerer.boxes().constFirst().busyPointer);
+        QVERIFY(lines > 0);
+        QCOMPARE(busy, lines);
+        QCOMPARE(shop.answerer.boxes().size(), 2);
+        for (const auto &box : shop.answerer.boxes())
+            QVERIFY(!box.busyPointer);
         QVERIFY(!QApplication::overrideCursor());
     }
 
