@@ -289,6 +289,16 @@ private slots:
                  isNamed ? 1 : 0);
     }
 
+    void waitsForNobodyWhereNoLockCanBeHad()
+    {
+        Workshop shop;
+        writePayload(shop);
+        writeFile(shop.dataPath("Quillmont"), "precious");
+        shop.controller().install(shop.mapping(plainSimulator, shop.folder("A")), true, false);
+        QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("waiting")), QStringList());
+    }
+
     void aFailedCopyHasAlreadyRemovedTheOldFile()
     {
         Workshop shop;

@@ -125,6 +125,12 @@ private slots:
                 {"name": "Sim A", "path": "newer", "files": ["$ROOT/no"]}])",
             "new");
         row("after wrong ones", R"([[], {}, 1, {"name": "Sim A", "path": "new"}])", "new");
+        const auto beside = [](int depth) {
+            return "[" + QByteArray(depth, '[') + QByteArray(depth, ']')
+                + R"(, {"name": "Sim A", "path": "new"}])";
+        };
+        row("as deep as it may be", beside(1023).constData(), "new");
+        row("deeper than it may be", beside(1024).constData(), "old");
         row("cut off", R"([{"name": "Sim A", "path": "new"})", "old");
         row("an object", R"({"name": "Sim A", "path": "new"})", "old");
         row("not JSON", "\xff\xfe\x01 anything", "old");

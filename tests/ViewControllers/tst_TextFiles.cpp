@@ -9,9 +9,11 @@
 #include <QTest>
 #include <QTextCodec>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 using Tests::Workshop;
@@ -20,8 +22,18 @@ using Tests::writeFile;
 // The modes that files have been given by their names.
 static QVector<unsigned> s_modes;
 
+// How often the disk can still be read; below zero as often as one likes.
+static int s_reads = -1;
+
 #ifdef Q_OS_LINUX
-// Stands in front of the C library's.
+// Both stand in front of the C library's.
+extern "C" ssize_t read(int handle, void *bytes, size_t size)
+{
+    errno = EIO;
+    s_reads -= s_reads > 0 ? 1 : 0;
+    return s_reads == 0 ? -1 : syscall(SYS_read, handle, bytes, size);
+}
+
 extern "C" int chmod(const char *name, mode_t mode) noexcept
 {
     s_modes.append(mode);
@@ -208,6 +220,22 @@ private slots:
         QCOMPARE(shop.controller().readFile(pipe), QString());
         shop.controller().saveFile(pipe, QStringLiteral("text"));
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(pipe) + unableToWriteLine(pipe));
+    }
+
+    void readsNothingOfWhatIsReadInPart()
+    {
+        Workshop shop;
+        const QString file = shop.path("file");
+        writeFile(file, QByteArray(1000 * 1000, 'x'));
+        shop.controller();
+        s_reads = 3;
+        const QString text = shop.controller().readFile(file);
+        const bool hasFailed = s_reads == 0;
+        s_reads = -1;
+        if (!hasFailed)
+            QSKIP("no reading that fails on this system");
+        QCOMPARE(text.size(), 0);
+        QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(file));
     }
 
     void readsNothingThatHasNoEnd()

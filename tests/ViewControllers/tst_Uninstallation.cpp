@@ -597,15 +597,18 @@ private slots:
         Workshop shop;
         writeFile(shop.path("home/folder/inside"), "precious");
         writeFile(shop.path("home/two"), "ours");
+        QVERIFY(QFile::link(shop.path("gone"), shop.path("home/dead")));
         auto *mapping = shop.mapping(R"({"name": "Sim A", "files": [{"destination": "one.dll"}],
             "config": {"path": "dll.xml", "remove": {"files": [
             {"root": "8", "path": "/missing"}, {"root": "8", "path": "/folder"}, 5,
+            {"root": "8", "path": "/dead"},
             {"root": "8", "path": "/two"}]}}})",
                                      shop.folder("A"));
         QVERIFY(shop.controller().uninstall(mapping, false, false));
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
         QCOMPARE(readFile(shop.path("home/folder/inside")), QByteArray("precious"));
         QVERIFY(!QFile::exists(shop.path("home/two")));
+        QVERIFY(!QFileInfo(shop.path("home/dead")).isSymLink());
     }
 
     void scansAgainBeforeItTells_data()

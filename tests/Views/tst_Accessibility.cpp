@@ -293,6 +293,8 @@ void TestAccessibility::showsAPathInTheToolTipAsItIs_data()
     QTest::newRow("plain") << QStringLiteral("/simulators/A & B");
     QTest::newRow("with tags") << QStringLiteral("/simulators/<b>bold</b>/<img src='x'>");
     QTest::newRow("long") << QStringLiteral("/very long folder").repeated(40);
+    QTest::newRow("just short of wrapping") << QString(119, u'/');
+    QTest::newRow("just long enough to wrap") << QString(120, u'/');
     QTest::newRow("blanks") << QStringLiteral("/a   b").repeated(40);
 }
 
@@ -301,6 +303,7 @@ void TestAccessibility::showsAPathInTheToolTipAsItIs()
     QFETCH(QString, path);
     m_view->setScanResult({mapping(QStringLiteral("Skylark"), path)}, false, true);
     const QString toolTip = row(0).path->toolTip();
+    QCOMPARE(Qt::mightBeRichText(toolTip), path.size() >= 120 || Qt::mightBeRichText(path));
     QTextDocument shown;
     if (Qt::mightBeRichText(toolTip))
         shown.setHtml(toolTip);
