@@ -111,12 +111,6 @@ void TestXPlane::readsItsLists_data()
             R"(xplane $R/.Sims/X-Plane 12
                file $L/x-plane_install_12.txt = $R/.sims/X-Plane 12/)",
             "XP12: $R/.Sims/X-Plane 12");
-    addCase("a name that only folds to the same letters",
-            OnBoth,
-            R"(xplane $R/Groß
-               file $L/x-plane_install_12.txt = $R/GROSS)",
-            "",
-            "XP12 not taken: $R/GROSS: no such folder");
     addCase("a link is reported as the link",
             OnBoth,
             R"(xplane $R/real

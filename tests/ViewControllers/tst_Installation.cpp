@@ -289,12 +289,23 @@ private slots:
                  isNamed ? 1 : 0);
     }
 
-    void waitsForNobodyWhereNoLockCanBeHad()
+    void waitsForNobodyWhoIsNotThere_data()
     {
+        QTest::addColumn<bool>("isLockable");
+        QTest::newRow("with a lock") << true;
+        QTest::newRow("where no lock can be had") << false;
+    }
+
+    void waitsForNobodyWhoIsNotThere()
+    {
+        QFETCH(bool, isLockable);
         Workshop shop;
         writePayload(shop);
-        writeFile(shop.dataPath("Quillmont"), "precious");
-        shop.controller().install(shop.mapping(plainSimulator, shop.folder("A")), true, false);
+        if (!isLockable)
+            writeFile(shop.dataPath("Quillmont"), "precious");
+        auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
+        for (int i = 0; i < 2; ++i)
+            shop.controller().install(mapping, true, false);
         QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
         QCOMPARE(shop.log.actions().filter(QStringLiteral("waiting")), QStringList());
     }

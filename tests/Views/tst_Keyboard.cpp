@@ -38,6 +38,8 @@ private slots:
     void actsOncePerPressHoweverLongTheKeyIsHeld_data();
     void actsOncePerPressHoweverLongTheKeyIsHeld();
     void takesTheSecondClickOfADoubleClickInTheSameWindowOnly();
+    void tellsAPressFromARepeatByItsTime_data();
+    void tellsAPressFromARepeatByItsTime();
     void leavesABoxByKey_data();
     void leavesABoxByKey();
     void bringsTheRowWithTheFocusIntoSight();
@@ -177,7 +179,7 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld_data()
     QTest::addColumn<int>("key");
     QTest::addColumn<bool>("isMarked");
     QTest::addColumn<bool>("isRow");
-    for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Select})
         for (const bool isMarked : {true, false})
             for (const bool isRow : {true, false})
                 QTest::addRow("%s %s %s",
@@ -196,6 +198,8 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
     QWidget *control
         = isRow ? static_cast<QWidget *>(row(0).action) : button(QStringLiteral("Scan && Install"));
     control->setFocus();
+    // These press a button when they are let go.
+    const bool isLetGo = key == Qt::Key_Space || key == Qt::Key_Select;
     ulong time = 1000;
     int started = 0;
     bool isAnswered = false;
@@ -203,7 +207,7 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
         ++started;
         QMessageBox box(QMessageBox::Information, QStringLiteral("Title"), {}, QMessageBox::Ok);
         QTimer::singleShot(0, &box, [&] {
-            if (key == Qt::Key_Space)
+            if (isLetGo)
                 send(box.button(QMessageBox::Ok), QEvent::KeyPress, key, time, isMarked);
             repeat(box.button(QMessageBox::Ok), key, &time, isMarked);
             isAnswered = isAnswered || !box.isVisible();
@@ -216,7 +220,7 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
 
     send(control, QEvent::KeyPress, key, time);
     time += 500;
-    if (key == Qt::Key_Space) // which presses a button when it is let go
+    if (isLetGo)
         send(control, QEvent::KeyRelease, key, time, isMarked);
     repeat(control, key, &time, isMarked);
     send(control, QEvent::KeyRelease, key, time += 20);
@@ -254,6 +258,32 @@ void TestKeyboard::takesTheSecondClickOfADoubleClickInTheSameWindowOnly()
     QVERIFY(box.isVisible());
     QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
     QVERIFY(!box.isVisible());
+}
+
+void TestKeyboard::tellsAPressFromARepeatByItsTime_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("later");
+    QTest::addColumn<bool>("isPress");
+    QTest::newRow("at once") << int(Qt::Key_Return) << 0 << false;
+    QTest::newRow("quicker than a finger") << int(Qt::Key_Return) << 2 << false;
+    QTest::newRow("as quick as a finger") << int(Qt::Key_Return) << 3 << true;
+    QTest::newRow("another key at once") << int(Qt::Key_Enter) << 0 << true;
+}
+
+void TestKeyboard::tellsAPressFromARepeatByItsTime()
+{
+    QFETCH(const int, key);
+    QFETCH(const int, later);
+    QFETCH(const bool, isPress);
+    showRows(numbered(1));
+    QSignalSpy install(m_view.get(), &ScannerView::install);
+    row(0).action->setFocus();
+    send(row(0).action, QEvent::KeyPress, Qt::Key_Return, 1000);
+    send(row(0).action, QEvent::KeyRelease, Qt::Key_Return, 1500);
+    send(row(0).action, QEvent::KeyPress, key, ulong(1500 + later));
+    QCOMPARE(install.count(), isPress ? 2 : 1);
+    send(row(0).action, QEvent::KeyRelease, key, 3000);
 }
 
 void TestKeyboard::leavesABoxByKey_data()
