@@ -67,7 +67,7 @@ bool hasWhatItSays(const QByteArray &cbor)
 
 } // namespace
 
-SerialisedObject::Verdict SerialisedObject::verdict(const QString &text, qint64 *effort)
+SerialisedObject::Verdict SerialisedObject::verdict(const QString &text, Budget *budget)
 {
     const QString variant = QStringLiteral("@Variant(");
     const QString dateTime = QStringLiteral("@DateTime(");
@@ -76,7 +76,7 @@ SerialisedObject::Verdict SerialisedObject::verdict(const QString &text, qint64 
         return Whole;
     const QByteArray bytes = text.mid(isDateTime ? dateTime.size() : variant.size()).toLatin1();
     const auto version = isDateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0;
-    SerialisedObject object(bytes, version, effort);
+    SerialisedObject object(bytes, version, budget);
     const bool isRead = isDateTime ? object.readDateTime(bytes) : object.readVariant();
     if (isRead && object.m_stream.device()->readAll() != ")")
         object.fail(Lossy);
@@ -85,9 +85,9 @@ SerialisedObject::Verdict SerialisedObject::verdict(const QString &text, qint64 
 
 SerialisedObject::SerialisedObject(const QByteArray &bytes,
                                    QDataStream::Version version,
-                                   qint64 *effort)
+                                   Budget *budget)
     : m_stream(bytes)
-    , m_effort(effort)
+    , m_budget(budget)
 {
     m_stream.setVersion(version);
 }
@@ -181,10 +181,10 @@ bool SerialisedObject::readPlain(qint64 begin)
 
 bool SerialisedObject::readElements(const std::function<bool()> &readElement)
 {
-    constexpr qint64 elementSize = 16;
+    constexpr qint64 elementSize = 64;
     quint32 count = 0;
     m_stream >> count;
-    if (!take(elementSize * count))
+    if (!takeBytes(elementSize * count))
         return false;
     for (quint32 i = 0; i < count; ++i)
         if (!readElement())
@@ -213,8 +213,10 @@ bool SerialisedObject::readPattern(qint64 begin)
 {
     QString pattern;
     m_stream >> pattern;
+    constexpr qint64 transitionSize = 32;
     const qint64 states = statesOf(pattern);
-    return take(states * states * states) && readPlain(begin);
+    return takeSteps(states * states * states) && takeBytes(states * states * transitionSize)
+        && readPlain(begin);
 }
 
 bool SerialisedObject::readCbor(qint64 begin)
@@ -230,10 +232,16 @@ bool SerialisedObject::skip(qint64 size)
     return size <= device->bytesAvailable() ? device->seek(device->pos() + size) : fail(Lossy);
 }
 
-bool SerialisedObject::take(qint64 effort)
+bool SerialisedObject::takeBytes(qint64 bytes)
 {
-    *m_effort -= effort;
-    return *m_effort >= 0 || fail(Harmful);
+    m_budget->bytes -= bytes;
+    return m_budget->bytes >= 0 || fail(Harmful);
+}
+
+bool SerialisedObject::takeSteps(qint64 steps)
+{
+    m_budget->steps -= steps;
+    return m_budget->steps >= 0 || fail(Harmful);
 }
 
 bool SerialisedObject::fail(Verdict verdict)

@@ -20,12 +20,19 @@ public:
         Harmful ///< Making it can end the program, go on for ever, or take all memory.
     };
 
-    /// What a value that says @p text is. Objects may take @p effort, in bytes or steps; what this
-    /// one takes is subtracted. A value that describes no object is whole.
-    static Verdict verdict(const QString &text, qint64 *effort);
+    /// What the objects of a file may take together: Qt keeps all that it has made.
+    struct Budget
+    {
+        qint64 bytes = 1024LL * 1024 * 1024;
+        qint64 steps = 4LL * 1024 * 1024 * 1024; ///< Seconds.
+    };
+
+    /// What a value that says @p text is; what its object takes is subtracted from @p budget. A
+    /// value that describes no object is whole.
+    static Verdict verdict(const QString &text, Budget *budget);
 
 private:
-    SerialisedObject(const QByteArray &bytes, QDataStream::Version version, qint64 *effort);
+    SerialisedObject(const QByteArray &bytes, QDataStream::Version version, Budget *budget);
 
     // Each reads one thing. False: nothing more can be read, for a reason that is noted. What Qt
     // may read by itself begins at @p begin.
@@ -50,11 +57,12 @@ private:
     int typeHere();
     bool isSmallPng();
     bool isInBands(quint32 rectangles);
-    bool take(qint64 effort);
+    bool takeBytes(qint64 bytes);
+    bool takeSteps(qint64 steps);
     bool fail(Verdict verdict);
 
     QDataStream m_stream;
-    qint64 *const m_effort;
+    Budget *const m_budget;
     int m_depth = 0;
     Verdict m_verdict = Whole;
 };

@@ -74,12 +74,13 @@ bool SerialisedObject::isSmallPng()
     m_stream >> begin >> length >> type >> width >> height;
     if (begin != signature || type != header || length < 8)
         return false;
-    if (!take(std::min<qint64>(width, maxSide) * std::min<qint64>(height, maxSide) * pixelSize))
+    if (!takeBytes(std::min<qint64>(width, maxSide) * std::min<qint64>(height, maxSide)
+                   * pixelSize))
         return false;
     for (length -= 8; skip(length + 4LL) && type != end;) {
         m_stream >> length >> type;
         // Texts and colour profiles are small, and may become a thousand times as big.
-        if ((type & isOptional) != 0 && !take(length * compression))
+        if ((type & isOptional) != 0 && !takeBytes(length * compression))
             return false;
     }
     return type == end && m_stream.status() == QDataStream::Ok;
@@ -139,7 +140,7 @@ bool SerialisedObject::readRegion()
     if (size == 0)
         return m_stream.status() == QDataStream::Ok || fail(Lossy);
     m_stream >> kind >> count;
-    if (kind != rectangles || size != 8 + 16LL * count || !take(qint64(count) * count))
+    if (kind != rectangles || size != 8 + 16LL * count || !takeSteps(qint64(count) * count))
         return fail(Harmful);
     return isInBands(count) || fail(Harmful);
 }

@@ -49,11 +49,11 @@ QByteArray content(const QString &path, QString *problem)
 QString problemOf(IniReader *ini, SerialisedObject::Verdict tolerable, const Filter &isWanted)
 {
     constexpr int maxKey = 200;
-    qint64 effort = 256LL * 1024 * 1024;
+    SerialisedObject::Budget budget;
     while (ini->next()) {
         const QStringList texts = isWanted(*ini) ? ini->texts() : QStringList();
         for (const QString &text : texts) {
-            const auto verdict = SerialisedObject::verdict(text, &effort);
+            const auto verdict = SerialisedObject::verdict(text, &budget);
             if (verdict > tolerable)
                 return (verdict == SerialisedObject::Harmful
                             ? QStringLiteral("%1 holds an object that could crash any program")

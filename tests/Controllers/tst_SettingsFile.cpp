@@ -67,6 +67,16 @@ QImage picture(int width, int height)
     return image;
 }
 
+QRegion rectangles(int count)
+{
+    QVector<QRect> all;
+    for (int i = 0; i < count; ++i)
+        all.append(QRect(0, 2 * i, 1, 1));
+    QRegion region;
+    region.setRects(all.constData(), count);
+    return region;
+}
+
 QByteArray dateIn(const QByteArray &zone)
 {
     QByteArray bytes;
@@ -174,7 +184,8 @@ void TestSettingsFile::keepsWhatOtherProgramsStored_data()
     add("place", QLocale(QLocale::German));
     add("pattern", QRegularExpression(QStringLiteral("((a{999}){999}){999}")));
     add("old pattern", QRegExp(QStringLiteral("[0-9a-f]{8}-([0-9a-f]{4}-){3}[0-9a-f]{12}")));
-    add("longest old pattern", QRegExp(QString(512, u'a')));
+    // It is stored twice, so this is half of what a file may hold.
+    add("longest old pattern", QRegExp(QString(1290, u'a')));
     add("curve", QEasingCurve(QEasingCurve::OutElastic));
     add("rectangle", QRectF(1, 2, 3, 4));
     add("line", QLineF(1, 2, 3, 4));
@@ -182,7 +193,8 @@ void TestSettingsFile::keepsWhatOtherProgramsStored_data()
     add("colour", QColor(Qt::red));
     add("keys", QVariant::fromValue(QKeySequence(QStringLiteral("Ctrl+A"))));
     add("picture", picture(8, 8).convertToFormat(QImage::Format_ARGB32));
-    add("biggest picture", picture(8192, 2047));
+    add("biggest picture", picture(8192, 8191));
+    add("great pictures", QVector<QVariant>(5, picture(2600, 2600)).toList());
     QImage described = picture(8, 8);
     described.setText(QStringLiteral("about"), QString(5000, u'x'));
     add("picture with a text", described);
@@ -204,6 +216,7 @@ void TestSettingsFile::keepsWhatOtherProgramsStored_data()
     add("polygon", QVariant::fromValue(QPolygon(QRect(0, 0, 3, 3))));
     add("fine polygon", QVariant::fromValue(QPolygonF(QRectF(0, 0, 3, 3))));
     add("region", QRegion(0, 0, 900, 900, QRegion::Ellipse) + QRegion(950, 50, 9, 9));
+    add("region of many rectangles", rectangles(16385));
     add("no region", QRegion());
     add("matrix", QMatrix4x4());
     add("vector", QVector3D(1, 2, 3));
@@ -302,7 +315,9 @@ void TestSettingsFile::refusesHarmfulObjects_data()
     add("behind half a character", object(number(8) + number(1) + number(3) + endless()));
     add("deeper than it may be", object(nested(1001)));
     add("deeper than the stack", object(nested(45000)));
-    add("old pattern longer than it may be", object(serialised(27, QRegExp(QString(646, u'a')))));
+    add("old pattern longer than it may be", object(serialised(27, QRegExp(QString(1626, u'a')))));
+    const QByteArray pattern = serialised(27, QRegExp(QString(100, u'a')));
+    add("very many old patterns", object(number(9) + number(3400) + pattern.repeated(3400)));
     add("old pattern without end",
         object(serialised(27, QRegExp(QStringLiteral("(((a{99}){99}){99})(b{9}){9}")).pattern())));
     add("CBOR of great arrays",
@@ -314,17 +329,18 @@ void TestSettingsFile::refusesHarmfulObjects_data()
     add("round region",
         object(serialised(
             72, number(2) + QByteArray(8, '\0') + number(0x7fffffff) + number(0x7fffffff))));
+    add("region of more rectangles than it may have", object(serialised(72, rectangles(65537))));
     add("region across itself",
         object(serialised(72,
                           number(10) + number(2)
                               + (QByteArray(8, '\0') + number(9) + number(9)).repeated(2))));
-    add("picture bigger than it may be", object(serialised(70, picture(8193, 4096))));
+    add("picture bigger than it may be", object(serialised(70, picture(16385, 8192))));
     QByteArray bomb = serialised(70, picture(8, 8));
     add("picture that is none", object(QByteArray(bomb).replace("IDAT", "XXXX")));
     add("picture of another kind", object(number(70) + number(1) + "BM" + QByteArray(60, '\0')));
     QImage described = picture(8, 8);
     QRandomGenerator random(1);
-    QString noise(400000, QChar());
+    QString noise(1400000, QChar());
     std::generate(noise.begin(), noise.end(), [&random] { return QChar(random.bounded(33, 127)); });
     described.setText(QStringLiteral("about"), noise);
     add("long text in a picture", object(serialised(70, described)));
