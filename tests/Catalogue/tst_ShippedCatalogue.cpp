@@ -328,7 +328,7 @@ void TestShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
     const Sandbox sandbox;
     const QString prefix
         = sandbox.dataRoot() + QStringLiteral("Steam/steamapps/compatdata/314160/pfx");
-    QVERIFY(QDir().mkpath(prefix));
+    QVERIFY(QDir().mkpath(prefix + QStringLiteral("/drive_c")));
     writeFile(QCoreApplication::applicationDirPath() + QStringLiteral("/flightsims.json"),
               shippedCatalogue());
     ScanController controller(nullptr, nullptr);
