@@ -23,6 +23,12 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
+// A folder whose name is no text is not there by what the name became as text.
+bool isNamedByText(const QString &folder)
+{
+    return !folder.contains(QChar::ReplacementCharacter) || QFileInfo::exists(folder);
+}
+
 // The maker's other programs look here for this one. They know it by one name on every system.
 void writeLauncherPath()
 {
@@ -30,8 +36,7 @@ void writeLauncherPath()
     const QString program = QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
                                                      + QStringLiteral("/QuillmontOrbwell.exe"));
     const QString content = QString(program).replace(QLatin1String("\\\\"), QLatin1String("\\"));
-    // A folder whose name is no text is not there by what the name became as text.
-    const bool isKnown = QFileInfo::exists(QCoreApplication::applicationDirPath());
+    const bool isKnown = isNamedByText(QCoreApplication::applicationDirPath());
     if (!isKnown)
         logAction() << "the name of the program's folder is not valid text:" << program;
     const bool written

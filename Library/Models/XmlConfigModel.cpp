@@ -19,7 +19,7 @@ qint64 gameNumber(const QJsonValue &value)
     if (value.isUndefined())
         return 0;
     const double written = value.toDouble(-1);
-    const bool isGame = written >= 1 && written <= most && std::trunc(written) >= written;
+    const bool isGame = written >= 1 && written <= most && std::trunc(written) == written;
     return isGame ? qint64(written) : -1;
 }
 
