@@ -1,5 +1,6 @@
 #include "tests/ViewControllers/Workshop.h"
 
+#include "Controllers/UserDataRoot.h"
 #include "Library/Models/XmlInsertionModel.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QTest>
 
 using namespace Tests;
+using Quillmont::Utility::Controllers::userDataRoot;
 
 namespace {
 
@@ -121,6 +123,8 @@ private slots:
             QCOMPARE(mapping->scan->config->path, way);
         const QString file = shop.path(steam + prefix + "/drive_c/Roaming/launch.xml");
         QVERIFY(readFile(file).contains("Quillmont Orbwell"));
+        // The way from the data root as the system takes it.
+        QVERIFY(QFile::exists(userDataRoot() + mapping->scan->config->path));
         auto after = before;
         const QString inside = QString::fromLatin1(steam + prefix);
         for (const QString &made : {QStringLiteral("Kestrel/x"),
