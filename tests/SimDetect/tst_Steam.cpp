@@ -148,7 +148,7 @@ void TestSteam::findsItsLibraries_data()
         "a library that has no number",
         OnBoth,
         game
-            + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "label" "$R/drive" "1a" { "path" "$R/drive" } })",
+            + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "label" "$R/drive" "" "$R/drive" "1a" { "path" "$R/drive" } })",
         "");
     addCase("the other place of the list",
             OnBoth,
