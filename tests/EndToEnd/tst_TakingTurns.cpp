@@ -45,6 +45,7 @@ private slots:
     void startsAtOnceWithNothingToClear();
     void waitsBeforeItTouchesAFile_data();
     void waitsBeforeItTouchesAFile();
+    void waitsForEachCopyThatEndsItsWork();
     void waitsOnceForACopyThatHangs();
 
 private:
@@ -55,7 +56,8 @@ private:
         return simulator(QStringLiteral("Wren/Gauges/QuillmontOrbwell_64.dll"));
     }
 
-    void waitFor(const char *line);
+    void holdTheLock();
+    void waitFor(const char *line, int times = 1);
 
     QScopedPointer<Sandbox> m_sandbox;
     QScopedPointer<Program> m_program;
@@ -91,7 +93,7 @@ void TestTakingTurns::init()
     }
     place(*m_program, entries);
     QDir().mkpath(simulator(QStringLiteral("Wren")));
-    m_other.reset(new OtherCopy(m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell")));
+    holdTheLock();
 }
 
 void TestTakingTurns::cleanup()
@@ -101,9 +103,15 @@ void TestTakingTurns::cleanup()
     m_sandbox.reset();
 }
 
-void TestTakingTurns::waitFor(const char *line)
+void TestTakingTurns::holdTheLock()
 {
-    m_program->waitFor([this, line] { return m_program->standardError().contains(line); }, line);
+    m_other.reset(new OtherCopy(m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell")));
+}
+
+void TestTakingTurns::waitFor(const char *line, int times)
+{
+    m_program->waitFor(
+        [this, line, times] { return m_program->standardError().count(line) >= times; }, line);
 }
 
 void TestTakingTurns::startsAtOnceWithNothingToClear()
@@ -172,6 +180,26 @@ void TestTakingTurns::waitsBeforeItTouchesAFile()
     m_program->window();
     QCOMPARE(contentAt(file), after);
     QCOMPARE(QFile::exists(file), !after.isNull());
+    m_program->press(QStringLiteral("Close"));
+    QCOMPARE(m_program->exitStatus(), 0);
+}
+
+// To install, and then to remove.
+void TestTakingTurns::waitsForEachCopyThatEndsItsWork()
+{
+    m_program->start();
+    m_program->window();
+    for (const int turn : {1, 2}) {
+        holdTheLock();
+        m_program->pressAction(QStringLiteral("Wren"));
+        waitFor(waiting, turn);
+        QCOMPARE(QFile::exists(module()), turn == 2);
+        m_other.reset();
+        m_program->box();
+        m_program->press(QStringLiteral("OK"));
+        m_program->window();
+        QCOMPARE(QFile::exists(module()), turn == 1);
+    }
     m_program->press(QStringLiteral("Close"));
     QCOMPARE(m_program->exitStatus(), 0);
 }

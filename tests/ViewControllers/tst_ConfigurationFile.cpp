@@ -18,6 +18,7 @@ private slots:
     void isOneHoweverManyWaysLeadToIt();
     void isNotLookedForInMoreFoldersThanMakeSense_data();
     void isNotLookedForInMoreFoldersThanMakeSense();
+    void isWhereADeadLinkOfItsNameLeads();
     void namesTheFilesOfWhichNoneIsTaken();
 };
 
@@ -141,6 +142,18 @@ void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense()
         = shop.mapping(QByteArray(entry).replace("Maker/FSX", "simmaker"), shop.folder("A"));
     shop.controller().install(mapping, true, false);
     QCOMPARE(readFile(file).contains("Our entry"), isFound);
+}
+
+void TestConfigurationFile::isWhereADeadLinkOfItsNameLeads()
+{
+    Workshop shop;
+    shop.writePayload("A/one.dll", "one");
+    writeFile(shop.dataPath("Maker/FSX/DLL.XML"), others);
+    QVERIFY(QFile::link(QStringLiteral("far.xml"), shop.dataPath("Maker/FSX/dll.xml")));
+    const QByteArray exact = QByteArray(entry).replace("$path", "Maker/FSX/dll.xml");
+    QVERIFY(shop.controller().install(shop.mapping(exact, shop.folder("A")), true, false));
+    QVERIFY(readFile(shop.dataPath("Maker/FSX/far.xml")).contains("Our entry"));
+    QCOMPARE(readFile(shop.dataPath("Maker/FSX/DLL.XML")), QByteArray(others));
 }
 
 void TestConfigurationFile::namesTheFilesOfWhichNoneIsTaken()

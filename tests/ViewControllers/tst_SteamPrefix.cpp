@@ -247,6 +247,21 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("home/.steam/root")));
     }
 
+    void aPrefixIsKnownForAFolderThatIsChosenLater()
+    {
+        Workshop shop;
+        prepare(shop, "home/.steam/root");
+        QVERIFY(QDir().rmdir(shop.path("Kestrel")));
+        shop.controller().startScan(false, true, ScanController::ModeNone);
+        auto *mapping = shop.controller().mappings.constFirst();
+        QCOMPARE(mapping->path, QString());
+        mapping->path = shop.folder("chosen");
+        QVERIFY(shop.controller().install(mapping, true, false));
+        QVERIFY(readFile(shop.path("home/.steam/root" + QByteArray(prefix)
+                                   + "/drive_c/Roaming/launch.xml"))
+                    .contains("Quillmont Orbwell"));
+    }
+
     void aSolutionIsRelativeToTheDataRoot_data()
     {
         QTest::addColumn<QByteArray>("steam");

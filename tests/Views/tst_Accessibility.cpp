@@ -10,6 +10,7 @@
 #include "tests/support/TextMarker.h"
 
 #include <QAccessible>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -76,6 +77,7 @@ private slots:
     void pressesNoButtonThatIsOff();
     void pressesNothingBehindADialog_data();
     void pressesNothingBehindADialog();
+    void pressesNoButtonBehindADialog();
     void showsAPathInTheToolTipAsItIs_data();
     void showsAPathInTheToolTipAsItIs();
     void translatesItsTexts();
@@ -191,6 +193,7 @@ void TestAccessibility::knowsTheCurrentRow()
     QCOMPARE(list->focusChild(), list->child(1));
     QVERIFY(list->child(1)->state().focused);
     QVERIFY(!list->child(0)->state().focused);
+    QVERIFY(list->child(0)->state().focusable);
 
     row(0).browse->setFocus();
     QCOMPARE(list->focusChild(), accessible(row(0).browse));
@@ -243,6 +246,10 @@ void TestAccessibility::pressesAButtonWithoutWaitingForTheWork()
     actions->doAction(QAccessibleActionInterface::pressAction());
     QCOMPARE(install.count(), 0);
     QTRY_COMPARE(install.count(), 1);
+    QVERIFY(!row(0).action->hasFocus());
+    QApplication::setActiveWindow(m_view.get());
+    actions->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(row(0).action->hasFocus());
 }
 
 void TestAccessibility::pressesNoButtonThatIsOff()
@@ -285,6 +292,22 @@ void TestAccessibility::pressesNothingBehindADialog()
     });
     QCOMPARE(dialog.exec(), leftOpen);
     QCOMPARE(install.count() + scan.count() + person.pickers().size(), 0);
+}
+
+// One that has opened since it was asked to.
+void TestAccessibility::pressesNoButtonBehindADialog()
+{
+    m_view->setScanResult({mapping(QStringLiteral("Skylark"), m_sandbox.root())}, false, true);
+    QSignalSpy install(m_view.get(), &ScannerView::install);
+    accessible(row(0).action)
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    QDialog dialog(m_view.get());
+    dialog.open();
+    QCoreApplication::processEvents();
+    dialog.close();
+    QCoreApplication::processEvents();
+    QCOMPARE(install.count(), 0);
 }
 
 void TestAccessibility::showsAPathInTheToolTipAsItIs_data()
