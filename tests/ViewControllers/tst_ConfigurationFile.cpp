@@ -92,6 +92,8 @@ void TestConfigurationFile::isFoundInAnyLetterCase()
         QVERIFY2(isEdited == (file == expected), qPrintable(file));
     }
     QVERIFY(readFile(shop.dataPath(expected.toUtf8())).contains("Our entry"));
+    const bool isSaid = !shop.log.actions().filter(QStringLiteral("of several")).isEmpty();
+    QCOMPARE(isSaid, QByteArray(QTest::currentDataTag()).startsWith("several"));
 
     QVERIFY(shop.controller().uninstall(mapping, true, false));
     QVERIFY(!readFile(shop.dataPath(expected.toUtf8())).contains("Our entry"));
