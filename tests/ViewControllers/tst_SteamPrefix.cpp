@@ -1,6 +1,6 @@
 #include "tests/ViewControllers/Workshop.h"
 
-#include "Controllers/UserDataRoot.h"
+#include "Controllers/UserFiles.h"
 #include "Library/Models/XmlInsertionModel.h"
 
 #include <QDir>
