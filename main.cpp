@@ -1,5 +1,6 @@
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
+#include "Controllers/Translations.h"
 #include "Library/Files/FileSizeSignal.h"
 #include "ViewControllers/ScanController.h"
 
@@ -15,6 +16,7 @@
 #include <unistd.h>
 
 using Quillmont::Library::Files::FileSizeSignal;
+using Quillmont::Utility::Controllers::installTranslations;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::ViewControllers::ScanController;
@@ -61,6 +63,7 @@ int main(int argc, char *argv[])
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     const QApplication application(argc, argv);
+    installTranslations();
 
     ScanController controller(nullptr, nullptr);
     controller.startScan(true, false, ScanController::ModeNone);

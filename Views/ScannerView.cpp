@@ -96,7 +96,30 @@ QListWidget *ScannerView::makeList()
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->verticalScrollBar()->setSingleStep(21); // a wheel's notch is three: a row
+    explainEmptyList();
     return m_list;
+}
+
+// Nothing but the catalogue decides whether there are rows.
+void ScannerView::explainEmptyList()
+{
+    const QString text
+        = tr("There are no simulators to show. The file flightsims.json beside this program is "
+             "missing, empty or damaged. Please install Quillmont Orbwell again.");
+    m_emptyListText = new QLabel(text, m_list->viewport());
+    m_emptyListText->setWordWrap(true);
+    m_emptyListText->setAlignment(Qt::AlignCenter);
+    m_emptyListText->setEnabled(false); // as grey as a field's placeholder
+    auto *layout = new QVBoxLayout(m_list->viewport());
+    layout->addWidget(m_emptyListText);
+    showEmptyListText(true);
+}
+
+void ScannerView::showEmptyListText(bool isEmpty)
+{
+    m_emptyListText->setVisible(isEmpty);
+    // A screen reader sees nothing of the list but its rows.
+    m_list->setAccessibleDescription(isEmpty ? m_emptyListText->text() : QString());
 }
 
 QHBoxLayout *ScannerView::makeButtons()
@@ -136,6 +159,7 @@ void ScannerView::setScanResult(
         if (!mappings.at(i)->path.isEmpty())
             ++found;
     }
+    showEmptyListText(mappings.isEmpty());
     moveButtonsBehindRows();
     scrollTo(scrolled);
     focusControl(focused);
@@ -229,7 +253,7 @@ void ScannerView::showCount(int count)
 {
     QString text;
     if (count > 1)
-        text = tr("Scan found %0 flight simulators installed.").arg(count);
+        text = tr("Scan found %0 flight simulators installed.", nullptr, count).arg(count);
     else if (count == 1)
         text = tr("Scan found 1 flight simulator installed.");
     else

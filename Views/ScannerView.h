@@ -46,6 +46,8 @@ private:
     QLabel *makeIntroduction();
     QListWidget *makeList();
     QHBoxLayout *makeButtons();
+    void explainEmptyList();
+    void showEmptyListText(bool isEmpty);
     int rowAround(const QWidget *widget) const;
     void showRowAround(const QWidget *widget);
     RowControl focusedControl() const;
@@ -58,6 +60,7 @@ private:
 
     QLabel *m_introduction;
     QListWidget *m_list;
+    QLabel *m_emptyListText;
     QPushButton *m_close;
     QPushButton *m_scanAndInstall;
 };

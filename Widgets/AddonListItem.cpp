@@ -186,6 +186,7 @@ void AddonListItem::updateStatus()
                                               : QStringLiteral("icon-check-grey-44")));
     m_action->setText(installed ? tr("Uninstall Orbwell") : tr("Install Orbwell"));
     m_action->setEnabled(exists);
+    explainButtons();
 
     const QString state = stateInWords(exists, installed);
     setAccessibleDescription(state);
@@ -193,6 +194,17 @@ void AddonListItem::updateStatus()
     m_icon->setAccessibleName(tr("%0: %1").arg(m_mapping->scan->name, state));
     m_icon->setToolTip(state);
     m_action->setAccessibleName(tr("%0: %1").arg(m_action->text(), m_mapping->scan->name));
+}
+
+// What to do about a simulator that was not found, on the buttons that a newcomer tries.
+void AddonListItem::explainButtons()
+{
+    const bool isKnown = !m_mapping->path.isEmpty();
+    const QString advice
+        = tr("This simulator was not found. If you have it, press \"...\" and choose "
+             "its folder.");
+    m_browse->setToolTip(isKnown ? literalToolTip(m_browse->accessibleName()) : advice);
+    m_action->setToolTip(isKnown ? QString() : advice);
 }
 
 QString AddonListItem::stateInWords(bool exists, bool installed) const

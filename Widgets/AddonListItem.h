@@ -45,6 +45,7 @@ private:
     QPixmap artwork(const QString &name) const;
     QString settingsKey() const;
     QString stateInWords(bool exists, bool installed) const;
+    void explainButtons();
     void arrange();
     void nameControls();
     void watchParts();

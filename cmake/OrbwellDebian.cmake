@@ -9,7 +9,7 @@ list(APPEND CPACK_GENERATOR DEB)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS hicolor-icon-theme)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, qttranslations5-l10n, qtwayland5")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "setup of the Orbwell plugin for flight simulators")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Finds the flight simulators on the computer, shows a row for each, and

@@ -6,16 +6,19 @@ orbwell_add_test_library(orbwell-documents
   Documents/Document.cpp
   Documents/Document.h
   Documents/TextList.cpp
-  Documents/TextList.h)
+  Documents/TextList.h
+  Documents/TranslatedTexts.cpp
+  Documents/TranslatedTexts.h)
+target_compile_definitions(orbwell-documents PUBLIC ORBWELL_LUPDATE="${ORBWELL_LUPDATE}")
+target_link_libraries(orbwell-documents PUBLIC Qt5::Test)
 
-foreach(story Architecture Links Messages Texts)
+foreach(story Architecture Links Messages Texts Translations)
   orbwell_add_test(Documents/${story})
   target_link_libraries(tst_${story} PRIVATE orbwell-documents)
 endforeach()
 target_compile_definitions(tst_Architecture PRIVATE
   ORBWELL_BUILD="${PROJECT_BINARY_DIR}"
   ORBWELL_COMPILER="${CMAKE_CXX_COMPILER}")
-target_compile_definitions(tst_Texts PRIVATE ORBWELL_LUPDATE="${ORBWELL_LUPDATE}")
 
 # The commands are written for Linux.
 if(NOT APPLE)

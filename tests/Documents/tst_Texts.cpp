@@ -1,10 +1,9 @@
 #include "tests/Documents/TextList.h"
+#include "tests/Documents/TranslatedTexts.h"
 #include "tests/support/Command.h"
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
-#include <QFile>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace Tests;
@@ -25,65 +24,16 @@ private:
     QList<ListedText> m_texts;
 };
 
-// Bytes that XML cannot hold as they are stand in the file as numbers.
-static QString sourceText(QXmlStreamReader &reader)
-{
-    QString text;
-    while (reader.readNext() != QXmlStreamReader::EndElement) {
-        if (reader.isStartElement()) {
-            text += QChar(
-                reader.attributes().value(QLatin1String("value")).mid(1).toUInt(nullptr, 16));
-            reader.skipCurrentElement();
-        } else {
-            text += reader.text();
-        }
-    }
-    return text;
-}
-
-static QList<ListedText> extractedTexts(const QByteArray &translations)
-{
-    QList<ListedText> texts;
-    QXmlStreamReader reader(translations);
-    QString context;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement() && reader.name() == QLatin1String("name"))
-            context = reader.readElementText();
-        else if (reader.isStartElement() && reader.name() == QLatin1String("source"))
-            texts.append({context, sourceText(reader)});
-    }
-    return texts;
-}
-
 void TestTexts::initTestCase()
 {
     if (!Command::exists(QStringLiteral(ORBWELL_LUPDATE)))
         QSKIP("needs lupdate (Debian: qttools5-dev-tools)");
     const Sandbox sandbox;
     const QString file = sandbox.path(QStringLiteral("texts.ts"));
-    // Without the headers it would not know which namespace a class is in, and a translation would
-    // not be found when the program asks for it.
-    const CommandResult result = Command(QStringLiteral(ORBWELL_LUPDATE),
-                                         {QStringLiteral("-I"),
-                                          QStringLiteral("."),
-                                          QStringLiteral("-locations"),
-                                          QStringLiteral("none"),
-                                          QStringLiteral("main.cpp"),
-                                          QStringLiteral("Controllers"),
-                                          QStringLiteral("Library"),
-                                          QStringLiteral("Models"),
-                                          QStringLiteral("SimDetect"),
-                                          QStringLiteral("ViewControllers"),
-                                          QStringLiteral("Views"),
-                                          QStringLiteral("Widgets"),
-                                          QStringLiteral("-ts"),
-                                          file})
-                                     .in(QStringLiteral(ORBWELL_SOURCE))
-                                     .run();
-    QVERIFY2(result.status == 0, result.errors.constData());
-    QCOMPARE(result.errors, QByteArray());
-    m_texts = extractedTexts(readFile(file));
+    if (!updateTranslations(file))
+        return;
+    for (const TranslatedText &text : translatedTexts(readFile(file)))
+        m_texts.append({text.context, text.source});
 }
 
 void TestTexts::areThoseOfTheList()

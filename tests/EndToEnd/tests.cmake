@@ -8,6 +8,8 @@ foreach(story
   target_link_libraries(tst_${story} PRIVATE orbwell-simulators)
 endforeach()
 
+orbwell_add_test(EndToEnd/Languages)
+target_link_libraries(tst_Languages PRIVATE orbwell-simulators orbwell-documents)
 orbwell_add_test(EndToEnd/PilotsComputer EndToEnd/PilotsHome.cpp EndToEnd/PilotsHome.h)
 target_link_libraries(tst_PilotsComputer PRIVATE orbwell-simulators orbwell-catalogue-support)
 orbwell_add_test(EndToEnd/ForeignConfigurations)

@@ -14,6 +14,7 @@
 #include "tests/support/Sandbox.h"
 #include "tests/support/TextMarker.h"
 
+#include <QAccessible>
 #include <QBoxLayout>
 #include <QDir>
 #include <QLabel>
@@ -103,6 +104,7 @@ private slots:
     void putsPlainItemsUnderTheRows();
     void replacesAllRows();
     void clearsTheListForAnEmptyResult();
+    void explainsAnEmptyList();
     void handsTheFlagToItsRows();
     void saysHowManyFoldersThereAre_data();
     void saysHowManyFoldersThereAre();
@@ -276,6 +278,23 @@ void TestScannerView::clearsTheListForAnEmptyResult()
     QCOMPARE(boxes.boxes().first().text,
              QStringLiteral("Quillmont Orbwell Setup cannot find any flight simulator. Please map "
                             "manually."));
+}
+
+void TestScannerView::explainsAnEmptyList()
+{
+    ScannerView view(nullptr);
+    const auto *text = listOf(view)->viewport()->findChild<QLabel *>();
+    const auto *read = QAccessible::queryAccessibleInterface(listOf(view));
+    view.show();
+    for (const bool isEmpty : {true, false, true}) {
+        view.setScanResult({}, false, true);
+        if (!isEmpty)
+            view.setScanResult({mapping(QStringLiteral("A"))}, false, true);
+        QCOMPARE(text->isVisible(), isEmpty);
+        QCOMPARE(read->text(QAccessible::Description), isEmpty ? text->text() : QString());
+    }
+    QVERIFY(QRect(QPoint(), listOf(view)->viewport()->size()).contains(text->geometry()));
+    QVERIFY(text->text().contains(QStringLiteral("flightsims.json")));
 }
 
 void TestScannerView::handsTheFlagToItsRows()

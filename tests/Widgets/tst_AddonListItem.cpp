@@ -223,6 +223,8 @@ void TestAddonListItem::showsThePathFromItsStart()
     const RowParts parts(&row);
     QCOMPARE(parts.path->text(), path);
     QVERIFY(parts.path->toolTip().contains(path));
+    QVERIFY(parts.browse->toolTip().startsWith(QLatin1String("Choose the folder of")));
+    QCOMPARE(parts.action->toolTip(), QString());
     QCOMPARE(parts.path->cursorPosition(), 0);
     QVERIFY(parts.path->isReadOnly());
     QVERIFY(parts.path->isEnabled());
@@ -259,6 +261,8 @@ void TestAddonListItem::showsAPlaceholderWithoutAPath()
     QCOMPARE(parts.path->toolTip(), QString());
     QCOMPARE(parts.action->text(), QStringLiteral("Install Orbwell"));
     QVERIFY(!parts.action->isEnabled());
+    for (const auto *button : {parts.browse, parts.action})
+        QVERIFY(button->toolTip().startsWith(QLatin1String("This simulator was not found.")));
     QCOMPARE(shownIcon(row), artwork(QStringLiteral("icon-minus-grey-44.png")));
 }
 

@@ -1,0 +1,117 @@
+#include "tests/Documents/TranslatedTexts.h"
+#include "tests/support/Command.h"
+#include "tests/support/Files.h"
+#include "tests/support/Literals.h"
+#include "tests/support/Sandbox.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QtTest>
+
+using namespace Tests;
+
+/// Every text is there in every language, and nothing that the program relies on is lost in it.
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void areThoseOfTheSources_data();
+    void areThoseOfTheSources();
+    void keepMarksOfTheirTexts_data();
+    void keepMarksOfTheirTexts();
+    void quoteTheButtonByItsName_data();
+    void quoteTheButtonByItsName();
+};
+
+static void addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : translatedLanguages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+// Placeholders, line ends, and the ampersands that a button needs, sorted.
+static QStringList marks(const QString &text)
+{
+    static const QRegularExpression mark("%[0-9n]|\r\n|\r|\n|&+"_s);
+    QStringList marks;
+    auto it = mark.globalMatch(text);
+    while (it.hasNext())
+        marks.append(it.next().captured());
+    marks.sort();
+    return marks;
+}
+
+static bool endsInLine(const QString &text)
+{
+    return text.endsWith("\r\n"_s);
+}
+
+void TestTranslations::init()
+{
+    if (!Command::exists(QStringLiteral(ORBWELL_LUPDATE)))
+        QSKIP("needs lupdate (Debian: qttools5-dev-tools)");
+}
+
+void TestTranslations::areThoseOfTheSources_data()
+{
+    addLanguages();
+}
+
+void TestTranslations::areThoseOfTheSources()
+{
+    QFETCH(const QString, language);
+    const Sandbox sandbox;
+    const QString copy = sandbox.path("orbwell_%1.ts"_s.arg(language));
+    QVERIFY(QFile::copy(translationPath(language), copy));
+    QVERIFY(updateTranslations(copy));
+    QVERIFY2(readFile(copy) == readFile(translationPath(language)),
+             "the sources have other texts; script/translations brings them in");
+    for (const TranslatedText &text : translatedTexts(readFile(copy))) {
+        QVERIFY2(text.isFinished && !text.translations.isEmpty()
+                     && !text.translations.contains(QString()),
+                 qPrintable(text.source));
+    }
+}
+
+void TestTranslations::keepMarksOfTheirTexts_data()
+{
+    addLanguages();
+}
+
+void TestTranslations::keepMarksOfTheirTexts()
+{
+    QFETCH(const QString, language);
+    for (const TranslatedText &text : translatedTexts(readFile(translationPath(language)))) {
+        for (const QString &translation : text.translations) {
+            QVERIFY2(marks(translation) == marks(text.source), qPrintable(translation));
+            QVERIFY2(endsInLine(translation) == endsInLine(text.source), qPrintable(translation));
+        }
+    }
+}
+
+void TestTranslations::quoteTheButtonByItsName_data()
+{
+    addLanguages();
+}
+
+void TestTranslations::quoteTheButtonByItsName()
+{
+    QFETCH(const QString, language);
+    QString button;
+    QString introduction;
+    for (const TranslatedText &text : translatedTexts(readFile(translationPath(language)))) {
+        if (text.source == "Scan && Install"_s)
+            button = text.translations.constFirst();
+        if (text.source.startsWith("Orbwell will automatically"_s))
+            introduction = text.translations.constFirst();
+    }
+    QVERIFY(!button.isEmpty());
+    QVERIFY2(introduction.contains(button.replace("&&"_s, "&"_s)), qPrintable(introduction));
+}
+
+QTEST_GUILESS_MAIN(TestTranslations)
+#include "tst_Translations.moc"
