@@ -4,7 +4,9 @@
 #include "Library/Models/XmlInsertionModel.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Tests;
@@ -245,6 +247,42 @@ private slots:
         QVERIFY(shop.controller().install(mapping, true, false));
         QVERIFY(shop.controller().uninstall(mapping, true, false));
         QVERIFY(!QFile::exists(shop.path("home/.steam/root")));
+    }
+
+    void aDataRootNeedNotEndInASlash()
+    {
+        const QString usual = QGuiApplication::applicationDisplayName();
+        QGuiApplication::setApplicationDisplayName(QStringLiteral("no folder's name"));
+        const auto reset
+            = qScopeGuard([usual] { QGuiApplication::setApplicationDisplayName(usual); });
+        Workshop shop;
+        prepare(shop, "home/.steam/root");
+        shop.controller().startScan(false, true, ScanController::ModeNone);
+        QVERIFY(readFile(shop.path("home/.steam/root" + QByteArray(prefix)
+                                   + "/drive_c/Roaming/launch.xml"))
+                    .contains("Quillmont Orbwell"));
+    }
+
+    void withoutAPathThereIsNoFileInThePrefix()
+    {
+        Workshop shop;
+        prepare(shop, "home/.steam/root");
+        shop.writeCatalogue(catalogue().replace(R"("path": "drive_c\\Roaming/launch.xml", )", ""));
+        shop.controller().startScan(false, true, ScanController::ModeNone);
+        QVERIFY(!shop.log.hasDebugLineWith(QStringLiteral("hit reg search")));
+    }
+
+    // Here a folder in other letter case is another folder.
+    void aFileInAnotherPrefixIsNotTaken()
+    {
+        Workshop shop;
+        prepare(shop, "home/.local/share/Steam");
+        const QByteArray file = QByteArray(prefix) + "/drive_c/Roaming/launch.xml";
+        const QByteArray foreign = "<SimBase.Document>\n</SimBase.Document>\n";
+        writeFile(shop.dataPath("STEAM" + file), foreign);
+        shop.controller().startScan(false, true, ScanController::ModeNone);
+        QVERIFY(readFile(shop.dataPath("Steam" + file)).contains("Quillmont Orbwell"));
+        QCOMPARE(readFile(shop.dataPath("STEAM" + file)), foreign);
     }
 
     void aPrefixIsKnownForAFolderThatIsChosenLater()

@@ -2,6 +2,7 @@
 
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
+#include "Widgets/NameItem.h"
 #include "tests/Widgets/RowParts.h"
 #include "tests/support/Files.h"
 #include "tests/support/FolderPicker.h"
@@ -27,6 +28,7 @@ using Quillmont::Utility::Controllers::ConfigurationController;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::AddonListItem;
+using Quillmont::Utility::Widgets::NameItem;
 using Tests::json;
 using Tests::RowParts;
 using Tests::writeFile;
@@ -86,6 +88,8 @@ private slots:
     void asksForWhatTheDiskCallsForAtEachClick();
     void asksForNothingWithoutAFolder();
     void translatesItsTextsInItsOwnContext();
+    void givesItsNameRoomAbove_data();
+    void givesItsNameRoomAbove();
     void isBuiltWithoutAWarning();
     void namesItsSignalsAndSlotsInOrder();
 
@@ -447,6 +451,30 @@ void TestAddonListItem::translatesItsTextsInItsOwnContext()
     writeFile(folder() + QLatin1String("/orbwell.dll"), "x");
     const AddonListItem installed(nullptr, mapping(folder()), false);
     QCOMPARE(RowParts(&installed).action->text(), context + QLatin1String("Uninstall Orbwell"));
+}
+
+void TestAddonListItem::givesItsNameRoomAbove_data()
+{
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("lacking");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("more than enough") << 10 << -5 << 10;
+    QTest::newRow("enough") << 10 << 0 << 10;
+    QTest::newRow("too little") << 10 << 3 << 7;
+    QTest::newRow("too little in all") << 2 << 3 << 0;
+}
+
+void TestAddonListItem::givesItsNameRoomAbove()
+{
+    QFETCH(const int, top);
+    QFETCH(const int, lacking);
+    QFETCH(const int, expected);
+    QWidget row;
+    QLabel label(QStringLiteral("Name"), &row);
+    label.show(); // a layout passes over what is hidden
+    const int height = label.sizeHint().height() - lacking;
+    NameItem(&label).setGeometry(QRect(0, top, 200, height));
+    QCOMPARE(label.geometry(), QRect(0, expected, 200, top + height - expected));
 }
 
 void TestAddonListItem::isBuiltWithoutAWarning()
