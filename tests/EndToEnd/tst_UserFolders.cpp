@@ -63,11 +63,26 @@ void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText()
     Computer computer;
     const QString simulator = QStringLiteral("Det");
     computer.addSimulator(simulator);
-    computer.setCatalogue({computer.entry(simulator, 0)});
+    const QString configuration = QStringLiteral("Maker/Det/dll.xml");
+    QJsonObject entry = computer.entry(simulator, 0);
+    entry.insert(QStringLiteral("conflict"),
+                 QJsonObject{{QStringLiteral("solution"), configuration}});
+    QJsonObject config = entry.value(QLatin1String("config")).toObject();
+    QJsonObject removal = config.value(QLatin1String("remove")).toObject();
+    removal.insert(QStringLiteral("files"),
+                   QJsonArray{QJsonObject{{QStringLiteral("root"), QStringLiteral("17")},
+                                          {QStringLiteral("path"), QStringLiteral("Maker/x")}}});
+    config.insert(QStringLiteral("remove"), removal);
+    entry.insert(QStringLiteral("config"), config);
+    computer.setCatalogue({entry});
     const QString data
         = variable == "HOME" ? QStringLiteral("/.local/share/") : QStringLiteral("/");
-    if (isThereAlready)
-        computer.write(lost() + data + QStringLiteral("Maker/Det/dll.xml"), othersConfiguration());
+    if (isThereAlready) {
+        computer.write(lost() + data + configuration, othersConfiguration());
+        computer.write(lost() + data + configuration + QStringLiteral("_quillmont_unfinished"), {});
+        computer.write(lost() + data + QStringLiteral("Maker/x"), {});
+        computer.write(lost() + data + QStringLiteral("Quillmont/Orbwell/.mapping"), "[ ]");
+    }
     const Disk before = treeOf(computer.absolute(lost()));
     setBytes(&computer, variable.constData(), QStringLiteral("$'caf\\xe9'"));
 

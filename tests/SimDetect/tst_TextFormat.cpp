@@ -166,6 +166,9 @@ void TestTextFormat::keepsItsLimits_data()
     QTest::newRow("a long bare token") << QByteArray("k " + longest) << false;
     QTest::newRow("too long a bare token") << QByteArray("k x" + longest) << true;
     QTest::newRow("too long a key") << QByteArray(longest + "x v") << true;
+    const QByteArray condition = "k v [$" + longest.mid(2);
+    QTest::newRow("a long condition") << QByteArray(condition + "]") << false;
+    QTest::newRow("too long a condition") << QByteArray(condition + "x]") << true;
     QTest::newRow("64 levels") << QByteArray("k {").repeated(64) + QByteArray(64, '}') << false;
     QTest::newRow("65 levels") << QByteArray("k {").repeated(65) + QByteArray(65, '}') << true;
     QTest::newRow("100,000 levels") << QByteArray("k {").repeated(100000) << true;
