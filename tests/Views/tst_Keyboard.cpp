@@ -40,6 +40,8 @@ private slots:
     void takesTheSecondClickOfADoubleClickInTheSameWindowOnly();
     void tellsAPressFromARepeatByItsTime_data();
     void tellsAPressFromARepeatByItsTime();
+    void clicksTwiceOnlyWhereTheFirstClickWas_data();
+    void clicksTwiceOnlyWhereTheFirstClickWas();
     void leavesABoxByKey_data();
     void leavesABoxByKey();
     void bringsTheRowWithTheFocusIntoSight();
@@ -210,6 +212,7 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
             if (isLetGo)
                 send(box.button(QMessageBox::Ok), QEvent::KeyPress, key, time, isMarked);
             repeat(box.button(QMessageBox::Ok), key, &time, isMarked);
+            repeat(&box, key, &time, isMarked);
             isAnswered = isAnswered || !box.isVisible();
             box.close();
         });
@@ -284,6 +287,34 @@ void TestKeyboard::tellsAPressFromARepeatByItsTime()
     send(row(0).action, QEvent::KeyPress, key, ulong(1500 + later));
     QCOMPARE(install.count(), isPress ? 2 : 1);
     send(row(0).action, QEvent::KeyRelease, key, 3000);
+}
+
+void TestKeyboard::clicksTwiceOnlyWhereTheFirstClickWas_data()
+{
+    QTest::addColumn<bool>("isSame");
+    QTest::addColumn<Qt::WindowType>("type");
+    QTest::addColumn<int>("clicks");
+    QTest::newRow("in one window") << true << Qt::Window << 1;
+    QTest::newRow("in a window that came up") << false << Qt::Window << 0;
+    QTest::newRow("in a menu that came up") << false << Qt::Popup << 1;
+}
+
+void TestKeyboard::clicksTwiceOnlyWhereTheFirstClickWas()
+{
+    QFETCH(const bool, isSame);
+    QFETCH(const Qt::WindowType, type);
+    QFETCH(const int, clicks);
+    showRows(numbered(1));
+    QWidget other(isSame ? m_view.get() : nullptr, isSame ? Qt::Widget : type);
+    QPushButton second(&other);
+    QSignalSpy clicked(&second, &QAbstractButton::clicked);
+    QTest::mouseClick(m_view.get(), Qt::LeftButton);
+    for (const auto part : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(
+            part, second.rect().center(), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&second, &event);
+    }
+    QCOMPARE(clicked.count(), clicks);
 }
 
 void TestKeyboard::leavesABoxByKey_data()
