@@ -213,7 +213,8 @@ void TestFileHelper::onlyWhatComesToAnEndIsOpened()
         QCOMPARE(FileHelper::open(&opened, mode, &problem), expected);
         QCOMPARE(opened.isOpen(), expected);
         QCOMPARE(problem.isEmpty(), expected);
-        QCOMPARE(problem.startsWith(QLatin1String("not a")), !forWriting);
+        if (mode == QIODevice::ReadOnly) // what may not be written is told in the system's words
+            QCOMPARE(problem.startsWith(QLatin1String("not a")), !forWriting);
         if (expected)
             QCOMPARE(opened.readAll(),
                      QByteArray(file.endsWith(u'l') || file.endsWith(u'k') ? "text" : ""));
