@@ -34,6 +34,7 @@ private slots:
 
     void pressesEveryButtonByKey_data();
     void pressesEveryButtonByKey();
+    void pressesAButtonThatIsOutOfSight();
     void takesAKeyHeldDownForOnePress();
     void actsOncePerPressHoweverLongTheKeyIsHeld_data();
     void actsOncePerPressHoweverLongTheKeyIsHeld();
@@ -144,6 +145,14 @@ void TestKeyboard::pressesEveryButtonByKey()
     QSignalSpy install(m_view.get(), &ScannerView::install);
     row(0).action->setFocus();
     QTest::keyClick(QApplication::focusWidget(), key);
+    QCOMPARE(install.count(), 1);
+}
+
+void TestKeyboard::pressesAButtonThatIsOutOfSight()
+{
+    showRows(numbered(50));
+    QSignalSpy install(m_view.get(), &ScannerView::install);
+    QTest::keyClick(row(49).action, Qt::Key_Space);
     QCOMPARE(install.count(), 1);
 }
 

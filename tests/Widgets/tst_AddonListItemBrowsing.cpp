@@ -44,6 +44,7 @@ private slots:
     void remembersTheChoiceForTheNextStart();
     void changesNothingWhenCancelled();
     void changesNothingForAFolderThatTheChooserRefuses();
+    void rejectsAFolderThatIsGone_data();
     void rejectsAFolderThatIsGone();
     void savesAnEmptyPathBesideAFolderThatIsGone();
     void seesTheDiskAnewAfterAFolderThatIsGone();
@@ -205,15 +206,27 @@ void TestAddonListItemBrowsing::changesNothingForAFolderThatTheChooserRefuses()
     QVERIFY(!isSaved());
 }
 
+void TestAddonListItemBrowsing::rejectsAFolderThatIsGone_data()
+{
+    QTest::addColumn<bool>("isFile");
+    QTest::newRow("a folder that is gone") << false;
+    QTest::newRow("a file in its place") << true;
+}
+
 void TestAddonListItemBrowsing::rejectsAFolderThatIsGone()
 {
+    QFETCH(const bool, isFile);
     const QString old = folder(QStringLiteral("old"));
     const QString chosen = folder(QStringLiteral("new"));
     FlightSimulatorMapping mapping(m_scan.get(), old);
     AddonListItem row(nullptr, &mapping, false);
     const BoxAnswerer boxes;
     FolderPicker person(chosen);
-    person.afterPicking([chosen] { QDir().rmdir(chosen); });
+    person.afterPicking([chosen, isFile] {
+        QDir().rmdir(chosen);
+        if (isFile)
+            Tests::writeFile(chosen, "a file");
+    });
     row.browsePath();
 
     QVERIFY(person.wasAccepted());
