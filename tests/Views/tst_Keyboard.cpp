@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QWheelEvent>
 
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -52,6 +53,7 @@ private slots:
     void keepsTheFocusOnTheSecondOfOneName();
     void leavesTheFocusOutsideTheListAlone();
     void keepsTheListScrolled();
+    void scrollsByARowPerNotchOfTheWheel();
     void leadsFromTheLastRowToTheButtonsInAWindowOfMore();
 
 private:
@@ -427,6 +429,15 @@ void TestKeyboard::keepsTheListScrolled()
     QCOMPARE(bar->value(), before);
     showRows(numbered(2));
     QCOMPARE(bar->value(), 0);
+}
+
+void TestKeyboard::scrollsByARowPerNotchOfTheWheel()
+{
+    showRows(numbered(50));
+    QWheelEvent notch(
+        {}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(m_list->viewport(), &notch);
+    QCOMPARE(m_list->verticalScrollBar()->value(), 3 * 21); // of 64
 }
 
 void TestKeyboard::leadsFromTheLastRowToTheButtonsInAWindowOfMore()

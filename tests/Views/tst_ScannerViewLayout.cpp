@@ -189,6 +189,10 @@ void TestScannerViewLayout::showsTheIconAsSharpAsTheScreen()
     const QPixmap icon = row(0).icon->pixmap(Qt::ReturnByValue);
     QCOMPARE(icon.devicePixelRatio(), m_view->devicePixelRatioF());
     QCOMPARE(icon.size() / icon.devicePixelRatio(), QSize(44, 44));
+    if (icon.devicePixelRatio() == 2) {
+        const QPixmap drawn(QStringLiteral(":/assets/Quillmont Orbwell/icon-minus-grey-44@2x.png"));
+        QCOMPARE(icon.toImage(), drawn.toImage());
+    }
 }
 
 QVector<QWidget *> TestScannerViewLayout::walk()
