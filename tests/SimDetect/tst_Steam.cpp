@@ -269,6 +269,7 @@ void TestSteam::believesManifests_data()
     flags("0x2", "");
     flags("99999999999999999999999", "");
     flags("-1", "uninstalled (StateFlags 18446744073709551615)");
+    flags("18446744073709551615", "uninstalled (StateFlags 18446744073709551615)");
     flags("0", "not fully installed (StateFlags 0)");
     flags("2", "not fully installed (StateFlags 2)");
     flags("1026", "not fully installed (StateFlags 1026)");
@@ -288,6 +289,9 @@ void TestSteam::believesManifests_data()
         R"("AppState" { "UserConfig" { "installdir" "other" "StateFlags" "1" } "installdir" "X-Plane 12" })",
         "");
     add("junk behind the last brace", R"("AppState" { "installdir" "X-Plane 12" }\0\0"junk)", "");
+    add("blanks around the game's number",
+        R"("AppState" { "appid" " 2014780 " "installdir" "X-Plane 12" })",
+        "");
     add("another game's number",
         R"("AppState" { "appid" "269950" "installdir" "X-Plane 12" })",
         "it is about another game");
