@@ -193,6 +193,7 @@ void TestXPlane::passesOverWhatIsNoXPlane_data()
                file $R/sim/X-Plane Installer.exe =
                file $R/sim/X-Plane 12 Installer-x86_64 =
                file $R/sim/X-Plane-i686 =
+               file $R/sim/X-Plane_64 =
                file $R/sim/My X-Plane.exe =
                file $R/sim/X-Plane.exe.bak =
                file $R/sim/Plane Maker.exe =
@@ -333,6 +334,7 @@ void TestXPlane::tellsTheVersion_data()
             OnBoth,
             R"(xplane $R/sim
                dir $R/sim/X-Plane 12 Installer.app
+               dir $R/sim/X-Plane 11 Installer.app
                file $R/sim/._X-Plane 11 Installer.app =
                file $L/x-plane_install_11.txt = $R/sim/\n)",
             "XP12: $R/sim",

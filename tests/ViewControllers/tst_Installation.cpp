@@ -79,6 +79,28 @@ class TestInstallation : public QObject
 
 private slots:
 
+    // First of all: a process waits only once for who does not end.
+    void waitsForNobodyWhoIsNotThere_data()
+    {
+        QTest::addColumn<bool>("isLockable");
+        QTest::newRow("with a lock") << true;
+        QTest::newRow("where no lock can be had") << false;
+    }
+
+    void waitsForNobodyWhoIsNotThere()
+    {
+        QFETCH(bool, isLockable);
+        Workshop shop;
+        writePayload(shop);
+        if (!isLockable)
+            writeFile(shop.dataPath("Quillmont"), "precious");
+        auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
+        for (int i = 0; i < 2; ++i)
+            shop.controller().install(mapping, true, false);
+        QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
+        QCOMPARE(shop.log.actions().filter(QStringLiteral("waiting")), QStringList());
+    }
+
     void withoutAFolderNothingHappens()
     {
         Workshop shop;
@@ -287,27 +309,6 @@ private slots:
         QVERIFY(!shop.controller().install(mapping, true, false));
         QCOMPARE(shop.log.actions().filter(QStringLiteral("leads nowhere")).size(),
                  isNamed ? 1 : 0);
-    }
-
-    void waitsForNobodyWhoIsNotThere_data()
-    {
-        QTest::addColumn<bool>("isLockable");
-        QTest::newRow("with a lock") << true;
-        QTest::newRow("where no lock can be had") << false;
-    }
-
-    void waitsForNobodyWhoIsNotThere()
-    {
-        QFETCH(bool, isLockable);
-        Workshop shop;
-        writePayload(shop);
-        if (!isLockable)
-            writeFile(shop.dataPath("Quillmont"), "precious");
-        auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
-        for (int i = 0; i < 2; ++i)
-            shop.controller().install(mapping, true, false);
-        QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
-        QCOMPARE(shop.log.actions().filter(QStringLiteral("waiting")), QStringList());
     }
 
     void aFailedCopyHasAlreadyRemovedTheOldFile()
