@@ -307,13 +307,14 @@ void TestAccessibility::pressesNoButtonBehindADialog()
     QSignalSpy scan(m_view.get(), &ScannerView::scanRequested);
     QDialog dialog(m_view.get());
     dialog.open();
+    // What closes the window would have the last word of the loop.
     QEventLoop loop;
+    QMetaObject::invokeMethod(
+        &loop, [&loop] { loop.exit(7); }, Qt::QueuedConnection);
     const auto buttons = m_view->findChildren<QPushButton *>();
     for (auto *button : buttons)
         QMetaObject::invokeMethod(button, "click", Qt::QueuedConnection);
-    QMetaObject::invokeMethod(
-        &loop, [&loop] { loop.exit(7); }, Qt::QueuedConnection);
-    QCOMPARE(loop.exec(), 7); // what closes the window would end the loop otherwise
+    QCOMPARE(loop.exec(), 7);
     QCOMPARE(buttons.size(), 2);
     QCOMPARE(install.count() + scan.count(), 0);
 }
