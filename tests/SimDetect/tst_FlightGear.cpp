@@ -264,15 +264,6 @@ void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
             "FGFS: $H/.fgfs/fgdata_2024_1");
     addCase(
         "a folder of another name", OnLinux, there + data("$R/downloads/old_fgdata_2024_1"), "");
-    for (const int others : {255, 256}) {
-        addCase("behind " + QByteArray::number(others) + " places that are gone",
-                OnLinux,
-                data("$R/downloads/fgdata_2024_1")
-                    + launcher("[General]\\n"
-                               + QByteArray("download-dir=$R/gone\\n").repeated(others)
-                               + "download-dir=$R/downloads"),
-                others < 256 ? "FGFS: $R/downloads/fgdata_2024_1" : "");
-    }
     addCase("after a packaged one",
             OnLinux,
             there + data("$R/downloads/fgdata_2024_1 $R/usr/share/flightgear"),

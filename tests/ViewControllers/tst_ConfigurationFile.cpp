@@ -112,7 +112,7 @@ void TestConfigurationFile::isOneHoweverManyWaysLeadToIt()
         QVERIFY(QDir().mkpath(shop.dataPath("maker/") + QLatin1String(folder)));
     const QByteArray ways = "Maker/" + QByteArray("FSX/../").repeated(20) + "dll.xml";
     auto *mapping
-        = shop.mapping(QByteArray(entry).replace("Maker/FSX/dll.xml", ways), shop.folder("A"));
+        = shop.mapping(QByteArray(entry).replace("$path", ways), shop.folder("A"));
     shop.controller().install(mapping, true, false);
     QVERIFY(readFile(shop.dataPath("maker/DLL.XML")).contains("Our entry"));
 }
@@ -141,7 +141,7 @@ void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense()
     const QString file = shop.dataPath(name + "/DLL.XML");
     writeFile(file, others);
     auto *mapping
-        = shop.mapping(QByteArray(entry).replace("Maker/FSX", "simmaker"), shop.folder("A"));
+        = shop.mapping(QByteArray(entry).replace("$path", "simmaker/dll.xml"), shop.folder("A"));
     shop.controller().install(mapping, true, false);
     QCOMPARE(readFile(file).contains("Our entry"), isFound);
 }
