@@ -1,13 +1,25 @@
 #include "Controllers/UserFiles.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
+#include <QVariant>
 
 namespace Quillmont::Utility::Controllers {
 
+namespace {
+
+// Only a program with windows has a display name. Any other has the name that this falls back to.
+QString programName()
+{
+    const auto *program = QCoreApplication::instance();
+    const QVariant shown = program ? program->property("applicationDisplayName") : QVariant();
+    return shown.isValid() ? shown.toString() : QCoreApplication::applicationName();
+}
+
+} // namespace
+
 QString userDataRoot(QStandardPaths::StandardLocation location)
 {
-    return QStandardPaths::writableLocation(location).remove(
-        QGuiApplication::applicationDisplayName());
+    return QStandardPaths::writableLocation(location).remove(programName());
 }
 
 QString recordFolder()

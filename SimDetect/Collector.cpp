@@ -49,8 +49,10 @@ void Collector::offer(const QString &code, const QVector<Candidate> &candidates,
     if (has(code))
         return;
     const QString folder = firstValid(code, candidates, test);
-    if (!folder.isEmpty())
-        m_paths.insert(code, folder);
+    if (folder.isEmpty())
+        return;
+    m_paths.insert(code, folder);
+    m_findings.append({code, m_origin, folder, {}});
 }
 
 void Collector::turnDown(const QString &code, const QString &path, const QString &reason)
@@ -60,6 +62,7 @@ void Collector::turnDown(const QString &code, const QString &path, const QString
             qUtf8Printable(code),
             qUtf8Printable(printable(path)),
             qUtf8Printable(reason));
+    m_findings.append({code, m_origin, path, reason});
 }
 
 QString

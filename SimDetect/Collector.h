@@ -1,6 +1,8 @@
 #ifndef SIMDETECT_COLLECTOR_H
 #define SIMDETECT_COLLECTOR_H
 
+#include "SimDetect/Finding.h"
+
 #include <QHash>
 #include <QMap>
 #include <QSet>
@@ -36,11 +38,17 @@ public:
     /// where there is none. A folder counts as offered for it afterwards.
     QString firstValid(const QString &code, const QVector<Candidate> &candidates, const Test &test);
 
+    /// Says what names the candidates that are offered from now on.
+    void setOrigin(const QString &origin) { m_origin = origin; }
+
     /// Writes the debug line that says why @p path is not taken as @p code.
-    static void turnDown(const QString &code, const QString &path, const QString &reason);
+    void turnDown(const QString &code, const QString &path, const QString &reason);
 
     /// Simulator code to folder, of all that were found.
     const QMap<QString, QString> &paths() const { return m_paths; }
+
+    /// All that was taken or turned down, in that order.
+    const QVector<Finding> &findings() const { return m_findings; }
 
 private:
     QString validFolder(const QString &code, const Candidate &candidate, const Test &test);
@@ -49,6 +57,8 @@ private:
     FolderLookup &m_lookup;
     QMap<QString, QString> m_paths;
     QHash<QString, QSet<QString>> m_offered;
+    QString m_origin;
+    QVector<Finding> m_findings;
 };
 
 } // namespace Quillmont::SimDetect

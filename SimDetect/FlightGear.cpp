@@ -51,10 +51,13 @@ FlightGear::FlightGear(Collector &collector, FolderLookup &lookup, const Environ
 void FlightGear::find()
 {
     const QString chosen = m_environment.variables.value(QStringLiteral("FG_ROOT"));
+    m_collector.setOrigin(QStringLiteral("FG_ROOT"));
     if (!chosen.isEmpty())
         offer({{chosen, {}}});
+    m_collector.setOrigin(QStringLiteral("FlightGear's launcher"));
     const FlightGearLauncher launcher(home(), m_lookup);
     offer(launcher.roots());
+    m_collector.setOrigin(QStringLiteral("a well-known folder"));
     QVector<Candidate> present;
     const QStringList folders = packaged() + downloaded(launcher.downloadFolders());
     for (const auto &folder : folders)

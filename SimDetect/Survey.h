@@ -1,11 +1,13 @@
 #ifndef SIMDETECT_SURVEY_H
 #define SIMDETECT_SURVEY_H
 
+#include "SimDetect/Finding.h"
 #include "SimDetect/FolderLookup.h"
 #include "SimDetect/Steam/Steam.h"
 
 #include <QMap>
 #include <QString>
+#include <QVector>
 
 namespace Quillmont::SimDetect {
 
@@ -28,6 +30,9 @@ public:
     /// Simulator code to installation folder, as GetAllSimPaths() answers.
     const QMap<QString, QString> &paths() const { return m_paths; }
 
+    /// What was taken or turned down on the way, in that order.
+    const QVector<Finding> &findings() const { return m_findings; }
+
     /// The Proton prefix of the game with Steam's number @p appId, an absolute path; empty where
     /// there is none.
     QString prefix(qint64 appId);
@@ -41,6 +46,7 @@ private:
     FolderLookup m_lookup;
     Steam m_steam;
     QMap<QString, QString> m_paths;
+    QVector<Finding> m_findings;
 };
 
 } // namespace Quillmont::SimDetect

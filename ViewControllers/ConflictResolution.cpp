@@ -1,62 +1,15 @@
 #include "ViewControllers/ScanController.h"
 
-#include "Library/Models/XmlInsertionModel.h"
-#include "Models/FlightSimConflict.h"
-#include "Models/FlightSimScan.h"
-#include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/Payload/Conflicts.h"
 
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-namespace {
-
-using Group = QMap<QString, FlightSimulatorMapping *>; // by the folder that was found
-using Groups = QMap<QString, Group>; // by the conflict's name
-
-// Where two entries found one folder, the conflict of the one that comes second decides who
-// gives it up. The first keeps its place in the group even when it is the one that does.
-Groups groupByFolder(const QList<FlightSimulatorMapping *> &mappings)
-{
-    Groups groups;
-    for (auto *mapping : mappings) {
-        const auto *conflict = mapping->scan->conflict;
-        if (!conflict)
-            continue;
-        Group &group = groups[conflict->name];
-        auto *earlier = group.value(mapping->path);
-        if (!earlier)
-            group.insert(mapping->path, mapping);
-        else
-            (conflict->removeOnConflict ? mapping : earlier)->path.clear();
-    }
-    return groups;
-}
-
-void applySolution(const FlightSimulatorMapping *mapping)
-{
-    const auto *conflict = mapping->scan->conflict;
-    auto *config = mapping->scan->config;
-    if (!config || conflict->solution.isEmpty())
-        return;
-    config->path = conflict->solution;
-    // It is relative to the data root, also where it takes the place of a file in a prefix.
-    config->prefix.clear();
-    config->steam = 0;
-}
-
-} // namespace
-
 void ScanController::sloveConflict(
     QList<FlightSimulatorMapping *> mappings) // NOLINT clazy:exclude=function-args-by-ref
 {
-    const Groups groups = groupByFolder(mappings);
-    for (const Group &group : groups) {
-        if (group.size() < 2)
-            continue;
-        for (const auto *mapping : group)
-            applySolution(mapping);
-    }
+    settleConflicts(mappings);
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -1,11 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
-#include "Models/FlightSimScan.h"
-#include "Models/FlightSimulatorMapping.h"
-
-#include <QDebug>
-#include <QDir>
-#include <QFile>
+#include "ViewControllers/Payload/Strategies.h"
 
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
@@ -14,44 +9,17 @@ namespace Quillmont::Utility::ViewControllers {
 
 FlightSimulatorMapping *ScanController::scan(FlightSimScan *scan)
 {
-    switch (scan->location) {
-    case 0:
-        qDebug("Scanning files...");
-        return scanFile(scan);
-    case 1:
-        qDebug("Scanning folders...");
-        return scanFolder(scan);
-    case 2:
-        // No registry on this platform: such entries are left to the detection library.
-        qDebug("Scanning registry...");
-        return nullptr;
-    case 4:
-        // Never a folder of its own either; the detection library knows these simulators.
-        qDebug("Scanning multiple locations...");
-        scanMultiple(scan);
-        return nullptr;
-    default:
-        return nullptr;
-    }
+    return foundByStrategy(scan);
 }
 
 FlightSimulatorMapping *ScanController::scanFile(FlightSimScan *scan)
 {
-    const QString path
-        = QDir::toNativeSeparators(QString(scan->path + u'/' + scan->key).replace(u'\\', u'/'));
-    qDebug().noquote().nospace() << "file: " << path;
-    // An entry that names neither would find the root of the disk.
-    const bool namesAFile = !scan->path.isEmpty() || !scan->key.isEmpty();
-    return namesAFile && QFile::exists(path) ? new FlightSimulatorMapping(scan, path) : nullptr;
+    return foundFile(scan);
 }
 
 FlightSimulatorMapping *ScanController::scanFolder(FlightSimScan *scan)
 {
-    const QString path = QDir::toNativeSeparators(QString(scan->path).replace(u'\\', u'/'));
-    qDebug().noquote().nospace() << "folder: " << path;
-    // The toolkit takes an empty path for the working directory.
-    const bool exists = !path.isEmpty() && QDir(path).exists();
-    return exists ? new FlightSimulatorMapping(scan, path) : nullptr;
+    return foundFolder(scan);
 }
 
 FlightSimulatorMapping *ScanController::scanRegistry(FlightSimScan *)

@@ -7,12 +7,13 @@
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/Payload/Catalogue.h"
 #include "ViewControllers/Payload/InstallationLock.h"
+#include "ViewControllers/Payload/LaunchDocument.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
 #include "Widgets/BusyPointer.h"
 #include "Widgets/ResultBox.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -29,23 +30,6 @@ using Quillmont::Utility::Widgets::showInformation;
 namespace Quillmont::Utility::ViewControllers {
 
 namespace {
-
-// What a simulator without a configuration file gets: one that already loads the plugin.
-QString launchDocument()
-{
-    return QStringLiteral("<?xml version='1.0' encoding='Windows-1252'?>\r\n"
-                          "<SimBase.Document version=\"1.0\" Type=\"Launch\">\r\n"
-                          "    <Descr>Launch</Descr>\r\n"
-                          "    <Filename>dll.xml</Filename>\r\n"
-                          "    <Disabled>False</Disabled>\r\n"
-                          "    <Launch.ManualLoad>False</Launch.ManualLoad>\r\n"
-                          "    <Launch.Addon>\r\n"
-                          "        <Name>Quillmont Orbwell</Name>\r\n"
-                          "        <Disabled>False</Disabled>\r\n"
-                          "        <Path>GaugesQuillmontOrbwell_64.dll</Path>\r\n"
-                          "    </Launch.Addon>\r\n"
-                          "</SimBase.Document>\r\n");
-}
 
 void removeOldFile(const QString &path)
 {
@@ -105,7 +89,7 @@ void ScanController::copyPluginFiles(FlightSimulatorMapping *mapping)
     const InstallationLock lock;
     if (mapping->scan->root < 1)
         logSkippedEdits(mapping);
-    const QString payload = QCoreApplication::applicationDirPath() + QStringLiteral("/plugins/");
+    const QString payload = payloadFolder();
     const auto &files = mapping->scan->files;
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
         copyPluginFile(QDir::toNativeSeparators(payload + it.value()),

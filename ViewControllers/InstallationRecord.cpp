@@ -7,13 +7,12 @@
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/Payload/Record.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -27,41 +26,6 @@ using Quillmont::Utility::Controllers::recordFileToRead;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
-
-namespace {
-
-bool allExist(const QJsonArray &files)
-{
-    // Each is looked up, as isAddonInstalled() does it.
-    bool complete = true;
-    for (const QJsonValue &file : files)
-        complete &= QFile::exists(file.toString());
-    return complete;
-}
-
-QJsonObject recordOf(const FlightSimulatorMapping *mapping)
-{
-    QJsonArray files;
-    const auto &installed = mapping->scan->files;
-    for (auto it = installed.keyBegin(); it != installed.keyEnd(); ++it)
-        files.append(QDir::toNativeSeparators(mapping->path + u'/' + *it));
-    return {{QStringLiteral("name"), mapping->scan->name},
-            {QStringLiteral("path"), mapping->path},
-            {QStringLiteral("files"), files}};
-}
-
-// Of several records with one name only the last goes.
-void removeLastRecord(QJsonArray &records, const QString &name)
-{
-    for (int i = records.size() - 1; i >= 0; --i) {
-        if (records.at(i).toObject().value(QLatin1String("name")) == QJsonValue(name)) {
-            records.removeAt(i);
-            return;
-        }
-    }
-}
-
-} // namespace
 
 void ScanController::createMappingFile()
 {
@@ -81,10 +45,10 @@ void ScanController::createMappingFile()
 void ScanController::getUserSimulatorMapping()
 {
     const QString text = readFile(recordFileToRead());
-    const QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
+    const QJsonArray records = recordsIn(text);
     for (const QJsonValue &element : records) {
         const QJsonObject record = element.toObject();
-        if (!allExist(record.value(QLatin1String("files")).toArray()))
+        if (!isComplete(record))
             continue;
         const QString name = record.value(QLatin1String("name")).toString();
         const auto it = std::find_if(mappings.cbegin(), mappings.cend(), [&name](auto *mapping) {
@@ -109,13 +73,8 @@ void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool 
         reportUnwritten(path, QStringLiteral("its records would be lost"));
         return;
     }
-    QJsonArray records = QJsonDocument::fromJson(text.toLocal8Bit()).array();
-    removeLastRecord(records, mapping->scan->name);
-    if (!uninstalled)
-        records.append(recordOf(mapping));
-
     logAction() << "record:" << mapping->scan->name << (uninstalled ? "is out" : "is in");
-    saveFile(path, QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented)));
+    saveFile(path, updatedRecord(text, mapping, uninstalled));
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -126,7 +126,6 @@ private:
     [[noreturn]] void runRemoval(InstallationMode mode);
     void showSummary(const QStringList &lines, InstallationMode mode);
 
-    QList<Models::FlightSimScan *> catalogueEntries(const QString &content);
     Models::FlightSimulatorMapping *mappingFor(Models::FlightSimScan *scan);
 
     bool readText(const QString &path, QString *text);

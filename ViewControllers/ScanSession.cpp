@@ -9,19 +9,12 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "SimDetect/SimDetect.h"
+#include "ViewControllers/Payload/Catalogue.h"
 #include "ViewControllers/Payload/InstallationLock.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
 #include "ViewControllers/Payload/SteamPrefix.h"
 #include "Views/ScannerView.h"
 #include "Widgets/BusyPointer.h"
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QMultiMap>
-#include <QTextStream>
 
 #include <algorithm>
 
@@ -76,14 +69,7 @@ void clearUnfinishedChanges(const QStringList &files)
 
 QString ScanController::getJsonContent()
 {
-    QFile file(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()
-                                        + QStringLiteral("/flightsims.json")));
-    if (!file.open(QIODevice::ReadOnly)) {
-        logAction() << "catalogue" << file.fileName() << "not read:" << file.errorString();
-        return {};
-    }
-    logAction() << "catalogue" << file.fileName() << "read";
-    return QTextStream(&file).readAll();
+    return catalogueText(catalogueFile());
 }
 
 void ScanController::startScan(bool updateDefault, bool silent, InstallationMode mode)
@@ -96,7 +82,7 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
     simPaths = SimDetect::GetAllSimPaths();
 
     QList<FlightSimulatorMapping *> result;
-    const auto entries = catalogueEntries(content);
+    const auto entries = catalogueEntries(this, content, simPaths);
     for (auto *entry : entries) {
         if (entry->config)
             findPrefix(entry->config);
@@ -115,24 +101,6 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
     } else {
         view->setScanResult(result, updateDefault, true);
     }
-}
-
-// Simulators that are known to be here come first, each group in reverse catalogue order: a map
-// with several values a key hands the newest out first.
-QList<FlightSimScan *> ScanController::catalogueEntries(const QString &content)
-{
-    enum Group {
-        Detected,
-        Others
-    };
-
-    QMultiMap<int, FlightSimScan *> entries;
-    const QJsonArray catalogue = QJsonDocument::fromJson(content.toLocal8Bit()).array();
-    for (const QJsonValue &element : catalogue) {
-        auto *entry = new FlightSimScan(this, element.toObject());
-        entries.insert(simPaths.contains(entry->simcode) ? Detected : Others, entry);
-    }
-    return entries.values();
 }
 
 FlightSimulatorMapping *ScanController::mappingFor(FlightSimScan *scan)

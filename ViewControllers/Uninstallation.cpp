@@ -2,14 +2,13 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
-#include "Controllers/UserFiles.h"
 #include "Library/Helpers/XmlHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
-#include "Models/FileOperation.h"
 #include "Models/FlightSimRemoval.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/Payload/InstallationLock.h"
+#include "ViewControllers/Payload/Leftovers.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
 #include "Widgets/BusyPointer.h"
 #include "Widgets/ResultBox.h"
@@ -18,14 +17,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
-#include <system_error>
-
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
-using Quillmont::Utility::Controllers::userDataRoot;
-using Quillmont::Utility::Models::FileOperation;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::BusyPointer;
 using Quillmont::Utility::Widgets::showInformation;
@@ -33,36 +27,6 @@ using Quillmont::Utility::Widgets::showInformation;
 namespace Quillmont::Utility::ViewControllers {
 
 namespace {
-
-// What a folder's listing shows: nothing hidden, no link that leads nowhere, and a device, a pipe
-// or a socket only through a link. What cannot be looked at may be shown.
-bool isVisible(const std::filesystem::directory_entry &entry)
-{
-    using std::errc;
-    using std::filesystem::file_type;
-
-    std::error_code failure;
-    const auto status = entry.status(failure);
-    const bool isMissing = status.type() == file_type::not_found
-        || failure == errc::too_many_symbolic_link_levels || failure == errc::filename_too_long;
-    const bool isSpecial = std::filesystem::is_other(status) && status.type() != file_type::unknown;
-    std::error_code ignored;
-    return entry.path().filename().native().front() != '.' && !isMissing
-        && (!isSpecial || entry.is_symlink(ignored));
-}
-
-// Qt's listing takes a folder that cannot be listed for an empty one, and leaves names out that
-// are no text.
-bool isSurelyEmpty(const QDir &folder)
-{
-    std::error_code failure;
-    std::filesystem::directory_iterator it(QFile::encodeName(folder.path()).toStdString(), failure);
-    for (; !failure && it != std::filesystem::directory_iterator(); it.increment(failure)) {
-        if (isVisible(*it))
-            return false;
-    }
-    return !failure;
-}
 
 // QDir removes the folder that a path with ".." means as text, which behind a linked folder is not
 // the one that it lists.
@@ -97,24 +61,6 @@ void removeExtraFile(const QString &path)
     const bool removed = PathEncoding::survives(path) && file.remove();
     if (existed)
         reportRemoval(file, removed);
-}
-
-// A number that the toolkit has no location for names no folder.
-QString numberedFolder(int number)
-{
-    if (number < QStandardPaths::DesktopLocation || number > QStandardPaths::AppConfigLocation)
-        return {};
-    return userDataRoot(static_cast<QStandardPaths::StandardLocation>(number));
-}
-
-QString extraFile(const FlightSimulatorMapping *mapping, const FileOperation *operation)
-{
-    if (operation->root == QLatin1String("-1")) {
-        const QString &base = mapping->note.isNull() ? mapping->path : mapping->note;
-        // Joined by a backslash on every system, as the catalogues' authors expect it.
-        return QDir::toNativeSeparators(base + QDir::toNativeSeparators(u'\\' + operation->path));
-    }
-    return QDir::toNativeSeparators(numberedFolder(operation->root.toInt()) + operation->path);
 }
 
 } // namespace

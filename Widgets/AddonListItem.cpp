@@ -1,6 +1,7 @@
 #include "Widgets/AddonListItem.h"
 
 #include "Controllers/ActionLog.h"
+#include "Controllers/ChosenFolder.h"
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
 #include "Widgets/NameItem.h"
@@ -17,6 +18,8 @@
 #include <QTextDocument>
 #include <QToolButton>
 
+using Quillmont::Utility::Controllers::chosenFolder;
+using Quillmont::Utility::Controllers::chosenFolderKey;
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Quillmont::Utility::Controllers::logAction;
 
@@ -241,12 +244,12 @@ QPixmap AddonListItem::artwork(const QString &name) const
 
 QString AddonListItem::settingsKey() const
 {
-    return QStringLiteral("flightsim/") + QString(m_mapping->scan->name).replace(u' ', u'_');
+    return chosenFolderKey(m_mapping->scan->name);
 }
 
 QString AddonListItem::getMappedPath()
 {
-    return ConfigurationController::instance()->getSettings(settingsKey(), QString()).toString();
+    return chosenFolder(m_mapping->scan->name);
 }
 
 void AddonListItem::savePath()

@@ -96,4 +96,20 @@ bool FileHelper::open(QFile *file, QIODevice::OpenMode mode, QString *problem)
     return false;
 }
 
+QByteArray FileHelper::read(const QString &path, qint64 maxSize, QString *problem)
+{
+    QFile file(path);
+    if (!open(&file, QIODevice::ReadOnly, problem))
+        return {};
+    if (file.size() > maxSize) {
+        *problem = QStringLiteral("too big");
+        return {};
+    }
+
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        *problem = file.errorString();
+    return bytes;
+}
+
 } // namespace Quillmont::Library::Helpers

@@ -1,6 +1,7 @@
 #ifndef LIBRARY_HELPERS_FILEHELPER_H
 #define LIBRARY_HELPERS_FILEHELPER_H
 
+#include <QByteArray>
 #include <QIODevice>
 
 class QFile;
@@ -29,6 +30,10 @@ public:
     /// some of the system's have neither a size nor an end. A pipe or a device is not even opened.
     /// On failure the file is closed and @p problem says why.
     static bool open(QFile *file, QIODevice::OpenMode mode, QString *problem);
+
+    /// The bytes of the file at @p path, opened as above. Empty where that fails or it has more
+    /// than @p maxSize; then @p problem says why.
+    static QByteArray read(const QString &path, qint64 maxSize, QString *problem);
 };
 
 } // namespace Quillmont::Library::Helpers

@@ -6,9 +6,6 @@
 #include "Library/Models/XmlInsertionModel.h"
 #include "Library/Xml/editedXml.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include <functional>
 
 using Quillmont::Library::Files::FileWriter;
@@ -20,29 +17,10 @@ namespace {
 
 using Edit = std::function<QByteArray(const QByteArray &, QString *)>;
 
-// The content of the file at @p path; on failure @p problem says why.
-QByteArray read(const QString &path, QString *problem)
-{
-    // Configuration files have some kilobytes; what is bigger than this only eats up memory.
-    constexpr qint64 maxSize = 32LL * 1024 * 1024;
-    QFile file(path);
-    if (!FileHelper::open(&file, QIODevice::ReadOnly, problem))
-        return {};
-    if (file.size() > maxSize) {
-        *problem = QStringLiteral("too big");
-        return {};
-    }
-
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        *problem = file.errorString();
-    return bytes;
-}
-
 bool change(const QString &path, const Edit &edit)
 {
     QString problem;
-    const QByteArray before = read(path, &problem);
+    const QByteArray before = FileHelper::read(path, Xml::maxFileSize, &problem);
     const QByteArray after = problem.isEmpty() ? edit(before, &problem) : before;
     if (after != before)
         FileWriter::write(path, after, &problem);

@@ -82,6 +82,11 @@ std::unique_ptr<QTextDecoder> XmlEncoding::makeDecoder() const
     return std::unique_ptr<QTextDecoder>(m_codec->makeDecoder(QTextCodec::IgnoreHeader));
 }
 
+QString XmlEncoding::name() const
+{
+    return QString::fromLatin1(m_codec->name());
+}
+
 QByteArray XmlEncoding::encoded(const QString &text) const
 {
     return encode(m_codec, text);

@@ -23,6 +23,9 @@ public:
     /// A decoder for what follows the byte-order mark.
     std::unique_ptr<QTextDecoder> makeDecoder() const;
 
+    /// Its name, as IANA has it.
+    QString name() const;
+
     /// The size in bytes of the byte-order mark that the file begins with, or 0.
     int markSize() const { return m_markSize; }
 

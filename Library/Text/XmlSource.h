@@ -31,6 +31,8 @@ public:
     /// The text, without a byte-order mark.
     const QString &text() const { return m_offsets.text(); }
 
+    const XmlEncoding &encoding() const { return m_encoding; }
+
     /// Whether every character of @p text can be written as itself.
     bool canWrite(const QString &text) const { return m_encoding.writable(text) == text; }
 

@@ -9,12 +9,12 @@
 
 namespace Quillmont::Library::Xml {
 
-namespace {
-
 bool isOurs(const RootChild &child, const Models::XmlConfigModel &model)
 {
     return child.name == model.element && child.hasChild(model.key, model.value);
 }
+
+namespace {
 
 // Whether @p child already has all of @p model's values. Needed because "remove" may not match
 // what "values" writes: without it every run would add another element.

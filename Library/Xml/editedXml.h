@@ -1,6 +1,8 @@
 #ifndef LIBRARY_XML_EDITEDXML_H
 #define LIBRARY_XML_EDITEDXML_H
 
+#include <QtGlobal>
+
 class QByteArray;
 class QString;
 
@@ -10,6 +12,14 @@ class XmlInsertionModel;
 } // namespace Quillmont::Library::Models
 
 namespace Quillmont::Library::Xml {
+
+struct RootChild;
+
+/// In bytes. Configuration files have some kilobytes; what is bigger only eats up memory.
+constexpr qint64 maxFileSize = 32LL * 1024 * 1024;
+
+/// Whether @p child of the root is what @p model recognises as ours.
+[[nodiscard]] bool isOurs(const RootChild &child, const Models::XmlConfigModel &model);
 
 /// @p bytes of an XML file with one add-on element of ours, as @p model wants it. The same bytes if
 /// there is nothing to do, and also if it cannot be done; then @p problem says why, and where.

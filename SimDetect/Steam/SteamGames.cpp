@@ -50,7 +50,7 @@ void SteamGames::findAerofly(Steam &steam)
     QVector<Candidate> userFolders;
     const QStringList prefixes = steam.prefixes(appId);
     if (prefixes.isEmpty())
-        Collector::turnDown(code, game, QStringLiteral("it has no Proton prefix"));
+        m_collector.turnDown(code, game, QStringLiteral("it has no Proton prefix"));
     for (const auto &prefix : prefixes)
         userFolders.append(
             {prefix + QStringLiteral("/drive_c/users/steamuser/Documents/Aerofly FS 4"), {}});

@@ -54,8 +54,11 @@ XPlane::XPlane(Collector &collector, FolderLookup &lookup, const Environment &en
 
 void XPlane::find(Steam &steam)
 {
+    m_collector.setOrigin(QStringLiteral("X-Plane's own list"));
     offer([this](int version) { return listed(version); });
+    m_collector.setOrigin(QStringLiteral("Steam"));
     offer([&steam](int version) { return steam.candidates(steamIdOf(version)); });
+    m_collector.setOrigin(QStringLiteral("a well-known folder"));
     offer([this](int version) { return wellKnown(version); });
 }
 

@@ -1,0 +1,16 @@
+#ifndef CONTROLLERS_CHOSENFOLDER_H
+#define CONTROLLERS_CHOSENFOLDER_H
+
+class QString;
+
+namespace Quillmont::Utility::Controllers {
+
+/// The key in the settings of the folder that the user chose for that simulator.
+QString chosenFolderKey(const QString &simulatorName);
+
+/// That folder; empty where none is stored, or the settings cannot be read.
+QString chosenFolder(const QString &simulatorName);
+
+} // namespace Quillmont::Utility::Controllers
+
+#endif

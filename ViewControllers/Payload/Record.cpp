@@ -1,0 +1,66 @@
+#include "ViewControllers/Payload/Record.h"
+
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using Quillmont::Utility::Models::FlightSimulatorMapping;
+
+namespace Quillmont::Utility::ViewControllers {
+
+namespace {
+
+QJsonObject recordOf(const FlightSimulatorMapping *mapping)
+{
+    QJsonArray files;
+    const auto &installed = mapping->scan->files;
+    for (auto it = installed.keyBegin(); it != installed.keyEnd(); ++it)
+        files.append(QDir::toNativeSeparators(mapping->path + u'/' + *it));
+    return {{QStringLiteral("name"), mapping->scan->name},
+            {QStringLiteral("path"), mapping->path},
+            {QStringLiteral("files"), files}};
+}
+
+// Of several records with one name only the last goes.
+void removeLastRecord(QJsonArray &records, const QString &name)
+{
+    for (int i = records.size() - 1; i >= 0; --i) {
+        if (records.at(i).toObject().value(QLatin1String("name")) == QJsonValue(name)) {
+            records.removeAt(i);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+QJsonArray recordsIn(const QString &text)
+{
+    return QJsonDocument::fromJson(text.toLocal8Bit()).array();
+}
+
+bool isComplete(const QJsonObject &record)
+{
+    // Each is looked up, as isAddonInstalled() does it.
+    bool complete = true;
+    const QJsonArray files = record.value(QLatin1String("files")).toArray();
+    for (const QJsonValue &file : files)
+        complete &= QFile::exists(file.toString());
+    return complete;
+}
+
+QString updatedRecord(const QString &text, const FlightSimulatorMapping *mapping, bool uninstalled)
+{
+    QJsonArray records = recordsIn(text);
+    removeLastRecord(records, mapping->scan->name);
+    if (!uninstalled)
+        records.append(recordOf(mapping));
+    return QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented));
+}
+
+} // namespace Quillmont::Utility::ViewControllers
