@@ -30,3 +30,4 @@ orbwell_add_staging(orbwell-staging
   "${PROJECT_SOURCE_DIR}/sample/plugins"
   "${ORBWELL_RUNNABLE_FOLDER}")
 add_dependencies(QuillmontOrbwell orbwell-staging)
+add_dependencies(orbwell-doctor orbwell-staging)

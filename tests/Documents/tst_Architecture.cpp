@@ -35,6 +35,7 @@ QStringList TestArchitecture::sourceNames()
 {
     QStringList names;
     for (const auto &folder : {"Controllers"_s,
+                               "Doctor"_s,
                                "Library"_s,
                                "Models"_s,
                                "SimDetect"_s,
@@ -100,6 +101,7 @@ void TestArchitecture::letsALayerSeeWhatIsBelow_data()
     row("Widgets", "Models/FlightSimScan.h", "Views/ScannerView.h");
     row("Views", "Widgets/AddonListItem.h", "ViewControllers/ScanController.h");
     row("ViewControllers/Payload", "SimDetect/SimDetect.h", "Widgets/ResultBox.h");
+    row("Doctor", "ViewControllers/Payload/Record.h", "Widgets/ResultBox.h");
     row("ViewControllers", "Views/ScannerView.h", "tests/support/Files.h");
 }
 

@@ -1,0 +1,57 @@
+#ifndef DOCTOR_CONFIGURATIONCHECK_H
+#define DOCTOR_CONFIGURATIONCHECK_H
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace Quillmont::Library::Xml {
+struct RootChild;
+} // namespace Quillmont::Library::Xml
+
+namespace Quillmont::Utility::Models {
+class FlightSimScan;
+class FlightSimulatorMapping;
+} // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::Doctor {
+
+class Problems;
+
+/// A simulator's configuration file: is it well formed, and what about our entry in it.
+class ConfigurationCheck
+{
+    Q_DECLARE_TR_FUNCTIONS(ConfigurationCheck)
+
+public:
+    /// @p isInstalled: whether the plugin's files are there, so that an entry should be, too.
+    ConfigurationCheck(const Models::FlightSimulatorMapping *mapping,
+                       bool isInstalled,
+                       Problems *problems);
+
+    /// The findings, under stable keys.
+    const QJsonObject &json() const { return m_json; }
+
+private:
+    void lookAt(const QString &path);
+    void read(const QByteArray &bytes);
+    void lookAtEntries(const QString &text);
+    void lookAtOurs(const Library::Xml::RootChild &entry);
+    void lookAtOthers(const Library::Xml::RootChild &entry);
+    void judge(int count);
+    bool isFileThere(const QString &path) const;
+
+    const Models::FlightSimulatorMapping *const m_mapping;
+    const Models::FlightSimScan *const m_entry;
+    const bool m_isInstalled;
+    Problems *const m_problems;
+    QJsonObject m_json;
+    QJsonObject m_ours;
+    QJsonArray m_others;
+    QString m_path;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

@@ -1,0 +1,49 @@
+#ifndef DOCTOR_DOCTOR_H
+#define DOCTOR_DOCTOR_H
+
+#include "Doctor/Simulator.h"
+
+#include <QCoreApplication>
+
+class QJsonObject;
+class QTextStream;
+
+namespace Quillmont::Utility::Doctor {
+
+class Options;
+
+/// One run of the program: looks, and says what it has seen.
+class Doctor
+{
+    Q_DECLARE_TR_FUNCTIONS(Doctor)
+
+public:
+    enum Status {
+        Fine = 0,
+        SomethingWrong = 1,
+        CouldNotLook = 2
+    };
+
+    /// All that is handed in has to outlive this.
+    Doctor(const Options &options, QTextStream *output, QTextStream *errors);
+
+    /// Does what the options ask for, and gives the exit status.
+    int run();
+
+private:
+    int look();
+    int examine(const QString &catalogue);
+    int fail(const QString &problem);
+    int print(QJsonObject answer);
+    bool areKnown(const QList<Simulator> &simulators);
+    QString catalogueFile() const;
+    QString payloadFolder() const;
+
+    const Options &m_options;
+    QTextStream *const m_output;
+    QTextStream *const m_errors;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

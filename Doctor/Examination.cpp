@@ -1,0 +1,176 @@
+#include "Doctor/Examination.h"
+
+#include "Doctor/Backups.h"
+#include "Doctor/ConfigurationCheck.h"
+#include "Doctor/FilesCheck.h"
+#include "Doctor/Quoting.h"
+#include "Doctor/RecordCheck.h"
+#include "Models/FlightSimScan.h"
+#include "Models/FlightSimulatorMapping.h"
+#include "SimDetect/Survey.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
+
+using Quillmont::SimDetect::Survey;
+
+namespace Quillmont::Utility::Doctor {
+
+namespace {
+
+// All that detection has said of a simulator, or a list of what it turned down.
+QJsonArray turnedDown(const QString &code)
+{
+    QJsonArray places;
+    for (const auto &finding : Survey::last().findings()) {
+        if (finding.code == code && !finding.objection.isEmpty())
+            places.append(QJsonObject{{QStringLiteral("path"), finding.path},
+                                      {QStringLiteral("namedBy"), finding.origin},
+                                      {QStringLiteral("reason"), finding.objection}});
+    }
+    return places;
+}
+
+QString stateOf(const Simulator &simulator, int present)
+{
+    const auto *mapping = simulator.mapping;
+    if (mapping->path.isEmpty())
+        return QStringLiteral("not found");
+    if (mapping->isAddonInstalled())
+        return QStringLiteral("installed");
+    return present > 0 ? QStringLiteral("partly installed") : QStringLiteral("not installed");
+}
+
+} // namespace
+
+Examination::Examination(const QList<Simulator> &simulators, const QString &payload)
+    : m_simulators(simulators)
+    , m_payload(payload)
+{ }
+
+QJsonObject Examination::report(const QStringList &names) const
+{
+    const RecordCheck record;
+    QSet<QString> known;
+    QJsonArray simulators;
+    bool isFine = true;
+    for (const Simulator &simulator : m_simulators) {
+        const QString &name = simulator.mapping->scan->name;
+        known.insert(name);
+        if (!names.isEmpty() && !names.contains(name))
+            continue;
+        QJsonObject object = reportOn(simulator);
+        Problems problems;
+        object.insert(QStringLiteral("record"), record.of(simulator.mapping, &problems));
+        QJsonArray all = object.value(QLatin1String("problems")).toArray();
+        for (const auto &problem : problems.all())
+            all.append(problem);
+        object.insert(QStringLiteral("problems"), all);
+        isFine = isFine && all.isEmpty();
+        simulators.append(object);
+    }
+    Problems problems;
+    QJsonObject whole = record.json(known, &problems);
+    whole.insert(QStringLiteral("problems"), problems.all());
+    isFine = isFine && (problems.all().isEmpty() || !names.isEmpty());
+    return {{QStringLiteral("fine"), isFine},
+            {QStringLiteral("simulators"), simulators},
+            {QStringLiteral("record"), whole}};
+}
+
+QJsonObject Examination::reportOn(const Simulator &simulator) const
+{
+    Problems problems;
+    const auto *mapping = simulator.mapping;
+    const bool isFound = !mapping->path.isEmpty();
+    QJsonObject object = locationOf(simulator);
+    judgeFolder(simulator, &problems);
+    const FilesCheck files(mapping, m_payload, &problems);
+    object.insert(QStringLiteral("state"), stateOf(simulator, files.present()));
+    object.insert(QStringLiteral("files"), files.json());
+    if (isFound) {
+        const ConfigurationCheck configuration(
+            mapping, mapping->isAddonInstalled() && files.present() > 0, &problems);
+        object.insert(QStringLiteral("configuration"), configuration.json());
+        const QString file = configuration.json().value(QLatin1String("path")).toString();
+        object.insert(QStringLiteral("backups"), file.isEmpty() ? QJsonArray() : backupsOf(file));
+        const qint64 needed = files.neededBytes() + QFileInfo(file).size();
+        object.insert(QStringLiteral("room"), roomFor(simulator, needed, &problems));
+    }
+    object.insert(QStringLiteral("problems"), problems.all());
+    return object;
+}
+
+QJsonObject Examination::locationOf(const Simulator &simulator) const
+{
+    const auto *entry = simulator.mapping->scan;
+    QJsonObject object{{QStringLiteral("name"), entry->name},
+                       {QStringLiteral("code"), entry->simcode},
+                       {QStringLiteral("folder"), simulator.mapping->path},
+                       {QStringLiteral("foundBy"), originOf(simulator)},
+                       {QStringLiteral("turnedDown"), turnedDown(entry->simcode)}};
+    if (!simulator.gaveUp.isEmpty())
+        object.insert(QStringLiteral("gaveWay"),
+                      QJsonObject{{QStringLiteral("folder"), simulator.gaveUp},
+                                  {QStringLiteral("to"), simulator.gaveWayTo}});
+    return object;
+}
+
+QString Examination::originOf(const Simulator &simulator) const
+{
+    switch (simulator.origin) {
+    case Simulator::ByHand:
+        return QStringLiteral("chosen by hand");
+    case Simulator::ByStrategy:
+        return simulator.mapping->scan->location == 0 ? QStringLiteral("the catalogue's file")
+                                                      : QStringLiteral("the catalogue's folder");
+    case Simulator::ByDetection:
+        for (const auto &finding : Survey::last().findings()) {
+            if (finding.code == simulator.mapping->scan->simcode && finding.objection.isEmpty())
+                return finding.origin;
+        }
+        break;
+    case Simulator::NotFound:
+        break;
+    }
+    return QString();
+}
+
+void Examination::judgeFolder(const Simulator &simulator, Problems *problems) const
+{
+    const QString &path = simulator.mapping->path;
+    if (path.isEmpty())
+        return;
+    const QFileInfo info(path);
+    if (!info.exists())
+        problems->addError(tr("Its folder %1 is gone.").arg(quoted(path)),
+                           tr("Choose its folder in the window."));
+    else if (!info.isDir())
+        problems->addError(tr("%1 is a file, not a folder.").arg(quoted(path)),
+                           tr("Choose its folder in the window."));
+    else if (!info.isWritable())
+        problems->addError(tr("You may not write in its folder %1.").arg(quoted(path)),
+                           tr("Give yourself the right to write there."));
+}
+
+QJsonObject
+Examination::roomFor(const Simulator &simulator, qint64 needed, Problems *problems) const
+{
+    std::error_code failure;
+    const QString &path = simulator.mapping->path;
+    const auto space = std::filesystem::space(QFile::encodeName(path).toStdString(), failure);
+    if (failure)
+        return {{QStringLiteral("needed"), needed}};
+    const auto available = static_cast<qint64>(space.available);
+    if (available < needed)
+        problems->addError(tr("The disk has room for %1 bytes; the files and a backup take %2.")
+                               .arg(available)
+                               .arg(needed),
+                           tr("Make room on the disk of %1.").arg(quoted(path)));
+    return {{QStringLiteral("needed"), needed}, {QStringLiteral("available"), available}};
+}
+
+} // namespace Quillmont::Utility::Doctor

@@ -1,0 +1,52 @@
+#ifndef DOCTOR_FILESCHECK_H
+#define DOCTOR_FILESCHECK_H
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QString>
+
+namespace Quillmont::Utility::Models {
+class FlightSimulatorMapping;
+} // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::Doctor {
+
+class Problems;
+
+/// Whether two files have the same bytes; false where one cannot be read.
+bool haveSameBytes(const QString &first, const QString &second);
+
+/// The plugin's files in a simulator, beside those in the folder @p payload.
+class FilesCheck
+{
+    Q_DECLARE_TR_FUNCTIONS(FilesCheck)
+
+public:
+    FilesCheck(const Models::FlightSimulatorMapping *mapping,
+               const QString &payload,
+               Problems *problems);
+
+    /// One object for each file, with its "state".
+    const QJsonArray &json() const { return m_json; }
+
+    /// How many are there, whatever is in them.
+    int present() const { return m_present; }
+
+    /// What copying takes in the simulator's folder, in bytes.
+    qint64 neededBytes() const { return m_needed; }
+
+private:
+    QString stateOf(const QString &target, const QString &source);
+    void judge();
+    QString names(const char *state) const;
+
+    const Models::FlightSimulatorMapping *const m_mapping;
+    Problems *const m_problems;
+    QJsonArray m_json;
+    int m_present = 0;
+    qint64 m_needed = 0;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

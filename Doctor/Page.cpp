@@ -1,0 +1,51 @@
+#include "Doctor/Page.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace Quillmont::Utility::Doctor {
+
+Page Page::forStandardOutput()
+{
+    if (::isatty(STDOUT_FILENO) == 0)
+        return {0, false};
+    struct winsize size = {};
+    const bool isKnown = ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return {isKnown ? std::max<int>(size.ws_col, 40) : 80, qEnvironmentVariableIsEmpty("NO_COLOR")};
+}
+
+void Page::add(int indent, const QString &line, Style style)
+{
+    const QString blanks(indent, u' ');
+    QString folded;
+    const QStringList words = line.split(u' ');
+    for (const QString &word : words) {
+        if (m_width > 0 && !folded.isEmpty()
+            && indent + folded.size() + 1 + word.size() > m_width) {
+            m_text += blanks + coloured(folded, style) + u'\n';
+            folded = QStringLiteral("  ") + word;
+        } else {
+            folded += folded.isEmpty() ? word : u' ' + word;
+        }
+    }
+    m_text += blanks + coloured(folded, style) + u'\n';
+}
+
+void Page::addExactly(int indent, const QString &line, Style style)
+{
+    m_text += QString(indent, u' ') + coloured(line, style) + u'\n';
+}
+
+QString Page::coloured(const QString &line, Style style) const
+{
+    static const char *const codes[] = {"", "\033[1m", "\033[32m", "\033[31m"};
+    if (!m_isColoured || style == Plain)
+        return line;
+    return QLatin1String(codes[style]) + line + QLatin1String("\033[0m");
+}
+
+} // namespace Quillmont::Utility::Doctor

@@ -1,0 +1,30 @@
+#ifndef DOCTOR_PROBLEMS_H
+#define DOCTOR_PROBLEMS_H
+
+#include <QJsonArray>
+#include <QString>
+
+namespace Quillmont::Utility::Doctor {
+
+/// What is wrong, in the order in which it was found.
+class Problems
+{
+public:
+    /// The plugin does not load, or nothing can be done about it without this.
+    void addError(const QString &text, const QString &advice) { add("error", text, advice); }
+
+    /// It works, but not as it should.
+    void addWarning(const QString &text, const QString &advice) { add("warning", text, advice); }
+
+    /// Objects with "level", "text" and "advice".
+    const QJsonArray &all() const { return m_all; }
+
+private:
+    void add(const char *level, const QString &text, const QString &advice);
+
+    QJsonArray m_all;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

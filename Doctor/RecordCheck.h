@@ -1,0 +1,43 @@
+#ifndef DOCTOR_RECORDCHECK_H
+#define DOCTOR_RECORDCHECK_H
+
+#include "Doctor/Problems.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QJsonObject>
+#include <QSet>
+
+namespace Quillmont::Utility::Models {
+class FlightSimulatorMapping;
+} // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::Doctor {
+
+/// The installation record beside what is on the disk.
+class RecordCheck
+{
+    Q_DECLARE_TR_FUNCTIONS(RecordCheck)
+
+public:
+    /// Reads the record.
+    RecordCheck();
+
+    /// What it says of the simulator; empty where it says nothing.
+    QJsonObject of(const Models::FlightSimulatorMapping *mapping, Problems *problems) const;
+
+    /// The record as a whole, and its simulators that are not among @p names.
+    QJsonObject json(const QSet<QString> &names, Problems *problems) const;
+
+private:
+    void judge(const QString &problem);
+
+    QString m_state;
+    Problems m_problems;
+    QVector<QString> m_names;
+    QHash<QString, QJsonObject> m_records; ///< By name; of several the last, as a run takes it.
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

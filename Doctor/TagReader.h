@@ -1,0 +1,51 @@
+#ifndef DOCTOR_TAGREADER_H
+#define DOCTOR_TAGREADER_H
+
+#include <QString>
+
+namespace Quillmont::Utility::Doctor {
+
+/// One piece of markup in a text that need not be well formed.
+struct Tag
+{
+    enum Kind {
+        Start,
+        SelfClosed,
+        End,
+        Declaration, ///< "<?xml ...?>"
+        Other, ///< A comment, an instruction, a CDATA section, a document type.
+        Malformed, ///< It begins like no tag: "<\Path>", "< Path>".
+        Unfinished, ///< Another tag, or the end of the text, comes before its ">".
+        Nothing ///< There is no more markup.
+    };
+
+    Kind kind = Nothing;
+    QString name; ///< Of an element, as far as it can be told; with the first "<\" or "</ " gone.
+    int begin = -1; ///< Of its "<".
+    int end = -1; ///< Behind its ">".
+};
+
+/// Goes from tag to tag through a text that a strict reader has refused.
+class TagReader
+{
+public:
+    /// @p text has to outlive this.
+    explicit TagReader(const QString &text)
+        : m_text(text)
+    { }
+
+    /// The next piece of markup.
+    Tag next();
+
+private:
+    Tag special(int begin) const;
+    Tag element(int begin) const;
+    int closing(int begin) const;
+
+    const QString &m_text;
+    int m_place = 0;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

@@ -1,0 +1,38 @@
+#ifndef DOCTOR_TEXTREPORT_H
+#define DOCTOR_TEXTREPORT_H
+
+#include <QCoreApplication>
+#include <QString>
+
+class QJsonArray;
+class QJsonObject;
+
+namespace Quillmont::Utility::Doctor {
+
+class Page;
+
+/// Tells a person what an Examination's report says.
+class TextReport
+{
+    Q_DECLARE_TR_FUNCTIONS(TextReport)
+
+public:
+    /// Writes @p report onto @p page.
+    static void write(const QJsonObject &report, Page *page);
+
+private:
+    static void writeSimulator(const QJsonObject &simulator, Page *page);
+    static void writeLocation(const QJsonObject &simulator, Page *page);
+    static void writeFiles(const QJsonArray &files, Page *page);
+    static void writeConfiguration(const QJsonObject &configuration, Page *page);
+    static QString configurationLine(const QJsonObject &configuration);
+    static QString ourEntryLine(const QJsonObject &ours);
+    static void writeBackups(const QJsonArray &backups, Page *page);
+    static void writeRecord(const QJsonObject &record, Page *page);
+    static void writeThingsToDo(const QJsonObject &report, Page *page);
+    static QString stateInWords(const QString &state);
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

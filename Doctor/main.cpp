@@ -1,0 +1,34 @@
+#include "Controllers/PathEncoding.h"
+#include "Doctor/Doctor.h"
+#include "Doctor/Options.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+#include <QTextStream>
+
+#include <csignal>
+#include <cstdio>
+
+using Quillmont::Utility::Controllers::PathEncoding;
+using Quillmont::Utility::Doctor::Doctor;
+using Quillmont::Utility::Doctor::Options;
+
+int main(int argc, char *argv[])
+{
+    // As the program with the window does, so that both read the same.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    PathEncoding::ignoreRelativeFolders();
+    std::signal(SIGPIPE, SIG_IGN);
+
+    const QCoreApplication application(argc, argv);
+    // The name that the window's program has goes into the paths to the user's files.
+    QCoreApplication::setApplicationName(QStringLiteral("QuillmontOrbwell"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORBWELL_VERSION));
+
+    QTextStream output(stdout);
+    QTextStream errors(stderr);
+    output.setCodec("UTF-8");
+    errors.setCodec("UTF-8");
+    const Options options(QCoreApplication::arguments().mid(1));
+    return Doctor(options, &output, &errors).run();
+}

@@ -1,0 +1,315 @@
+#include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Command.h"
+#include "tests/support/Files.h"
+#include "tests/support/Literals.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QtTest>
+
+#include <functional>
+
+using namespace Tests;
+
+using Deed = std::function<void(Computer *)>;
+Q_DECLARE_METATYPE(Deed)
+
+/// orbwell-doctor beside the program, on a computer with "Skylark" (type 0) and "Kestrel" (type 1).
+class TestReport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_computer.reset(); }
+    void saysWhatIsWrong_data();
+    void saysWhatIsWrong();
+    void changesNothing();
+    void limitsItselfToNames();
+    void keepsALineBreakInANameInItsLine();
+    void saysHowItFoundASimulator();
+    void leavesOthersEntriesUnsaid();
+    void putsABackupBack();
+    void refusesWhatItDoesNotKnow_data();
+    void refusesWhatItDoesNotKnow();
+    void hasNoColourInAFile();
+
+private:
+    CommandResult run(const QStringList &arguments);
+    QJsonObject report(const QString &simulator);
+    void installEverywhere();
+
+    QScopedPointer<Computer> m_computer;
+};
+
+void TestReport::init()
+{
+    m_computer.reset(new Computer);
+    m_computer->setCatalogue(
+        {m_computer->entry("Skylark"_s, 0), m_computer->entry("Kestrel"_s, 1)});
+    QFile::copy(QStringLiteral(ORBWELL_DOCTOR),
+                m_computer->program().folder() + "/orbwell-doctor"_s);
+    m_computer->addSimulator("Skylark"_s);
+    m_computer->addSimulator("Kestrel"_s);
+    m_computer->write(m_computer->configuration("Skylark"_s), othersConfiguration());
+}
+
+CommandResult TestReport::run(const QStringList &arguments)
+{
+    return Command(m_computer->program().folder() + "/orbwell-doctor"_s, arguments).run();
+}
+
+QJsonObject TestReport::report(const QString &simulator)
+{
+    const QByteArray json = run({"--json"_s, "--"_s, simulator}).output;
+    return QJsonDocument::fromJson(json).object().value("simulators"_s).toArray().at(0).toObject();
+}
+
+// As the window does, with the file in its place that the entry names.
+void TestReport::installEverywhere()
+{
+    m_computer->write("sims/Skylark/GaugesQuillmontOrbwell_64.dll"_s, "x");
+    QCOMPARE(m_computer->run(quietInstallation()), 2);
+}
+
+void TestReport::saysWhatIsWrong_data()
+{
+    QTest::addColumn<Deed>("deed");
+    QTest::addColumn<QString>("sentence");
+    const auto row = [](const char *name, const char *sentence, const Deed &deed) {
+        QTest::newRow(name) << deed << QString::fromUtf8(sentence);
+    };
+    const auto edit = [](const char *before, const char *after) {
+        return [before, after](Computer *computer) {
+            const QString file = computer->configuration("Skylark"_s);
+            QByteArray text = readFile(computer->absolute(file));
+            computer->write(file, text.replace(before, after));
+        };
+    };
+    const auto lose = [](const char *path) {
+        return [path](Computer *computer) {
+            QVERIFY(QFile::remove(computer->absolute(QLatin1String(path))));
+        };
+    };
+    row("nothing", "", [](Computer *) {});
+    row("a file is missing",
+        "Only a part of the plugin is there; \"Resources/plugins/Orbwell/about.txt\" is missing.",
+        lose("sims/Kestrel/Resources/plugins/Orbwell/about.txt"));
+    row("another version",
+        "\"Resources/plugins/Orbwell/about.txt\" differs from the file that comes with this "
+        "program: another version, or damaged.",
+        [](Computer *computer) {
+            computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "aboux");
+        });
+    row("dead link",
+        "In the place of \"Gauges/QuillmontOrbwell_64.dll\" is a link that leads nowhere.",
+        [](Computer *computer) {
+            const QString file
+                = computer->absolute("sims/Skylark/Gauges/QuillmontOrbwell_64.dll"_s);
+            QVERIFY(QFile::remove(file) && QFile::link("nowhere"_s, file));
+        });
+    row("payload incomplete",
+        "/program/plugins/X-Plane/about.txt\", so it cannot be installed.",
+        [](Computer *computer) {
+            QFile::remove(computer->program().folder() + "/plugins/X-Plane/about.txt"_s);
+        });
+    row("configuration damaged",
+        "is damaged. <Launch.Addon> in line 4 is never closed; </SimBase.Document> in line 12 came "
+        "first.",
+        edit("        <Path>Modules\\etude.dll</Path>\r\n    </Launch.Addon>\r\n", ""));
+    row("configuration missing", "dll.xml\" is missing.", [](Computer *computer) {
+        QFile::remove(computer->absolute(computer->configuration("Skylark"_s)));
+    });
+    row("no entry", "dll.xml\" has no entry for it.", [](Computer *computer) {
+        computer->write(computer->configuration("Skylark"_s), othersConfiguration());
+    });
+    row("entry twice", "dll.xml\" 2 times.", [](Computer *computer) {
+        computer->write(computer->configuration("Skylark"_s),
+                        ourConfiguration().replace("</SimBase.Document>",
+                                                   pluginEntry() + "</SimBase.Document>"));
+    });
+    row("entry disabled",
+        "dll.xml\" is disabled.",
+        edit("Quillmont Orbwell</Name>\r\n        <Disabled>False",
+             "Quillmont Orbwell</Name>\r\n        <Disabled>True"));
+    row("entry leads nowhere",
+        "names the file \"GaugesQuillmontOrbwell_64.dll\", which is missing.",
+        lose("sims/Skylark/GaugesQuillmontOrbwell_64.dll"));
+    row("entry without files",
+        "dll.xml\" has an entry for the plugin, whose files are not there.",
+        lose("sims/Skylark/Gauges/QuillmontOrbwell_64.dll"));
+    row("damaged record", ".mapping\" is damaged; what it said is lost.", [](Computer *computer) {
+        computer->write(computer->data("Quillmont/Orbwell/.mapping"_s), "[{");
+    });
+    row("unrecorded",
+        "The plugin is there, but not in the installation record.",
+        [](Computer *computer) { computer->setRecords({}); });
+    row("recorded elsewhere",
+        "Unattended runs work on the first, the window on the second.",
+        [](Computer *computer) {
+            QJsonObject record = computer->recordFor(computer->entry("Kestrel"_s, 1));
+            record.insert("path"_s, computer->absolute("elsewhere"_s));
+            computer->setRecords({computer->recordFor(computer->entry("Skylark"_s, 0)), record});
+        });
+    row("stranger in the record", "/sims/Wren\" is gone.", [](Computer *computer) {
+        QJsonArray records = computer->records();
+        records.append(computer->recordFor(computer->entry("Wren"_s, 1)));
+        computer->setRecords(records);
+    });
+    row("chosen folder is gone", "Its folder \"/nowhere/at all\" is gone.", [](Computer *computer) {
+        computer->write(computer->data("Quillmont/Vellum/.settings"_s),
+                        "[flightsim]\nKestrel=/nowhere/at all\n");
+    });
+}
+
+void TestReport::saysWhatIsWrong()
+{
+    QFETCH(const Deed, deed);
+    QFETCH(const QString, sentence);
+    installEverywhere();
+    deed(m_computer.get());
+    const CommandResult result = run({});
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.status, sentence.isEmpty() ? 0 : 1);
+    const QString text = QString::fromUtf8(result.output);
+    QVERIFY2(text.contains(sentence), result.output.constData());
+    QVERIFY(text.contains(sentence.isEmpty() ? "Nothing is wrong."_s : "What to do:\n  1. "_s));
+}
+
+void TestReport::changesNothing()
+{
+    const auto before = m_computer->disk();
+    for (const char *arguments : {"--json", "Kestrel"})
+        QCOMPARE(run(words(arguments)).status, 0);
+    QCOMPARE(difference(m_computer->disk(), before), QString());
+}
+
+void TestReport::limitsItselfToNames()
+{
+    const QByteArray text = run({"Kestrel"_s}).output;
+    QVERIFY(text.contains("Kestrel: the plugin is not installed"));
+    QVERIFY(!text.contains("Skylark"));
+}
+
+void TestReport::keepsALineBreakInANameInItsLine()
+{
+    const QString name = "Wren\nNothing is wrong.\x1b[2J"_s;
+    m_computer->setCatalogue({m_computer->entry(name, 1)});
+    m_computer->addSimulator(name);
+    const QByteArray text = run({}).output;
+    QVERIFY2(text.startsWith("Wren\\u000aNothing is wrong.\\u001b[2J: "), text.constData());
+    QCOMPARE(text.count("\nNothing is wrong."), 1);
+    QVERIFY(!text.contains('\x1b'));
+}
+
+void TestReport::saysHowItFoundASimulator()
+{
+    QCOMPARE(report("Kestrel"_s).value("foundBy"_s).toString(), "the catalogue's folder"_s);
+    m_computer->write(m_computer->data("Quillmont/Vellum/.settings"_s),
+                      "[flightsim]\nKestrel=" + m_computer->folder("Skylark"_s).toUtf8() + '\n');
+    QCOMPARE(report("Kestrel"_s).value("foundBy"_s).toString(), "chosen by hand"_s);
+    QCOMPARE(report("Kestrel"_s).value("folder"_s).toString(), m_computer->folder("Skylark"_s));
+
+    // Two of a group that find one folder, one of which gives way, and a list of X-Plane's own.
+    QJsonObject entry = m_computer->entry("Wren"_s, 1);
+    entry.insert("config"_s, QJsonValue::Null);
+    entry.insert("conflict"_s, QJsonObject{{"name"_s, "birds"_s}});
+    QJsonObject other = entry;
+    other.insert("name"_s, "Plover"_s);
+    const QJsonObject xplane{{"name"_s, "X"_s}, {"simcode"_s, "XP12"_s}, {"location"_s, 3}};
+    m_computer->setCatalogue({entry, other, xplane});
+    m_computer->addSimulator("Wren"_s);
+    m_computer->write("home/.x-plane/x-plane_install_12.txt"_s, m_computer->absolute("gone"_s).toUtf8() + "\n");
+    const QJsonObject gaveWay = report("Wren"_s).value("gaveWay"_s).toObject();
+    QCOMPARE(gaveWay.value("to"_s).toString(), "Plover"_s);
+    QCOMPARE(gaveWay.value("folder"_s).toString(), m_computer->folder("Wren"_s));
+#ifndef Q_OS_MACOS
+    const QJsonObject place = report("X"_s).value("turnedDown"_s).toArray().at(0).toObject();
+    QCOMPARE(place.value("path"_s).toString(), m_computer->absolute("gone"_s));
+    QCOMPARE(place.value("namedBy"_s).toString(), "X-Plane's own list"_s);
+    QCOMPARE(place.value("reason"_s).toString(), "no such folder"_s);
+#endif
+}
+
+void TestReport::leavesOthersEntriesUnsaid()
+{
+    QByteArray text = othersConfiguration();
+    text.replace("<Disabled>False</Disabled>", "<CommandLine>secret</CommandLine>");
+    m_computer->write(m_computer->configuration("Skylark"_s), text);
+    const QJsonObject configuration = report("Skylark"_s).value("configuration"_s).toObject();
+    const QJsonObject other = configuration.value("othersWithoutFile"_s).toArray().at(0).toObject();
+    QCOMPARE(other.value("name"_s).toString(), "Somebody's \u00e9tude"_s);
+    QCOMPARE(other.value("path"_s).toString(), "Modules\\etude.dll"_s);
+    for (const char *argument : {"--", "--json"})
+        QVERIFY(!run({QLatin1String(argument)}).output.contains("secret"));
+    // Windows does not look at letter case.
+    m_computer->write("sims/Skylark/MODULES/Etude.DLL"_s, "");
+    QCOMPARE(report("Skylark"_s).value("configuration"_s).toObject().value("othersWithoutFile"_s),
+             QJsonValue(QJsonArray()));
+}
+
+void TestReport::putsABackupBack()
+{
+    installEverywhere();
+    const QString file = m_computer->absolute(m_computer->configuration("Skylark"_s));
+    writeFile(file + "_quillmont_orbwell_before_installation_20200102_030405.bak"_s, "<broken");
+    const QJsonArray backups = report("Skylark"_s).value("backups"_s).toArray();
+    QCOMPARE(backups.size(),
+             backupsOf(file, "installation"_s).size() + backupsOf(file, "uninstallation"_s).size());
+    const QJsonObject oldest = backups.last().toObject();
+    QCOMPARE(oldest.value("time"_s).toString(), "2020-01-02T03:04:05"_s);
+    QCOMPARE(oldest.value("size"_s).toInt(), 7);
+    QCOMPARE(oldest.value("wellFormed"_s).toBool(true), false);
+    const QJsonObject newest = backups.first().toObject();
+    QVERIFY(newest.value("wellFormed"_s).toBool());
+    QCOMPARE(Command("sh"_s, {"-c"_s, newest.value("restore"_s).toString()}).run().status, 0);
+    QCOMPARE(readFile(file), othersConfiguration());
+}
+
+void TestReport::refusesWhatItDoesNotKnow_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("option") << "--jsno"_s
+                            << "Unknown option --jsno. Is --json meant?"_s;
+    QTest::newRow("short option") << "-x"_s
+                                  << "Unknown option -x."_s;
+    QTest::newRow("plan")
+        << "--plan=destroy"_s
+        << "--plan=destroy: a plan is for \"install\", \"repair\" or \"uninstall\"."_s;
+    QTest::newRow("no file") << "--catalogue"_s
+                             << "--catalogue needs a file."_s;
+    QTest::newRow("name") << "-- --json"_s
+                          << "The catalogue has no simulator \"--json\"."_s;
+    QTest::newRow("catalogue")
+        << "--catalogue /dev/null"_s
+        << "The catalogue \"/dev/null\" is missing, empty or cannot be read."_s;
+}
+
+void TestReport::refusesWhatItDoesNotKnow()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const QString, problem);
+    const CommandResult result = run(arguments.split(u' '));
+    QCOMPARE(result.status, 2);
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(QString::fromUtf8(result.errors),
+             "orbwell-doctor: "_s + problem + "\nTry \"orbwell-doctor --help\".\n"_s);
+}
+
+// A terminal gets some, unless the user wants none.
+void TestReport::hasNoColourInAFile()
+{
+    QVERIFY(!run({}).output.contains('\x1b'));
+    if (!Command::exists("script"_s))
+        QSKIP("needs script to see more");
+    const QString doctor = m_computer->program().folder() + "/orbwell-doctor"_s;
+    const QStringList arguments{"--quiet"_s, "--command"_s, doctor, "/dev/null"_s};
+    QVERIFY(Command("script"_s, arguments).run().output.contains("\x1b[1m"));
+    QVERIFY(
+        !Command("script"_s, arguments).with("NO_COLOR"_s, "1"_s).run().output.contains('\x1b'));
+}
+
+QTEST_GUILESS_MAIN(TestReport)
+#include "tst_Report.moc"
