@@ -3,6 +3,7 @@
 #include "Doctor/Examination.h"
 #include "Doctor/Options.h"
 #include "Doctor/Page.h"
+#include "Doctor/Plan.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/TextReport.h"
 #include "Models/FlightSimScan.h"
@@ -62,13 +63,16 @@ int Doctor::examine(const QString &catalogue)
     const QList<Simulator> simulators = simulatorsIn(catalogue, &owner);
     if (!areKnown(simulators))
         return CouldNotLook;
-    const QJsonObject report = Examination(simulators, payloadFolder()).report(m_options.names());
+    const bool isPlan = m_options.task() == Options::Plan;
+    const QJsonObject answer = isPlan
+        ? Plan::of(m_options.plan(), simulators, payloadFolder(), m_options.names())
+        : Examination(simulators, payloadFolder()).report(m_options.names());
     if (m_options.isJson())
-        return print(report);
+        return print(answer);
     Page page = Page::forStandardOutput();
-    TextReport::write(report, &page);
+    (isPlan ? Plan::write : TextReport::write)(answer, &page);
     *m_output << page.text();
-    return report.value(QLatin1String("fine")).toBool() ? Fine : SomethingWrong;
+    return answer.value(QLatin1String("fine")).toBool() ? Fine : SomethingWrong;
 }
 
 int Doctor::print(QJsonObject answer)

@@ -1,0 +1,37 @@
+#ifndef DOCTOR_PLAN_H
+#define DOCTOR_PLAN_H
+
+#include "Doctor/Simulator.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QStringList>
+
+namespace Quillmont::Utility::Doctor {
+
+class Page;
+
+/// What the window would do now in each simulator, each by itself.
+class Plan
+{
+    Q_DECLARE_TR_FUNCTIONS(Plan)
+
+public:
+    /// @p what is "install", "repair" (uninstall, then install) or "uninstall"; @p names limits it
+    /// to those simulators.
+    static QJsonObject of(const QString &what,
+                          const QList<Simulator> &simulators,
+                          const QString &payload,
+                          const QStringList &names);
+
+    /// Writes @p plan for a person.
+    static void write(const QJsonObject &plan, Page *page);
+
+private:
+    static void writeSimulator(const QJsonObject &simulator, Page *page);
+    static void writeText(const QString &title, const QJsonObject &change, Page *page);
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

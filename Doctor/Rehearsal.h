@@ -1,0 +1,59 @@
+#ifndef DOCTOR_REHEARSAL_H
+#define DOCTOR_REHEARSAL_H
+
+#include "Doctor/PlannedDisk.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <functional>
+
+namespace Quillmont::Utility::Models {
+class FlightSimScan;
+class FlightSimulatorMapping;
+} // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::Doctor {
+
+/// Goes through an installation or removal step by step as the window would now, on a planned disk.
+class Rehearsal
+{
+    Q_DECLARE_TR_FUNCTIONS(Rehearsal)
+
+public:
+    /// For the simulator of @p mapping, which has a folder, with the files in @p payload.
+    Rehearsal(const Models::FlightSimulatorMapping *mapping, const QString &payload);
+
+    void install();
+    void uninstall();
+
+    /// All that would be different afterwards, and what would go wrong.
+    QJsonObject plan() const;
+
+private:
+    using Edit = std::function<QByteArray(const QByteArray &, QString *)>;
+
+    void copyFile(const QString &source, const QString &target);
+    void addEntry();
+    void removeEntry();
+    void change(const QString &path, const Edit &edit);
+    void backUp(const QString &path, const QString &suffix);
+    void record(bool uninstalled);
+    QByteArray bytesOf(const QString &path, QString *problem) const;
+    QJsonArray files() const;
+    QJsonObject textChange(const QString &path, bool isXml) const;
+
+    const Models::FlightSimulatorMapping *const m_mapping;
+    const Models::FlightSimScan *const m_entry;
+    const QString m_payload;
+    PlannedDisk m_disk;
+    QString m_configuration;
+    QStringList m_backups;
+    QStringList m_failures;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif
