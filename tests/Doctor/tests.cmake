@@ -1,6 +1,4 @@
-foreach(class Report XmlDamage)
+foreach(class Plan Report XmlDamage)
   orbwell_add_test(Doctor/${class})
   target_link_libraries(tst_${class} PRIVATE orbwell-diagnosis orbwell-computer)
-  target_compile_definitions(tst_${class} PRIVATE ORBWELL_DOCTOR="$<TARGET_FILE:orbwell-doctor>")
-  add_dependencies(tst_${class} orbwell-doctor)
 endforeach()

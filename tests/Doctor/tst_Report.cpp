@@ -1,4 +1,5 @@
 #include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/DoctorsPlan.h"
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Command.h"
 #include "tests/support/Files.h"
@@ -22,7 +23,9 @@ class TestReport : public QObject
 
 private slots:
     void init();
+
     void cleanup() { m_computer.reset(); }
+
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
     void changesNothing();
@@ -48,8 +51,6 @@ void TestReport::init()
     m_computer.reset(new Computer);
     m_computer->setCatalogue(
         {m_computer->entry("Skylark"_s, 0), m_computer->entry("Kestrel"_s, 1)});
-    QFile::copy(QStringLiteral(ORBWELL_DOCTOR),
-                m_computer->program().folder() + "/orbwell-doctor"_s);
     m_computer->addSimulator("Skylark"_s);
     m_computer->addSimulator("Kestrel"_s);
     m_computer->write(m_computer->configuration("Skylark"_s), othersConfiguration());
@@ -57,7 +58,7 @@ void TestReport::init()
 
 CommandResult TestReport::run(const QStringList &arguments)
 {
-    return Command(m_computer->program().folder() + "/orbwell-doctor"_s, arguments).run();
+    return runDoctor(*m_computer, arguments);
 }
 
 QJsonObject TestReport::report(const QString &simulator)
@@ -220,7 +221,8 @@ void TestReport::saysHowItFoundASimulator()
     const QJsonObject xplane{{"name"_s, "X"_s}, {"simcode"_s, "XP12"_s}, {"location"_s, 3}};
     m_computer->setCatalogue({entry, other, xplane});
     m_computer->addSimulator("Wren"_s);
-    m_computer->write("home/.x-plane/x-plane_install_12.txt"_s, m_computer->absolute("gone"_s).toUtf8() + "\n");
+    m_computer->write("home/.x-plane/x-plane_install_12.txt"_s,
+                      m_computer->absolute("gone"_s).toUtf8() + "\n");
     const QJsonObject gaveWay = report("Wren"_s).value("gaveWay"_s).toObject();
     QCOMPARE(gaveWay.value("to"_s).toString(), "Plover"_s);
     QCOMPARE(gaveWay.value("folder"_s).toString(), m_computer->folder("Wren"_s));

@@ -19,7 +19,10 @@ target_link_libraries(tst_ForeignConfigurations
 orbwell_add_test_library(orbwell-computer
   EndToEnd/Bookkeeping.cpp EndToEnd/Bookkeeping.h
   EndToEnd/Computer.cpp EndToEnd/Computer.h
-  EndToEnd/Disk.cpp EndToEnd/Disk.h)
+  EndToEnd/Disk.cpp EndToEnd/Disk.h
+  EndToEnd/DoctorsPlan.cpp EndToEnd/DoctorsPlan.h)
+target_compile_definitions(orbwell-computer PRIVATE ORBWELL_DOCTOR="$<TARGET_FILE:orbwell-doctor>")
+add_dependencies(orbwell-computer orbwell-doctor)
 target_link_libraries(orbwell-computer PUBLIC orbwell-simulators)
 
 foreach(story

@@ -1,5 +1,6 @@
 #include "tests/EndToEnd/Bookkeeping.h"
 #include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/DoctorsPlan.h"
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Files.h"
 
@@ -12,7 +13,7 @@
 using namespace Tests;
 
 // Users and other programs at work, in any order: whatever went before, each click leaves on
-// disk exactly what it should.
+// disk exactly what it should, and what orbwell-doctor said that it would.
 class TestRandomSequences : public QObject
 {
     Q_OBJECT
@@ -20,6 +21,7 @@ class TestRandomSequences : public QObject
 private slots:
     void leaveOnDiskWhatTheyShould_data();
     void leaveOnDiskWhatTheyShould();
+    void cleanupTestCase();
 
 private:
     void prepare();
@@ -44,12 +46,14 @@ private:
     QScopedPointer<Bookkeeping> m_books;
     Program *m_program = nullptr;
     QStringList m_steps;
+    int m_sequences = 0;
+    int m_plans = 0;
 };
 
 void TestRandomSequences::leaveOnDiskWhatTheyShould_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 20; ++seed)
+    for (unsigned seed = 1; seed <= 32; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
 
@@ -57,6 +61,7 @@ void TestRandomSequences::leaveOnDiskWhatTheyShould()
 {
     QFETCH(const unsigned, seed);
     m_random.seed(seed);
+    ++m_sequences;
     prepare();
     m_program->start();
     m_program->window();
@@ -72,6 +77,7 @@ void TestRandomSequences::leaveOnDiskWhatTheyShould()
 // "Wren" shares the configuration of "Skylark" and is kept out of it, "Plover" has none yet.
 void TestRandomSequences::prepare()
 {
+    m_computer.reset(); // or it would put back the environment from before the next one's
     m_computer.reset(new Computer);
     m_program = &m_computer->program();
     m_steps.clear();
@@ -126,6 +132,9 @@ void TestRandomSequences::pressRow(const QString &simulator)
     const bool wasInstalled = m_books->isInstalled(simulator);
     m_steps.append((wasInstalled ? QLatin1String("uninstall ") : QLatin1String("install "))
                    + simulator);
+    const QString what = QLatin1String(wasInstalled ? "uninstall" : "install");
+    const Disk planned = plannedDisk(*m_computer, doctorsPlan(*m_computer, what, simulator));
+    ++m_plans;
     m_program->pressAction(simulator);
     if (wasInstalled) {
         m_books->uninstall(simulator);
@@ -139,6 +148,7 @@ void TestRandomSequences::pressRow(const QString &simulator)
                    .arg(simulator));
     }
     checkRows();
+    QCOMPARE(difference(m_computer->disk(), planned), QString());
 }
 
 void TestRandomSequences::scanAndInstall()
@@ -242,6 +252,12 @@ void TestRandomSequences::checkRows()
         QCOMPARE(row.action.text,
                  QLatin1String(installed ? "Uninstall Orbwell" : "Install Orbwell"));
     }
+}
+
+// Unless only some were asked for.
+void TestRandomSequences::cleanupTestCase()
+{
+    QVERIFY(m_sequences < 32 || m_plans >= 200);
 }
 
 QTEST_GUILESS_MAIN(TestRandomSequences)

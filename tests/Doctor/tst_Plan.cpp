@@ -1,0 +1,157 @@
+#include "Doctor/LineDiff.h"
+#include "tests/EndToEnd/Computer.h"
+#include "tests/EndToEnd/DoctorsPlan.h"
+#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Files.h"
+#include "tests/support/Literals.h"
+
+#include <QtTest>
+
+using namespace Tests;
+using Quillmont::Utility::Doctor::lineDiff;
+
+/// What orbwell-doctor says that the program would do. EndToEnd/RandomSequences asks it before
+/// each click.
+class TestPlan : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ofARepairIsWhatARepairDoes_data();
+    void ofARepairIsWhatARepairDoes();
+    void tellsWhatCannotBeDone_data();
+    void tellsWhatCannotBeDone();
+    void isReadByAPerson();
+    void showsNoLineThatStays_data();
+    void showsNoLineThatStays();
+};
+
+void TestPlan::ofARepairIsWhatARepairDoes_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("beside");
+    QTest::addColumn<bool>("hasConfiguration");
+    for (const int type : {0, 1}) {
+        for (const char *beside : {"", ".hidden", "visible"}) {
+            for (const bool has : {true, false})
+                QTest::addRow("type %d, %s, %d", type, beside, has)
+                    << type << QString::fromLatin1(beside) << has;
+        }
+    }
+}
+
+// The backups aside: a repair run first installs, and makes more of them.
+static Disk withoutBackups(Disk disk)
+{
+    for (const QString &path : disk.keys()) {
+        if (path.endsWith(".bak"_s) || path.endsWith("/.path"_s))
+            disk.remove(path);
+    }
+    return disk;
+}
+
+void TestPlan::ofARepairIsWhatARepairDoes()
+{
+    QFETCH(const int, type);
+    QFETCH(const QString, beside);
+    QFETCH(const bool, hasConfiguration);
+    Computer computer;
+    const QString name = "Skylark"_s;
+    computer.setCatalogue({computer.entry(name, type)});
+    computer.addSimulator(name);
+    computer.addPlugin(name, type);
+    if (!beside.isEmpty())
+        computer.write("sims/Skylark/Resources/plugins/Orbwell/64/"_s + beside, "x");
+    if (hasConfiguration)
+        computer.write(computer.configuration(name), ourConfiguration());
+    computer.setRecords({});
+    const Disk planned = plannedDisk(computer, doctorsPlan(computer, "repair"_s, name));
+    computer.run({"--REPAIR"_s});
+    QCOMPARE(difference(withoutBackups(computer.disk()), withoutBackups(planned)), QString());
+}
+
+void TestPlan::tellsWhatCannotBeDone_data()
+{
+    QTest::addColumn<QString>("lost");
+    QTest::addColumn<QString>("link");
+    QTest::addColumn<QByteArray>("configuration");
+    QTest::addColumn<QString>("sentence");
+    const QString module = "plugins/FSX/QuillmontOrbwell_64.dll"_s;
+    QTest::newRow("payload") << module << QString() << othersConfiguration()
+                             << "\" cannot be copied: the payload lacks it."_s;
+    QTest::newRow("link") << QString() << "sims/Skylark/Gauges/QuillmontOrbwell_64.dll"_s
+                          << othersConfiguration()
+                          << "a link that leads nowhere, is in its place."_s;
+    QTest::newRow("configuration")
+        << QString() << QString() << QByteArray("<R>") << "dll.xml\" stays as it is: line 1"_s;
+}
+
+void TestPlan::tellsWhatCannotBeDone()
+{
+    QFETCH(const QString, lost);
+    QFETCH(const QString, link);
+    QFETCH(const QByteArray, configuration);
+    QFETCH(const QString, sentence);
+    Computer computer;
+    computer.setCatalogue({computer.entry("Skylark"_s, 0)});
+    computer.addSimulator("Skylark"_s);
+    computer.write(computer.configuration("Skylark"_s), configuration);
+    QFile::remove(computer.program().folder() + u'/' + lost);
+    if (!link.isEmpty())
+        QVERIFY(QFile::link("nowhere"_s, computer.absolute(link)));
+    const CommandResult result = runDoctor(computer, {"--plan"_s});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.output.contains(sentence.toUtf8()), result.output.constData());
+}
+
+void TestPlan::isReadByAPerson()
+{
+    Computer computer;
+    computer.setCatalogue({computer.entry("Skylark"_s, 0), computer.entry("Wren"_s, 1)});
+    computer.addSimulator("Skylark"_s);
+    computer.write(computer.configuration("Skylark"_s), othersConfiguration());
+    const Disk before = computer.disk();
+    const CommandResult result = runDoctor(computer, {"--plan"_s});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(difference(computer.disk(), before), QString());
+    QVERIFY(result.output.startsWith("Skylark: install in \""));
+    QVERIFY(!result.output.contains("Wren"));
+    for (const char *line : {"  File made: \"",
+                             "  Backup made: \"",
+                             "  Configuration changed: \"",
+                             "    @@ -8,0 +9,5 @@\n    +    <Launch.Addon>\n",
+                             "  Record made: \""})
+        QVERIFY2(result.output.contains(line), line);
+    QVERIFY(!result.output.contains("etude"));
+}
+
+void TestPlan::showsNoLineThatStays_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("diff");
+    const QString head = "--- f\n+++ f\n"_s;
+    QTest::newRow("nothing") << "a\n"_s
+                             << "a\n"_s << QString();
+    QTest::newRow("made") << QString() << "a\n"_s
+                          << "--- /dev/null\n+++ f\n@@ -0,0 +1,1 @@\n+a\n"_s;
+    QTest::newRow("two places") << "a\nb\nc\nd\n"_s
+                                << "A\nb\nc\n"_s
+                                << head + "@@ -1,1 +1,1 @@\n-a\n+A\n@@ -4,1 +3,0 @@\n-d\n"_s;
+    QTest::newRow("added") << "a\nb\n"_s
+                           << "a\nx\nb\n"_s << head + "@@ -1,0 +2,1 @@\n+x\n"_s;
+    QTest::newRow("no line end") << "a"_s
+                                 << "b\n"_s
+                                 << head
+            + "@@ -1,1 +1,1 @@\n-a\n\\ No newline at end of file\n+b\n"_s;
+}
+
+void TestPlan::showsNoLineThatStays()
+{
+    QFETCH(const QString, before);
+    QFETCH(const QString, after);
+    QTEST(lineDiff("f"_s, before, after), "diff");
+}
+
+QTEST_GUILESS_MAIN(TestPlan)
+#include "tst_Plan.moc"
