@@ -1,5 +1,6 @@
 #include "Doctor/Doctor.h"
 
+#include "Doctor/CatalogueCheck.h"
 #include "Doctor/Examination.h"
 #include "Doctor/Options.h"
 #include "Doctor/Page.h"
@@ -51,6 +52,8 @@ int Doctor::look()
         = QFileInfo(path).isFile() ? ViewControllers::catalogueText(path) : QString();
     if (content.isEmpty())
         return fail(tr("The catalogue %1 is missing, empty or cannot be read.").arg(quoted(path)));
+    if (m_options.task() == Options::CheckCatalogue)
+        return answer(CatalogueCheck(content.toUtf8(), payloadFolder()).json());
     if (!QJsonDocument::fromJson(content.toLocal8Bit()).isArray())
         return fail(tr("The catalogue %1 is no JSON array; --check-catalogue says more.")
                         .arg(quoted(path)));
@@ -63,25 +66,34 @@ int Doctor::examine(const QString &catalogue)
     const QList<Simulator> simulators = simulatorsIn(catalogue, &owner);
     if (!areKnown(simulators))
         return CouldNotLook;
-    const bool isPlan = m_options.task() == Options::Plan;
-    const QJsonObject answer = isPlan
-        ? Plan::of(m_options.plan(), simulators, payloadFolder(), m_options.names())
-        : Examination(simulators, payloadFolder()).report(m_options.names());
-    if (m_options.isJson())
-        return print(answer);
-    Page page = Page::forStandardOutput();
-    (isPlan ? Plan::write : TextReport::write)(answer, &page);
-    *m_output << page.text();
+    return answer(m_options.task() == Options::Plan
+                      ? Plan::of(m_options.plan(), simulators, payloadFolder(), m_options.names())
+                      : Examination(simulators, payloadFolder()).report(m_options.names()));
+}
+
+int Doctor::answer(const QJsonObject &answer)
+{
+    if (m_options.isJson()) {
+        printJson(answer);
+    } else {
+        Page page = Page::forStandardOutput();
+        if (m_options.task() == Options::CheckCatalogue)
+            CatalogueCheck::write(answer, catalogueFile(), &page);
+        else if (m_options.task() == Options::Plan)
+            Plan::write(answer, &page);
+        else
+            TextReport::write(answer, &page);
+        *m_output << page.text();
+    }
     return answer.value(QLatin1String("fine")).toBool() ? Fine : SomethingWrong;
 }
 
-int Doctor::print(QJsonObject answer)
+void Doctor::printJson(QJsonObject answer)
 {
     answer.insert(QStringLiteral("format"), 1);
     answer.insert(QStringLiteral("version"), QCoreApplication::applicationVersion());
     answer.insert(QStringLiteral("catalogue"), catalogueFile());
     *m_output << QString::fromUtf8(QJsonDocument(answer).toJson());
-    return answer.value(QLatin1String("fine")).toBool() ? Fine : SomethingWrong;
 }
 
 bool Doctor::areKnown(const QList<Simulator> &simulators)

@@ -34,7 +34,8 @@ private:
     int look();
     int examine(const QString &catalogue);
     int fail(const QString &problem);
-    int print(QJsonObject answer);
+    int answer(const QJsonObject &answer);
+    void printJson(QJsonObject answer);
     bool areKnown(const QList<Simulator> &simulators);
     QString catalogueFile() const;
     QString payloadFolder() const;

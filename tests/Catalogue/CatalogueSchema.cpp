@@ -5,11 +5,11 @@
 
 namespace Tests {
 
-CatalogueSchema::CatalogueSchema()
+CatalogueSchema::CatalogueSchema(const QString &schema)
 {
     // The first Python on the path may be one that the distribution's modules are not made for.
     for (const char *python : {"python3", "/usr/bin/python3"}) {
-        if (start(QLatin1String(python)))
+        if (start(QLatin1String(python), schema))
             return;
     }
 }
@@ -25,10 +25,10 @@ QString CatalogueSchema::path()
     return QStringLiteral(ORBWELL_SOURCE "/catalogue/flightsims.schema.json");
 }
 
-bool CatalogueSchema::start(const QString &python)
+bool CatalogueSchema::start(const QString &python, const QString &schema)
 {
     m_python.start(
-        python, {QStringLiteral(ORBWELL_SOURCE "/tests/Catalogue/schema-complaints.py"), path()});
+        python, {QStringLiteral(ORBWELL_SOURCE "/tests/Catalogue/schema-complaints.py"), schema});
     if (answer() == "ready") {
         m_problem.clear();
         return true;
@@ -39,10 +39,10 @@ bool CatalogueSchema::start(const QString &python)
     return false;
 }
 
-QStringList CatalogueSchema::complaints(const QByteArray &catalogue)
+QStringList CatalogueSchema::complaints(const QByteArray &json)
 {
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(catalogue, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
         return {error.errorString()};
     m_python.write(document.toJson(QJsonDocument::Compact) + '\n');

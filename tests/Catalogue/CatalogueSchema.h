@@ -9,16 +9,16 @@ class QByteArray;
 
 namespace Tests {
 
-/// The catalogue's JSON Schema, and Python's reading of it.
+/// A JSON Schema, the catalogue's or another, and Python's reading of it.
 class CatalogueSchema
 {
 public:
-    CatalogueSchema();
+    explicit CatalogueSchema(const QString &schema = path());
     ~CatalogueSchema();
     CatalogueSchema(const CatalogueSchema &) = delete;
     CatalogueSchema &operator=(const CatalogueSchema &) = delete;
 
-    /// Where the schema lies.
+    /// Where the catalogue's schema is.
     static QString path();
 
     /// Why it cannot be asked: no Python, or one that lacks its module. Empty if it can.
@@ -27,11 +27,11 @@ public:
     /// Whether doing without is all right. On a build machine it is not.
     static bool maySkip() { return !qEnvironmentVariableIsSet("CI"); }
 
-    /// What it has to say against a catalogue, given as JSON text.
-    QStringList complaints(const QByteArray &catalogue);
+    /// What it has to say against a document, given as JSON text.
+    QStringList complaints(const QByteArray &json);
 
 private:
-    bool start(const QString &python);
+    bool start(const QString &python, const QString &schema);
     QByteArray answer();
 
     QProcess m_python;

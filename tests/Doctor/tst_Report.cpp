@@ -1,6 +1,8 @@
+#include "tests/Catalogue/CatalogueSchema.h"
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/DoctorsPlan.h"
 #include "tests/EndToEnd/Simulators.h"
+#include "tests/EndToEnd/Tracer.h"
 #include "tests/support/Command.h"
 #include "tests/support/Files.h"
 #include "tests/support/Literals.h"
@@ -28,7 +30,14 @@ private slots:
 
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
-    void changesNothing();
+
+    void keepsToItsSchema_data() { saysWhatIsWrong_data(); }
+
+    void keepsToItsSchema();
+
+    void makesNoCallThatChangesAnything_data() { saysWhatIsWrong_data(); }
+
+    void makesNoCallThatChangesAnything();
     void limitsItselfToNames();
     void keepsALineBreakInANameInItsLine();
     void saysHowItFoundASimulator();
@@ -178,11 +187,66 @@ void TestReport::saysWhatIsWrong()
     QVERIFY(text.contains(sentence.isEmpty() ? "Nothing is wrong."_s : "What to do:\n  1. "_s));
 }
 
-void TestReport::changesNothing()
+// All that it can be asked for, with a name that has to be known.
+static QVector<QStringList> allArguments()
 {
+    return {{},
+            {"--plan"_s},
+            {"--plan=repair"_s},
+            {"--plan=uninstall"_s, "Kestrel"_s},
+            {"--check-catalogue"_s}};
+}
+
+void TestReport::keepsToItsSchema()
+{
+    QFETCH(const Deed, deed);
+    CatalogueSchema schema(QStringLiteral(ORBWELL_SOURCE "/docs/doctor.schema.json"));
+    if (!schema.problem().isEmpty() && CatalogueSchema::maySkip())
+        QSKIP(qPrintable(schema.problem()));
+    installEverywhere();
+    deed(m_computer.get());
+    for (const QStringList &arguments : allArguments())
+        QCOMPARE(schema.complaints(run(QStringList{"--json"_s} + arguments).output), QStringList());
+}
+
+// Nor is there a lock, or a file that is open for writing. What it says goes to a pipe.
+static bool mayChangeAnything(const SystemCall &call)
+{
+    static const QRegularExpression harmless(
+        "^(access|arch_prctl|brk|clock_|close|epoll|eventfd|execve|exit|faccessat|fcntl|fstat|"
+        "futex|"
+        "get|ioctl|lseek|lstat|mmap|mprotect|mremap|munmap|newfstatat|pipe|poll|ppoll|pread|"
+        "prlimit|"
+        "read|rseq|rt_sig|sched_get|set_robust|set_tid|stat|statfs|statx|sysinfo|umask|uname)"_s);
+    static const QRegularExpression writing(
+        "O_(WRONLY|RDWR|CREAT|TRUNC|APPEND|TMPFILE)|F_(OFD_)?SETLK"_s);
+    if (call.name.startsWith("open"_s) || call.name.startsWith("fcntl"_s))
+        return call.text.contains(writing);
+    if (call.name == "write"_s || call.name == "writev"_s)
+        return !call.text.contains(QRegularExpression("write(v)?\\([12]<"_s));
+    return !call.name.contains(harmless);
+}
+
+void TestReport::makesNoCallThatChangesAnything()
+{
+    if (ORBWELL_SANITIZERS != 0 || !Tracer::works())
+        QSKIP("needs strace, the right to trace a process, and no sanitizer");
+    QFETCH(const Deed, deed);
+    installEverywhere();
+    deed(m_computer.get());
     const auto before = m_computer->disk();
-    for (const char *arguments : {"--json", "Kestrel"})
-        QCOMPARE(run(words(arguments)).status, 0);
+    const QString log = m_computer->absolute("calls"_s);
+    for (const QStringList &arguments : allArguments()) {
+        QStringList command = Tracer::recording(log);
+        command += m_computer->program().folder() + "/orbwell-doctor"_s;
+        const QString strace = command.takeFirst();
+        run({"--version"_s}); // puts it in its place
+        QVERIFY(Command(strace, command + arguments).run().status >= 0);
+        const auto calls = Tracer::callsIn(log);
+        QVERIFY(calls.size() > 50);
+        for (const SystemCall &call : calls)
+            QVERIFY2(!mayChangeAnything(call), qPrintable(call.text));
+    }
     QCOMPARE(difference(m_computer->disk(), before), QString());
 }
 

@@ -1,0 +1,50 @@
+#ifndef DOCTOR_CATALOGUECHECK_H
+#define DOCTOR_CATALOGUECHECK_H
+
+#include "Doctor/JsonPlaces.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QMap>
+#include <QMultiMap>
+
+namespace Quillmont::Utility::Doctor {
+
+class Page;
+
+/// What is wrong in a catalogue, and what the program makes of it: it reads leniently, and says
+/// nothing of it.
+class CatalogueCheck
+{
+    Q_DECLARE_TR_FUNCTIONS(CatalogueCheck)
+
+public:
+    /// @p payload is the folder that sources are in, with a separator at its end.
+    CatalogueCheck(const QByteArray &text, const QString &payload);
+
+    /// "fine", and "findings" with "line", "column", "key" and "text" each, in the text's order.
+    QJsonObject json() const;
+
+    /// Writes @p json for a person, as FILE:LINE:COLUMN lines.
+    static void write(const QJsonObject &json, const QString &file, Page *page);
+
+private:
+    void checkKeys(const QJsonObject &object, const QString &path, const QString &kind);
+    void checkMember(const QJsonValue &value, const QString &path, const QString &type);
+    void checkEntry(const QJsonObject &entry, const QString &path);
+    void checkFiles(const QJsonArray &files, const QString &path);
+    void checkConfiguration(const QJsonObject &entry, const QString &path);
+    void checkRemoval(const QJsonObject &config, const QString &path);
+    void say(const QString &path, const QString &text);
+    void sayAt(JsonPlaces::Place place, const QString &path, const QString &text);
+
+    const JsonPlaces m_places;
+    const QString m_payload;
+    QMap<QString, QString> m_names; ///< Of the entries so far, and their paths.
+    QMultiMap<QPair<int, int>, QJsonObject> m_findings;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

@@ -1,0 +1,48 @@
+#ifndef DOCTOR_JSONPLACES_H
+#define DOCTOR_JSONPLACES_H
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QVector>
+
+namespace Quillmont::Utility::Doctor {
+
+/// Where in a JSON text things are, which QJsonDocument does not tell.
+class JsonPlaces
+{
+public:
+    struct Place
+    {
+        int line = 1;
+        int column = 1;
+    };
+
+    /// Reads @p text. If it is no JSON, nothing in it has a place.
+    explicit JsonPlaces(const QByteArray &text);
+
+    /// Of the key, or the element of an array, that has this path: "0/files/1/source".
+    Place of(const QString &path) const { return placeAt(m_offsets.value(path)); }
+
+    /// Of a byte.
+    Place placeAt(int offset) const;
+
+    /// The paths of keys that their object has already.
+    const QVector<QPair<QString, int>> &repeated() const { return m_repeated; }
+
+private:
+    void readValue(const QString &path);
+    void readMembers(const QString &path);
+    void readElements(const QString &path);
+    QString readString();
+    void skipSpace();
+
+    const QByteArray m_text;
+    int m_place = 0;
+    QHash<QString, int> m_offsets;
+    QVector<QPair<QString, int>> m_repeated;
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif

@@ -1,0 +1,117 @@
+#include "Doctor/CatalogueCheck.h"
+#include "tests/support/Files.h"
+#include "tests/support/Literals.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Tests;
+using Quillmont::Utility::Doctor::CatalogueCheck;
+
+/// What a maker of catalogues is told.
+class TestCatalogueCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsWhatTheProgramIsSilentAbout_data();
+    void findsWhatTheProgramIsSilentAbout();
+};
+
+void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("findings");
+    const auto row = [](const char *name, const QByteArray &text, const char *findings) {
+        QTest::newRow(name) << text << QString::fromUtf8(findings);
+    };
+    const QByteArray files = R"("files": [{"source": "a", "destination": "b"}])";
+    const auto withConfig = [&files](const QByteArray &rest) {
+        return "[{\"name\": \"A\", " + files + ",\n\"config\": {" + rest + "}}]";
+    };
+    const QByteArray values
+        = R"("path": "x", "parent": "P", "values": [{"key": "k", "value": "v"}])";
+
+    row("nothing", "[{\"name\": \"A\", " + files + "}]", "");
+    row("no JSON",
+        "[\n}",
+        "2:1  It is no JSON: object is missing after a comma. The program sees no simulator.");
+    row("no array", "{}", "1:1  It is no array. The program sees no simulator.");
+    row("no entry",
+        "[3]",
+        "1:2  Its type is number, not object; it counts as missing.|"
+        "1:2  The simulator has no name.|"
+        "1:2  There are no files; nothing is installed, and it counts as installed.");
+    row("unknown key",
+        "[{\"name\": \"\xc3\xa4\", \"naem\": 1, " + files + "}]",
+        "1:16 naem Unknown key; it is ignored.");
+    row("wrong type",
+        "[{\"name\": \"A\", \"type\": \"1\", " + files + "}]",
+        "1:16 type Its type is string, not number; it counts as missing.");
+    row("key twice",
+        "[{\"name\": \"A\", \"name\": \"B\", " + files + "}]",
+        "1:16 name The key is there twice; the last one counts.");
+    row("one name",
+        "[{\"name\": \"A\", " + files + "},\n{\"name\": \"A\", " + files + "}]",
+        "2:2 name Line 1 has the same name; both share one record and one chosen folder.");
+    row("source is missing",
+        R"([{"name": "A", "files": [{"source": "c", "destination": "b"}]}])",
+        "1:27 files/0/source The payload has no file \"c\"; it cannot be copied.");
+    row("destinations",
+        R"([{"name": "A", "files": [{"source": "a", "destination": "x\\..\\b"},)"
+        "\n"
+        R"({"source": "a"},)"
+        "\n"
+        R"({"source": "a", "destination": "x/../b"}]}])",
+        "1:42 files/0/destination \"..\" leads out of the simulator's folder; the file is written "
+        "there.|"
+        "2:1 files/1 There is no destination; it is the simulator's folder itself.|"
+        "3:17 files/2/destination \"..\" leads out of the simulator's folder; the file is written "
+        "there.|"
+        "3:17 files/2/destination Another file has the same destination; the later one is copied.");
+    row("lone conflict",
+        "[{\"name\": \"A\", " + files + ",\n\"conflict\": {}}]",
+        "2:1 conflict It is only read beside a \"config\" that is null or not empty; it is "
+        "ignored.");
+    row("removable", withConfig(values), "");
+    row("not removable",
+        withConfig(values + R"(, "remove": {"key": "k", "value": "w", "delete_parent": true})"),
+        "2:80 config/remove This entry installs, but cannot be removed: no pair of \"values\" is "
+        "what "
+        "\"remove\" looks for.");
+    row("partly removable",
+        withConfig(values + R"(, "remove": {"key": "k", "value": "v"})"),
+        "2:80 config/remove Only the child element is removed, and the rest of the entry stays: "
+        "\"delete_parent\" is not true.");
+    row("no values",
+        withConfig(R"("path": "x", "parent": "P")"),
+        "2:1 config Without \"parent\" and \"values\" no entry is added.");
+    row("no path",
+        withConfig(values.mid(13)),
+        "2:1 config There is no path; no file can be edited.");
+    row("not its type",
+        "[{\"name\": \"A\", \"type\": 1, " + files + ",\n\"config\": {\"path\": \"x\"}}]",
+        "2:1 config \"type\" is not 0, so no configuration file is touched.");
+}
+
+void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const QString, findings);
+    const QTemporaryDir payload;
+    writeFile(payload.filePath("a"_s), "");
+    const QJsonObject json = CatalogueCheck(text, payload.path() + u'/').json();
+    QStringList lines;
+    for (const auto &finding : json.value("findings"_s).toArray()) {
+        const QJsonObject object = finding.toObject();
+        lines.append("%1:%2 %3 %4"_s.arg(object.value("line"_s).toInt())
+                         .arg(object.value("column"_s).toInt())
+                         .arg(object.value("key"_s).toString(), object.value("text"_s).toString()));
+    }
+    lines.sort();
+    QCOMPARE(lines.join(u'|'), findings);
+    QCOMPARE(json.value("fine"_s).toBool(), findings.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestCatalogueCheck)
+#include "tst_CatalogueCheck.moc"
