@@ -21,4 +21,5 @@ find_program(ORBWELL_MACDEPLOYQT macdeployqt HINTS "${ORBWELL_QT_TOOLS}" REQUIRE
 install(CODE "
   execute_process(
     COMMAND \"${ORBWELL_MACDEPLOYQT}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/QuillmontOrbwell.app\"
+      \"-executable=\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${ORBWELL_PROGRAM_FOLDER}/orbwell-doctor\"
     COMMAND_ERROR_IS_FATAL ANY)")

@@ -30,4 +30,6 @@ install(FILES "${PROJECT_SOURCE_DIR}/packaging/debian/copyright" DESTINATION "${
 install(FILES "${PROJECT_SOURCE_DIR}/packaging/debian/lintian-overrides"
   DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides" RENAME "${CPACK_PACKAGE_NAME}")
 # Nothing is bound while the program runs, so that what it calls cannot be redirected.
-target_link_options(QuillmontOrbwell PRIVATE LINKER:-z,relro,-z,now)
+foreach(program QuillmontOrbwell orbwell-doctor)
+  target_link_options(${program} PRIVATE LINKER:-z,relro,-z,now)
+endforeach()

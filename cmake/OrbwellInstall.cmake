@@ -1,6 +1,6 @@
 # What cmake --install places. The program looks for the catalogue and the payload beside itself, so
-# the three stay together; on Linux a link in the folder of programs leads there. The link has the
-# program's own name, since the program takes that name out of the paths to the user's files.
+# the three stay together, and so does orbwell-doctor; on Linux links in the folder of programs lead
+# there. A link has the program's own name, since the program takes that name out of the paths to the user's files.
 if(NOT PROJECT_IS_TOP_LEVEL)
   return()
 endif()
@@ -24,7 +24,7 @@ else()
   orbwell_install_desktop_files("${CMAKE_INSTALL_FULL_LIBDIR}/quillmont-orbwell")
 endif()
 
-install(TARGETS QuillmontOrbwell
+install(TARGETS QuillmontOrbwell orbwell-doctor
   RUNTIME DESTINATION "${ORBWELL_PROGRAM_FOLDER}"
   BUNDLE DESTINATION .)
 install(FILES "${PROJECT_SOURCE_DIR}/catalogue/flightsims.json" DESTINATION "${ORBWELL_PROGRAM_FOLDER}")

@@ -11,7 +11,7 @@ foreach(story InstalledTree Packages)
     ORBWELL_CPACK="${CMAKE_CPACK_COMMAND}"
     ORBWELL_LIBDIR="${CMAKE_INSTALL_LIBDIR}"
     ORBWELL_VERSION="${PROJECT_VERSION}")
-  add_dependencies(tst_${story} QuillmontOrbwell)
+  add_dependencies(tst_${story} QuillmontOrbwell orbwell-doctor)
 endforeach()
 # Both leave a list of what they installed in the build folder.
 set_tests_properties(Packaging/InstalledTree Packaging/Packages PROPERTIES

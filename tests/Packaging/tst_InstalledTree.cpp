@@ -20,11 +20,13 @@ private slots:
     void initTestCase();
 
     void keepsCatalogueAndPayloadBesideTheProgram();
-    void leadsFromThePathToTheProgram();
+    void leadsFromThePathToThePrograms();
     void hasAnIconInEverySizeOfTheTheme();
     void hasAMenuEntryThatStartsTheLauncher();
     void hasAPageForTheSoftwareCentre();
-    void hasAManualPage();
+    void hasManualPages_data();
+    void hasManualPages();
+    void completesTheDoctorsOptions();
     void tellsOneVersion();
     void runsFromWhereverItLies();
 
@@ -62,12 +64,14 @@ void TestInstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
              treeOf(QStringLiteral(ORBWELL_SOURCE "/sample/plugins")));
 }
 
-void TestInstalledTree::leadsFromThePathToTheProgram()
+void TestInstalledTree::leadsFromThePathToThePrograms()
 {
-    const QFileInfo launcher(path(QStringLiteral("bin/QuillmontOrbwell")));
-    QVERIFY(launcher.isSymLink());
-    QCOMPARE(launcher.canonicalFilePath(),
-             QFileInfo(path(m_together + QStringLiteral("QuillmontOrbwell"))).canonicalFilePath());
+    for (const char *name : {"QuillmontOrbwell", "orbwell-doctor"}) {
+        const QFileInfo launcher(path(QStringLiteral("bin/") + QLatin1String(name)));
+        QVERIFY(launcher.isSymLink());
+        QCOMPARE(launcher.canonicalFilePath(),
+                 QFileInfo(path(m_together + QLatin1String(name))).canonicalFilePath());
+    }
 }
 
 void TestInstalledTree::hasAnIconInEverySizeOfTheTheme()
@@ -127,12 +131,24 @@ static QByteArray manualPage(const QString &file)
     return Command(QStringLiteral("gzip"), {QStringLiteral("-dc"), file}).run().output;
 }
 
-void TestInstalledTree::hasAManualPage()
+void TestInstalledTree::hasManualPages_data()
 {
-    const QString file = path(QStringLiteral("share/man/man1/QuillmontOrbwell.1.gz"));
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("options");
+    QTest::newRow("window") << QStringLiteral("QuillmontOrbwell")
+                            << QByteArray("INSTALL REPAIR UNINSTALL");
+    QTest::newRow("doctor") << QStringLiteral("orbwell-doctor")
+                            << QByteArray("json plan catalogue check\\-catalogue help version");
+}
+
+void TestInstalledTree::hasManualPages()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, options);
+    const QString file = path(QStringLiteral("share/man/man1/%1.1.gz").arg(name));
     const QByteArray page = manualPage(file);
-    for (const char *option : {"INSTALL", "REPAIR", "UNINSTALL"})
-        QVERIFY2(page.contains(QByteArray("\\-\\-") + option), option);
+    for (const QByteArray &option : options.split(' '))
+        QVERIFY2(page.contains("\\-\\-" + option), option.constData());
     QVERIFY(!page.contains('@'));
 
     if (!Command::exists(QStringLiteral("man")))
@@ -143,6 +159,30 @@ void TestInstalledTree::hasAManualPage()
               .run();
     QCOMPARE(result.errors, QByteArray());
     QVERIFY(result.output.contains("NAME"));
+}
+
+// As bash does it for somebody who presses Tab.
+void TestInstalledTree::completesTheDoctorsOptions()
+{
+    const QString script = QStringLiteral(
+        "source \"$1\"; COMP_WORDS=(orbwell-doctor $2); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
+        "_orbwell_doctor; echo \"${COMPREPLY[@]}\"");
+    const auto completed = [&](const QString &words) {
+        const QString file
+            = path(QStringLiteral("share/bash-completion/completions/orbwell-doctor"));
+        return Command(QStringLiteral("bash"),
+                       {QStringLiteral("-c"), script, QStringLiteral("bash"), file, words})
+            .run()
+            .output;
+    };
+    QCOMPARE(completed(QStringLiteral("--ch")), QByteArray("--check-catalogue\n"));
+    QCOMPARE(completed(QStringLiteral("--plan = re")), QByteArray("repair\n"));
+    const QByteArray help
+        = Command(path(QStringLiteral("bin/orbwell-doctor")), {QStringLiteral("--help")})
+              .run()
+              .output;
+    for (const QByteArray &option : completed(QStringLiteral("--")).simplified().split(' '))
+        QVERIFY2(help.contains(option.split('=').first()), option.constData());
 }
 
 void TestInstalledTree::tellsOneVersion()
@@ -158,8 +198,12 @@ void TestInstalledTree::tellsOneVersion()
         = readFile(path(QStringLiteral("share/metainfo/com.quillmont.orbwell.metainfo.xml")));
     const QByteArray date = newest.captured(2).toUtf8();
     QVERIFY(metainfo.contains("<release version=\"" + version + "\" date=\"" + date + "\"/>"));
-    QVERIFY(manualPage(path(QStringLiteral("share/man/man1/QuillmontOrbwell.1.gz")))
-                .contains(' ' + version + '"'));
+    for (const char *name : {"QuillmontOrbwell", "orbwell-doctor"})
+        QVERIFY(manualPage(path(QStringLiteral("share/man/man1/%1.1.gz").arg(QLatin1String(name))))
+                    .contains(' ' + version + '"'));
+    const QString doctor = path(QStringLiteral("bin/orbwell-doctor"));
+    QCOMPARE(Command(doctor, {QStringLiteral("--version")}).run().output,
+             "orbwell-doctor " + version + '\n');
 }
 
 void TestInstalledTree::runsFromWhereverItLies()
@@ -173,6 +217,12 @@ void TestInstalledTree::runsFromWhereverItLies()
             .arg(simulator)
             .toUtf8());
 
+    const CommandResult before
+        = Command(path(QStringLiteral("bin/orbwell-doctor")), {QStringLiteral("--plan")})
+              .with(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none"))
+              .run();
+    QVERIFY2(before.output.contains("File made: \""), before.errors.constData());
+
     const CommandResult result
         = Command(path(QStringLiteral("bin/QuillmontOrbwell")),
                   {QStringLiteral("--INSTALL"), QStringLiteral("1")})
@@ -184,6 +234,7 @@ void TestInstalledTree::runsFromWhereverItLies()
     // Straight below the maker's folder: started by its own name, it takes that name out of the
     // path.
     QVERIFY(QFile::exists(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping")));
+    QCOMPARE(Command(path(QStringLiteral("bin/orbwell-doctor"))).run().status, 0);
 }
 
 QTEST_GUILESS_MAIN(TestInstalledTree)
