@@ -16,8 +16,8 @@ bool openText(QFile *file, QIODevice::OpenMode mode, QString *problem);
 /// @p problem says so.
 QString wholeText(QFile *file, QString *problem);
 
-/// Opens @p file likewise and makes @p bytes its content, as FileWriter::rewrite() does. What is too
-/// big for wholeText() is not written either: no later run could read it, or mend it.
+/// Opens @p file likewise and makes @p bytes its content, as FileWriter::rewrite() does. What is
+/// too big for wholeText() is not written either: no later run could read it, or mend it.
 bool rewriteText(QFile *file, const QByteArray &bytes, QString *problem);
 
 } // namespace Quillmont::Utility::ViewControllers

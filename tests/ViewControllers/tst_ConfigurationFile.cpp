@@ -111,8 +111,7 @@ void TestConfigurationFile::isOneHoweverManyWaysLeadToIt()
     for (const char *folder : {"fsx", "Fsx"})
         QVERIFY(QDir().mkpath(shop.dataPath("maker/") + QLatin1String(folder)));
     const QByteArray ways = "Maker/" + QByteArray("FSX/../").repeated(20) + "dll.xml";
-    auto *mapping
-        = shop.mapping(QByteArray(entry).replace("$path", ways), shop.folder("A"));
+    auto *mapping = shop.mapping(QByteArray(entry).replace("$path", ways), shop.folder("A"));
     shop.controller().install(mapping, true, false);
     QVERIFY(readFile(shop.dataPath("maker/DLL.XML")).contains("Our entry"));
 }
