@@ -4,6 +4,7 @@
 #include "Doctor/Problems.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/WindowsPath.h"
+#include "Doctor/WriteAccess.h"
 #include "Doctor/XmlDamage.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -69,6 +70,11 @@ void ConfigurationCheck::lookAt(const QString &path)
 {
     m_path = path;
     m_json.insert(QStringLiteral("path"), path);
+    m_json.insert(QStringLiteral("writable"), mayReplace(path));
+    if (!mayReplace(path))
+        m_problems->addError(
+            tr("You may not write in the folder of the configuration file %1.").arg(quoted(path)),
+            tr("Give yourself the right to write there."));
     if (!m_entry->config->prefix.isEmpty())
         m_json.insert(QStringLiteral("prefix"), userDataRoot() + m_entry->config->prefix);
     if (FileHelper::isMissing(path)) {
@@ -81,7 +87,6 @@ void ConfigurationCheck::lookAt(const QString &path)
     QString problem;
     const QByteArray bytes = FileHelper::read(path, Library::Xml::maxFileSize, &problem);
     m_json.insert(QStringLiteral("size"), QFileInfo(path).size());
-    m_json.insert(QStringLiteral("writable"), QFileInfo(path).isWritable());
     if (problem.isEmpty()) {
         read(bytes);
     } else {
@@ -114,7 +119,7 @@ void ConfigurationCheck::read(const QByteArray &bytes)
                               {QStringLiteral("line"), damage.line()},
                               {QStringLiteral("column"), damage.column()},
                               {QStringLiteral("brokenLine"), damage.brokenLine()}});
-    m_problems->addError(
+    m_problems->addGrave(
         tr("The configuration file %1 is damaged. %2").arg(quoted(m_path), damage.sentence()),
         tr("Put a backup back, or mend the file by hand; until then nothing is changed in it, and "
            "the simulator may load no add-on at all."));

@@ -151,9 +151,6 @@ void Examination::judgeFolder(const Simulator &simulator, Problems *problems) co
     else if (!info.isDir())
         problems->addError(tr("%1 is a file, not a folder.").arg(quoted(path)),
                            tr("Choose its folder in the window."));
-    else if (!info.isWritable())
-        problems->addError(tr("You may not write in its folder %1.").arg(quoted(path)),
-                           tr("Give yourself the right to write there."));
 }
 
 QJsonObject

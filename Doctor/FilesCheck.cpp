@@ -2,6 +2,7 @@
 
 #include "Doctor/Problems.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/WriteAccess.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -48,18 +49,23 @@ FilesCheck::FilesCheck(const FlightSimulatorMapping *mapping,
         m_needed += sourceInfo.size();
         const QString state
             = mapping->path.isEmpty() ? QStringLiteral("missing") : stateOf(target, source);
-        m_json.append(
-            QJsonObject{{QStringLiteral("destination"), it.key()},
-                        {QStringLiteral("path"), mapping->path.isEmpty() ? QString() : target},
-                        {QStringLiteral("state"), state},
-                        {QStringLiteral("inPayload"), sourceInfo.isFile()}});
+        QJsonObject object{{QStringLiteral("destination"), it.key()},
+                           {QStringLiteral("state"), state},
+                           {QStringLiteral("inPayload"), sourceInfo.isFile()}};
+        if (!mapping->path.isEmpty()) {
+            object.insert(QStringLiteral("path"), target);
+            object.insert(QStringLiteral("writable"), mayReplace(target));
+        }
+        m_json.append(object);
         if (!sourceInfo.isFile())
             m_problems->addError(
                 tr("The payload lacks %1, so it cannot be installed.").arg(quoted(source)),
                 tr("Install this program again, or complete its \"plugins\" folder."));
     }
-    if (!mapping->path.isEmpty())
+    if (QFileInfo(mapping->path).isDir()) {
         judge();
+        judgeAccess();
+    }
 }
 
 QString FilesCheck::stateOf(const QString &target, const QString &source)
@@ -102,6 +108,20 @@ void FilesCheck::judge()
     const QString unreadable = names("unreadable");
     if (!unreadable.isEmpty())
         m_problems->addWarning(tr("%1 cannot be read.").arg(unreadable), again);
+}
+
+void FilesCheck::judgeAccess()
+{
+    QStringList names;
+    for (const auto &file : m_json) {
+        const QJsonObject object = file.toObject();
+        if (!object.value(QLatin1String("writable")).toBool())
+            names.append(quoted(object.value(QLatin1String("path")).toString()));
+    }
+    if (!names.isEmpty())
+        m_problems->addError(
+            tr("You may not write in the folder of %1.").arg(names.join(QStringLiteral(", "))),
+            tr("Give yourself the right to write there."));
 }
 
 QString FilesCheck::names(const char *state) const

@@ -38,6 +38,7 @@ public:
 private:
     QString stateOf(const QString &target, const QString &source);
     void judge();
+    void judgeAccess();
     QString names(const char *state) const;
 
     const Models::FlightSimulatorMapping *const m_mapping;

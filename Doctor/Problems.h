@@ -10,6 +10,9 @@ namespace Quillmont::Utility::Doctor {
 class Problems
 {
 public:
+    /// The simulator may load no add-on at all.
+    void addGrave(const QString &text, const QString &advice) { add("grave", text, advice); }
+
     /// The plugin does not load, or nothing can be done about it without this.
     void addError(const QString &text, const QString &advice) { add("error", text, advice); }
 

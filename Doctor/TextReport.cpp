@@ -178,22 +178,21 @@ void TextReport::writeRecord(const QJsonObject &record, Page *page)
 
 void TextReport::writeThingsToDo(const QJsonObject &report, Page *page)
 {
-    QStringList errors;
-    QStringList warnings;
+    QMap<QString, QStringList> found;
     const auto collect = [&](const QJsonObject &object, const QString &name) {
         const QJsonArray problems = array(object, "problems");
         for (const auto &problem : problems) {
             const QJsonObject each = problem.toObject();
-            QStringList *lines
-                = text(each, "level") == QLatin1String("error") ? &errors : &warnings;
-            lines->append(tr("%1: %2 %3").arg(name, text(each, "text"), text(each, "advice")));
+            found[text(each, "level")].append(
+                tr("%1: %2 %3").arg(name, text(each, "text"), text(each, "advice")));
         }
     };
     const QJsonArray simulators = array(report, "simulators");
     for (const auto &simulator : simulators)
         collect(simulator.toObject(), printable(text(simulator.toObject(), "name")));
     collect(report.value(QLatin1String("record")).toObject(), tr("Record"));
-    const QStringList lines = errors + warnings;
+    const QStringList lines = found.value(QStringLiteral("grave"))
+        + found.value(QStringLiteral("error")) + found.value(QStringLiteral("warning"));
     if (lines.isEmpty())
         return page->add(0, tr("Nothing is wrong."), Page::Good);
     page->add(0, tr("What to do:"), Page::Title);

@@ -6,12 +6,15 @@
 #include "tests/support/Command.h"
 #include "tests/support/Files.h"
 #include "tests/support/Literals.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QJsonDocument>
 #include <QtTest>
 
 #include <functional>
+
+#include <unistd.h>
 
 using namespace Tests;
 
@@ -40,6 +43,8 @@ private slots:
     void makesNoCallThatChangesAnything();
     void limitsItselfToNames();
     void keepsALineBreakInANameInItsLine();
+    void saysWhereItMayNotWrite();
+    void putsTheWorstFirst();
     void saysHowItFoundASimulator();
     void leavesOthersEntriesUnsaid();
     void putsABackupBack();
@@ -266,6 +271,49 @@ void TestReport::keepsALineBreakInANameInItsLine()
     QVERIFY2(text.startsWith("Wren\\u000aNothing is wrong.\\u001b[2J: "), text.constData());
     QCOMPARE(text.count("\nNothing is wrong."), 1);
     QVERIFY(!text.contains('\x1b'));
+}
+
+void TestReport::saysWhereItMayNotWrite()
+{
+    const QString configuration = m_computer->absolute(m_computer->configuration("Skylark"_s));
+    const QString gauges = m_computer->folder("Skylark"_s) + "/Gauges"_s;
+    const bool isRoot = geteuid() == 0;
+    run({"--version"_s}); // puts it in its place
+    {
+        const Unprivileged givesAllAway(m_computer->absolute(QString()).chopped(1));
+    }
+    const auto answer = [&] {
+        const QString doctor = m_computer->program().folder() + "/orbwell-doctor"_s;
+        const QStringList asNobody{"--reuid=65534"_s, "--clear-groups"_s, doctor, "Skylark"_s};
+        return isRoot ? Command("setpriv"_s, asNobody).run() : run({"Skylark"_s});
+    };
+    const auto mayWrite = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    for (const QString &folder : {gauges, QFileInfo(configuration).path()}) {
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+        const QByteArray text = answer().output;
+        QVERIFY(QFile::setPermissions(folder, mayWrite));
+        const QString sentence = folder == gauges
+            ? "You may not write in the folder of \""_s
+            : "You may not write in the folder of the configuration file \""_s;
+        QVERIFY2(text.contains((sentence + folder).toUtf8()), text.constData());
+    }
+    QCOMPARE(answer().status, 0);
+}
+
+void TestReport::putsTheWorstFirst()
+{
+    installEverywhere();
+    m_computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "another");
+    QFile::remove(m_computer->folder("Kestrel"_s) + "/Resources/plugins/Orbwell/64/lin.xpl"_s);
+    m_computer->write(m_computer->configuration("Skylark"_s), "<R>");
+    const QByteArray text = run({}).output;
+    int place = text.indexOf("What to do:");
+    for (const char *next : {"1. Skylark: The configuration",
+                             "2. Kestrel: Only a part",
+                             "3. Kestrel: \"Resources/plugins/Orbwell/about.txt\" differs"}) {
+        place = text.indexOf(next, place);
+        QVERIFY2(place > 0, text.constData());
+    }
 }
 
 void TestReport::saysHowItFoundASimulator()
