@@ -24,5 +24,6 @@ target_compile_definitions(tst_Architecture PRIVATE
 if(NOT APPLE)
   orbwell_add_test(Documents/Commands)
   target_compile_definitions(tst_Commands PRIVATE ORBWELL_PROGRAM="$<TARGET_FILE:QuillmontOrbwell>")
+  add_dependencies(tst_Commands orbwell-doctor)
   target_link_libraries(tst_Commands PRIVATE orbwell-documents orbwell-program-support)
 endif()
