@@ -1,6 +1,7 @@
 #include "tests/Catalogue/CatalogueSchema.h"
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/DoctorsPlan.h"
+#include "tests/EndToEnd/PilotsHome.h"
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/EndToEnd/Tracer.h"
 #include "tests/support/Command.h"
@@ -42,6 +43,7 @@ private slots:
     void saysWhereItMayNotWrite();
     void putsTheWorstFirst();
     void saysHowItFoundASimulator();
+    void looksAtAPilotsComputer();
     void leavesOthersEntriesUnsaid();
     void putsABackupBack();
     void refusesWhatItDoesNotKnow_data();
@@ -333,6 +335,54 @@ void TestReport::saysHowItFoundASimulator()
     QCOMPARE(place.value("namedBy"_s).toString(), "X-Plane's own list"_s);
     QCOMPARE(place.value("reason"_s).toString(), "no such folder"_s);
 #endif
+}
+
+// With the catalogue and the payload as they ship.
+void TestReport::looksAtAPilotsComputer()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("a Linux computer: Proton, and X-Plane's list where it is there");
+#endif
+    m_computer.reset();
+    const Sandbox sandbox;
+    const PilotsHome home(sandbox, sandbox.path("flightgear"_s));
+    QByteArray xml = readFile(home.dllXml());
+    for (const char *path : {R"(C:\Users\steamuser\appdata\Roaming\Microsoft\FSX\FSX.cfg)",
+                             R"(C:\gone.dll)",
+                             R"(Q:\unknown.dll)",
+                             R"("MODULES\somebody.dll")",
+                             R"(modules\gone.dll)",
+                             R"(%APPDATA%\any.dll)"})
+        xml.replace(xml.indexOf("..\\somebody.dll"), 15, path);
+    writeFile(home.dllXml(), xml);
+
+    const CommandResult result
+        = Command(QStringLiteral(ORBWELL_BIN "/orbwell-doctor"), {"--json"_s})
+              .with("FG_ROOT"_s, home.flightGear())
+              .run();
+    QCOMPARE(result.status, 0);
+    const QJsonArray all
+        = QJsonDocument::fromJson(result.output).object().value("simulators"_s).toArray();
+    QMap<QString, QJsonObject> byCode;
+    for (const auto &simulator : all)
+        byCode.insert(simulator.toObject().value("code"_s).toString(), simulator.toObject());
+    const auto origin = [&](const char *code) {
+        const QJsonObject simulator = byCode.value(QLatin1String(code));
+        return simulator.value("foundBy"_s).toString() + " "_s
+            + simulator.value("folder"_s).toString();
+    };
+    QCOMPARE(origin("XP12"), "X-Plane's own list "_s + home.xplane12());
+    QCOMPARE(origin("XP11"), "Steam "_s + home.xplane11());
+    QCOMPARE(origin("FSXSE"), "Steam "_s + home.fsx());
+    QCOMPARE(origin("FGFS"), "FG_ROOT "_s + home.flightGear());
+    QCOMPARE(origin("XP10"), " "_s);
+    const QJsonObject configuration = byCode.value("FSXSE"_s).value("configuration"_s).toObject();
+    QCOMPARE(configuration.value("state"_s).toString(), "well formed"_s);
+    QVERIFY(configuration.value("prefix"_s).toString().endsWith("compatdata/314160/pfx"_s));
+    QStringList gone;
+    for (const auto &other : configuration.value("othersWithoutFile"_s).toArray())
+        gone.append(other.toObject().value("path"_s).toString());
+    QCOMPARE(gone, (QStringList{"C:\\gone.dll"_s, "modules\\gone.dll"_s}));
 }
 
 void TestReport::leavesOthersEntriesUnsaid()
