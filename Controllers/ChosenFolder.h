@@ -1,7 +1,10 @@
 #ifndef CONTROLLERS_CHOSENFOLDER_H
 #define CONTROLLERS_CHOSENFOLDER_H
 
-class QString;
+#include <QHash>
+#include <QString>
+
+class QStringList;
 
 namespace Quillmont::Utility::Controllers {
 
@@ -10,6 +13,9 @@ QString chosenFolderKey(const QString &simulatorName);
 
 /// That folder; empty where none is stored, or the settings cannot be read.
 QString chosenFolder(const QString &simulatorName);
+
+/// The same for many, by name, with one look at the settings.
+QHash<QString, QString> chosenFolders(const QStringList &simulatorNames);
 
 } // namespace Quillmont::Utility::Controllers
 

@@ -50,7 +50,7 @@ QVector<QVector<int>> commonCounts(const Lines &before, const Lines &after, cons
 
 QVector<Hunk> hunksIn(const Lines &before, const Lines &after, const Hunk &piece)
 {
-    constexpr qint64 maxCells = 4000000;
+    constexpr qint64 maxCells = 250000; // some milliseconds
     const int rows = piece.oldEnd - piece.oldBegin;
     const int columns = piece.newEnd - piece.newBegin;
     if (qint64(rows) * columns > maxCells)

@@ -11,9 +11,11 @@
 #include "ViewControllers/Payload/SteamPrefix.h"
 #include "ViewControllers/Payload/Strategies.h"
 
+#include <QHash>
+#include <QPair>
 #include <QStringList>
 
-using Quillmont::Utility::Controllers::chosenFolder;
+using Quillmont::Utility::Controllers::chosenFolders;
 using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 
@@ -37,15 +39,20 @@ Simulator detected(FlightSimScan *entry, const QMap<QString, QString> &simPaths)
     return simulator;
 }
 
-QString keeperOf(const Simulator &loser, const QList<Simulator> &all)
+using Place = QPair<QString, QString>; // a conflict's name, and a folder
+
+// Who has a folder in the end; of several in one group the first.
+QHash<Place, QString> keepers(const QList<Simulator> &simulators)
 {
-    for (const Simulator &other : all) {
-        const auto *conflict = other.mapping->scan->conflict;
-        if (conflict && conflict->name == loser.mapping->scan->conflict->name
-            && other.mapping->path == loser.gaveUp)
-            return other.mapping->scan->name;
+    QHash<Place, QString> names;
+    for (const Simulator &simulator : simulators) {
+        const auto *entry = simulator.mapping->scan;
+        const Place place(entry->conflict ? entry->conflict->name : QString(),
+                          simulator.mapping->path);
+        if (entry->conflict && !names.contains(place))
+            names.insert(place, entry->name);
     }
-    return {};
+    return names;
 }
 
 void settle(QList<Simulator> *simulators)
@@ -56,13 +63,15 @@ void settle(QList<Simulator> *simulators)
         mappings.append(simulator.mapping);
     }
     ViewControllers::settleConflicts(mappings);
+    const QHash<Place, QString> names = keepers(*simulators);
     for (Simulator &simulator : *simulators) {
-        const bool lost = simulator.mapping->path != simulator.gaveUp;
-        if (!lost)
+        if (simulator.mapping->path == simulator.gaveUp) {
             simulator.gaveUp.clear();
-        else
-            simulator.gaveWayTo = keeperOf(simulator, *simulators);
-        simulator.origin = lost ? Simulator::NotFound : simulator.origin;
+            continue;
+        }
+        const QString &group = simulator.mapping->scan->conflict->name;
+        simulator.gaveWayTo = names.value({group, simulator.gaveUp});
+        simulator.origin = Simulator::NotFound;
     }
 }
 
@@ -76,8 +85,12 @@ QList<Simulator> simulatorsIn(const QString &catalogue, QObject *owner)
     for (auto *entry : entries)
         simulators.append(detected(entry, simPaths));
     settle(&simulators);
+    QStringList names;
+    for (const Simulator &simulator : qAsConst(simulators))
+        names.append(simulator.mapping->scan->name);
+    const auto chosenByName = chosenFolders(names);
     for (Simulator &simulator : simulators) {
-        const QString chosen = chosenFolder(simulator.mapping->scan->name);
+        const QString chosen = chosenByName.value(simulator.mapping->scan->name);
         if (chosen.isEmpty())
             continue;
         simulator.mapping->updateFlightSimPath(chosen);
