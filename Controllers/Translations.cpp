@@ -56,7 +56,7 @@ QString userLanguage()
     for (const QString &language : languages) {
         if (QLocale(language).language() == QLocale::English)
             return {};
-        const QString translation = translationFor(language);
+        QString translation = translationFor(language);
         if (!translation.isEmpty())
             return translation;
     }

@@ -42,7 +42,7 @@ QStringList backupNames(const QFileInfo &file)
 {
     const QRegularExpression form(
         u'^' + QRegularExpression::escape(file.fileName())
-        + QLatin1String(R"(_quillmont_orbwell_before_(un)?installation_\d{8}_\d{6}\.bak$)"));
+        + QStringLiteral(R"(_quillmont_orbwell_before_(un)?installation_\d{8}_\d{6}\.bak$)"));
     QStringList names = file.dir().entryList(QDir::Files | QDir::Hidden, QDir::NoSort).filter(form);
     std::sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
         return timeIn(left) > timeIn(right);

@@ -93,6 +93,7 @@ CatalogueCheck::CatalogueCheck(const QByteArray &text, const QString &payload)
     }
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): as deep as a catalogue may be.
 void CatalogueCheck::checkKeys(const QJsonObject &object, const QString &path, const QString &kind)
 {
     const QMap<QString, QString> known = keysOf(kind);
@@ -105,6 +106,7 @@ void CatalogueCheck::checkKeys(const QJsonObject &object, const QString &path, c
     }
 }
 
+// NOLINTNEXTLINE(misc-no-recursion)
 void CatalogueCheck::checkMember(const QJsonValue &value, const QString &path, const QString &type)
 {
     QString wanted = type.section(u':', 0, 0);
@@ -113,9 +115,10 @@ void CatalogueCheck::checkMember(const QJsonValue &value, const QString &path, c
     const QString kind = type.section(u':', 1);
     if (mayBeNull && value.isNull())
         return;
-    if (typeOf(value) != wanted)
-        return say(path,
-                   tr("Its type is %1, not %2; it counts as missing.").arg(typeOf(value), wanted));
+    if (typeOf(value) != wanted) {
+        say(path, tr("Its type is %1, not %2; it counts as missing.").arg(typeOf(value), wanted));
+        return;
+    }
     if (value.isObject())
         checkKeys(value.toObject(), path, kind);
     const QJsonArray elements = value.toArray();
@@ -188,8 +191,10 @@ void CatalogueCheck::checkConfiguration(const QJsonObject &entry, const QString 
 void CatalogueCheck::checkRemoval(const QJsonObject &config, const QString &path)
 {
     const XmlInsertionModel model(nullptr, config);
-    if (!model.describesEntry())
-        return say(path, tr("Without \"parent\" and \"values\" no entry is added."));
+    if (!model.describesEntry()) {
+        say(path, tr(R"(Without "parent" and "values" no entry is added.)"));
+        return;
+    }
     const bool isRecognised
         = model.element == model.parentName
         && std::any_of(model.values.cbegin(), model.values.cend(), [&model](const auto &pair) {

@@ -136,7 +136,7 @@ QString Examination::originOf(const Simulator &simulator) const
     case Simulator::NotFound:
         break;
     }
-    return QString();
+    return {};
 }
 
 void Examination::judgeFolder(const Simulator &simulator, Problems *problems) const

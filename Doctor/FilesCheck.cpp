@@ -38,8 +38,7 @@ bool haveSameBytes(const QString &first, const QString &second)
 FilesCheck::FilesCheck(const FlightSimulatorMapping *mapping,
                        const QString &payload,
                        Problems *problems)
-    : m_mapping(mapping)
-    , m_problems(problems)
+    : m_problems(problems)
 {
     const auto &files = mapping->scan->files;
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
@@ -113,7 +112,7 @@ void FilesCheck::judge()
 void FilesCheck::judgeAccess()
 {
     QStringList names;
-    for (const auto &file : m_json) {
+    for (const auto &file : qAsConst(m_json)) {
         const QJsonObject object = file.toObject();
         if (!object.value(QLatin1String("writable")).toBool())
             names.append(quoted(object.value(QLatin1String("path")).toString()));
@@ -127,7 +126,7 @@ void FilesCheck::judgeAccess()
 QString FilesCheck::names(const char *state) const
 {
     QStringList names;
-    for (const auto &file : m_json) {
+    for (const auto &file : qAsConst(m_json)) {
         const QJsonObject object = file.toObject();
         if (object.value(QLatin1String("state")) == QLatin1String(state))
             names.append(quoted(object.value(QLatin1String("destination")).toString()));

@@ -41,7 +41,6 @@ private:
     void judgeAccess();
     QString names(const char *state) const;
 
-    const Models::FlightSimulatorMapping *const m_mapping;
     Problems *const m_problems;
     QJsonArray m_json;
     int m_present = 0;

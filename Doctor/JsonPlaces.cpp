@@ -22,21 +22,28 @@ JsonPlaces::Place JsonPlaces::placeAt(int offset) const
     return {before.count('\n') + 1, QString::fromUtf8(before.mid(begin)).size() + 1};
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): as deep as QJsonDocument lets a text be.
 void JsonPlaces::readValue(const QString &path)
 {
     const char first = m_text.mid(m_place, 1).isEmpty() ? '\0' : m_text.at(m_place);
     if (first == '{')
-        return readMembers(path);
-    if (first == '[')
-        return readElements(path);
-    if (first == '"') {
+        readMembers(path);
+    else if (first == '[')
+        readElements(path);
+    else if (first == '"')
         readString();
-        return;
-    }
+    else
+        skipWord();
+}
+
+// A number, or what is true, false or nothing.
+void JsonPlaces::skipWord()
+{
     while (m_place < m_text.size() && !QByteArray(",]} \t\r\n").contains(m_text.at(m_place)))
         ++m_place;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion)
 void JsonPlaces::readMembers(const QString &path)
 {
     ++m_place;
@@ -58,6 +65,7 @@ void JsonPlaces::readMembers(const QString &path)
     ++m_place;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion)
 void JsonPlaces::readElements(const QString &path)
 {
     ++m_place;

@@ -32,6 +32,7 @@ public:
 
 private:
     void readValue(const QString &path);
+    void skipWord();
     void readMembers(const QString &path);
     void readElements(const QString &path);
     QString readString();

@@ -4,6 +4,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <vector>
 
 namespace Quillmont::Utility::Doctor {
 
@@ -18,7 +19,7 @@ Lines linesOf(const QString &text)
     for (int begin = 0; begin < text.size();) {
         const int end = text.indexOf(u'\n', begin);
         const int next = end < 0 ? text.size() : end + 1;
-        lines.append(text.mid(begin, next - begin));
+        lines.push_back(text.mid(begin, next - begin));
         begin = next;
     }
     return lines;
@@ -34,7 +35,7 @@ struct Hunk
 };
 
 // How many lines the rests of the two pieces have in common at most, for each pair of beginnings.
-QVector<QVector<int>> commonCounts(const Lines &before, const Lines &after, const Hunk &piece)
+QVector<QVector<int>> commonCounts(const Lines &before, const Lines &after, Hunk piece)
 {
     const int rows = piece.oldEnd - piece.oldBegin;
     const int columns = piece.newEnd - piece.newBegin;
@@ -48,7 +49,7 @@ QVector<QVector<int>> commonCounts(const Lines &before, const Lines &after, cons
     return counts;
 }
 
-QVector<Hunk> hunksIn(const Lines &before, const Lines &after, const Hunk &piece)
+std::vector<Hunk> hunksIn(const Lines &before, const Lines &after, Hunk piece)
 {
     constexpr qint64 maxCells = 250000; // some milliseconds
     const int rows = piece.oldEnd - piece.oldBegin;
@@ -56,14 +57,14 @@ QVector<Hunk> hunksIn(const Lines &before, const Lines &after, const Hunk &piece
     if (qint64(rows) * columns > maxCells)
         return {piece};
     const auto counts = commonCounts(before, after, piece);
-    QVector<Hunk> hunks;
+    std::vector<Hunk> hunks;
     int i = 0;
     int j = 0;
     int oldBegin = 0;
     int newBegin = 0;
     const auto end = [&] {
         if (i > oldBegin || j > newBegin)
-            hunks.append({piece.oldBegin + oldBegin,
+            hunks.push_back({piece.oldBegin + oldBegin,
                           piece.oldBegin + i,
                           piece.newBegin + newBegin,
                           piece.newBegin + j});
@@ -131,7 +132,7 @@ QString lineDiff(const QString &path, const QString &before, const QString &afte
     QString text = QStringLiteral("--- %1\n+++ %2\n")
                        .arg(before.isNull() ? QStringLiteral("/dev/null") : path, path);
     const auto hunks = hunksIn(oldLines, newLines, differingPiece(oldLines, newLines));
-    for (const Hunk &hunk : hunks)
+    for (const Hunk hunk : hunks)
         text += QStringLiteral("@@ -%1 +%2 @@\n")
                     .arg(range(hunk.oldBegin, hunk.oldEnd), range(hunk.newBegin, hunk.newEnd))
             + marked(u'-', oldLines, hunk.oldBegin, hunk.oldEnd)

@@ -45,8 +45,8 @@ void Options::takePlan(const QString &option)
     m_plan = option.contains(u'=') ? option.section(u'=', 1) : QStringLiteral("install");
     if (m_plan != QLatin1String("install") && m_plan != QLatin1String("repair")
         && m_plan != QLatin1String("uninstall"))
-        m_problem = tr("%1: a plan is for \"install\", \"repair\" or \"uninstall\".")
-                        .arg(printable(option));
+        m_problem
+            = tr(R"(%1: a plan is for "install", "repair" or "uninstall".)").arg(printable(option));
 }
 
 void Options::takeCatalogue(const QString &option, QStringList *rest)

@@ -7,6 +7,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <array>
+
 namespace Quillmont::Utility::Doctor {
 
 Page Page::forStandardOutput()
@@ -42,10 +44,11 @@ void Page::addExactly(int indent, const QString &line, Style style)
 
 QString Page::coloured(const QString &line, Style style) const
 {
-    static const char *const codes[] = {"", "\033[1m", "\033[32m", "\033[31m"};
+    static const std::array<QString, 4> codes{
+        QString(), QStringLiteral("1"), QStringLiteral("32"), QStringLiteral("31")};
     if (!m_isColoured || style == Plain)
         return line;
-    return QLatin1String(codes[style]) + line + QLatin1String("\033[0m");
+    return QStringLiteral("\033[%1m").arg(codes.at(style)) + line + QStringLiteral("\033[0m");
 }
 
 } // namespace Quillmont::Utility::Doctor

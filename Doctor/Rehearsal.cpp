@@ -121,7 +121,8 @@ void Rehearsal::removeEntry()
     }
     if (!m_entry->remove)
         return;
-    for (const auto *operation : m_entry->remove->files) {
+    const auto &files = m_entry->remove->files;
+    for (const auto *operation : files) {
         const QString path = ViewControllers::extraFile(m_mapping, operation);
         if (m_disk.exists(path) && !QFileInfo(path).isDir())
             m_disk.remove(path);

@@ -9,6 +9,9 @@ namespace Quillmont::Utility::ViewControllers {
 
 FlightSimulatorMapping *ScanController::scan(FlightSimScan *scan)
 {
+    // Never a folder of its own; the detection library knows these simulators.
+    if (scan->location == 4)
+        scanMultiple(scan);
     return foundByStrategy(scan);
 }
 

@@ -35,18 +35,6 @@ QString write(const QString &path, const QString &text, const QString &encoding)
     return problem;
 }
 
-// What ".." leads to is known only of a folder that is there.
-bool leadsOutOfWhatIsMissing(const QString &folder)
-{
-    const QString path = folder + u'/';
-    const QString up = QStringLiteral("/../");
-    for (int end = path.indexOf(up); end >= 0; end = path.indexOf(up, end + 1)) {
-        if (!QFileInfo(path.left(end + 1)).isDir())
-            return true;
-    }
-    return false;
-}
-
 bool isRegular(int handle)
 {
     struct stat status = {};
@@ -73,8 +61,7 @@ bool FileHelper::saveText(const QString &path, const QString &text, const QStrin
 bool FileHelper::makeFolderOf(const QString &path)
 {
     // The absolute path would be without "..", which leads elsewhere behind a linked folder.
-    const QString folder = QFileInfo(path).path();
-    return !leadsOutOfWhatIsMissing(folder) && QDir().mkpath(folder);
+    return QDir().mkpath(QFileInfo(path).path());
 }
 
 bool FileHelper::isMissing(const QString &path)
