@@ -93,7 +93,7 @@ CatalogueCheck::CatalogueCheck(const QByteArray &text, const QString &payload)
     }
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): as deep as a catalogue may be.
+// NOLINTNEXTLINE(misc-no-recursion): ends at the depth that QJsonDocument allows.
 void CatalogueCheck::checkKeys(const QJsonObject &object, const QString &path, const QString &kind)
 {
     const QMap<QString, QString> known = keysOf(kind);
@@ -180,8 +180,10 @@ void CatalogueCheck::checkConfiguration(const QJsonObject &entry, const QString 
             tr("It is only read beside a \"config\" that is null or not empty; it is ignored."));
     if (config.isEmpty())
         return;
-    if (entry.value(QLatin1String("type")).toInt(0) != 0)
-        return say(place, tr("\"type\" is not 0, so no configuration file is touched."));
+    if (entry.value(QLatin1String("type")).toInt(0) != 0) {
+        say(place, tr("\"type\" is not 0, so no configuration file is touched."));
+        return;
+    }
     if (text(config, "path").isEmpty())
         say(place, tr("There is no path; no file can be edited."));
     checkRemoval(config, place);

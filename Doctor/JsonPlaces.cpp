@@ -22,7 +22,7 @@ JsonPlaces::Place JsonPlaces::placeAt(int offset) const
     return {before.count('\n') + 1, QString::fromUtf8(before.mid(begin)).size() + 1};
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): as deep as QJsonDocument lets a text be.
+// NOLINTNEXTLINE(misc-no-recursion): ends at the depth that QJsonDocument allows.
 void JsonPlaces::readValue(const QString &path)
 {
     const char first = m_text.mid(m_place, 1).isEmpty() ? '\0' : m_text.at(m_place);
@@ -33,14 +33,8 @@ void JsonPlaces::readValue(const QString &path)
     else if (first == '"')
         readString();
     else
-        skipWord();
-}
-
-// A number, or what is true, false or nothing.
-void JsonPlaces::skipWord()
-{
-    while (m_place < m_text.size() && !QByteArray(",]} \t\r\n").contains(m_text.at(m_place)))
-        ++m_place;
+        while (m_place < m_text.size() && !QByteArray(",]} \t\r\n").contains(m_text.at(m_place)))
+            ++m_place;
 }
 
 // NOLINTNEXTLINE(misc-no-recursion)

@@ -32,7 +32,6 @@ public:
 
 private:
     void readValue(const QString &path);
-    void skipWord();
     void readMembers(const QString &path);
     void readElements(const QString &path);
     QString readString();

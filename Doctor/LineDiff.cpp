@@ -19,7 +19,7 @@ Lines linesOf(const QString &text)
     for (int begin = 0; begin < text.size();) {
         const int end = text.indexOf(u'\n', begin);
         const int next = end < 0 ? text.size() : end + 1;
-        lines.push_back(text.mid(begin, next - begin));
+        lines.append(text.mid(begin, next - begin));
         begin = next;
     }
     return lines;
@@ -65,9 +65,9 @@ std::vector<Hunk> hunksIn(const Lines &before, const Lines &after, Hunk piece)
     const auto end = [&] {
         if (i > oldBegin || j > newBegin)
             hunks.push_back({piece.oldBegin + oldBegin,
-                          piece.oldBegin + i,
-                          piece.newBegin + newBegin,
-                          piece.newBegin + j});
+                             piece.oldBegin + i,
+                             piece.newBegin + newBegin,
+                             piece.newBegin + j});
     };
     while (i < rows && j < columns) {
         if (before.at(piece.oldBegin + i) == after.at(piece.newBegin + j)) {

@@ -1,13 +1,13 @@
 #include "Doctor/Page.h"
 
+#include "Doctor/Quoting.h"
+
 #include <QStringList>
 
 #include <algorithm>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
-
-#include <array>
 
 namespace Quillmont::Utility::Doctor {
 
@@ -24,7 +24,7 @@ void Page::add(int indent, const QString &line, Style style)
 {
     const QString blanks(indent, u' ');
     QString folded;
-    const QStringList words = line.split(u' ');
+    const QStringList words = printable(line).split(u' ');
     for (const QString &word : words) {
         if (m_width > 0 && !folded.isEmpty()
             && indent + folded.size() + 1 + word.size() > m_width) {
@@ -39,16 +39,15 @@ void Page::add(int indent, const QString &line, Style style)
 
 void Page::addExactly(int indent, const QString &line, Style style)
 {
-    m_text += QString(indent, u' ') + coloured(line, style) + u'\n';
+    m_text += QString(indent, u' ') + coloured(printable(line), style) + u'\n';
 }
 
 QString Page::coloured(const QString &line, Style style) const
 {
-    static const std::array<QString, 4> codes{
-        QString(), QStringLiteral("1"), QStringLiteral("32"), QStringLiteral("31")};
     if (!m_isColoured || style == Plain)
         return line;
-    return QStringLiteral("\033[%1m").arg(codes.at(style)) + line + QStringLiteral("\033[0m");
+    const char *code = style == Good ? "32" : style == Bad ? "31" : "1";
+    return QStringLiteral("\033[%1m%2\033[0m").arg(QLatin1String(code), line);
 }
 
 } // namespace Quillmont::Utility::Doctor

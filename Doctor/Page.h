@@ -5,7 +5,8 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// Text for a person: folded to the width of the terminal, and coloured where that is wanted.
+/// Text for a person, without control characters: folded to the width of the terminal, and coloured
+/// where that is wanted.
 class Page
 {
 public:

@@ -121,8 +121,7 @@ void Rehearsal::removeEntry()
     }
     if (!m_entry->remove)
         return;
-    const auto &files = m_entry->remove->files;
-    for (const auto *operation : files) {
+    for (const auto *operation : qAsConst(m_entry->remove->files)) {
         const QString path = ViewControllers::extraFile(m_mapping, operation);
         if (m_disk.exists(path) && !QFileInfo(path).isDir())
             m_disk.remove(path);

@@ -24,7 +24,7 @@ Tag TagReader::next()
     if (begin < 0)
         return {};
     const QChar second = m_text.midRef(begin + 1, 1).isEmpty() ? QChar() : m_text.at(begin + 1);
-    const Tag tag = second == u'!' || second == u'?' ? special(begin) : element(begin);
+    Tag tag = second == u'!' || second == u'?' ? special(begin) : element(begin);
     m_place = std::max(tag.end, begin + 1);
     return tag;
 }

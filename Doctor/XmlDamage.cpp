@@ -168,7 +168,7 @@ bool XmlDamage::takeMalformed(const Tag &tag)
 {
     if (tag.name.isEmpty())
         return say(tag.begin,
-                   tr("\"<\" in line %1 begins no tag; as text it is written \"&lt;\".")
+                   tr(R"("<" in line %1 begins no tag; as text it is written "&lt;".)")
                        .arg(lineOf(tag.begin)));
     const bool isEnd = m_text.at(tag.begin + 1) == u'/' || m_text.at(tag.begin + 1) == u'\\';
     // The document has a greater damage, which the reader sees later.
@@ -206,7 +206,7 @@ bool XmlDamage::findText()
     if (bare.hasMatch())
         return say(
             bare.capturedStart(),
-            tr("\"&\" in line %1 has to be written \"&amp;\".").arg(lineOf(bare.capturedStart())));
+            tr(R"("&" in line %1 has to be written "&amp;".)").arg(lineOf(bare.capturedStart())));
     const int forbidden = XmlCharacters::indexOfForbidden(m_text);
     return forbidden >= 0
         && say(forbidden,
@@ -231,8 +231,9 @@ void XmlDamage::takeReaderPlace(const QString &problem)
 
 bool XmlDamage::say(int place, const QString &sentence)
 {
+    constexpr int maxSize = 600; // the name of a tag may have megabytes
     m_place = place;
-    m_sentence = sentence;
+    m_sentence = sentence.size() > maxSize ? sentence.left(maxSize) + QChar(0x2026) : sentence;
     return true;
 }
 

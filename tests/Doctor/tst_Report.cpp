@@ -13,6 +13,7 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+#include <filesystem>
 #include <functional>
 
 #include <unistd.h>
@@ -131,6 +132,17 @@ void TestReport::saysWhatIsWrong_data()
         "is damaged. <Launch.Addon> in line 4 is never closed; </SimBase.Document> in line 12 came "
         "first.",
         edit("        <Path>Modules\\etude.dll</Path>\r\n    </Launch.Addon>\r\n", ""));
+    row("control characters in a tag",
+        "is damaged. <A\\u001b[2J> in line 1 is never closed; </R> in line 1 came first.",
+        [](Computer *computer) {
+            computer->write(computer->configuration("Skylark"_s), "<R><A\x1b[2J></R>");
+        });
+    row("no room", " bytes; the files and a backup take ", [](Computer *computer) {
+        const QString file = computer->program().folder() + "/plugins/X-Plane/about.txt"_s;
+        const auto space = std::filesystem::space(QFile::encodeName(file).toStdString());
+        // Most of it is a hole, which takes no room.
+        QVERIFY(QFile::resize(file, static_cast<qint64>(space.available) + (1LL << 30)));
+    });
     row("configuration missing", "dll.xml\" is missing.", [](Computer *computer) {
         QFile::remove(computer->absolute(computer->configuration("Skylark"_s)));
     });
