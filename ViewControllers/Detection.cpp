@@ -1,5 +1,6 @@
 #include "ViewControllers/ScanController.h"
 
+#include "Models/FlightSimScan.h"
 #include "ViewControllers/Payload/Strategies.h"
 
 using Quillmont::Utility::Models::FlightSimScan;

@@ -19,8 +19,7 @@ public:
     static bool saveText(const QString &path, const QString &text, const QString &encoding);
 
     /// Makes the folder that the file at @p path is to lie in, and all above it, where it is
-    /// missing. ".." leads where the system says: out of a folder that is itself missing, that is
-    /// nowhere, and nothing is made. False where the folder is not there afterwards.
+    /// missing. ".." leads where the system says. False where the folder is not there afterwards.
     static bool makeFolderOf(const QString &path);
 
     /// Whether there surely is no such file; one that cannot be looked at may well be there.

@@ -151,6 +151,8 @@ void TestFileHelper::linkOutOfALinkedFolderStays_data()
     QTest::addColumn<QString>("saved");
     QTest::newRow("a link") << path();
     QTest::newRow("a path through it") << folder() + QStringLiteral("/linked/../new/other.xml");
+    QTest::newRow("a path through what is made for it")
+        << folder() + QStringLiteral("/linked/made/../../new/other.xml");
 }
 
 // What ".." means there is not what the text says; the neighbour of the same name stays.
