@@ -1,4 +1,4 @@
-# The macOS bundle with the toolkit inside, on a disk image.
+# The macOS bundle with Qt inside, on a disk image.
 set(CPACK_GENERATOR DragNDrop)
 set(CPACK_DMG_VOLUME_NAME "Quillmont Orbwell")
 set(CPACK_PACKAGE_FILE_NAME "${CPACK_PACKAGE_NAME}-${PROJECT_VERSION}")
@@ -9,7 +9,7 @@ set_source_files_properties("${ORBWELL_ICON}" PROPERTIES MACOSX_PACKAGE_LOCATION
 set_target_properties(QuillmontOrbwell PROPERTIES
   MACOSX_BUNDLE_INFO_PLIST "${PROJECT_SOURCE_DIR}/packaging/macos/Info.plist.in"
   MACOSX_BUNDLE_GUI_IDENTIFIER com.quillmont.orbwell
-  # The toolkit takes the application's name from here, and the paths to the user's files from that.
+  # Qt takes the application's name from here, and derives the paths to the user's files from it.
   MACOSX_BUNDLE_BUNDLE_NAME QuillmontOrbwell
   MACOSX_BUNDLE_BUNDLE_VERSION "${PROJECT_VERSION}"
   MACOSX_BUNDLE_SHORT_VERSION_STRING "${PROJECT_VERSION}"

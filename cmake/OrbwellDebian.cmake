@@ -17,7 +17,7 @@ installs, repairs or removes the plugin's files and its entry in each
 simulator's configuration file. What other add-ons wrote there stays as it
 is, and a copy of the file is kept beside it before anything changes.")
 
-# Debian wants every package to say whose it is and what has changed, in its own form.
+# Debian requires copyright and changelog in its own formats.
 include(OrbwellGeneratedFiles)
 execute_process(
   COMMAND date --utc --rfc-email "--date=${ORBWELL_RELEASE_DATE}"
@@ -29,7 +29,7 @@ install(FILES "${PROJECT_SOURCE_DIR}/packaging/debian/copyright" DESTINATION "${
 
 install(FILES "${PROJECT_SOURCE_DIR}/packaging/debian/lintian-overrides"
   DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/lintian/overrides" RENAME "${CPACK_PACKAGE_NAME}")
-# Nothing is bound while the program runs, so that what it calls cannot be redirected.
+# Full RELRO: all symbols are bound at start, so that calls cannot be redirected later.
 foreach(program QuillmontOrbwell orbwell-doctor)
   target_link_options(${program} PRIVATE LINKER:-z,relro,-z,now)
 endforeach()

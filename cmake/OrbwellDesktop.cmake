@@ -1,5 +1,5 @@
-# What a Linux desktop knows the programs by: the links on the path, the entry in the menu with its
-# icons, the page in the software centre, the manual pages and what a shell completes.
+# What makes the programs known to a Linux desktop: links on the path, the menu entry with its icons, the
+# page in the software centre, the manual pages and the shell completion.
 include(OrbwellGeneratedFiles)
 
 # orbwell_install_desktop_files(FOLDER): for the programs that are installed in FOLDER, a full path.

@@ -1,13 +1,14 @@
 # What cmake --install places. The program looks for the catalogue and the payload beside itself, so
-# the three stay together, and so does orbwell-doctor; on Linux links in the folder of programs lead
-# there. A link has the program's own name, since the program takes that name out of the paths to the user's files.
+# the three stay together, and so does orbwell-doctor; on Linux, links in the folder of programs lead
+# there. A link has the program's own name, since the program removes the name that it is started under
+# from the paths to the user's files.
 if(NOT PROJECT_IS_TOP_LEVEL)
   return()
 endif()
 
 include(GNUInstallDirs)
 
-# The newest heading of the change log says when this version came out.
+# The change log's heading for this version has the date of its release.
 file(STRINGS "${PROJECT_SOURCE_DIR}/CHANGELOG.md" ORBWELL_RELEASE_DATE
   REGEX "^## ${PROJECT_VERSION} - " LIMIT_COUNT 1)
 string(REGEX MATCH "[0-9]+-[0-9]+-[0-9]+$" ORBWELL_RELEASE_DATE "${ORBWELL_RELEASE_DATE}")

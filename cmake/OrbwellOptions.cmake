@@ -16,7 +16,7 @@ target_compile_definitions(orbwell-options INTERFACE
   QT_STRICT_ITERATORS
   QT_DISABLE_DEPRECATED_BEFORE=0x050f00)
 
-# Where somebody waits for it, the quicker linker; what ships comes from the compiler's own.
+# The faster linker for debug builds, which developers wait for; releases use the compiler's default.
 if(CMAKE_BUILD_TYPE STREQUAL Debug)
   include(CheckLinkerFlag)
   check_linker_flag(CXX -fuse-ld=lld ORBWELL_HAS_LLD)
@@ -42,8 +42,8 @@ if(ORBWELL_FUZZ)
 endif()
 
 # orbwell_add_library(NAME SOURCE...): a static library of the sources in this folder. Headers are included
-# from the root of the tree, but whoever links to it sees only this folder there, and those of what it
-# is linked to in turn: an include of something above it does not compile.
+# from the root of the tree, but targets that link to it see only this folder and those of the libraries
+# that it links to: an include of something further up does not compile.
 function(orbwell_add_library name)
   file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
   set(visible "${PROJECT_BINARY_DIR}/include/${name}")

@@ -1,10 +1,10 @@
-# How tests, benchmarks and fuzz targets are built and run: one program for each class or story.
+# How tests, benchmarks and fuzz targets are built and run: one program per class or story.
 
 set(ORBWELL_TEST_TIMEOUT 300 CACHE STRING "Seconds after which a test is taken to hang")
 
 # orbwell_add_program(KIND [FOLDER/]CLASS SOURCE...): the program KIND_CLASS, built from
-# FOLDER/KIND_CLASS.cpp and other sources. Each has a folder of its own, since what it places beside
-# itself (a catalogue, a payload) must not meet another's.
+# FOLDER/KIND_CLASS.cpp and other sources. Each has its own folder, so that what it places beside itself
+# (a catalogue, a payload) does not meet another program's.
 function(orbwell_add_program kind program)
   get_filename_component(class ${program} NAME)
   set(name ${kind}_${class})

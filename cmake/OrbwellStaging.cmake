@@ -7,7 +7,7 @@ endif()
 
 # orbwell_add_staging(TARGET CATALOGUE PAYLOAD FOLDER): TARGET places both in FOLDER.
 function(orbwell_add_staging target catalogue payload folder)
-  # A file that leaves the payload changes nothing that is left of it; the list of names does change.
+  # When a file is removed from the payload, no remaining file changes, but this list of names does.
   file(GLOB_RECURSE payload_files CONFIGURE_DEPENDS "${payload}/*")
   set(payload_list "${PROJECT_BINARY_DIR}/payload-files.txt")
   list(JOIN payload_files "\n" payload_names)

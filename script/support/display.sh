@@ -1,8 +1,8 @@
-# Read by the scripts that look at the program's window without a display of their own.
+# Sourced by the scripts that show the program's window without a display of their own.
 # shellcheck shell=bash
 
-# Makes an X server without a screen this script's display, until the script ends: the server stays
-# for as long as the other end of the pipe is open.
+# Makes a virtual X server this script's display, until the script ends: the server runs for as long as
+# the other end of the pipe is open.
 start_display() {
     # shellcheck disable=SC2016 # for the shell in there
     coproc xvfb-run --auto-servernum --server-args='-screen 0 1280x1024x24' \

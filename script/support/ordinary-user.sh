@@ -1,9 +1,9 @@
-# Read by the scripts that also have to run as somebody whom permissions stop. Whoever is not root is
-# one, and stays where he is.
+# Sourced by the scripts that also have to run as somebody whom permissions stop. Whoever is not root is
+# such a user already, and stays in this tree.
 # shellcheck shell=bash
 
-# Goes to a copy of the tree that belongs to an ordinary user, in a folder that everybody may enter.
-# The copy has no build folder, and goes with the script.
+# Changes to a copy of the tree that belongs to an ordinary user, in a folder that everybody may enter.
+# The copy has no build folder, and is removed when the script ends.
 enter_copy() {
     ((EUID == 0)) || return 0
     local folder
@@ -19,7 +19,7 @@ enter_copy() {
     cd "$folder/tree" || exit 1
 }
 
-# as_ordinary_user COMMAND...: in the copy, with nothing of root's environment but the path.
+# as_ordinary_user COMMAND...: runs it in the copy; of root's environment only PATH is kept.
 as_ordinary_user() {
     if ((EUID != 0)); then
         "$@"

@@ -1,8 +1,8 @@
-# Read by the scripts that start the program on the sample.
+# Sourced by the scripts that start the program on the sample.
 # shellcheck shell=bash
 
-# The folder to lay the sample out in. The program takes its own name out of the paths that lead to
-# the user's files, so the home must not lie below a folder of that name.
+# The folder for the sample. The program removes its own name from the paths to the user's files, so the
+# home must not be below a folder of that name.
 sample_folder() {
     case $PWD in
     *QuillmontOrbwell*) echo "${TMPDIR:-/tmp}/orbwell-sample-$(id -u)" ;;
@@ -10,7 +10,7 @@ sample_folder() {
     esac
 }
 
-# run_sample FOLDER: becomes the program, with the sample's home instead of the user's.
+# run_sample FOLDER: replaces this shell by the program, with the sample's home instead of the user's.
 run_sample() {
     local executable=$1/program/QuillmontOrbwell
     [[ $(uname) == Darwin ]] &&

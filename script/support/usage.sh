@@ -1,11 +1,11 @@
-# What each script reads first: it makes a failing command end the script, answers --help with the
-# comment at the script's top, and goes to the top of the tree.
+# Sourced by every script first: makes a failing command end the script, answers --help with the comment
+# at the script's top, and changes to the top of the tree.
 # shellcheck shell=bash
 set -euo pipefail
 
 help=$(sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0")
 
-# Ends the script that was called in a way it does not know.
+# Ends a script that was called with arguments it does not know.
 wrong_usage() {
     echo "$help" >&2
     exit 2
