@@ -67,6 +67,24 @@ bool XmlCharacters::fitDeclarations(const QStringRef &declarations)
     return std::adjacent_find(markup.cbegin(), markup.cend(), isStray) == markup.cend();
 }
 
+// The reader takes white space of any script around the digits, and a second "0x".
+int XmlCharacters::indexOfMalformedReference(const QString &text)
+{
+    static const QRegularExpression malformed(QStringLiteral("&#(?!(?:[0-9]+|x[0-9a-fA-F]+);)"));
+    static const QRegularExpression inMarkup(
+        QStringLiteral("<!--.*?-->|<!\\[CDATA\\[.*?\\]\\]>|<\\?.*?\\?>|") + malformed.pattern(),
+        QRegularExpression::DotMatchesEverythingOption);
+    if (!text.contains(malformed))
+        return -1;
+    auto it = inMarkup.globalMatch(text);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch match = it.next();
+        if (match.capturedRef().startsWith(u'&'))
+            return match.capturedStart();
+    }
+    return -1;
+}
+
 int XmlCharacters::indexOfForbidden(const QString &text)
 {
     const auto *const found = std::find_if(text.cbegin(), text.cend(), [](QChar character) {

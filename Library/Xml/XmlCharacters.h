@@ -17,6 +17,10 @@ public:
     /// processing instructions that belongs nowhere.
     static bool fitDeclarations(const QStringRef &declarations);
 
+    /// The place of the first reference to a character by number that is not written as XML wants
+    /// it, in @p text, a whole document; -1 without one. Comments and the like may hold anything.
+    static int indexOfMalformedReference(const QString &text);
+
     /// The place of the first character that no document may hold; -1 without one.
     static int indexOfForbidden(const QString &text);
 };

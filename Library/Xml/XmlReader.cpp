@@ -27,6 +27,7 @@ bool hasDoubledDeclaration(const QString &text)
 XmlReader::XmlReader(const QString &text)
     : QXmlStreamReader(text)
     , m_text(text)
+    , m_malformedReference(XmlCharacters::indexOfMalformedReference(text))
 {
     setNamespaceProcessing(false);
     // Until the declarations are read, any reference may be one that grows.
@@ -50,6 +51,8 @@ QXmlStreamReader::TokenType XmlReader::next()
         checkDeclarations();
     else if (type == StartDocument && hasDoubledDeclaration(m_text))
         raiseError(QStringLiteral("Invalid XML declaration."));
+    if (m_malformedReference >= 0 && characterOffset() > m_malformedReference)
+        raiseError(QStringLiteral("Invalid character reference."));
     return type;
 }
 

@@ -36,6 +36,7 @@ private:
     void checkDeclarations();
 
     QString m_text;
+    const int m_malformedReference; ///< Its place; -1 without one.
 };
 
 } // namespace Quillmont::Library::Xml

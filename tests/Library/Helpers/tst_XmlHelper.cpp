@@ -24,6 +24,8 @@ private slots:
     void valueIsText();
     void whatXmlCannotHoldIsRefused_data();
     void whatXmlCannotHoldIsRefused();
+    void referenceByNumberIsAsXmlWantsIt_data();
+    void referenceByNumberIsAsXmlWantsIt();
     void removalTakesOut_data();
     void removalTakesOut();
     void removalOfWhatIsNotThereWritesNothing();
@@ -337,6 +339,31 @@ void TestXmlHelper::whatXmlCannotHoldIsRefused()
     QVERIFY(!insertInto("<R><A/></R>", config));
     QCOMPARE(content(), QByteArray("<R><A/></R>"));
     QVERIFY(log.hasDebugLineWith(QStringLiteral("XML can hold")));
+}
+
+void TestXmlHelper::referenceByNumberIsAsXmlWantsIt_data()
+{
+    QTest::addColumn<QByteArray>("root");
+    QTest::addColumn<bool>("isWellFormed");
+    const auto row = [](const char *root, bool isWellFormed) {
+        QTest::newRow(root) << QByteArray(root) << isWellFormed;
+    };
+    row("<R>&#65; &#x4a; &#x4A;</R>", true);
+    row("<R><!-- &#; --><![CDATA[&#x;]]><?p &#65 ;?></R>", true);
+    row("<R>&#x0x41;</R>", false);
+    row("<R>&#65\xc2\xa0;</R>", false);
+    row("<R>&#x\xc2\x85\x34\x31;</R>", false);
+    row("<R a='&#65\xe2\x80\xa8;'/>", false);
+    row("<!-- &#; --><R>&#x0x41;</R>", false);
+}
+
+void TestXmlHelper::referenceByNumberIsAsXmlWantsIt()
+{
+    QFETCH(const QByteArray, root);
+    QFETCH(const bool, isWellFormed);
+    const char *config = R"({"parent": "Addon", "values": [{"key": "Name", "value": "a"}]})";
+    QCOMPARE(insertInto(root, config), isWellFormed);
+    QCOMPARE(content() == root, !isWellFormed);
 }
 
 void TestXmlHelper::removalTakesOut_data()
