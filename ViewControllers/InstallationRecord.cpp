@@ -38,7 +38,7 @@ void ScanController::createMappingFile()
     FileWriter::clearUnfinished(path);
 
     QFile file(path);
-    if (!file.exists())
+    if (!QFile::exists(path))
         file.open(QIODevice::Append); // empties nothing, should it be there after all
 }
 

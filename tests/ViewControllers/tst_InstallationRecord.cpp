@@ -53,6 +53,16 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 
+    void isMadeEmptyWhereALinkLeads()
+    {
+        Workshop shop;
+        QVERIFY(QDir().mkpath(shop.dataPath("Quillmont/Orbwell")));
+        QVERIFY(QFile::link(shop.path("record"), shop.dataPath("Quillmont/Orbwell/.mapping")));
+        shop.controller().createMappingFile();
+        QCOMPARE(QFileInfo(shop.path("record")).size(), 0);
+        QVERIFY(QFileInfo::exists(shop.path("record")));
+    }
+
     void isNotTouchedByALaterStart()
     {
         Workshop shop;
