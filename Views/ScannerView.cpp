@@ -109,7 +109,6 @@ void ScannerView::explainEmptyList()
     m_emptyListText = new QLabel(text, m_list->viewport());
     m_emptyListText->setWordWrap(true);
     m_emptyListText->setAlignment(Qt::AlignCenter);
-    m_emptyListText->setEnabled(false); // as grey as a field's placeholder
     auto *layout = new QVBoxLayout(m_list->viewport());
     layout->addWidget(m_emptyListText);
     showEmptyListText(true);
