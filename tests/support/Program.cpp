@@ -238,7 +238,14 @@ void Program::grab(const QString &file)
 
 bool Program::waitFor(const std::function<bool()> &condition, const char *what)
 {
-    if (QTest::qWaitFor([&] { return condition() || !isRunning(); }, patience) && isRunning())
+    bool holds = false;
+    // What it says last may be there only once it has ended.
+    const auto isDecided = [&] {
+        const bool hasEnded = !isRunning();
+        holds = condition();
+        return holds || hasEnded;
+    };
+    if (QTest::qWaitFor(isDecided, patience) && holds)
         return true;
     fail(QStringLiteral("waited in vain for %1; the program wrote: %2")
              .arg(QLatin1String(what), QString::fromUtf8(standardError())));
