@@ -8,10 +8,10 @@ Python binding is missing.
 """
 import subprocess
 import sys
-import time
 
 try:
     import pyatspi
+    from gi.repository import GLib
 except ImportError:
     sys.exit(77)
 
@@ -26,23 +26,31 @@ def below(accessible):
         yield from below(child)
 
 
+def seen(accepts):
+    """The first accessible of any program that is accepted; None without one."""
+    for application in pyatspi.Registry.getDesktop(0):
+        try:
+            for accessible in below(application):
+                if accepts(accessible):
+                    return accessible
+        except Exception:  # it went away while it was looked at; the next look is another
+            pass
+    return None
+
+
 def find(what, accepts):
-    """The first accessible of the program that is accepted, waited for."""
-    deadline = time.monotonic() + 30
-    while time.monotonic() < deadline:
-        for application in pyatspi.Registry.getDesktop(0):
-            try:
-                for accessible in below(application):
-                    if accepts(accessible):
-                        return accessible
-            except Exception:  # it went away while it was looked at; the next look is another
-                pass
-        time.sleep(0.05)
-    sys.exit(f"no {what}")
+    """The same, waited for. Qt announces no new window on the bus, so it is looked for in turn."""
+    late = GLib.timeout_add_seconds(30, sys.exit, f"no {what}")
+    looks = GLib.timeout_add(50, lambda: True)
+    while (accessible := seen(accepts)) is None:
+        GLib.MainContext.default().iteration(True)
+    GLib.source_remove(looks)
+    GLib.source_remove(late)
+    return accessible
 
 
 def named(role, name):
-    return find(f"{role} {name}", lambda seen: seen.getRoleName() == role and seen.name == name)
+    return find(f"{role} {name}", lambda each: each.getRoleName() == role and each.name == name)
 
 
 def press(button):
@@ -67,15 +75,15 @@ def main():
     program = subprocess.Popen([executable])
     try:
         simulators = named("list", "Simulators")
-        find("row", lambda seen: seen.parent == simulators)
+        find("row", lambda each: each.parent == simulators)
         say_rows(simulators)
         press(named("push button", f"Install Orbwell: {simulator}"))
-        box = find("box", lambda seen: seen.getRoleName() == "alert")
+        box = find("box", lambda each: each.getRoleName() == "alert")
         say(box.getRoleName(), box.name)
         for part in below(box):
             if part.getRoleName() == "label" and part.name:
                 say(f"- {part.getRoleName()}", part.name)
-        press(find("OK", lambda seen: seen.name == "OK"))
+        press(find("OK", lambda each: each.name == "OK"))
         named("push button", f"Uninstall Orbwell: {simulator}")
         say_rows(named("list", "Simulators"))
         press(named("push button", "Close"))
