@@ -11,7 +11,6 @@ import sys
 
 try:
     import pyatspi
-    from gi.repository import GLib
 except ImportError:
     sys.exit(77)
 
@@ -38,19 +37,28 @@ def seen(accepts):
     return None
 
 
-def find(what, accepts):
-    """The same, waited for. Qt announces no new window on the bus, so it is looked for in turn."""
-    late = GLib.timeout_add_seconds(30, sys.exit, f"no {what}")
-    looks = GLib.timeout_add(50, lambda: True)
-    while (accessible := seen(accepts)) is None:
-        GLib.MainContext.default().iteration(True)
-    GLib.source_remove(looks)
-    GLib.source_remove(late)
-    return accessible
+class Listener:
+    """Finds what a program shows, as long as the program runs."""
 
+    def __init__(self, program):
+        self.program = program
 
-def named(role, name):
-    return find(f"{role} {name}", lambda each: each.getRoleName() == role and each.name == name)
+    def find(self, what, accepts):
+        """The first accessible that is accepted, waited for; at most 30 seconds."""
+        for _ in range(600):
+            accessible = seen(accepts)
+            if accessible is not None:
+                return accessible
+            try:
+                sys.exit(f"no {what}; the program ended with {self.program.wait(timeout=0.05)}")
+            except subprocess.TimeoutExpired:
+                pass
+        sys.exit(f"no {what}")
+
+    def named(self, role, name):
+        return self.find(
+            f"{role} {name}", lambda each: each.getRoleName() == role and each.name == name
+        )
 
 
 def press(button):
@@ -73,20 +81,21 @@ def say_rows(simulators):
 def main():
     executable, simulator = sys.argv[1:]
     program = subprocess.Popen([executable])
+    listener = Listener(program)
     try:
-        simulators = named("list", "Simulators")
-        find("row", lambda each: each.parent == simulators)
+        simulators = listener.named("list", "Simulators")
+        listener.find("row", lambda each: each.parent == simulators)
         say_rows(simulators)
-        press(named("push button", f"Install Orbwell: {simulator}"))
-        box = find("box", lambda each: each.getRoleName() == "alert")
+        press(listener.named("push button", f"Install Orbwell: {simulator}"))
+        box = listener.find("box", lambda each: each.getRoleName() == "alert")
         say(box.getRoleName(), box.name)
         for part in below(box):
             if part.getRoleName() == "label" and part.name:
                 say(f"- {part.getRoleName()}", part.name)
-        press(find("OK", lambda each: each.name == "OK"))
-        named("push button", f"Uninstall Orbwell: {simulator}")
-        say_rows(named("list", "Simulators"))
-        press(named("push button", "Close"))
+        press(listener.find("OK", lambda each: each.name == "OK"))
+        listener.named("push button", f"Uninstall Orbwell: {simulator}")
+        say_rows(listener.named("list", "Simulators"))
+        press(listener.named("push button", "Close"))
         say("status", str(program.wait(30)))
     finally:
         program.kill()
