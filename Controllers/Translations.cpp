@@ -15,7 +15,8 @@ QString translationFile(const QString &language)
     return QStringLiteral(":/translations/orbwell_%0.qm").arg(language);
 }
 
-// What the list of languages is there for, too, in every other locale. macOS has no such variables.
+// In these locales programs speak English, whatever the list of languages says. macOS has no such
+// variables.
 bool isPlainLocale()
 {
 #ifdef Q_OS_MACOS

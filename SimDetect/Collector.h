@@ -41,7 +41,7 @@ public:
     /// Says what names the candidates that are offered from now on.
     void setOrigin(const QString &origin) { m_origin = origin; }
 
-    /// Writes the debug line that says why @p path is not taken as @p code.
+    /// Notes that @p path is not taken as @p code, and why; the log has a debug line for it.
     void turnDown(const QString &code, const QString &path, const QString &reason);
 
     /// Simulator code to folder, of all that were found.

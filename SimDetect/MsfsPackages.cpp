@@ -48,6 +48,7 @@ MsfsPackages::MsfsPackages(Collector &collector, FolderLookup &lookup, Steam &st
 
 void MsfsPackages::find()
 {
+    m_collector.setOrigin(QStringLiteral("UserCfg.opt in Steam's Proton prefix"));
     m_collector.offer(
         QStringLiteral("MSFS2020"),
         candidates(QStringLiteral("1250410"), QStringLiteral("Microsoft Flight Simulator")),

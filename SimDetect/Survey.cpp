@@ -26,9 +26,7 @@ Survey::Survey(const Environment &environment)
 {
     Collector collector(m_lookup);
     XPlane(collector, m_lookup, environment).find(m_steam);
-    collector.setOrigin(QStringLiteral("Steam"));
     SteamGames(collector, m_lookup, environment).find(m_steam);
-    collector.setOrigin(QStringLiteral("UserCfg.opt in Steam's Proton prefix"));
     MsfsPackages(collector, m_lookup, m_steam).find();
     FlightGear(collector, m_lookup, environment).find();
     m_paths = collector.paths();

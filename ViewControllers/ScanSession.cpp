@@ -42,13 +42,14 @@ void reportFolder(const FlightSimulatorMapping *mapping)
 // earlier run.
 QStringList configurationFiles(const QList<FlightSimulatorMapping *> &mappings)
 {
+    if (!PathEncoding::survives(userDataRoot()))
+        return {};
     QStringList files;
     for (const auto *mapping : mappings) {
         const auto *conflict = mapping->scan->conflict;
         if (hasConfigurationFile(mapping))
             files.append(configurationFile(mapping));
-        if (mapping->scan->config && conflict && !conflict->solution.isEmpty()
-            && PathEncoding::survives(userDataRoot()))
+        if (mapping->scan->config && conflict && !conflict->solution.isEmpty())
             files.append(configurationFile(conflict->solution));
     }
     return files;

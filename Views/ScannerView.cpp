@@ -19,6 +19,7 @@
 
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::AccessibleButton;
+using Quillmont::Utility::Widgets::AccessibleList;
 using Quillmont::Utility::Widgets::AccessibleRow;
 using Quillmont::Utility::Widgets::AddonListItem;
 using Quillmont::Utility::Widgets::AddonListItemDelegate;
@@ -38,7 +39,7 @@ QAccessibleInterface *accessiblePart(const QString &, QObject *object)
         return new AccessibleButton(button);
     auto *list = qobject_cast<QListWidget *>(object);
     if (list && qobject_cast<ScannerView *>(list->parentWidget()))
-        return new Widgets::AccessibleList(list);
+        return new AccessibleList(list);
     return nullptr;
 }
 

@@ -5,7 +5,6 @@
 #include "Controllers/ConfigurationController.h"
 #include "Models/FlightSimScan.h"
 #include "Widgets/NameItem.h"
-#include "Widgets/OnePress.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -49,7 +48,6 @@ AddonListItem::AddonListItem(QWidget *parent,
     , m_browse(new QToolButton(this))
     , m_action(new QToolButton(this))
 {
-    OnePress::watch();
     m_icon->setFixedSize(48, 48);
     m_name->setToolTip(m_name->text());
 

@@ -3,8 +3,6 @@
 
 #include <QObject>
 
-class QMessageBox;
-
 namespace Quillmont::Utility::Widgets {
 
 /// While it lives, a message box whose text needs more height than the screen has shows that text

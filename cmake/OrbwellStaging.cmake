@@ -31,3 +31,5 @@ orbwell_add_staging(orbwell-staging
   "${ORBWELL_RUNNABLE_FOLDER}")
 add_dependencies(QuillmontOrbwell orbwell-staging)
 add_dependencies(orbwell-doctor orbwell-staging)
+set_target_properties(orbwell-doctor PROPERTIES
+  RUNTIME_OUTPUT_DIRECTORY "${ORBWELL_RUNNABLE_FOLDER}")

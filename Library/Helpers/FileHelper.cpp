@@ -93,10 +93,11 @@ QByteArray FileHelper::read(const QString &path, qint64 maxSize, QString *proble
         return {};
     }
 
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        *problem = file.errorString();
-    return bytes;
+    const QByteArray bytes = file.readAll();
+    if (file.error() == QFileDevice::NoError)
+        return bytes;
+    *problem = file.errorString();
+    return {};
 }
 
 } // namespace Quillmont::Library::Helpers

@@ -18,6 +18,7 @@ SteamGames::SteamGames(Collector &collector, FolderLookup &lookup, const Environ
 
 void SteamGames::find(Steam &steam)
 {
+    m_collector.setOrigin(QStringLiteral("Steam"));
     const auto test = [this](const QString &folder) -> QString {
         if (!hasFile(folder, "fsx.exe"))
             return QStringLiteral("no fsx.exe");

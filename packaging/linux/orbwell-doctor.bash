@@ -3,12 +3,15 @@
 
 _orbwell_doctor() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
-    # bash takes "=" for a word of its own.
-    [[ $word == "=" ]] && word=
-    [[ $before == "=" ]] && before=${COMP_WORDS[COMP_CWORD - 2]}
+    # bash takes "=" for a word of its own. A word after "--plan" without it is a simulator's name.
+    if [[ $word == "=" ]]; then
+        before="$before=" word=
+    elif [[ $before == "=" ]]; then
+        before="${COMP_WORDS[COMP_CWORD - 2]}="
+    fi
     case $before in
-    --catalogue) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
-    --plan) mapfile -t COMPREPLY < <(compgen -W "install repair uninstall" -- "$word") ;;
+    --catalogue | --catalogue=) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    --plan=) mapfile -t COMPREPLY < <(compgen -W "install repair uninstall" -- "$word") ;;
     *)
         local options="--json --plan --plan= --catalogue --check-catalogue --help --version"
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")

@@ -177,6 +177,8 @@ void TestInstalledTree::completesTheDoctorsOptions()
     };
     QCOMPARE(completed(QStringLiteral("--ch")), QByteArray("--check-catalogue\n"));
     QCOMPARE(completed(QStringLiteral("--plan = re")), QByteArray("repair\n"));
+    // What follows it without "=" is a simulator's name.
+    QCOMPARE(completed(QStringLiteral("--plan re")), QByteArray("\n"));
     const QByteArray help
         = Command(path(QStringLiteral("bin/orbwell-doctor")), {QStringLiteral("--help")})
               .run()
