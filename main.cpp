@@ -23,8 +23,8 @@ using Quillmont::Utility::ViewControllers::ScanController;
 
 namespace {
 
-// Whoever opens a file gets the lowest number that is free. Were it that of standard error, each
-// line of the log would go into the installation record, or to the X server.
+// A new file gets the lowest free descriptor. If that were standard error's, each log line would go
+// into the installation record or to the X server.
 void tieClosedDescriptors()
 {
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
@@ -37,24 +37,24 @@ void tieClosedDescriptors()
 
 int main(int argc, char *argv[])
 {
-    // Before anything else, since everything else may open a file.
+    // First of all, since everything else may open a file.
     tieClosedDescriptors();
 
-    // Catalogue, record and paths are UTF-8, whatever locale a launcher or a script hands us.
+    // Catalogue, record and paths are UTF-8, whatever the locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 
-    // Qt would take a relative one for a place below the working directory, and would keep what
-    // its folder dialog remembers in the garbled one.
+    // Qt would resolve a relative folder against the working directory, and would store its file
+    // dialog's history in a folder with a garbled name.
     PathEncoding::ignoreRelativeFolders();
     if (!PathEncoding::survives(
             QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)))
         QSettings::setPath(
             QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 
-    // Who reads the log may stop reading; the work goes on.
+    // Losing the reader of the log must not kill an installation.
     std::signal(SIGPIPE, SIG_IGN);
 
-    // A plugin file that is over the limit is told of like any other that cannot be copied.
+    // A plugin file over the size limit is then reported like any other failed copy.
     const FileSizeSignal ignored;
 
     // A window of labels and buttons needs no OpenGL; loading it would take most of the start.

@@ -19,7 +19,7 @@ namespace {
 
 constexpr unsigned allRights = 07;
 
-// Some file systems refuse even a mode that is there already.
+// Some file systems refuse to set even the mode that the file already has.
 bool setMode(int handle, mode_t mode)
 {
     struct stat now = {};
@@ -53,7 +53,7 @@ bool giveList(int, int handle, const QByteArray &list)
         && (inherited.isEmpty() || fremovexattr(handle, attribute) == 0);
 }
 
-// Calls @p look with the kind of each entry and its rights, which it may change.
+// Calls @p look with each entry's kind and rights; it may change the rights.
 template <typename Look>
 void forEachEntry(QByteArray *list, const Look &look)
 {

@@ -8,20 +8,20 @@
 namespace Quillmont::Library::Files {
 
 /// Who may do what with a file: its mode, and the list of further users and groups that some have.
-/// With such a list, the group's bits of the mode are the most that anybody on it may do.
+/// With such a list, the mode's group bits are the upper limit of everybody on it.
 class AccessList
 {
 public:
-    /// The list of the file behind @p handle, which stays open as long as this lives, with @p mode.
+    /// Reads the list of the file open as @p handle, which has to stay open; the mode is @p mode.
     AccessList(int handle, mode_t mode);
 
-    /// For a file of another group: it and everybody else may do only what all others could do
-    /// before, so that nobody has more rights, whatever groups they are in.
+    /// For a file that gets another group: limits the group and all others to what others could do
+    /// before, so that nobody gains rights, whatever groups they are in.
     void narrow();
 
-    /// Gives the file behind @p handle this list and mode, in place of what it inherited from its
-    /// folder. Where the list cannot be given, only the owner has rights. False, with errno set,
-    /// when the mode cannot be given.
+    /// Sets this list and mode on the file open as @p handle, replacing what it inherited from its
+    /// folder. If the list cannot be set, only the owner has rights. False, with errno set, if the
+    /// mode cannot be set.
     bool giveTo(int handle) const;
 
 private:

@@ -7,7 +7,8 @@
 
 namespace Quillmont::Library::Files {
 
-/// While it lives, a write past the file-size limit fails instead of ending the process.
+/// Ignores SIGXFSZ for its lifetime: a write past the file-size limit fails instead of killing the
+/// process.
 class FileSizeSignal
 {
 public:

@@ -22,7 +22,7 @@ namespace Quillmont::Library::Files {
 
 namespace {
 
-// Only the superuser gives files away, and not everybody may set every group.
+// Only root may change the owner, and other users may set only their own groups.
 void keepOwner(int handle, const struct stat &before)
 {
     constexpr auto same = static_cast<uid_t>(-1);
@@ -36,8 +36,8 @@ void keepOwner(int handle, const struct stat &before)
 
 #ifdef Q_OS_LINUX
 
-// One that is not taken would stop every change of the file for good, so the file goes without it.
-// A disk without room is another matter: that passes.
+// Goes on without an attribute that is refused, which would otherwise block every change of the
+// file for good. A full disk is an error: that passes.
 bool copyAttribute(int from, int to, const char *name)
 {
     QByteArray value(XATTR_SIZE_MAX, Qt::Uninitialized);
@@ -91,7 +91,7 @@ bool FileStatus::copy(int from, int to)
     AccessList list(from, before.st_mode);
     if (now.st_gid != before.st_gid)
         list.narrow();
-    // In this order, since the mode may well forbid to write attributes.
+    // In this order: the mode may forbid writing attributes.
     return copyAttributes(from, to) && list.giveTo(to);
 }
 

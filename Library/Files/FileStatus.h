@@ -3,19 +3,18 @@
 
 namespace Quillmont::Library::Files {
 
-/// What a file has beside its bytes.
+/// A file's metadata.
 class FileStatus
 {
 public:
-    /// Gives the file behind the handle @p to what the one behind @p from has: owner and group
-    /// where the system lets us, mode, access list, and the attributes that users attach to files.
-    /// Whatever of it cannot be kept, nobody gets more rights than before; an attribute that is not
-    /// taken has a line in the log. False, with errno set, when the mode could not be given, or the
-    /// disk has no room for an attribute.
+    /// Copies metadata between open files, from @p from to @p to: mode, access list, user
+    /// attributes, and owner and group where the system allows it. Whatever cannot be kept, nobody
+    /// gets more rights than before; an attribute that is refused is logged. False, with errno set,
+    /// if the mode could not be set or the disk has no room for an attribute.
     static bool copy(int from, int to);
 
-    /// Whether the files behind both handles have the same owner, group and mode, so that copy()
-    /// had nothing to leave out.
+    /// Whether both open files have the same owner, group and mode, that is, copy() left none of
+    /// these out.
     static bool areAlike(int left, int right);
 };
 

@@ -29,20 +29,20 @@ bool put(int handle, qint64 begin, const QByteArray &bytes)
     return true;
 }
 
-// Some file systems find out only here that the disk is full; others have nothing to sync.
+// Some file systems report a full disk only here; others do not support fsync().
 bool isOnDisk(int handle)
 {
     return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
-// Whether the path, if there is anything at all, is a regular file.
+// Whether the path is a regular file or does not exist.
 bool isFileOrMissing(const QByteArray &path)
 {
     struct stat status = {};
     return lstat(path.constData(), &status) == 0 ? S_ISREG(status.st_mode) : errno == ENOENT;
 }
 
-// Opens what is to be replaced as if to write it, so that the system refuses what is read-only.
+// Opens the old file for writing, so that the system refuses to replace a read-only one.
 bool openOld(const QByteArray &target, QFile *old)
 {
     const int handle = ::open(target.constData(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
@@ -51,7 +51,7 @@ bool openOld(const QByteArray &target, QFile *old)
     return old->open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }
 
-// What has to be kept of a file that is replaced.
+// How much of the old file's metadata the new one must have.
 enum Keeping {
     WhatCanBeKept,
     AllOfIt
@@ -74,8 +74,7 @@ bool fill(const Replacement &file, const QFile &old, const QByteArray &bytes, Ke
         && put(file.handle(), 0, bytes) && isOnDisk(file.handle());
 }
 
-// Lets a new file take the place of the old one, if that is open. The answer is the system's error
-// number, or zero.
+// Replaces the target; @p old is open if there is an old file. Returns errno, or 0.
 int replace(const QByteArray &target, const QFile &old, const QByteArray &bytes, Keeping keeping)
 {
     int error = EINVAL;
@@ -88,7 +87,7 @@ int replace(const QByteArray &target, const QFile &old, const QByteArray &bytes,
     return error;
 }
 
-// Behind the old bytes first, which takes all the room that there is to take.
+// Appended before the old bytes are overwritten: only this needs room on the disk.
 bool append(QFile *file, qint64 end, const QByteArray &bytes)
 {
     if (put(file->handle(), end, bytes) && isOnDisk(file->handle()))
@@ -120,8 +119,8 @@ bool hasFurtherNames(const QFile &file)
     return fstat(file.handle(), &status) == 0 && status.st_nlink > 1;
 }
 
-// On a disk that is full or broken the old bytes are safe only where they are left alone.
-bool isFaultOfTheDisk(int error)
+// On a full or broken disk the old bytes are safe only if they are not overwritten.
+bool isDiskError(int error)
 {
     return error == ENOSPC || error == EDQUOT || error == EFBIG || error == EIO;
 }
@@ -154,7 +153,7 @@ bool FileWriter::rewrite(QFile *file, const QByteArray &bytes, QString *problem)
     const QByteArray target = linkTarget(file->fileName());
     const bool isReplaceable = !target.isEmpty() && !hasFurtherNames(*file);
     int error = isReplaceable ? replace(target, *file, bytes, AllOfIt) : EMLINK;
-    if (error != 0 && !isFaultOfTheDisk(error))
+    if (error != 0 && !isDiskError(error))
         error = writeOver(file, bytes) ? 0 : errno;
     if (error != 0)
         *problem = notWritten(error);

@@ -13,23 +13,22 @@ class FileWriter
 public:
     /// Makes @p bytes the content of the file at @p path. Whatever happens, a loss of power
     /// included, the file holds its old bytes or the new ones. A symbolic link stays one and its
-    /// target is written; mode, access list, attributes and, where the system lets us, owner stay;
-    /// a further hard link keeps the old bytes. On failure the answer is false, the file is as it
-    /// was and @p problem says why.
+    /// target is written; mode, access list, attributes and, where the system allows it, owner are
+    /// kept; any other hard link keeps the old bytes. On failure it returns false, the file is
+    /// unchanged and @p problem says why.
     static bool write(const QString &path, const QByteArray &bytes, QString *problem);
 
     /// The same for @p file, which is open for reading and writing and keeps its owner, group and
-    /// rights. Where another file could not have them, where this one has further hard links, or
-    /// the system refuses that another takes its place, the new bytes go over the old ones; then a
-    /// process that is killed there leaves a part of either, but a disk without room leaves the old
-    /// ones.
+    /// rights. If a new file could not have these, if the file has several hard links, or if the
+    /// system refuses the replacement, the file is overwritten in place: a process killed meanwhile
+    /// leaves a mixture, but a full disk still leaves the old bytes.
     static bool rewrite(QFile *file, const QByteArray &bytes, QString *problem);
 
-    /// Whether there is something for clearUnfinished() to take away.
+    /// Whether clearUnfinished() has something to remove.
     static bool hasUnfinished(const QString &path);
 
-    /// Takes away what a process that was killed while it wrote the file at @p path has left
-    /// beside it. The name of that is our own; no other file is touched.
+    /// Removes the temporary file that a process killed while writing the file at @p path has left
+    /// beside it. Its name is ours alone; no other file is touched.
     static void clearUnfinished(const QString &path);
 };
 

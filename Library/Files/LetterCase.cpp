@@ -9,19 +9,19 @@ namespace Quillmont::Library::Files {
 
 namespace {
 
-// Nobody has so many that differ in letter case only, and they multiply from folder to folder.
-constexpr int mostCandidates = 100;
+// More than any real disk has. The number can multiply with each folder of the path.
+constexpr int maxCandidates = 100;
 
 bool isStep(const QString &name)
 {
     return name.isEmpty() || name == QLatin1String(".") || name == QLatin1String("..");
 }
 
-// What is in folders, each of which is listed once, whatever way leads to it.
+// Caches folder listings by the real path, so that each folder is listed once.
 class Listings
 {
 public:
-    /// The paths in @p folder, which ends in a slash, that mean @p name in any letter case.
+    /// The paths in @p folder, which ends in a slash, whose name is @p name in any letter case.
     QStringList find(const QString &folder, const QString &name)
     {
         if (isStep(name))
@@ -49,7 +49,7 @@ private:
     QHash<QString, QStringList> m_names;
 };
 
-// Several ways can lead to one folder, over ".." or a link: then the first is enough.
+// Several paths can lead to one folder, through ".." or a link: the first is enough.
 QStringList differentFolders(const QStringList &paths)
 {
     QStringList different;
@@ -63,8 +63,8 @@ QStringList differentFolders(const QStringList &paths)
     return different;
 }
 
-// Another disk may well hold two folders that differ in letter case only; a way that was found
-// there is not left for the other one.
+// The case of a path that leads out of the folder by ".." counts as far as it exists: on another
+// disk, two folders may differ in letter case only.
 QString fixedPart(const QString &folder, QStringList *names)
 {
     QString fixed = folder;
@@ -83,14 +83,14 @@ QStringList LetterCase::files(const QString &folder, const QString &relative)
     QStringList names = (folder.mid(begin) + relative).split(u'/');
     QStringList found{fixedPart(folder.left(begin), &names)};
     Listings listings;
-    for (int i = 0; i < names.size() && found.size() <= mostCandidates; ++i) {
+    for (int i = 0; i < names.size() && found.size() <= maxCandidates; ++i) {
         QStringList next;
         const QStringList folders = i == 0 ? found : differentFolders(found);
         for (const QString &each : folders)
             next += listings.find(i == 0 ? each : each + u'/', names.at(i));
         found = next;
     }
-    if (found.size() > mostCandidates)
+    if (found.size() > maxCandidates)
         return {};
 
     QStringList files;

@@ -5,14 +5,14 @@
 
 namespace Quillmont::Library::Files {
 
-/// Finds files as programs for Windows do, to which "DLL.XML" and "dll.xml" are one name.
+/// Finds files as Windows programs do, for which "DLL.XML" and "dll.xml" are the same name.
 class LetterCase
 {
 public:
-    /// The existing files that @p relative names inside @p folder where letter case does not
-    /// count, as paths that begin with @p folder. The case of @p folder itself counts, and so does
-    /// that of a way that leads out of it by "..", as far as it exists. Empty components, "." and
-    /// ".." stay as they are. None where more than a hundred folders on the way could be meant.
+    /// The existing files that @p relative names inside @p folder in any letter case, as paths that
+    /// begin with @p folder. The case of @p folder itself counts, as does that of a path leading
+    /// out of it by "..", as far as it exists. Empty components, "." and ".." are kept. None if
+    /// more than a hundred folders match on the way.
     static QStringList files(const QString &folder, const QString &relative);
 };
 

@@ -5,10 +5,10 @@
 
 namespace Quillmont::Library::Files {
 
-/// Debug lines about configuration entries: why an XML file was left as it is. "orbwell.xml".
+/// "orbwell.xml": why an XML configuration file was left as it is.
 Q_DECLARE_LOGGING_CATEGORY(xmlLog)
 
-/// Debug lines about files: why one was not written, or what of it was not kept. "orbwell.file".
+/// "orbwell.file": why a file was not written, or which attribute was not kept.
 Q_DECLARE_LOGGING_CATEGORY(fileLog)
 
 } // namespace Quillmont::Library::Files

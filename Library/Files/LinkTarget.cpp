@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Behind a linked folder, ".." is that folder's real parent: what text alone cannot tell.
+// After a linked folder, ".." is the real parent folder, which the text does not show.
 fs::path inRealFolder(const fs::path &path)
 {
     std::error_code failure;
@@ -24,11 +24,11 @@ fs::path inRealFolder(const fs::path &path)
 
 QByteArray linkTarget(const QString &path)
 {
-    if (path.contains(QChar::Null)) // the system would take what is before that
+    if (path.contains(QChar::Null)) // the system would stop reading there
         return {};
-    constexpr int longestChain = 40; // the system's own limit
+    constexpr int maxLinks = 40; // the system's own limit
     fs::path place = inRealFolder(QFile::encodeName(path).toStdString());
-    for (int i = 0; i <= longestChain && !place.empty(); ++i) {
+    for (int i = 0; i <= maxLinks && !place.empty(); ++i) {
         std::error_code failure;
         const fs::path link = fs::read_symlink(place, failure);
         if (failure == std::errc::invalid_argument // not a link

@@ -7,9 +7,9 @@ class QString;
 
 namespace Quillmont::Library::Files {
 
-/// The native path of the file that the system means by @p path, which need not exist: its last
-/// name is no symbolic link, and the folder before that is free of links and "..". Empty where the
-/// system would find no file either: in a circle of links, or a folder that is missing.
+/// @p path with all links resolved, in native encoding, as the system resolves it; the file need
+/// not exist. Empty if the system would find nothing either: with a cycle of links, or a missing
+/// folder.
 QByteArray linkTarget(const QString &path);
 
 } // namespace Quillmont::Library::Files

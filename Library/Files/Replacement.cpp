@@ -19,7 +19,7 @@ QByteArray folderOf(const QByteArray &path)
     return path.left(path.lastIndexOf('/') + 1);
 }
 
-// Not in the midst of a character: some file systems take whole ones only.
+// Cut between characters, since some file systems refuse invalid UTF-8.
 QByteArray beginning(const QByteArray &name, int size)
 {
     constexpr int isInside = 0x80;
@@ -29,7 +29,7 @@ QByteArray beginning(const QByteArray &name, int size)
     return name.left(size);
 }
 
-// A name of at most @p size bytes that stands for @p name and no other.
+// A name of at most @p size bytes that is unique to @p name.
 QByteArray shortened(const QByteArray &name, int size)
 {
     if (name.size() <= size)
@@ -38,7 +38,7 @@ QByteArray shortened(const QByteArray &name, int size)
     return beginning(name, qMax(0, size - hash.size())) + hash;
 }
 
-int longestName(const QByteArray &folder)
+int maxNameSize(const QByteArray &folder)
 {
     constexpr long usual = 255;
     const long longest = pathconf(folder.constData(), _PC_NAME_MAX);
@@ -70,7 +70,7 @@ QByteArray Replacement::unfinishedName(const QByteArray &target)
 {
     const QByteArray mark("_quillmont_unfinished");
     const QByteArray folder = folderOf(target);
-    const int room = longestName(folder) - mark.size() - uniqueSize;
+    const int room = maxNameSize(folder) - mark.size() - uniqueSize;
     return folder + shortened(target.mid(folder.size()), room) + mark;
 }
 

@@ -5,18 +5,18 @@
 
 namespace Quillmont::Library::Files {
 
-/// A new file beside another, which it can take the place of. It ends with the object unless it
-/// does so.
+/// A new file that can replace the one beside it. It is deleted with the object unless it has done
+/// so.
 class Replacement
 {
 public:
     enum Kind {
-        Nameless, ///< Ends with the process, too. Not every system and file system has such files.
-        Named ///< Under a name of its own; a process that is killed leaves it there.
+        Nameless, ///< Never outlives the process. Not every system and file system supports it.
+        Named ///< Has a temporary name; left behind by a process that is killed.
     };
 
-    /// Makes the file, open for writing, beside the one with the native path @p target. Only the
-    /// owner may open it when it is to be @p isPrivate, otherwise whom the system lets by itself.
+    /// Creates the file, open for writing, beside the native path @p target. With @p isPrivate only
+    /// the owner may open it; otherwise it has the default mode.
     Replacement(const QByteArray &target, Kind kind, bool isPrivate);
     ~Replacement();
     Q_DISABLE_COPY(Replacement)
@@ -24,13 +24,11 @@ public:
     /// Negative, with errno set, if the file could not be made.
     int handle() const { return m_handle; }
 
-    /// Lets the file replace the target, which may be missing. False, with errno set, if the
-    /// system refuses.
+    /// Replaces the target, which may be missing. False, with errno set, if the system refuses.
     bool takePlace();
 
-    /// The name that a nameless file bears from when it is complete until it is in the place of
-    /// @p target. It is always the same, so that the next process can tell what a killed one left
-    /// from others' files.
+    /// Temporary name of the complete nameless file, just before it is renamed over @p target. It
+    /// never varies, so that the next process recognises what a killed one has left.
     static QByteArray unfinishedName(const QByteArray &target);
 
 private:
@@ -43,7 +41,7 @@ private:
     const QByteArray m_unfinished;
     const unsigned m_mode;
     int m_handle = -1;
-    QByteArray m_name; ///< Empty while the file has none.
+    QByteArray m_name; ///< Empty while the file has no name.
 };
 
 } // namespace Quillmont::Library::Files

@@ -41,8 +41,8 @@ bool isRegular(int handle)
     return fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
 }
 
-// Some of the system's files have neither a size nor an end. One that another process gives its
-// first bytes in this moment is none of them.
+// Some files in /proc have no size and never end. The size is read twice, since another process may
+// be writing the first bytes at this moment.
 bool hasAnEnd(QFile *file)
 {
     return file->size() > 0 || file->peek(1).isEmpty() || file->size() > 0;
@@ -60,7 +60,8 @@ bool FileHelper::saveText(const QString &path, const QString &text, const QStrin
 
 bool FileHelper::makeFolderOf(const QString &path)
 {
-    // The absolute path would be without "..", which leads elsewhere behind a linked folder.
+    // Not the absolute path: Qt removes ".." from it, which changes its meaning after a linked
+    // folder.
     return QDir().mkpath(QFileInfo(path).path());
 }
 
@@ -74,11 +75,11 @@ bool FileHelper::isMissing(const QString &path)
 bool FileHelper::open(QFile *file, QIODevice::OpenMode mode, QString *problem)
 {
     const QFileInfo info(file->fileName());
-    const bool isSomethingElse = info.exists() && !info.isFile();
-    if (!isSomethingElse && file->open(mode) && isRegular(file->handle()) && hasAnEnd(file))
+    const bool existsButIsNotRegular = info.exists() && !info.isFile();
+    if (!existsButIsNotRegular && file->open(mode) && isRegular(file->handle()) && hasAnEnd(file))
         return true;
-    *problem = isSomethingElse || file->isOpen() ? QStringLiteral("not an ordinary file")
-                                                 : file->errorString();
+    *problem = existsButIsNotRegular || file->isOpen() ? QStringLiteral("not a regular file")
+                                                       : file->errorString();
     file->close();
     return false;
 }

@@ -11,8 +11,8 @@ class XmlInsertionModel;
 
 namespace Quillmont::Library::Helpers {
 
-/// Adds our add-on element to a simulator's XML configuration file, or takes it out, and leaves
-/// every other byte of the file as it is.
+/// Adds our add-on element to a simulator's XML configuration file, or removes it, and leaves every
+/// other byte of the file as it is.
 class XmlHelper : public QObject
 {
     Q_OBJECT
@@ -21,13 +21,13 @@ public:
     /// Works on the file at @p path, which is read afresh by each operation.
     XmlHelper(QObject *parent, const QString &path);
 
-    /// Brings our element in line with @p model, adding it where it is missing. True: the file is
-    /// as the model wants it. False: it could not be made so and is untouched; the debug log says
-    /// why. A missing file is a failure. @p model stays the caller's.
+    /// Adds our element, or updates it, as @p model describes it. True: the file now has it. False:
+    /// the file could not be changed and is untouched; the debug log says why. A missing file is a
+    /// failure. @p model stays the caller's.
     [[nodiscard]] bool insertValues(Models::XmlInsertionModel *model);
 
-    /// Takes out what @p model describes. True: it is not there (any more), also where there is no
-    /// file. False: it could not be taken out and the file is untouched; the debug log says why.
+    /// Removes what @p model describes. True: the file does not have it (any more), or there is no
+    /// file. False: it could not be removed and the file is untouched; the debug log says why.
     /// @p model stays the caller's.
     [[nodiscard]] bool removeConfig(Models::XmlConfigModel *model);
 

@@ -11,15 +11,15 @@ namespace Quillmont::Library::Models {
 
 namespace {
 
-// One that is given and no number of a game's must not pass for none: the path would then be taken
-// for one in the data root, and folders of a prefix be made there.
+// An invalid number must not count as a missing one: the path would then be relative to the data
+// root, and a prefix's folders would be created there.
 qint64 gameNumber(const QJsonValue &value)
 {
-    constexpr qint64 most = std::numeric_limits<quint32>::max();
+    constexpr qint64 max = std::numeric_limits<quint32>::max();
     if (value.isUndefined())
         return 0;
     const double written = value.toDouble(-1);
-    const bool isGame = written >= 1 && written <= most && std::trunc(written) == written;
+    const bool isGame = written >= 1 && written <= max && std::trunc(written) == written;
     return isGame ? qint64(written) : -1;
 }
 

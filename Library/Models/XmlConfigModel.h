@@ -17,20 +17,21 @@ class XmlConfigModel : public QObject
 public:
     XmlConfigModel(QObject *parent, const QJsonObject &json);
 
-    /// Whether an element is described at all. Without a "parent" or "values" none is, and the
-    /// members that recognise it are empty.
+    /// Whether an element is described. Without "parent" or "values" none is, and the members that
+    /// recognise it are empty.
     bool describesEntry() const { return !element.isEmpty(); }
 
     QString path; ///< The file, "/"-separated, relative to the per-user application-data root.
-    /// Steam's number of the game in whose Proton prefix the path as written is; 0 where it is in
-    /// no prefix, -1 where it is in one whose game is not told by a number of Steam's.
+    /// The Steam app id of the game in whose Proton prefix the path is; 0 if it is in none, -1 if
+    /// the catalogue gives an invalid id.
     qint64 steam = 0;
-    /// The way from the data root to that prefix; empty until it is found and the path set anew.
+    /// That prefix, relative to the data root; empty until it is found, when the path is updated
+    /// too.
     QString prefix;
     QString element; ///< Name of our element, a child of the document's root element.
     QString key; ///< Name of the child element that recognises an element as ours.
     QString value; ///< That child's text, compared trimmed.
-    bool deleteParent = true; ///< Whether removal takes the whole element out, or only that child.
+    bool deleteParent = true; ///< Whether removal deletes the whole element, or only that child.
 };
 
 } // namespace Quillmont::Library::Models

@@ -12,8 +12,7 @@ namespace Quillmont::Library::Models {
 /// The child elements of an add-on element, name and text, in order.
 using XmlValues = QVector<QPair<QString, QString>>;
 
-/// The "values" of a catalogue entry's "config" object. One without a "key" names no element and
-/// is left out.
+/// The "values" of a catalogue entry's "config" object. A value without a "key" is left out.
 XmlValues xmlValues(const QJsonObject &json);
 
 } // namespace Quillmont::Library::Models

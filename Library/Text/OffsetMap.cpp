@@ -35,7 +35,7 @@ OffsetMap::OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding)
 
 void OffsetMap::decode()
 {
-    // Long enough to be quick, short enough to be searched character by character.
+    // A balance: fewer pieces decode faster, shorter ones are searched faster.
     constexpr int pieceSize = 512;
     const auto decoder = m_encoding.makeDecoder();
     m_text.reserve(m_bytes.size() / m_encoding.unit());

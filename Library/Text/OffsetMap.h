@@ -18,8 +18,8 @@ public:
 
     const QString &text() const { return m_text; }
 
-    /// The byte offset of each of @p characters, which are indexes of ASCII characters, ascending.
-    /// Empty when one of them is not encoded as itself.
+    /// The byte offsets of @p characters, which are ascending indexes of ASCII characters. Empty if
+    /// one of them is not encoded as itself.
     QVector<int> byteOffsets(const QVector<int> &characters) const;
 
 private:
@@ -35,7 +35,7 @@ private:
     QByteArray m_bytes;
     XmlEncoding m_encoding;
     QString m_text;
-    /// Where a search can start.
+    /// Starting points of a search.
     QVector<Offset> m_pieces;
 };
 

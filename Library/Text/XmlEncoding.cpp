@@ -115,7 +115,7 @@ bool XmlEncoding::hasCharacter(const QString &character) const
         return false;
     if (m_shifting && decode(m_shifting, character.toLatin1()) != character)
         return false;
-    // In an encoding with shift states two in a row are shorter than twice one.
+    // With shift states, two equal characters in a row take fewer bytes than twice one.
     const QByteArray bytes = encoded(character);
     return encoded(character + character) == bytes + bytes && decode(m_codec, bytes) == character;
 }

@@ -20,10 +20,10 @@ public:
     /// the XML reader refuses such a file later on.
     explicit XmlEncoding(const QByteArray &bytes);
 
-    /// A decoder for what follows the byte-order mark.
+    /// A decoder for the bytes after the byte-order mark.
     std::unique_ptr<QTextDecoder> makeDecoder() const;
 
-    /// Its name, as IANA has it.
+    /// Its IANA name.
     QString name() const;
 
     /// The size in bytes of the byte-order mark that the file begins with, or 0.
@@ -44,10 +44,10 @@ private:
     QTextCodec *m_codec;
     int m_markSize = 0;
     int m_unit = 1;
-    /// Mark and declaration contradict each other: only ASCII is read alike by both.
+    /// Mark and declaration contradict each other: only ASCII means the same in both.
     bool m_asciiOnly = false;
-    /// The declared codec, where it is ASCII but for some characters that shift to another state:
-    /// these are not written. Null otherwise.
+    /// The declared codec, if it is ASCII except for characters that switch to another state, which
+    /// are never written. Null otherwise.
     QTextCodec *m_shifting = nullptr;
 };
 

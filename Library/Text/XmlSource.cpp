@@ -25,7 +25,7 @@ QByteArray XmlSource::spliced(const QVector<Splice> &splices) const
     return reads(bytes, splices) ? bytes : QByteArray();
 }
 
-// Invalid bytes may join into a character, or a shift state reach into what is new.
+// Invalid bytes may join into a character, or a shift state may extend into the new text.
 bool XmlSource::reads(const QByteArray &bytes, const QVector<Splice> &splices) const
 {
     const OffsetMap after(bytes, m_encoding);
@@ -45,8 +45,8 @@ bool XmlSource::reads(const QByteArray &bytes, const QVector<Splice> &splices) c
     return goesOn(text().midRef(here)) && there == after.text().size();
 }
 
-// Of the begin and the end of each splice, or none at all. A place between two characters is found
-// by the one after it, or where that is not ASCII, by the one before.
+// The offsets of each splice's begin and end, or none at all. A position is found by the character
+// after it or, if that is not ASCII, by the one before.
 QVector<int> XmlSource::byteOffsets(const QVector<Splice> &splices) const
 {
     QVector<int> characters;

@@ -10,13 +10,12 @@
 
 namespace Quillmont::Library::Text {
 
-/// The bytes of an XML file as text, and changes of that text as changes of the bytes. Bytes that
-/// are invalid in the file's encoding are U+FFFD in the text, and stay what they are.
+/// The bytes of an XML file as text, and changes of the text applied to the bytes. Bytes that are
+/// invalid in the file's encoding are U+FFFD in the text, and are kept.
 class XmlSource
 {
 public:
-    /// One change of the text: something else takes the place of the characters from begin up to
-    /// end.
+    /// One change of the text: the characters from begin up to end are replaced.
     struct Splice
     {
         int begin;
@@ -36,10 +35,10 @@ public:
     /// Whether every character of @p text can be written as itself.
     bool canWrite(const QString &text) const { return m_encoding.writable(text) == text; }
 
-    /// The bytes with @p splices made; a character that the encoding lacks is written as a
-    /// character reference. Splices are ascending and do not overlap; each needs an ASCII character
-    /// at one side of its begin and of its end. A null array if the bytes do not allow it: some
-    /// that stay would be read otherwise.
+    /// The bytes with @p splices applied; a character that the encoding lacks becomes a character
+    /// reference. Splices are ascending and do not overlap; each needs an ASCII character next to
+    /// its begin and next to its end. Null if that is impossible, since unchanged bytes would be
+    /// decoded differently.
     [[nodiscard]] QByteArray spliced(const QVector<Splice> &splices) const;
 
 private:

@@ -9,8 +9,9 @@ namespace Quillmont::Library::Xml {
 
 namespace {
 
-// Behind what stands at @p place, if it begins a part in which references are only text.
-int behindPlainPart(const QStringRef &content, int place)
+// If a comment, CDATA section or processing instruction begins at @p place, its end; else the next
+// place. References in these are plain text.
+int afterPlainPart(const QStringRef &content, int place)
 {
     static const QVector<QPair<QString, QString>> parts{
         {QStringLiteral("<!--"), QStringLiteral("-->")},
@@ -36,11 +37,11 @@ QStringRef nameAt(const QStringRef &content, int begin)
 
 } // namespace
 
-EntityGrowth::EntityGrowth(const QXmlStreamEntityDeclarations &declarations, int most)
-    : m_tooMuch(most + 1)
+EntityGrowth::EntityGrowth(const QXmlStreamEntityDeclarations &declarations, int max)
+    : m_tooMuch(max + 1)
 {
-    // Of two with a name the first one counts, unless it is one of a document type's own; the
-    // reader does not tell those from the others.
+    // Of two entities with one name the longer is assumed: the first one counts, unless it is a
+    // parameter entity, which the reader does not tell apart.
     for (const auto &declaration : declarations) {
         QString &value = m_values[declaration.name().toString()];
         if (value.size() < declaration.value().size())
@@ -58,7 +59,7 @@ qint64 EntityGrowth::of(const QStringRef &content)
             growth += ofEntity(name.toString());
             i += 1 + name.size();
         } else {
-            i = content.at(i) == u'<' ? behindPlainPart(content, i) : i + 1;
+            i = content.at(i) == u'<' ? afterPlainPart(content, i) : i + 1;
         }
     }
     return growth;
@@ -67,7 +68,7 @@ qint64 EntityGrowth::of(const QStringRef &content)
 // NOLINTNEXTLINE(misc-no-recursion)
 int EntityGrowth::ofEntity(const QString &name)
 {
-    // Entities in themselves, or in entities deeper than anybody writes them, are too much.
+    // Recursive entities, or ones nested deeper than anybody writes them, are refused.
     constexpr int maxDepth = 100;
     if (m_depth == maxDepth)
         return m_tooMuch;

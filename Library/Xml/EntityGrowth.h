@@ -6,16 +6,15 @@
 
 namespace Quillmont::Library::Xml {
 
-/// What the entities that a document declares add to its text.
+/// How many characters the entities of a document add to its text.
 class EntityGrowth
 {
 public:
-    /// Growth beyond @p most characters is not told apart.
-    EntityGrowth(const QXmlStreamEntityDeclarations &declarations, int most);
+    /// Any growth beyond @p max characters counts as the same.
+    EntityGrowth(const QXmlStreamEntityDeclarations &declarations, int max);
 
-    /// How many characters come out of the references in @p content, the part of a document behind
-    /// its declarations. References to characters, and to what every document has ("&amp;"), add
-    /// nothing.
+    /// How many characters the references in @p content expand to, which is the document after its
+    /// declarations. Character references and predefined entities ("&amp;") add nothing.
     qint64 of(const QStringRef &content);
 
 private:

@@ -11,8 +11,8 @@ namespace Quillmont::Library::Xml {
 
 namespace {
 
-// The index of the child that is to hold each of @p values; -1 where there is none. One that has
-// the text already goes before one that has to change.
+// For each of @p values the index of the child that is to hold it, or -1. A child that already has
+// the text is preferred.
 QVector<int> holders(const Models::XmlValues &values, const QVector<XmlElement> &children)
 {
     QVector<int> result(values.size(), -1);
@@ -76,7 +76,7 @@ void EntryChanges::update(const RootChild &entry, const Models::XmlValues &value
     for (int i = 0; i < values.size(); ++i) {
         const auto &[name, text] = values.at(i);
         if (children.at(i) < 0) {
-            insertBehind(previous, entry, newElement(name, text));
+            insertAfter(previous, entry, newElement(name, text));
             continue;
         }
         const XmlElement &child = entry.children.at(children.at(i));
@@ -114,15 +114,15 @@ QByteArray EntryChanges::edited(QString *problem) const
             = m_document.problemAt(m_splices.constFirst().begin,
                                    QStringLiteral("Undecodable bytes would be read otherwise."));
     else if (m_source.text().contains(u']'))
-        // What was at both sides of an element may have become the end of a CDATA section.
+        // Removing an element may have joined its neighbours into "]]>".
         *problem = problemOf(result);
     return problem->isEmpty() ? result : m_source.bytes();
 }
 
-// Behind @p neighbour, on a line like that one's; without one, as the first child of @p entry.
-void EntryChanges::insertBehind(const XmlElement *neighbour,
-                                const RootChild &entry,
-                                const QString &markup)
+// After @p neighbour, on a line like its own; without one, as the first child of @p entry.
+void EntryChanges::insertAfter(const XmlElement *neighbour,
+                               const RootChild &entry,
+                               const QString &markup)
 {
     const int place = neighbour ? neighbour->end : entry.contentBegin;
     const XmlElement *other = neighbour ? neighbour : firstWithPosition(entry.children);
@@ -143,7 +143,7 @@ void EntryChanges::replaceText(const XmlElement &child, const QString &text)
         m_splices.append({child.contentBegin, child.contentEnd, escaped});
 }
 
-// Makes two tags with @p content between them out of one.
+// Replaces a single tag by a start tag, @p content and an end tag.
 void EntryChanges::open(const XmlElement &element, const QString &content)
 {
     if (!m_source.canWrite(element.name))

@@ -15,28 +15,28 @@ class XmlInsertionModel;
 
 namespace Quillmont::Library::Xml {
 
-/// Collects changes of a document's add-on elements, in the document's order, and makes them.
+/// Collects changes to a document's add-on elements, in document order, and applies them.
 class EntryChanges
 {
 public:
-    /// @p document is what was read from @p source.
+    /// @p document was read from @p source.
     EntryChanges(const Text::XmlSource &source, const XmlDocument &document);
 
-    /// Adds the element that @p model describes behind the root's last content.
+    /// Adds the element that @p model describes after the root's last content.
     void add(const Models::XmlInsertionModel &model);
 
-    /// Gives @p entry the children that @p values ask for. Others that it has stay.
+    /// Gives @p entry the children in @p values. Its other children stay.
     void update(const RootChild &entry, const Models::XmlValues &values);
 
-    /// Takes out @p element and the white space in front of it.
+    /// Removes @p element and the white space before it.
     void remove(const XmlElement &element);
 
-    /// The document's bytes with the changes made. The same bytes if there are none, and also if
-    /// they cannot be made; then @p problem says why, and where.
+    /// The document's bytes with the changes applied. The same bytes if there are none, or if they
+    /// cannot be applied; then @p problem says why, and where.
     [[nodiscard]] QByteArray edited(QString *problem) const;
 
 private:
-    void insertBehind(const XmlElement *neighbour, const RootChild &entry, const QString &markup);
+    void insertAfter(const XmlElement *neighbour, const RootChild &entry, const QString &markup);
     void replaceText(const XmlElement &child, const QString &text);
     void open(const XmlElement &element, const QString &content);
     QString newElement(const QString &name, const QString &text);

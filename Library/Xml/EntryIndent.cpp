@@ -9,8 +9,8 @@ namespace {
 
 using Outline = XmlDocument::Outline;
 
-// The last child of the root that begins a line, else the last of all; null if there is none.
-// With @p isParent, only of those that have children themselves.
+// The last child of the root that begins a line, else the last of all; null if there is none. With
+// @p isParent, only children that have children themselves count.
 const Outline *neighbour(const XmlDocument &document, bool isParent)
 {
     const Outline *result = nullptr;
@@ -27,7 +27,7 @@ const Outline *neighbour(const XmlDocument &document, bool isParent)
     return result;
 }
 
-// The white space in front of the tag that ends at @p end.
+// The white space before the tag that ends at @p end.
 QString lineBeforeTag(const XmlDocument &document, int end)
 {
     const int begin = document.tagBegin(end);
@@ -42,7 +42,7 @@ QString rootIndent(const XmlDocument &document)
         : QString();
 }
 
-// A line that is indented by one step more than the root's.
+// A line break and an indent one step deeper than the root's.
 QString lineBelowRoot(const XmlDocument &document)
 {
     return XmlSpace::lineEndBefore(document.text(), document.root().contentEnd)

@@ -11,16 +11,16 @@ class XmlDocument;
 class EntryIndent
 {
 public:
-    /// For an element behind the last content of the root of @p document.
+    /// For an element after the last content of the root of @p document.
     explicit EntryIndent(const XmlDocument &document);
 
-    /// In front of the element.
+    /// Before the element.
     const QString &beforeEntry() const { return m_beforeEntry; }
 
-    /// In front of each of its children.
+    /// Before each of its children.
     const QString &beforeChild() const { return m_beforeChild; }
 
-    /// In front of its end tag.
+    /// Before its end tag.
     const QString &beforeEnd() const { return m_beforeEnd; }
 
 private:

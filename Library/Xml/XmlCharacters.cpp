@@ -36,7 +36,7 @@ bool isNameCharacter(QChar character)
     });
 }
 
-// The reader knows this of the characters below U+0080.
+// Below U+0080 the reader checks this itself.
 bool mayComeFirst(QChar character)
 {
     const ushort code = character.unicode();
@@ -51,7 +51,7 @@ bool XmlCharacters::isName(const QStringRef &name)
         && std::all_of(name.cbegin(), name.cend(), isNameCharacter);
 }
 
-// The reader takes any of them for one of a name.
+// The reader takes any character above U+007F for part of a name.
 bool XmlCharacters::fitDeclarations(const QStringRef &declarations)
 {
     static const QRegularExpression texts(
@@ -67,7 +67,7 @@ bool XmlCharacters::fitDeclarations(const QStringRef &declarations)
     return std::adjacent_find(markup.cbegin(), markup.cend(), isStray) == markup.cend();
 }
 
-// The reader takes white space of any script around the digits, and a second "0x".
+// The reader accepts any Unicode white space around the digits, and a second "0x".
 int XmlCharacters::indexOfMalformedReference(const QString &text)
 {
     static const QRegularExpression malformed(QStringLiteral("&#(?!(?:[0-9]+|x[0-9a-fA-F]+);)"));

@@ -6,22 +6,22 @@ class QStringRef;
 
 namespace Quillmont::Library::Xml {
 
-/// Which characters XML 1.0 allows where.
+/// Checks where XML 1.0 allows which characters.
 class XmlCharacters
 {
 public:
-    /// Whether it can be the name of anything, given that a reader took it for one.
+    /// Whether @p name, which QXmlStreamReader accepted as a name, is one.
     static bool isName(const QStringRef &name);
 
-    /// Whether a document type declaration has no character outside its literals, comments and
-    /// processing instructions that belongs nowhere.
+    /// Whether a document type declaration has no stray characters outside its literals, comments
+    /// and processing instructions.
     static bool fitDeclarations(const QStringRef &declarations);
 
-    /// The place of the first reference to a character by number that is not written as XML wants
-    /// it, in @p text, a whole document; -1 without one. Comments and the like may hold anything.
+    /// The index of the first malformed character reference in @p text, a whole document; -1 if
+    /// there is none. Comments, CDATA sections and processing instructions may hold anything.
     static int indexOfMalformedReference(const QString &text);
 
-    /// The place of the first character that no document may hold; -1 without one.
+    /// The index of the first character that XML forbids; -1 if there is none.
     static int indexOfForbidden(const QString &text);
 };
 

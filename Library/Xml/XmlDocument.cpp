@@ -18,7 +18,7 @@ Element opened(const XmlReader &reader)
     return element;
 }
 
-// Takes the root and its children out of a text.
+// Collects the root and its children from a text.
 class Builder
 {
 public:

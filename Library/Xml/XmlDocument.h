@@ -17,23 +17,23 @@ public:
     /// Chooses children of the root by their names and texts; positions are not known yet.
     using Filter = std::function<bool(const RootChild &)>;
 
-    /// End offsets of the tags of one child of the root. For expanded entities the offset is that
-    /// behind the reference.
+    /// End offsets of the tags of one child of the root. For expanded entities the offset is the
+    /// end of the reference.
     struct Outline
     {
         int startTagEnd;
-        int firstChildTagEnd; ///< -1 without a child.
+        int firstChildTagEnd; ///< -1 if there is no child.
         int end;
     };
 
-    /// Reads @p text, and keeps those children of the root, with their own children, that
-    /// @p isWanted chooses.
+    /// Reads @p text and keeps the children of the root that @p isWanted chooses, with their own
+    /// children.
     XmlDocument(const QString &text, const Filter &isWanted);
 
-    /// Why the text is not a document that can be edited, and where; empty if it is one.
+    /// Why the text cannot be edited, and where; empty if it can.
     const QString &problem() const { return m_problem; }
 
-    /// A sentence that gives @p reason for the line and column of @p place.
+    /// @p reason with the line and column of @p place.
     QString problemAt(int place, const QString &reason) const;
 
     const QString &text() const { return m_text; }

@@ -9,7 +9,7 @@ namespace Quillmont::Library::Xml::XmlMarkup {
 
 namespace {
 
-// Whether @p markup is one element and means just @p name and @p text.
+// Whether @p markup reads back as one element @p name with the text @p text.
 bool means(const QString &markup, const QString &name, const QString &text)
 {
     XmlReader reader(markup);
@@ -37,7 +37,7 @@ QString element(const QString &name, const QString &text)
     stream.setCodec("UTF-8");
     element.save(stream, -1);
     stream.flush();
-    // So that it stays a line feed, whatever line ends the file has.
+    // It stays a line feed, whatever line ends the file has.
     markup.replace(u'\n', QLatin1String("&#10;"));
     return means(markup, name, text) ? markup : QString();
 }

@@ -14,7 +14,7 @@ namespace {
 constexpr int maxEntitySize = 4096;
 constexpr int maxGrowth = 16 * 1024 * 1024;
 
-// The reader takes the parts of an XML declaration as often as they come.
+// QXmlStreamReader accepts repeated parts of an XML declaration.
 bool hasDoubledDeclaration(const QString &text)
 {
     static const QRegularExpression doubled(
@@ -30,10 +30,10 @@ XmlReader::XmlReader(const QString &text)
     , m_malformedReference(XmlCharacters::indexOfMalformedReference(text))
 {
     setNamespaceProcessing(false);
-    // Until the declarations are read, any reference may be one that grows.
+    // Until the declarations are read, any reference may be one to an entity.
     setEntityExpansionLimit(
         std::min(maxEntitySize, maxGrowth / (text.count(u'&') + text.count(u'%') + 1)));
-    // The reader would pass over it, and count one character less than there are.
+    // The reader would skip it, and all its offsets would be one too small.
     if (text.startsWith(QChar(QChar::ByteOrderMark)))
         raiseError(QStringLiteral("Second byte-order mark."));
 }
@@ -80,7 +80,7 @@ void XmlReader::checkNames()
     }
 }
 
-// The reader limits what one reference grows to, not their number.
+// The reader limits the expansion of one reference, not their number.
 void XmlReader::checkDeclarations()
 {
     if (!XmlCharacters::fitDeclarations(text()))

@@ -5,13 +5,13 @@
 
 namespace Quillmont::Library::Xml {
 
-/// Reads a document of the text that it is given, and refuses what QXmlStreamReader lets pass:
-/// malformed names and declarations, and small entities that many references make big. Prefixes are
-/// part of the names; one that nobody declared is a mistake that simulators live with.
+/// Reads an XML text, and refuses what QXmlStreamReader accepts: malformed names and declarations,
+/// and small entities that many references make large. Prefixes are part of the names; undeclared
+/// ones are accepted, as simulators do.
 class XmlReader : private QXmlStreamReader
 {
 public:
-    // Nothing that reads on: that would go past the checks.
+    // Nothing that advances the reader: that would bypass the checks.
     using QXmlStreamReader::atEnd;
     using QXmlStreamReader::attributes;
     using QXmlStreamReader::characterOffset;
@@ -22,13 +22,13 @@ public:
 
     explicit XmlReader(const QString &text);
 
-    /// Goes on to the next token, and answers its type.
+    /// Advances to the next token, and returns its type.
     TokenType next();
 
     /// What is wrong with the document so far, and where; empty if nothing is.
     QString problem() const;
 
-    /// The sentence that tells @p reason of the place at @p line and @p column.
+    /// The sentence that gives @p reason with its @p line and @p column.
     static QString sentence(qint64 line, qint64 column, const QString &reason);
 
 private:
@@ -36,7 +36,7 @@ private:
     void checkDeclarations();
 
     QString m_text;
-    const int m_malformedReference; ///< Its place; -1 without one.
+    const int m_malformedReference; ///< Its index; -1 if there is none.
 };
 
 } // namespace Quillmont::Library::Xml

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// The white space of XML around places of a text, which are indexes of its characters.
+/// XML white space around places in a text; a place is a character index.
 namespace Quillmont::Library::Xml::XmlSpace {
 
 /// Where the white space begins that ends at @p place.
@@ -15,19 +15,19 @@ int end(const QString &text, int place);
 /// @p text without the white space at both its ends.
 QString trimmed(const QString &text);
 
-/// The white space in front of @p place from its last line end on; all of it if it has none.
+/// The white space before @p place from its last line end on; all of it if it has none.
 QString lineBefore(const QString &text, int place);
 
 /// Whether there is a line end in @p text.
 bool hasLineEnd(const QStringRef &text);
 
-/// Whether there is nothing but white space between the beginning of a line and @p place.
+/// Whether only white space is between the beginning of a line and @p place.
 bool beginsLine(const QString &text, int place);
 
-/// The last line end in front of @p place, as it is written; empty without one.
+/// The last line end before @p place, as it is written; empty if there is none.
 QString lineEndBefore(const QString &text, int place);
 
-/// @p line without the line end that it begins with.
+/// @p line without its leading line end.
 QString indent(const QString &line);
 
 } // namespace Quillmont::Library::Xml::XmlSpace

@@ -26,7 +26,7 @@ bool isComplete(const RootChild &child, const Models::XmlInsertionModel &model)
            });
 }
 
-// Makes one element of ours the only one. @p present are those that are ours or complete.
+// Leaves exactly one element of ours. @p present are those that are ours or complete.
 void insert(const Models::XmlInsertionModel &model,
             const QVector<RootChild> &present,
             EntryChanges *changes)

@@ -15,18 +15,19 @@ namespace Quillmont::Library::Xml {
 
 struct RootChild;
 
-/// In bytes. Configuration files have some kilobytes; what is bigger only eats up memory.
+/// In bytes. Real configuration files have some kilobytes; larger ones are refused to save memory.
 constexpr qint64 maxFileSize = 32LL * 1024 * 1024;
 
 /// Whether @p child of the root is what @p model recognises as ours.
 [[nodiscard]] bool isOurs(const RootChild &child, const Models::XmlConfigModel &model);
 
-/// @p bytes of an XML file with one add-on element of ours, as @p model wants it. The same bytes if
-/// there is nothing to do, and also if it cannot be done; then @p problem says why, and where.
+/// @p bytes of an XML file with exactly one add-on element of ours, as @p model describes it. The
+/// same bytes if there is nothing to do, or if it cannot be done; then @p problem says why, and
+/// where.
 [[nodiscard]] QByteArray
 withEntry(const QByteArray &bytes, const Models::XmlInsertionModel &model, QString *problem);
 
-/// Likewise without what @p model describes.
+/// The same without what @p model describes.
 [[nodiscard]] QByteArray
 withoutEntry(const QByteArray &bytes, const Models::XmlConfigModel &model, QString *problem);
 
