@@ -10,7 +10,7 @@ struct Candidate
 {
     /// The folder as the source names it; with an objection, whatever the user should look at.
     QString path;
-    /// Why the source is not to be believed; empty where the folder itself decides.
+    /// Why the source cannot be used; empty if only the folder has to be checked.
     QString objection;
 };
 

@@ -10,7 +10,7 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// What a file names may hold line ends, or megabytes; in the log it stays one short line.
+// A path from a file may contain line ends, or megabytes; the log gets one short line.
 QString printable(const QString &path)
 {
     QString text = path.left(500);
@@ -26,13 +26,13 @@ QString whyNotFound(const QString &path)
                                  : QStringLiteral("not an absolute path");
 }
 
-QString objectionTo(const QString &folder, const Collector::Test &test)
+QString objectionTo(const QString &folder, const Collector::Check &check)
 {
     const QFileInfo info(folder);
     if (!info.isDir())
         return QStringLiteral("not a folder");
-    QString objection = test(folder);
-    // Nothing is seen inside a closed folder, and "it lacks this or that" would mislead.
+    QString objection = check(folder);
+    // Without permission nothing in a folder can be seen, so the reason itself would mislead.
     if (!objection.isEmpty() && !(info.isReadable() && info.isExecutable()))
         return QStringLiteral("no permission to look inside");
     return objection;
@@ -44,11 +44,11 @@ Collector::Collector(FolderLookup &lookup)
     : m_lookup(lookup)
 { }
 
-void Collector::offer(const QString &code, const QVector<Candidate> &candidates, const Test &test)
+void Collector::offer(const QString &code, const QVector<Candidate> &candidates, const Check &check)
 {
     if (has(code))
         return;
-    const QString folder = firstValid(code, candidates, test);
+    const QString folder = firstValid(code, candidates, check);
     if (folder.isEmpty())
         return;
     m_paths.insert(code, folder);
@@ -66,17 +66,17 @@ void Collector::turnDown(const QString &code, const QString &path, const QString
 }
 
 QString
-Collector::firstValid(const QString &code, const QVector<Candidate> &candidates, const Test &test)
+Collector::firstValid(const QString &code, const QVector<Candidate> &candidates, const Check &check)
 {
     for (const auto &candidate : candidates) {
-        QString folder = validFolder(code, candidate, test);
+        QString folder = validFolder(code, candidate, check);
         if (!folder.isEmpty())
             return folder;
     }
     return {};
 }
 
-QString Collector::validFolder(const QString &code, const Candidate &candidate, const Test &test)
+QString Collector::validFolder(const QString &code, const Candidate &candidate, const Check &check)
 {
     QString folder = candidate.objection.isEmpty() ? m_lookup.find(candidate.path) : QString();
     const QString resolved = QFileInfo(folder).canonicalFilePath();
@@ -86,7 +86,7 @@ QString Collector::validFolder(const QString &code, const Candidate &candidate, 
         turnDown(code, candidate.path, candidate.objection);
     } else if (folder.isEmpty()) {
         turnDown(code, candidate.path, whyNotFound(candidate.path));
-    } else if (const auto objection = objectionTo(folder, test); !objection.isEmpty()) {
+    } else if (const auto objection = objectionTo(folder, check); !objection.isEmpty()) {
         turnDown(code, folder, objection);
     } else {
         return folder;

@@ -5,8 +5,7 @@
 
 namespace Quillmont::SimDetect {
 
-/// Debug lines about the search for simulators: why a candidate was turned down.
-/// "orbwell.detection".
+/// "orbwell.detection": why a folder was not taken for a simulator's.
 Q_DECLARE_LOGGING_CATEGORY(detectionLog)
 
 } // namespace Quillmont::SimDetect

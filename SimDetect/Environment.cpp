@@ -11,7 +11,7 @@ Environment Environment::current()
 #ifdef Q_OS_MACOS
     environment.system = MacOS;
 #endif
-    // Without HOME the toolkit answers "/", and the whole disk is nobody's home.
+    // Without HOME Qt reports "/", which is nobody's home.
     if (!qEnvironmentVariableIsEmpty("HOME"))
         environment.home = QDir::homePath();
     const auto variables = QProcessEnvironment::systemEnvironment();

@@ -6,8 +6,8 @@
 
 namespace Quillmont::SimDetect {
 
-/// The computer that simulators are looked for on, as a value, so that each system's layout can
-/// be tried on any other.
+/// Describes the computer on which to look for simulators, so that any system's layout can be
+/// tested on any other.
 struct Environment
 {
     enum System {
@@ -18,12 +18,12 @@ struct Environment
     System system = Linux;
     QString home; ///< The user's home folder, absolute; empty where the user has none.
     QMap<QString, QString> variables; ///< Environment variables, name to value.
-    QString root; ///< Put before the absolute well-known folders; empty in real use.
+    QString root; ///< Prefix of the absolute well-known folders; empty except in tests.
 
     /// The computer that the program runs on.
     static Environment current();
 
-    /// @p relative inside the home folder, cleaned; empty where there is no home folder.
+    /// @p relative inside the home folder, cleaned; empty if there is no home folder.
     QString inHome(const QString &relative) const;
 
     /// The well-known folder @p absolute on this computer, cleaned.

@@ -5,12 +5,12 @@
 
 namespace Quillmont::SimDetect {
 
-/// Where a simulator was looked for, and what came of it.
+/// A folder that was checked for a simulator, with the result.
 struct Finding
 {
     QString code; ///< The simulator's.
-    QString origin; ///< What named the place: a list, Steam, a well-known folder.
-    QString path; ///< The folder, or whatever the user should look at.
+    QString origin; ///< What named the folder: a list, Steam, a well-known place.
+    QString path; ///< The folder, or the file that the user should look at.
     QString objection; ///< Why it was turned down; empty for the folder that was taken.
 };
 

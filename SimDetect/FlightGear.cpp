@@ -19,19 +19,19 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// The number behind "fgdata_"; both "2020_3" and "2020.3" are seen.
+// The number after "fgdata_"; both "2020_3" and "2020.3" occur.
 QVersionNumber versionIn(const QString &path)
 {
     const QString number = path.section(u'/', -1).section(u'_', 1);
     return QVersionNumber::fromString(QString(number).replace(u'_', u'.'));
 }
 
-QString test(const QString &folder)
+QString objectionTo(const QString &folder)
 {
     static const QRegularExpression version(QStringLiteral("^[0-9]+\\."));
     const QByteArray written = PlainFile::beginning(folder + QStringLiteral("/version"), 64);
     if (!version.match(QString::fromLatin1(written)).hasMatch())
-        return QStringLiteral("no file \"version\" that begins with one");
+        return QStringLiteral("no file \"version\" that begins with a version number");
     const auto has = [&folder](const char *name) {
         return QFileInfo(folder + u'/' + QLatin1String(name)).isFile();
     };
@@ -66,7 +66,7 @@ void FlightGear::find()
     offer(present);
 }
 
-// Where it keeps what belongs to the user; empty without a home.
+// The folder of its per-user data; empty without a home folder.
 QString FlightGear::home() const
 {
     const QString chosen = m_environment.variables.value(QStringLiteral("FG_HOME"));
@@ -94,7 +94,7 @@ QStringList FlightGear::packaged() const
     return folders;
 }
 
-// The highest version first, wherever it is; that in its home before an equal one elsewhere.
+// The highest version first; of equal ones, that in FlightGear's home first.
 QStringList FlightGear::downloaded(const QStringList &chosen)
 {
     static const QRegularExpression data(QStringLiteral("^fgdata_"));
@@ -115,7 +115,7 @@ QStringList FlightGear::downloaded(const QStringList &chosen)
 
 void FlightGear::offer(const QVector<Candidate> &folders)
 {
-    m_collector.offer(QStringLiteral("FGFS"), folders, test);
+    m_collector.offer(QStringLiteral("FGFS"), folders, objectionTo);
 }
 
 } // namespace Quillmont::SimDetect

@@ -11,15 +11,15 @@ struct Environment;
 class Collector;
 class FolderLookup;
 
-/// FlightGear, by its data folder: where the user says, in the environment or in its launcher,
-/// where a package puts it, or where its launcher has downloaded it.
+/// Finds FlightGear's data folder: as set in the environment or in its launcher, installed by a
+/// package, or downloaded by the launcher.
 class FlightGear
 {
 public:
-    /// What is handed in has to outlive this.
+    /// All arguments have to outlive this.
     FlightGear(Collector &collector, FolderLookup &lookup, const Environment &environment);
 
-    /// Offers what it finds to the collector.
+    /// Offers the folders that it finds to the collector.
     void find();
 
 private:

@@ -11,10 +11,10 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// Nobody keeps that many versions, and each costs a look at the disk.
-constexpr int mostFolders = 256;
+// Far more versions than anybody keeps; each one costs disk access.
+constexpr int maxFolders = 256;
 
-// UTF-8 or, from older launchers, Latin-1 with escapes for everything beyond it.
+// UTF-8, or Latin-1 with escapes as older launchers write it.
 QString decoded(const QByteArray &content)
 {
     const QString text = QString::fromUtf8(content);
@@ -75,9 +75,9 @@ void FlightGearLauncher::read(const QString &text)
 void FlightGearLauncher::readKey(const QString &key, const QString &value)
 {
     const QString root = QStringLiteral("fg-root-");
-    if (key == QLatin1String("download-dir") && m_downloadFolders.size() < mostFolders) {
+    if (key == QLatin1String("download-dir") && m_downloadFolders.size() < maxFolders) {
         m_downloadFolders.append(plain(value));
-        m_downloadFolders.removeDuplicates(); // versions side by side name one and the same
+        m_downloadFolders.removeDuplicates(); // several versions name the same one
     } else if (key.startsWith(root)) {
         const QString version = key.mid(root.size()).replace(u'-', u'.');
         const QString folder = plain(value);
@@ -93,7 +93,7 @@ void FlightGearLauncher::choose(const Choice &choice)
     };
     const auto place = std::upper_bound(m_chosen.begin(), m_chosen.end(), choice, isHigher);
     m_chosen.insert(place, choice);
-    if (m_chosen.size() > mostFolders)
+    if (m_chosen.size() > maxFolders)
         m_chosen.removeLast();
 }
 

@@ -13,20 +13,20 @@ namespace Quillmont::SimDetect {
 
 class FolderLookup;
 
-/// What the user has chosen in FlightGear's launcher, by the INI files that it writes. They are
-/// read as text: anybody may write there, and a value can describe objects that must not be made.
+/// The user's choices in FlightGear's launcher, from its INI files. They are read as text: a value
+/// can describe serialised objects that must not be created.
 class FlightGearLauncher
 {
 public:
-    /// Reads what is in FlightGear's @p home, within the allowance of @p lookup; nothing where the
-    /// user has none.
+    /// Reads the files in FlightGear's @p home, within the read budget of @p lookup; nothing if
+    /// @p home is empty.
     FlightGearLauncher(const QString &home, FolderLookup &lookup);
 
-    /// The data folders, that of the highest version first. A file that cannot be read is a
+    /// The data folders, the highest version first. A file that cannot be read is listed as a
     /// candidate with its objection.
     const QVector<Candidate> &roots() const { return m_roots; }
 
-    /// The folders that downloads go into, as they are written.
+    /// The download folders, as they are written.
     const QStringList &downloadFolders() const { return m_downloadFolders; }
 
 private:
@@ -36,7 +36,7 @@ private:
     void readKey(const QString &key, const QString &value);
     void choose(const Choice &choice);
 
-    QVector<Choice> m_chosen; ///< The highest version first, and no more than make sense.
+    QVector<Choice> m_chosen; ///< The highest version first, up to a maximum.
     QVector<Candidate> m_roots;
     QStringList m_downloadFolders;
 };

@@ -10,13 +10,13 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// Far more than a real folder on the way to a simulator holds.
-constexpr int mostNames = 20000;
+// Far more names than a folder above a simulator has.
+constexpr int maxNames = 20000;
 
-// What the systems take as a path; longer ones are no paths, and not worth taking apart.
-constexpr int longestPath = 4096;
-// Nobody keeps a simulator deeper, and each name is looked for on the disk.
-constexpr int deepestFolder = 128;
+// The systems' maximum.
+constexpr int maxPathLength = 4096;
+// Deeper than anybody keeps a simulator; each name costs disk access.
+constexpr int maxDepth = 128;
 
 QString inOtherCase(const QString &name)
 {
@@ -24,20 +24,20 @@ QString inOtherCase(const QString &name)
     return upper == name ? name.toLower() : upper;
 }
 
-// Unlike what folds to the same letters, which can be more of them.
+// Stricter than full case folding, which also equates names of different lengths.
 bool isSameName(const QString &left, const QString &right)
 {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-// A disk that ignores letter case has the name under any spelling.
-bool isThereInOtherCase(const QString &folder, const QString &name)
+// A file system that ignores letter case finds the name in any spelling.
+bool existsInOtherCase(const QString &folder, const QString &name)
 {
     const QString other = inOtherCase(name);
     return other != name && QFileInfo::exists(folder + u'/' + other);
 }
 
-// Behind a link that is the real parent, as the system has it; above the top there is nothing.
+// After a link this is the real parent, as for the system; empty above the root.
 QString parent(const QString &folder)
 {
     const QFileInfo info(folder);
@@ -54,11 +54,11 @@ QString FolderLookup::find(const QString &path)
 
 QString FolderLookup::find(const QString &folder, const QString &relative)
 {
-    if (relative.size() > longestPath || relative.contains(QChar::Null))
+    if (relative.size() > maxPathLength || relative.contains(QChar::Null))
         return {};
     QString found = folder;
     const auto names = relative.split(u'/', Qt::SkipEmptyParts);
-    if (names.size() > deepestFolder)
+    if (names.size() > maxDepth)
         return {};
     for (const auto &name : names) {
         if (name == QLatin1String("."))
@@ -91,7 +91,7 @@ QStringList FolderLookup::names(const QString &folder)
         return *known;
     QStringList names;
     QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    while (it.hasNext() && names.size() < mostNames) {
+    while (it.hasNext() && names.size() < maxNames) {
         it.next();
         names.append(it.fileName());
     }
@@ -116,7 +116,7 @@ QString FolderLookup::child(const QString &folder, const QString &name)
 {
     QString exact = folder + u'/' + name;
     const bool isThere = QFileInfo::exists(exact);
-    if (isThere && !isThereInOtherCase(folder, name))
+    if (isThere && !existsInOtherCase(folder, name))
         return exact;
     const QStringList all = spellings(folder.isEmpty() ? QStringLiteral("/") : folder, name);
     if (isThere && all.contains(name))

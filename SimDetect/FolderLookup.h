@@ -7,27 +7,28 @@
 
 namespace Quillmont::SimDetect {
 
-/// Finds what a path means where its letter case may differ from the disk's. What it has seen of
-/// a folder it remembers, so one serves for one look around.
+/// Resolves paths whose letter case may differ from the disk's. Caches folder listings: use a new
+/// one for each detection run.
 class FolderLookup
 {
 public:
     /// @p path, cleaned and spelled as on disk; symbolic links stay as they are. A component that
-    /// is not there is looked up ignoring letter case. Empty where nothing is found, and where
-    /// @p path is not an absolute one.
+    /// does not exist is looked up ignoring letter case. Empty if nothing is found, or if @p path
+    /// is not absolute.
     QString find(const QString &path);
 
     /// The same for @p relative inside @p folder, which is taken as it is.
     QString find(const QString &folder, const QString &relative);
 
-    /// @p relative inside @p folder, spelled as on disk as far as it is there; the rest stays as it
-    /// is written. Of several spellings that all differ from what is written, none is guessed.
+    /// @p relative inside @p folder, spelled as on disk as far as it exists; the rest is unchanged,
+    /// as is a component with several other spellings on disk.
     QString spelled(const QString &folder, const QString &relative);
 
-    /// The names in @p folder, hidden ones too, sorted; none where it cannot be listed.
+    /// The names in @p folder, including hidden ones, sorted; none if it cannot be listed.
     QStringList names(const QString &folder);
 
-    /// How many bytes of files may still be read: many files of a tolerable size are too much.
+    /// The remaining read budget of this run, in bytes: many files of an acceptable size may be too
+    /// much together.
     qint64 &allowance() { return m_allowance; }
 
 private:
@@ -36,7 +37,7 @@ private:
 
     qint64 m_allowance = 24LL * 1024 * 1024;
     QHash<QString, QStringList> m_names;
-    /// Of each folder: the names, by what they have in common in any letter case.
+    /// For each folder the names, by their case-folded form.
     QHash<QString, QHash<QString, QStringList>> m_spellings;
 };
 

@@ -29,7 +29,7 @@ QString decoded(const QByteArray &content)
     return text;
 }
 
-// The blank behind the key keeps InstalledPackagesPathNextBoot out.
+// The space after the key excludes InstalledPackagesPathNextBoot.
 QString packagesPath(const QString &text)
 {
     static const QRegularExpression line(
@@ -52,15 +52,14 @@ void MsfsPackages::find()
     m_collector.offer(
         QStringLiteral("MSFS2020"),
         candidates(QStringLiteral("1250410"), QStringLiteral("Microsoft Flight Simulator")),
-        [this](const QString &folder) { return test2020(folder); });
+        [this](const QString &folder) { return check2020(folder); });
     m_collector.offer(
         QStringLiteral("MSFS2024"),
         candidates(QStringLiteral("2537590"), QStringLiteral("Microsoft Flight Simulator 2024")),
-        [this](const QString &folder) { return test2024(folder); });
+        [this](const QString &folder) { return check2024(folder); });
 }
 
-// Each prefix is asked, whether the game is beside it or not: Steam makes it in the library that it
-// likes.
+// Every prefix is searched: Steam may create it in another library than the game's.
 QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString &name)
 {
     QVector<Candidate> candidates;
@@ -84,7 +83,7 @@ Candidate MsfsPackages::candidateOf(const QString &file, const QString &prefix)
         return {file, QStringLiteral("no InstalledPackagesPath in it")};
     const QString path = onDisk(prefix, written);
     if (path.isEmpty())
-        return {file, QStringLiteral("its InstalledPackagesPath is on no drive")};
+        return {file, QStringLiteral("its InstalledPackagesPath does not begin with a drive")};
     return {path, {}};
 }
 
@@ -98,14 +97,14 @@ QString MsfsPackages::onDisk(const QString &prefix, const QString &path)
         return {};
     QString rest = QDir::cleanPath(slashed.mid(2));
     while ((rest + u'/').startsWith(QLatin1String("/../")))
-        rest.remove(0, 3); // No way leads above a drive.
+        rest.remove(0, 3); // Nothing is above a drive's root.
     if (letter == QLatin1String("c"))
         return prefix + QStringLiteral("/drive_c") + rest;
     return drive(prefix + QStringLiteral("/dosdevices/%1:").arg(letter)) + rest;
 }
 
-// Where the link at @p path leads, and not one link further: that is the folder which the user
-// knows, and Proton takes some of these links away when it starts.
+// Follows the link at @p path but no further: the user knows its target, and Proton removes some of
+// these links when it starts.
 QString MsfsPackages::drive(const QString &path)
 {
     std::error_code failure;
@@ -118,7 +117,7 @@ QString MsfsPackages::drive(const QString &path)
     return failure || folder.isEmpty() ? path : folder;
 }
 
-QString MsfsPackages::test2020(const QString &folder)
+QString MsfsPackages::check2020(const QString &folder)
 {
     if (hasFolder(folder, "Community") || hasFolder(folder, "Official/Steam")
         || hasFolder(folder, "Official/OneStore"))
@@ -126,7 +125,7 @@ QString MsfsPackages::test2020(const QString &folder)
     return QStringLiteral("no Community, Official/Steam or Official/OneStore");
 }
 
-QString MsfsPackages::test2024(const QString &folder)
+QString MsfsPackages::check2024(const QString &folder)
 {
     const auto names = m_lookup.names(folder);
     const bool hasCommunity

@@ -11,15 +11,15 @@ class Collector;
 class FolderLookup;
 class Steam;
 
-/// Microsoft Flight Simulator under Proton, which writes the place of its packages folder into a
-/// file of its own inside the prefix.
+/// Finds Microsoft Flight Simulator under Proton by the configuration file inside the prefix that
+/// names its packages folder.
 class MsfsPackages
 {
 public:
-    /// What is handed in has to outlive this.
+    /// All arguments have to outlive this.
     MsfsPackages(Collector &collector, FolderLookup &lookup, Steam &steam);
 
-    /// Offers what it finds to the collector.
+    /// Offers the folders that it finds to the collector.
     void find();
 
 private:
@@ -27,8 +27,8 @@ private:
     Candidate candidateOf(const QString &file, const QString &prefix);
     QString onDisk(const QString &prefix, const QString &path);
     QString drive(const QString &path);
-    QString test2020(const QString &folder);
-    QString test2024(const QString &folder);
+    QString check2020(const QString &folder);
+    QString check2024(const QString &folder);
     bool hasFolder(const QString &folder, const char *relative);
 
     Collector &m_collector;

@@ -7,19 +7,19 @@
 
 namespace Quillmont::SimDetect {
 
-PlainFile::PlainFile(const QString &path, qint64 &allowance, qint64 largest)
+PlainFile::PlainFile(const QString &path, qint64 &allowance, qint64 maxSize)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile())
         m_problem = QStringLiteral("not a plain file");
     else if (!file.open(QIODevice::ReadOnly))
         m_problem = QStringLiteral("cannot be read");
-    else if (file.size() > largest)
+    else if (file.size() > maxSize)
         m_problem = QStringLiteral("too large");
-    else if (file.size() > allowance / 2) // so that no file leaves nothing for those to come
+    else if (file.size() > allowance / 2) // so that no file uses up the whole budget
         m_problem = QStringLiteral("too much to read altogether");
     else
-        m_content = file.read(std::min(largest, allowance / 2));
+        m_content = file.read(std::min(maxSize, allowance / 2));
     allowance -= m_content.size();
 }
 

@@ -6,22 +6,22 @@
 
 namespace Quillmont::SimDetect {
 
-/// What a small file holds. Only plain files are opened, since opening a pipe waits for its
-/// other end, and no file that is larger than what a real one can be.
+/// The content of a small file. Only regular files are opened, since opening a pipe blocks, and
+/// none that is larger than any real one.
 class PlainFile
 {
 public:
-    /// Reads the file at @p path, if it has no more than @p largest bytes and no more than half
-    /// of what is left of the @p allowance, from which they are taken.
-    PlainFile(const QString &path, qint64 &allowance, qint64 largest = 1024LL * 1024);
+    /// Reads the file at @p path if it has at most @p maxSize bytes and at most half of the
+    /// remaining budget @p allowance, from which its size is subtracted.
+    PlainFile(const QString &path, qint64 &allowance, qint64 maxSize = 1024LL * 1024);
 
-    /// Why there is no content; empty where the whole file was read.
+    /// Why there is no content; empty if the whole file was read.
     const QString &problem() const { return m_problem; }
 
-    /// The whole content; empty where there is a problem.
+    /// The whole content; empty if there is a problem.
     const QByteArray &content() const { return m_content; }
 
-    /// The beginning of the file at @p path, up to @p size bytes; empty where it cannot be read.
+    /// The beginning of the file at @p path, up to @p size bytes; empty if it cannot be read.
     static QByteArray beginning(const QString &path, int size);
 
 private:

@@ -8,8 +8,8 @@ namespace Quillmont::SimDetect {
 
 struct Environment;
 
-/// Simulator code to installation folder (absolute, "/"-separated, no slash at its end) of each
-/// simulator that really is on this computer. Only reads, and starts no program.
+/// Simulator code to installation folder (absolute, "/"-separated, without a trailing slash) of
+/// each simulator installed on this computer. Only reads files, and starts no program.
 QMap<QString, QString> GetAllSimPaths();
 
 /// The same for the computer that @p environment describes.

@@ -13,31 +13,31 @@ namespace Quillmont::SimDetect {
 
 struct Environment;
 
-/// One look around a computer. What it has read for one question it does not read for another.
+/// One detection run on a computer. Each file is read once, whatever is asked.
 class Survey
 {
 public:
     /// Looks for the simulators of the computer that @p environment describes.
     explicit Survey(const Environment &environment);
 
-    /// Takes a new look around the computer that the program runs on; the last one is dropped.
+    /// Starts a new run on this computer, and drops the last one.
     static Survey &renewed();
 
-    /// The last such look, so that what GetAllSimPaths() has read is not read again; the first one
-    /// where there was none.
+    /// The last run, so that nothing is read again after GetAllSimPaths(); starts one if there was
+    /// none.
     static Survey &last();
 
-    /// Simulator code to installation folder, as GetAllSimPaths() answers.
+    /// Simulator code to installation folder, as GetAllSimPaths() returns them.
     const QMap<QString, QString> &paths() const { return m_paths; }
 
-    /// What was taken or turned down on the way, in that order.
+    /// All folders taken or turned down, in order.
     const QVector<Finding> &findings() const { return m_findings; }
 
-    /// The Proton prefix of the game with Steam's number @p appId, an absolute path; empty where
+    /// The absolute path of the Proton prefix of the game with the Steam app id @p appId; empty if
     /// there is none.
     QString prefix(qint64 appId);
 
-    /// The file @p relative in @p folder, spelled as on disk as far as it is there.
+    /// The file @p relative in @p folder, spelled as on disk as far as it exists.
     QString fileIn(const QString &folder, const QString &relative);
 
 private:

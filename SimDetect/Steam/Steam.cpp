@@ -51,7 +51,7 @@ QStringList Steam::prefixes(const QString &appId)
     for (const auto &library : qAsConst(m_libraries)) {
         const QString prefix
             = m_lookup.find(library, QStringLiteral("compatdata/%1/pfx").arg(appId));
-        // Without a drive it is what an attempt to start the game has left.
+        // Without drive_c it is left over from a failed start of the game.
         if (!QFileInfo(m_lookup.find(prefix, QStringLiteral("drive_c"))).isDir())
             continue;
         const Candidate game = gameIn(library, appId);
@@ -69,7 +69,7 @@ QStringList Steam::prefixes(const QString &appId)
     return prefixes;
 }
 
-// Without a path where the library has no manifest of the game.
+// The path is empty if the library has no manifest of the game.
 Candidate Steam::gameIn(const QString &library, const QString &appId)
 {
     const QString path = m_lookup.find(library, QStringLiteral("appmanifest_%1.acf").arg(appId));

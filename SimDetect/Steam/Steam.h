@@ -14,18 +14,18 @@ struct Environment;
 struct SteamRoot;
 class FolderLookup;
 
-/// All of Steam on one computer: its roots, and the libraries on every drive.
+/// Steam on one computer: its installations, and their libraries on all drives.
 class Steam
 {
 public:
-    /// Looks for the libraries. @p lookup has to outlive this.
+    /// Finds the libraries. @p lookup has to outlive this.
     Steam(const Environment &environment, FolderLookup &lookup);
 
-    /// Where the manifests of @p appId say that the game is, library by library.
+    /// The folders that the manifests of @p appId name, library by library.
     QVector<Candidate> candidates(const QString &appId);
 
-    /// The Proton prefixes of @p appId that there are: that of the library which holds the game
-    /// first, since a game that was moved leaves its old one behind, then those of the others.
+    /// The existing Proton prefixes of @p appId: first that of the library with the game, since a
+    /// moved game leaves its old prefix behind, then those of the other libraries.
     QStringList prefixes(const QString &appId);
 
 private:
@@ -35,11 +35,11 @@ private:
     QStringList listedBy(const SteamRoot &root);
 
     FolderLookup &m_lookup;
-    /// The "steamapps" folder of each library, once, however many ways lead to it: a root's own
-    /// first, then those that the root lists.
+    /// The "steamapps" folder of each library, without duplicates: each root's own, then those that
+    /// the root lists.
     QStringList m_libraries;
     QSet<QString> m_seen;
-    QHash<QString, Candidate> m_games; ///< By the path of the manifest; each is read once.
+    QHash<QString, Candidate> m_games; ///< By the manifest's path; each manifest is read once.
 };
 
 } // namespace Quillmont::SimDetect

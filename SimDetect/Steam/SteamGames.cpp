@@ -25,27 +25,27 @@ void SteamGames::find(Steam &steam)
         return hasFolder(folder, "SimObjects") ? QString() : QStringLiteral("no SimObjects");
     };
     m_collector.offer(QStringLiteral("FSXSE"), steam.candidates(QStringLiteral("314160")), test);
-    // Only the build for Windows loads plugins.
+    // Only the Windows build loads plugins.
     if (m_environment.system == Environment::Linux)
         findAerofly(steam);
 }
 
-// It loads plugins from the user's documents in its prefix, never from where Steam has put it.
+// It loads plugins from the user's documents in its prefix, not from its installation folder.
 void SteamGames::findAerofly(Steam &steam)
 {
     const QString code = QStringLiteral("AFS4");
     const QString appId = QStringLiteral("1995890");
-    const auto testGame = [this](const QString &folder) -> QString {
+    const auto checkGame = [this](const QString &folder) -> QString {
         if (!hasFolder(folder, "scenery"))
             return QStringLiteral("no scenery");
         return hasFolder(folder, "aircraft") ? QString() : QStringLiteral("no aircraft");
     };
-    const auto testUserFolder = [this](const QString &folder) -> QString {
+    const auto checkUserFolder = [this](const QString &folder) -> QString {
         return hasFile(folder, "main.mcf") || hasFile(folder, "tm.log")
             ? QString()
             : QStringLiteral("no main.mcf or tm.log");
     };
-    const QString game = m_collector.firstValid(code, steam.candidates(appId), testGame);
+    const QString game = m_collector.firstValid(code, steam.candidates(appId), checkGame);
     if (game.isEmpty())
         return;
     QVector<Candidate> userFolders;
@@ -55,7 +55,7 @@ void SteamGames::findAerofly(Steam &steam)
     for (const auto &prefix : prefixes)
         userFolders.append(
             {prefix + QStringLiteral("/drive_c/users/steamuser/Documents/Aerofly FS 4"), {}});
-    m_collector.offer(code, userFolders, testUserFolder);
+    m_collector.offer(code, userFolders, checkUserFolder);
 }
 
 bool SteamGames::hasFile(const QString &folder, const char *name)

@@ -10,11 +10,11 @@ class Collector;
 class FolderLookup;
 class Steam;
 
-/// The simulators that only Steam tells of: FSX Steam Edition and Aerofly FS 4.
+/// Finds the simulators that only Steam knows: FSX Steam Edition and Aerofly FS 4.
 class SteamGames
 {
 public:
-    /// What is handed in has to outlive this.
+    /// All arguments have to outlive this.
     SteamGames(Collector &collector, FolderLookup &lookup, const Environment &environment);
 
     /// Offers what @p steam finds to the collector.

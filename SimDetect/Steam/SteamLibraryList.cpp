@@ -11,8 +11,8 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// Nobody has more drives than that, and each costs a look at the disk.
-constexpr int mostLibraries = 256;
+// More than anybody has drives; each one costs disk access.
+constexpr int maxLibraries = 256;
 
 bool isNumber(const std::string &key)
 {
@@ -21,7 +21,7 @@ bool isNumber(const std::string &key)
     });
 }
 
-// The first "path" of the block that @p text has just entered; leaves the block.
+// The first "path" in the block that @p text has just entered; leaves the block.
 QString readPath(TextFormat &text)
 {
     QString path;
@@ -40,7 +40,7 @@ QString readPath(TextFormat &text)
 
 SteamLibraryList::SteamLibraryList(const QString &path, qint64 &allowance)
 {
-    const PlainFile file(path, allowance, TextFormat::largestFile);
+    const PlainFile file(path, allowance, TextFormat::maxFileSize);
     m_problem = file.problem();
     if (m_problem.isEmpty())
         parse(file.content());
@@ -53,7 +53,7 @@ void SteamLibraryList::parse(const QByteArray &content)
     if (text.enter("libraryfolders")) {
         while (text.next()) {
             if (!isNumber(text.key()) || seen.count(text.key()) > 0
-                || seen.size() >= mostLibraries) {
+                || seen.size() >= maxLibraries) {
                 text.skip();
                 continue;
             }

@@ -8,18 +8,18 @@ class QByteArray;
 
 namespace Quillmont::SimDetect {
 
-/// What one libraryfolders.vdf says: the folders that Steam keeps games in.
+/// Reads one libraryfolders.vdf: the folders that Steam keeps games in.
 class SteamLibraryList
 {
 public:
-    /// Reads the file at @p path, in the form of today or that of before June 2021, within the
-    /// @p allowance.
+    /// Reads the file at @p path, in today's form or that from before June 2021, within the read
+    /// budget @p allowance.
     SteamLibraryList(const QString &path, qint64 &allowance);
 
-    /// Why the file is of no use; empty where it is.
+    /// Why the file cannot be used; empty if it can.
     const QString &problem() const { return m_problem; }
 
-    /// The folders in the file's order, as they are written; none where there is a problem.
+    /// The folders in file order, as they are written; none if there is a problem.
     const QStringList &folders() const { return m_folders; }
 
 private:

@@ -10,7 +10,7 @@ namespace {
 constexpr quint64 uninstalled = 1;
 constexpr quint64 fullyInstalled = 4;
 
-// Anything else could lead out of the library.
+// Any other name could lead out of the library.
 bool isPlainName(const QString &name)
 {
     return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..")
@@ -20,7 +20,7 @@ bool isPlainName(const QString &name)
 QString objectionToFlags(const QString &written)
 {
     bool isReadable = false;
-    // Written with a sign as well, the highest bit being one of them.
+    // StateFlags can be written as a negative number when bit 31 is set.
     auto flags = static_cast<quint64>(written.trimmed().toLongLong(&isReadable));
     if (!isReadable)
         flags = written.trimmed().toULongLong(&isReadable);
@@ -35,7 +35,7 @@ QString objectionToFlags(const QString &written)
 
 SteamManifest::SteamManifest(const QString &path, const QString &appId, qint64 &allowance)
 {
-    const PlainFile file(path, allowance, TextFormat::largestFile);
+    const PlainFile file(path, allowance, TextFormat::maxFileSize);
     m_objection = file.problem();
     if (m_objection.isEmpty())
         m_objection = parse(file.content());

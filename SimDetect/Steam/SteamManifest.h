@@ -8,17 +8,18 @@ class QByteArray;
 
 namespace Quillmont::SimDetect {
 
-/// What one appmanifest_<id>.acf says: whether Steam has a game, and in which folder.
+/// Reads one appmanifest_<id>.acf: whether Steam has a game, and in which folder.
 class SteamManifest
 {
 public:
-    /// Reads the file at @p path, which belongs to the game @p appId, within the @p allowance.
+    /// Reads the file at @p path, which belongs to the game @p appId, within the read budget
+    /// @p allowance.
     SteamManifest(const QString &path, const QString &appId, qint64 &allowance);
 
-    /// Why the game is not there to use; empty where it is.
+    /// Why the game is not usable; empty if it is.
     const QString &objection() const { return m_objection; }
 
-    /// The name of the game's folder in "common", a single component as it is written.
+    /// The name of the game's folder in "common", as it is written; never a path.
     QString folderName() const { return m_fields.value(QStringLiteral("installdir")); }
 
 private:

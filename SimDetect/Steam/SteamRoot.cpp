@@ -19,8 +19,8 @@ QString nativeRoot(const Environment &environment)
     return environment.inHome(QLatin1String(usualRoot));
 }
 
-// Flatpak shows its Steam the folder under the name that a native one has, and the home folder
-// may itself be a link that Steam has resolved.
+// Flatpak's Steam sees the folder under the path of a native Steam; the home folder may also be a
+// link that Steam has resolved.
 QStringList flatpakNames(const Environment &environment)
 {
     const QString home = QFileInfo(environment.inHome(QString())).canonicalFilePath();

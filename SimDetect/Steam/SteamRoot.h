@@ -9,19 +9,18 @@ namespace Quillmont::SimDetect {
 
 struct Environment;
 
-/// A folder that Steam itself may be installed in.
+/// A folder in which Steam itself may be installed.
 struct SteamRoot
 {
-    QString path; ///< Absolute, or empty where there is no such place; nothing has to be there.
+    QString path; ///< Absolute, or empty if unknown; need not exist.
 
-    /// Folders that stand for path in what this Steam writes, since it runs in a sandbox where
-    /// path is seen under their name; none for a Steam that sees the disk as it is.
+    /// The paths under which a sandboxed Steam sees this folder; none without a sandbox.
     QStringList inSandbox;
 
-    /// Where @p folder, as this Steam writes it, is on the disk.
+    /// The path on disk of @p folder, which this Steam wrote.
     QString outside(const QString &folder) const;
 
-    /// Every place where @p environment can have a Steam, in the order in which they count.
+    /// Every folder where @p environment may have Steam, in order of precedence.
     static QVector<SteamRoot> all(const Environment &environment);
 };
 

@@ -7,8 +7,8 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-constexpr int longestToken = 64 * 1024;
-constexpr int deepestLevel = 64;
+constexpr int maxTokenSize = 64 * 1024;
+constexpr int maxLevel = 64;
 
 bool isBlank(char character)
 {
@@ -20,7 +20,7 @@ bool endsBareToken(char character)
     return isBlank(character) || character == '{' || character == '}' || character == '"';
 }
 
-// What a backslash and @p character stand for; 0 where the pair stays as it is.
+// The character that a backslash and @p character mean; 0 if the pair is literal.
 char unescaped(char character)
 {
     switch (character) {
@@ -72,7 +72,7 @@ bool TextFormat::next()
     ++m_at;
     ++m_level;
     m_isBlock = true;
-    return m_level <= deepestLevel || fail();
+    return m_level <= maxLevel || fail();
 }
 
 bool TextFormat::isKey(const char *key) const
@@ -129,7 +129,7 @@ void TextFormat::skipCondition()
 {
     while (isAt("[$") || isAt("[!$")) {
         const char *end = std::find(m_at, m_end, ']');
-        if (end == m_end || end - m_at > longestToken) {
+        if (end == m_end || end - m_at > maxTokenSize) {
             fail();
             return;
         }
@@ -148,9 +148,9 @@ bool TextFormat::readToken(std::string *token)
 bool TextFormat::readQuoted(std::string *token)
 {
     ++m_at;
-    while (m_at != m_end && *m_at != '"' && token->size() <= longestToken)
+    while (m_at != m_end && *m_at != '"' && token->size() <= maxTokenSize)
         readCharacter(token);
-    if (m_at == m_end || token->size() > longestToken)
+    if (m_at == m_end || token->size() > maxTokenSize)
         return false;
     ++m_at;
     return true;
@@ -177,7 +177,7 @@ bool TextFormat::readBare(std::string *token)
     const char *start = m_at;
     while (m_at != m_end && !endsBareToken(*m_at))
         ++m_at;
-    if (m_at - start > longestToken)
+    if (m_at - start > maxTokenSize)
         return false;
     token->assign(start, m_at);
     return true;

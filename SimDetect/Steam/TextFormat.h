@@ -8,24 +8,24 @@
 
 namespace Quillmont::SimDetect {
 
-/// Reads Steam's text format: a list of `key value` or `key { ... }`, nested. It goes through the
-/// text once, entry by entry, and keeps nothing but the entry at hand, however large the text.
+/// Pull parser for Steam's text format (VDF): a list of `key value` or `key { ... }`, nested. It
+/// reads the text once and keeps only the current entry.
 ///
-/// The text is broken where it is cut off inside a block, where braces, keys and values do not
-/// match up, and past a token of 64 KiB or 64 levels of blocks.
+/// The text is broken if it ends inside a block, if braces, keys and values do not match, or if a
+/// token exceeds 64 KiB or blocks are nested deeper than 64 levels.
 class TextFormat
 {
 public:
-    /// The most bytes that a file in this format has.
-    static constexpr qint64 largestFile = 8LL * 1024 * 1024;
+    /// The maximum size of a file in this format, in bytes.
+    static constexpr qint64 maxFileSize = 8LL * 1024 * 1024;
 
     explicit TextFormat(QByteArray text);
 
-    /// Goes to the next entry of the block that the reader is in. False at the block's end, which
-    /// leads out of it, and where the text ends or is broken.
+    /// Advances to the next entry of the current block. False at the block's end, which also leaves
+    /// the block, and if the text ends or is broken.
     bool next();
 
-    /// Whether the entry is a block. Its own entries come next, unless it is skipped.
+    /// Whether the entry is a block. Its entries come next, unless it is skipped.
     bool isBlock() const { return m_isBlock; }
 
     /// Whether the entry's key is @p key, in any letter case.
@@ -37,14 +37,14 @@ public:
     /// The entry's value; empty for a block.
     QString value() const { return QString::fromStdString(m_value); }
 
-    /// Goes past the entry, with all that is inside it.
+    /// Skips the entry with everything in it.
     void skip();
 
-    /// Goes into the block @p key among the entries to come. False where the first entry of that
-    /// name is no block, or there is none.
+    /// Enters the next block @p key of the current block. False if the first entry with that key is
+    /// not a block, or there is none.
     bool enter(const char *key);
 
-    /// Whether the text so far is unusable.
+    /// Whether the text read so far is broken.
     bool isBroken() const { return m_isBroken; }
 
 private:
@@ -59,7 +59,7 @@ private:
     bool isAt(const char *characters) const;
 
     QByteArray m_text;
-    // The text that is still to be read; there is a NUL at its end, which no rule knows.
+    // The unread text; it ends with a NUL, which belongs to no token.
     const char *m_at;
     const char *m_end;
     int m_level = 0;

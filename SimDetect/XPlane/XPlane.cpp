@@ -16,7 +16,8 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// The newest first: where nothing but two sources tells a folder's version, it has been updated.
+// The newest first: if sources name a folder under two versions and its files do not say which, it
+// has been updated.
 constexpr std::initializer_list<int> versions = {12, 11, 10};
 
 QString codeOf(int version)
@@ -73,7 +74,7 @@ void XPlane::offer(const Source &source)
     for (const int version : versions) {
         named.insert(version, source(version));
         m_collector.offer(codeOf(version), named[version], [this, version](const QString &folder) {
-            return test(folder, version, version);
+            return check(folder, version, version);
         });
     }
     for (const int version : versions)
@@ -83,7 +84,7 @@ void XPlane::offer(const Source &source)
 void XPlane::offerMisnamed(int version, const QMap<int, QVector<Candidate>> &named)
 {
     const auto isIt = [this, version](const QString &folder) {
-        return test(folder, version, 0);
+        return check(folder, version, 0);
     };
     for (const int other : versions) {
         if (other == version || m_collector.has(codeOf(version)))
@@ -124,20 +125,20 @@ QVector<Candidate> XPlane::wellKnown(int version) const
     return candidates;
 }
 
-QString XPlane::test(const QString &folder, int version, int otherwise)
+QString XPlane::check(const QString &folder, int version, int fallback)
 {
     if (!QFileInfo(folder + QStringLiteral("/Resources/plugins")).isDir())
         return QStringLiteral("no Resources/plugins");
     const auto names = m_lookup.names(folder);
     if (!std::any_of(names.cbegin(), names.cend(), isExecutable))
         return QStringLiteral("no X-Plane executable");
-    const int told = m_version.in(folder);
-    const int really = told != 0 ? told : otherwise;
-    return really == version ? objectionToSharing(folder, version)
-                             : QStringLiteral("it is X-Plane %1").arg(really);
+    const int known = m_version.in(folder);
+    const int actual = known != 0 ? known : fallback;
+    return actual == version ? objectionToSharing(folder, version)
+                             : QStringLiteral("it is X-Plane %1").arg(actual);
 }
 
-// A folder holds one X-Plane. Two codes for it would install into it twice, and remove half.
+// A folder holds one X-Plane: with two codes the plugin would be installed twice, and half removed.
 QString XPlane::objectionToSharing(const QString &folder, int version) const
 {
     const QString resolved = QFileInfo(folder).canonicalFilePath();

@@ -17,26 +17,26 @@ class Collector;
 class FolderLookup;
 class Steam;
 
-/// X-Plane 10, 11 and 12: by the lists of installations that X-Plane itself writes, by Steam, and
-/// in well-known folders.
+/// Finds X-Plane 10, 11 and 12 by the lists of installations that X-Plane writes, by Steam, and in
+/// well-known folders.
 class XPlane
 {
 public:
-    /// What is handed in has to outlive this.
+    /// All arguments have to outlive this.
     XPlane(Collector &collector, FolderLookup &lookup, const Environment &environment);
 
-    /// Offers what it and @p steam find to the collector.
+    /// Offers the folders that it and @p steam find to the collector.
     void find(Steam &steam);
 
 private:
-    /// The candidates that one kind of source has for a version.
+    /// One source's candidates for a version.
     using Source = std::function<QVector<Candidate>(int version)>;
 
     QVector<Candidate> listed(int version) const;
     QVector<Candidate> wellKnown(int version) const;
     void offer(const Source &source);
     void offerMisnamed(int version, const QMap<int, QVector<Candidate>> &named);
-    QString test(const QString &folder, int version, int otherwise);
+    QString check(const QString &folder, int version, int fallback);
     QString objectionToSharing(const QString &folder, int version) const;
 
     Collector &m_collector;

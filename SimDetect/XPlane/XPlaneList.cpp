@@ -9,8 +9,8 @@ namespace Quillmont::SimDetect {
 
 namespace {
 
-// Nobody installs it that often, and each costs a look at the disk.
-constexpr int mostFolders = 256;
+// More installations than anybody has; each one costs disk access.
+constexpr int maxFolders = 256;
 
 } // namespace
 
@@ -24,7 +24,7 @@ QVector<Candidate> XPlaneList::read(const QString &path, qint64 &allowance)
     QTextStream text(file.content());
     text.setCodec("UTF-8");
     QVector<Candidate> candidates;
-    while (!text.atEnd() && candidates.size() < mostFolders) {
+    while (!text.atEnd() && candidates.size() < maxFolders) {
         const QString line = text.readLine().trimmed();
         if (!line.isEmpty())
             candidates.append({line, {}});

@@ -8,12 +8,13 @@
 
 namespace Quillmont::SimDetect {
 
-/// Reads a list of installations that X-Plane writes: one folder a line, the dead ones too.
+/// Reads a list of installations that X-Plane writes: one folder per line, deleted ones included.
 class XPlaneList
 {
 public:
-    /// The folders that the file at @p path lists, in its order. A missing file lists none; one
-    /// that cannot be read within the @p allowance is the only candidate, with its objection.
+    /// The folders that the file at @p path lists, in order. A missing file lists none; one that
+    /// cannot be read within the read budget @p allowance is the only candidate, with its
+    /// objection.
     static QVector<Candidate> read(const QString &path, qint64 &allowance);
 };
 

@@ -22,13 +22,13 @@ int numberIn(const QString &text, const QString &pattern)
 
 int readLog(const QString &folder)
 {
-    // Line 1 is all that matters, and the rest can be large.
+    // Only the first line matters, and the rest can be large.
     const QByteArray beginning = PlainFile::beginning(folder + QStringLiteral("/Log.txt"), 4096);
     return numberIn(QString::fromUtf8(beginning),
                     QStringLiteral("^[\\x{FEFF} \\t]*Log\\.txt for X-Plane[ \\t]+([0-9]+)"));
 }
 
-// The text of @p key in the property list @p content; empty where it has none.
+// The text of @p key in the property list @p content; empty if it has none.
 QString plistText(const QByteArray &content, const QString &key)
 {
     QXmlStreamReader xml(content);
@@ -78,7 +78,7 @@ int XPlaneVersion::read(const QString &folder)
     return readInstaller(folder);
 }
 
-// Where the installers of two versions lie, the later one has been at work last.
+// With the installers of two versions, the later one was used last.
 int XPlaneVersion::readInstaller(const QString &folder)
 {
     int version = 0;

@@ -8,15 +8,15 @@ namespace Quillmont::SimDetect {
 
 class FolderLookup;
 
-/// Reads from an X-Plane folder which version it is. An installation is updated in place, so
-/// that what it was found by can be out of date.
+/// Reads the version of an X-Plane folder. Installations are updated in place, so the list that
+/// names the folder may be out of date.
 class XPlaneVersion
 {
 public:
     /// @p lookup has to outlive this.
     explicit XPlaneVersion(FolderLookup &lookup);
 
-    /// The major version that the files in @p folder tell; 0 where they tell none.
+    /// The major version according to the files in @p folder; 0 if they do not say.
     int in(const QString &folder);
 
 private:

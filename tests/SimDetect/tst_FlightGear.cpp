@@ -165,7 +165,7 @@ void TestFlightGear::asksItsLauncher_data()
                     R"([General]\nfg-root-2020-3=$R/a\nfg-root-2024-1=$R/gone\nfg-root-2022-1=$R)"),
             "FGFS: $R/a",
             "FGFS not taken: $R/gone: no such folder\n"
-            "FGFS not taken: $R: no file \"version\" that begins with one");
+            "FGFS not taken: $R: no file \"version\" that begins with a version number");
     const auto passedOver =
         [packaged](const char *name, const QByteArray &tree, const QByteArray &log) {
             addCase(name, OnLinux, data("$R/chosen " + packaged) + tree, "FGFS: " + packaged, log);
@@ -319,13 +319,13 @@ void TestFlightGear::passesOverWhatIsNoData_data()
             "",
             "FGFS not taken: data: not an absolute path");
     addCase("FG_ROOT is empty", OnBoth, "variable FG_ROOT =", "");
-    addCase(
-        "a folder with only the data inside",
-        OnLinux,
-        R"(file $R/usr/share/games/flightgear/data/version = 2020.3.16
+    addCase("a folder with only the data inside",
+            OnLinux,
+            R"(file $R/usr/share/games/flightgear/data/version = 2020.3.16
                file $R/usr/share/games/flightgear/data/defaults.xml =)",
-        "FGFS: $R/usr/share/games/flightgear/data",
-        "FGFS not taken: $R/usr/share/games/flightgear: no file \"version\" that begins with one");
+            "FGFS: $R/usr/share/games/flightgear/data",
+            "FGFS not taken: $R/usr/share/games/flightgear: no file \"version\" that begins with a "
+            "version number");
     for (const char *version : {"", "v2020.3", "2020", "\\x202020.3", ".3", "\\xFF"}) {
         const QByteArray name = QByteArray("a version file that says \"") + version + '"';
         addCase(name,
@@ -333,7 +333,7 @@ void TestFlightGear::passesOverWhatIsNoData_data()
                 QByteArray("file $R/data/version = ") + version
                     + "\nfile $R/data/defaults.xml =\nvariable FG_ROOT = $R/data",
                 "",
-                "FGFS not taken: $R/data: no file \"version\" that begins with one");
+                "FGFS not taken: $R/data: no file \"version\" that begins with a version number");
     }
     addCase("marks that are no files",
             OnBoth,
@@ -341,7 +341,7 @@ void TestFlightGear::passesOverWhatIsNoData_data()
                file $R/a/defaults.xml =
                variable FG_ROOT = $R/a)",
             "",
-            "FGFS not taken: $R/a: no file \"version\" that begins with one");
+            "FGFS not taken: $R/a: no file \"version\" that begins with a version number");
     addCase("a folder for defaults.xml",
             OnBoth,
             R"(file $R/a/version = 2020.3

@@ -221,7 +221,7 @@ void TestMsfsPackages::passesOverWhatNamesNone_data()
     add("no quotes", R"(InstalledPackagesPath C:\\P)", file, none);
     add("one quote", R"(InstalledPackagesPath "C:\\P\nName "x")", file, none);
     add("an empty value", R"(InstalledPackagesPath "")", file, none);
-    const QByteArray noDrive = "its InstalledPackagesPath is on no drive";
+    const QByteArray noDrive = "its InstalledPackagesPath does not begin with a drive";
     add("a path of this system", "InstalledPackagesPath \"/P\"", file, noDrive);
     add("a share", R"(InstalledPackagesPath "\\\\server\\P")", file, noDrive);
     add("relative to a drive", R"(InstalledPackagesPath "C:P")", file, noDrive);
