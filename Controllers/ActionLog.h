@@ -5,9 +5,8 @@
 
 namespace Quillmont::Utility::Controllers {
 
-/// Where the program writes down what it does, one line per action, for support: informational
-/// lines in the category "orbwell". Names and paths come out in quotes; what files hold is never
-/// written.
+/// Log of the program's actions for support, one line per action: informational lines in the
+/// category "orbwell". Names and paths are quoted; the content of files is never logged.
 QDebug logAction();
 
 } // namespace Quillmont::Utility::Controllers

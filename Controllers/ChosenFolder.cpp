@@ -25,7 +25,7 @@ QHash<QString, QString> chosenFolders(const QStringList &simulatorNames)
 {
     QHash<QString, QString> folders;
     SettingsFile file(settingsFile());
-    // They are in one section: where one can be read, all can.
+    // They are in one section: if one can be read, all can.
     if (!file.canRead(chosenFolderKey(QStringLiteral("any"))))
         return folders;
     QSettings settings(settingsFile(), QSettings::IniFormat);

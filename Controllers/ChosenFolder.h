@@ -8,13 +8,13 @@ class QStringList;
 
 namespace Quillmont::Utility::Controllers {
 
-/// The key in the settings of the folder that the user chose for that simulator.
+/// The settings key of the folder that the user chose for a simulator.
 QString chosenFolderKey(const QString &simulatorName);
 
-/// That folder; empty where none is stored, or the settings cannot be read.
+/// That folder; empty if none is stored, or if the settings cannot be read.
 QString chosenFolder(const QString &simulatorName);
 
-/// The same for many, by name, with one look at the settings.
+/// The same for several simulators, by name; reads the settings once.
 QHash<QString, QString> chosenFolders(const QStringList &simulatorNames);
 
 } // namespace Quillmont::Utility::Controllers

@@ -11,9 +11,8 @@ class QSettings;
 
 namespace Quillmont::Utility::Controllers {
 
-/// The user's persistent settings, shared with the maker's other programs. Each operation reads
-/// or writes the file afresh; a failure reads as "nothing stored", and only the log has a line for
-/// it.
+/// The user's settings, shared with the maker's other programs. Each operation reads or writes the
+/// file anew; a failure counts as "nothing stored" and is only logged.
 class ConfigurationController : public QObject
 {
     Q_OBJECT
@@ -22,10 +21,10 @@ public:
     /// The one instance, made on first use and never deleted.
     static ConfigurationController *instance();
 
-    /// What is stored under @p key; invalid when nothing is.
+    /// The value of @p key; invalid if there is none.
     QVariant getSettings(const QString &key) const;
 
-    /// What is stored under @p key, or @p defaultValue when that is null.
+    /// The value of @p key, or @p defaultValue if that is null.
     QVariant getSettings(const QString &key, const QVariant &defaultValue) const;
 
     /// Stores @p value under @p key.
@@ -34,9 +33,9 @@ public:
     /// Removes @p key and everything below it.
     void removeSettings(const QString &key) const;
 
-    /// The per-user folder of the maker's settings, without doubled slashes and with one at its
-    /// end. The settings file's own path is put together otherwise, so that files which earlier
-    /// releases wrote are still found.
+    /// The per-user folder of the maker's settings, with a trailing slash and no doubled ones. The
+    /// settings file's own path is composed differently, so that files of earlier releases are
+    /// found.
     static QString appDataPath();
 
     /// Always false: starting with the system belongs to another platform.

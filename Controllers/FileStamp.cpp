@@ -12,11 +12,11 @@ namespace Quillmont::Utility::Controllers {
 
 QByteArray fileStamp(const QString &path)
 {
-    // No file system keeps times in longer steps, and within one the second change shows nowhere.
-    constexpr std::time_t longestStep = 2;
+    // The coarsest time stamps of any file system; a second change within one step is invisible.
+    constexpr std::time_t maxStep = 2;
     struct stat file = {};
     if (stat(QFile::encodeName(path).constData(), &file) != 0
-        || std::time(nullptr) - std::max(file.st_mtime, file.st_ctime) <= longestStep)
+        || std::time(nullptr) - std::max(file.st_mtime, file.st_ctime) <= maxStep)
         return {};
 #ifdef Q_OS_MACOS
     const timespec &modified = file.st_mtimespec;

@@ -7,8 +7,8 @@ class QString;
 
 namespace Quillmont::Utility::Controllers {
 
-/// Bytes that differ whenever the content of the file at @p path does. Empty when the system
-/// cannot tell: there is no file, or it changed so recently that a further change might not show.
+/// Bytes that change whenever the content of the file at @p path does. Empty if the file does not
+/// exist, or changed so recently that a further change might not show.
 QByteArray fileStamp(const QString &path);
 
 } // namespace Quillmont::Utility::Controllers

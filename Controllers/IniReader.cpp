@@ -32,7 +32,7 @@ bool isMarked(const QByteArray &bytes)
     return bytes.startsWith("\xef\xbb\xbf");
 }
 
-// Neither escapes nor Latin-1 look like that.
+// Escaped texts are ASCII, and Latin-1 texts are rarely valid UTF-8.
 bool hasUtf8(const QByteArray &bytes)
 {
     const bool isAscii = std::all_of(
@@ -75,7 +75,7 @@ bool IniReader::nextLine()
         if (!quoted && (isLineEnd(character) || character == ';'))
             break;
         if (character == '\\')
-            m_end = behindEscape(m_end) - 1;
+            m_end = afterEscape(m_end) - 1;
         else if (character == '"')
             quoted = !quoted;
         else if (character == '=' && !quoted && m_equals < 0)
@@ -84,7 +84,7 @@ bool IniReader::nextLine()
     return m_end > m_begin;
 }
 
-// White space, and comments to the ends of their lines.
+// Skips white space and comments.
 void IniReader::skipBetweenLines()
 {
     bool comment = false;
@@ -96,7 +96,7 @@ void IniReader::skipBetweenLines()
     }
 }
 
-int IniReader::behindEscape(int backslash) const
+int IniReader::afterEscape(int backslash) const
 {
     const int behind = std::min(backslash + 2, m_bytes.size());
     const bool isPair = behind < m_bytes.size() && isLineEnd(m_bytes.at(behind))
@@ -137,12 +137,12 @@ QStringList IniReader::texts() const
     return texts;
 }
 
-// Appends what the escape at @p begin stands for, and answers where it ends.
+// Appends the character that the escape at @p begin means, and returns the escape's end.
 int IniReader::unescape(int begin, QString *text) const
 {
     static const QByteArray names = QByteArrayLiteral("abfnrtv\"?'\\");
     static const QByteArray meanings = QByteArrayLiteral("\a\b\f\n\r\t\v\"?'\\");
-    const int behind = behindEscape(begin);
+    const int behind = afterEscape(begin);
     const char name = behind == begin + 2 ? m_bytes.at(begin + 1) : '\n';
     if (const int i = names.indexOf(name); i >= 0) {
         text->append(QLatin1Char(meanings.at(i)));
@@ -196,7 +196,7 @@ bool IniReader::isReadWith(const QString &section) const
 {
     if (section.isEmpty() || m_section.isEmpty())
         return section.isEmpty() && m_section.isEmpty();
-    // A name with a percent sign may be spelled in many ways.
+    // A name with a percent sign has many spellings.
     return m_section.contains('%') || m_section.startsWith(section.toLatin1());
 }
 

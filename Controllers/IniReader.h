@@ -6,18 +6,17 @@
 
 namespace Quillmont::Utility::Controllers {
 
-/// Goes through an INI file as QSettings does, but takes every value for text.
+/// Reads an INI file as QSettings does, but takes every value as text.
 class IniReader
 {
 public:
     /// @p bytes has to live as long as this.
     explicit IniReader(const QByteArray &bytes);
 
-    /// Whether who wrote the file last had Qt write texts as UTF-8, instead of escaping what ASCII
-    /// lacks.
+    /// Whether the file was last written with UTF-8 texts instead of escapes.
     bool isUtf8() const { return m_isUtf8; }
 
-    /// Goes on to the next value; false behind the last one.
+    /// Advances to the next value; false after the last one.
     bool next();
 
     /// The value's key as the file spells it, with its section: "flightsim/A".
@@ -26,17 +25,17 @@ public:
     /// The value's texts: one, or those of a list.
     QStringList texts() const;
 
-    /// The section that @p key is in; empty for the one without a name.
+    /// The section of @p key; empty for the unnamed one.
     static QString sectionOf(const QString &key);
 
-    /// Whether QSettings has to read this value before it can answer for a key in @p section: it
-    /// reads a section at once, and none before somebody asks for it.
+    /// Whether QSettings reads this value when a key in @p section is requested: it reads one
+    /// section at a time, on demand.
     bool isReadWith(const QString &section) const;
 
 private:
     bool nextLine();
     void skipBetweenLines();
-    int behindEscape(int backslash) const;
+    int afterEscape(int backslash) const;
     int unescape(int begin, QString *text) const;
     int digitsEnd(int begin, int base) const;
     int skipBlanks(int begin) const;

@@ -13,7 +13,7 @@ namespace {
 constexpr std::array<const char *, 4> userFolders{
     "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"};
 
-// U+FFFD comes in for bytes that are no text, but a name may hold it as well.
+// U+FFFD replaces undecodable bytes, but a name may also contain it.
 bool isLostIn(const char *variable)
 {
     const QByteArray bytes = qgetenv(variable);

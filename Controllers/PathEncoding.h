@@ -5,17 +5,17 @@ class QString;
 
 namespace Quillmont::Utility::Controllers {
 
-/// Tells paths whose bytes are lost. A folder of the user's need not have a name that is text in
-/// this encoding; as text it is another folder's, which nobody asked for.
+/// Detects paths that cannot be decoded. A folder's name need not be valid text in this encoding;
+/// decoded, it would name another folder.
 class PathEncoding
 {
 public:
-    /// Whether @p path names what was meant: it does not lie below a home or data folder whose
-    /// name in the environment does not survive the way into text.
+    /// False if @p path is inside a home or data folder whose name in the environment cannot be
+    /// decoded.
     static bool survives(const QString &path);
 
-    /// Takes relative folders out of the environment variables that name the user's, where they
-    /// count as not set. For the start of a program, before any folder is asked for.
+    /// Unsets the environment variables that name the user's folders if they are relative, since
+    /// they then count as not set. Call it before any folder is requested.
     static void ignoreRelativeFolders();
 };
 

@@ -12,16 +12,16 @@ namespace Quillmont::Utility::Controllers {
 
 namespace {
 
-// Qt builds all of an old regular expression's states at once: as many as its pattern has
-// characters when each repetition is written out.
+// Qt builds all states of a QRegExp at once: as many as its pattern has characters with each
+// repetition written out.
 qint64 statesOf(const QString &pattern)
 {
     static const QRegularExpression token(QStringLiteral(R"(\\.|\[[^\]]*\]|\{(\d*),?(\d*)\}|.)"),
                                           QRegularExpression::DotMatchesEverythingOption);
-    constexpr qint64 most = 1000000;
+    constexpr qint64 max = 1000000;
     QVector<qint64> groups{0};
     qint64 last = 0;
-    for (auto it = token.globalMatch(pattern); it.hasNext() && groups.constLast() < most;) {
+    for (auto it = token.globalMatch(pattern); it.hasNext() && groups.constLast() < max;) {
         const auto match = it.next();
         const qint64 times
             = std::max({1, match.capturedRef(1).toInt(), match.capturedRef(2).toInt()});
@@ -38,11 +38,11 @@ qint64 statesOf(const QString &pattern)
             groups.last() += 1;
         }
     }
-    return std::min(most, *std::max_element(groups.cbegin(), groups.cend()));
+    return std::min(max, *std::max_element(groups.cbegin(), groups.cend()));
 }
 
-// Qt reserves what each array and map says it has.
-bool hasWhatItSays(const QByteArray &cbor)
+// Qt reserves memory for as many elements as each array and map claims.
+bool hasClaimedElements(const QByteArray &cbor)
 {
     constexpr int maxDepth = 1000;
     const auto size = static_cast<quint64>(cbor.size());
@@ -96,12 +96,12 @@ bool SerialisedObject::readDateTime(const QByteArray &bytes)
 {
     quint32 type = QMetaType::UnknownType;
     m_stream >> type;
-    // A time zone is read from the file of its name, and dots lead to any file.
+    // Qt reads a time zone from the file of its name; with dots that can be any file.
     const bool leadsOut = bytes.contains(QByteArray("\0.\0.", 4));
     return type == QMetaType::QDateTime && !leadsOut ? readPlain(0) : fail(Harmful);
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): ends at a depth that the stack holds many times over.
+// NOLINTNEXTLINE(misc-no-recursion): ends at a depth far below the stack's limit.
 bool SerialisedObject::readVariant()
 {
     constexpr int maxDepth = 1000;
@@ -114,7 +114,7 @@ bool SerialisedObject::readVariant()
     return isRead;
 }
 
-// As Qt numbers types today; -1 if there is none to go on with.
+// In Qt 5.15's numbering; -1 if reading cannot continue.
 int SerialisedObject::typeHere()
 {
     quint32 stored = QMetaType::UnknownType;
@@ -196,7 +196,7 @@ bool SerialisedObject::readText()
 {
     QString ignored;
     m_stream >> ignored;
-    // Behind half a character Qt goes on in the midst of it.
+    // After an odd number of bytes Qt continues in the middle of a character.
     if (m_stream.status() != QDataStream::Ok)
         return fail(m_stream.status() == QDataStream::ReadCorruptData ? Harmful : Lossy);
     return true;
@@ -223,7 +223,7 @@ bool SerialisedObject::readCbor(qint64 begin)
 {
     QByteArray bytes;
     m_stream >> bytes;
-    return hasWhatItSays(bytes) ? readPlain(begin) : fail(Harmful);
+    return hasClaimedElements(bytes) ? readPlain(begin) : fail(Harmful);
 }
 
 bool SerialisedObject::skip(qint64 size)

@@ -8,34 +8,33 @@
 
 namespace Quillmont::Utility::Controllers {
 
-/// The object that a value of a settings file describes, looked at before Qt makes it. Qt believes
-/// the description: it reserves what a list says it has, and goes down into lists in lists until
-/// the stack ends.
+/// Checks the object that a value in a settings file describes, before Qt creates it. Qt trusts the
+/// description: it reserves whatever memory a list claims, and recurses until the stack overflows.
 class SerialisedObject
 {
 public:
     enum Verdict {
-        Whole, ///< Qt makes it, and describes it again.
-        Lossy, ///< It is damaged, or of a kind that only another program knows: Qt would drop it.
-        Harmful ///< Making it can end the program, go on for ever, or take all memory.
+        Whole, ///< Qt can create it, and writes it back unchanged.
+        Lossy, ///< Damaged, or of a type that only another program knows: Qt would drop it.
+        Harmful ///< Creating it can crash or hang the program, or use up memory.
     };
 
-    /// What the objects of a file may take together: Qt keeps all that it has made.
+    /// What all objects of a file may take together, since Qt keeps them all.
     struct Budget
     {
         qint64 bytes = 1024LL * 1024 * 1024;
         qint64 steps = 4LL * 1024 * 1024 * 1024; ///< Seconds.
     };
 
-    /// What a value that says @p text is; what its object takes is subtracted from @p budget. A
-    /// value that describes no object is whole.
+    /// The verdict on a value with this @p text; the cost of its object is subtracted from
+    /// @p budget. A value that describes no object is whole.
     static Verdict verdict(const QString &text, Budget *budget);
 
 private:
     SerialisedObject(const QByteArray &bytes, QDataStream::Version version, Budget *budget);
 
-    // Each reads one thing. False: nothing more can be read, for a reason that is noted. What Qt
-    // may read by itself begins at @p begin.
+    // Each reads one item. False: nothing more can be read; the verdict is set. @p begin is where
+    // the item begins.
     bool readDateTime(const QByteArray &bytes);
     bool readVariant();
     bool readObject(int type, qint64 begin);

@@ -9,7 +9,7 @@
 
 namespace Quillmont::Utility::Controllers {
 
-// What belongs to windows: colours, pictures and shapes.
+// The types of Qt Gui: colours, pictures and shapes.
 bool SerialisedObject::readPicture(int type, qint64 begin)
 {
     switch (type) {
@@ -35,13 +35,13 @@ bool SerialisedObject::readPicture(int type, qint64 begin)
     default:
         if (type == QMetaType::UnknownType || QMetaType::isRegistered(type))
             return readPlain(begin);
-        // Qt takes it for nothing, and goes on behind a text.
+        // Qt ignores the type, and continues after one text.
         fail(Lossy);
         return readText();
     }
 }
 
-// Qt goes on behind a picture that it cannot read, who knows where.
+// After a picture that Qt cannot read, its position is unpredictable.
 bool SerialisedObject::readImage()
 {
     const qint64 begin = m_stream.device()->pos();
@@ -79,7 +79,7 @@ bool SerialisedObject::isSmallPng()
         return false;
     for (length -= 8; skip(length + 4LL) && type != end;) {
         m_stream >> length >> type;
-        // Texts and colour profiles are small, and may become a thousand times as big.
+        // Texts and colour profiles are compressed, up to a thousand times.
         if ((type & isOptional) != 0 && !takeBytes(length * compression))
             return false;
     }
@@ -129,7 +129,7 @@ bool SerialisedObject::readCursor()
     return readImage() && (isPixmap != 0 || readImage()) && skip(8);
 }
 
-// Qt describes a region by its rectangles alone, row by row.
+// Qt writes a region as its rectangles only, row by row.
 bool SerialisedObject::readRegion()
 {
     constexpr quint32 rectangles = 10;

@@ -19,7 +19,7 @@ namespace Quillmont::Utility::Controllers {
 
 namespace {
 
-// A folder per simulator is a few lines; what is bigger than this only eats up memory.
+// Larger than any real file; one folder per simulator takes a few lines.
 constexpr qint64 maxSize = 8LL * 1024 * 1024;
 
 using Filter = std::function<bool(const IniReader &)>;
@@ -30,10 +30,10 @@ bool isThere(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
-// The content of the file at @p path; on failure @p problem says why.
+// Returns the content of the file at @p path; on failure @p problem says why.
 QByteArray content(const QString &path, QString *problem)
 {
-    // At a pipe the toolkit would wait for ever.
+    // Qt would wait for a pipe's other end for ever.
     QFile file(path);
     if (!QFileInfo(path).isFile())
         *problem = QStringLiteral("not a regular file");
@@ -45,7 +45,7 @@ QByteArray content(const QString &path, QString *problem)
     return bytes;
 }
 
-// What is wrong with the first value that is worse than @p tolerable, of those that are wanted.
+// What is wrong with the first wanted value that is worse than @p tolerable.
 QString problemOf(IniReader *ini, SerialisedObject::Verdict tolerable, const Filter &isWanted)
 {
     constexpr int maxKey = 200;
@@ -64,24 +64,24 @@ QString problemOf(IniReader *ini, SerialisedObject::Verdict tolerable, const Fil
     return {};
 }
 
-// What reading a section meets, and all that Qt reads with it.
-struct Look
+// The result of checking a section and everything that Qt reads with it.
+struct CheckedSection
 {
-    QByteArray stamp; // The file's; empty where it may be another by now.
+    QByteArray stamp; // The file's; empty if the file may have changed since.
     QString section;
     QString problem;
     bool isUtf8 = false;
-    std::unique_ptr<QSettings> settings; // While there are any, Qt keeps what it has read.
+    std::unique_ptr<QSettings> settings; // While it exists, Qt caches the file.
 };
 
-// Each row of the window asks, and both our look and Qt's take as long as the file is.
-Look &lastLook()
+// Cached, since each row of the window asks, and each check reads the whole file.
+CheckedSection &lastCheck()
 {
-    static Look last;
+    static CheckedSection last;
     return last;
 }
 
-Look lookAt(const QString &path, const QString &section, const QByteArray &stamp)
+CheckedSection checked(const QString &path, const QString &section, const QByteArray &stamp)
 {
     QString problem;
     const QByteArray bytes = content(path, &problem);
@@ -91,7 +91,7 @@ Look lookAt(const QString &path, const QString &section, const QByteArray &stamp
     IniReader ini(bytes);
     if (problem.isEmpty())
         problem = problemOf(&ini, SerialisedObject::Lossy, isWanted);
-    // What was not read, or changed meanwhile, is looked at again.
+    // A file that was not read, or has changed meanwhile, is not cached.
     if (bytes.isEmpty() || stamp.isEmpty() || stamp != fileStamp(path))
         return {{}, section, problem, ini.isUtf8(), nullptr};
     auto settings
@@ -110,7 +110,7 @@ bool SettingsFile::canRead(const QString &key)
     if (!QFileInfo::exists(m_path))
         return false;
     const QString problem = problemToRead(key);
-    // It is asked for each row, at each scan.
+    // Called for each row in each scan, so the same problem is logged once.
     static QString lastProblem;
     if (!problem.isEmpty() && problem != lastProblem)
         logAction() << "settings not read:" << m_path << problem;
@@ -143,9 +143,9 @@ QString SettingsFile::problemToRead(const QString &key)
         return QStringLiteral("their name is not valid text");
     const QString section = IniReader::sectionOf(key);
     const QByteArray stamp = fileStamp(m_path);
-    Look &last = lastLook();
+    CheckedSection &last = lastCheck();
     if (stamp.isEmpty() || stamp != last.stamp || section != last.section)
-        last = lookAt(m_path, section, stamp);
+        last = checked(m_path, section, stamp);
     m_isUtf8 = last.isUtf8;
     return last.problem;
 }
@@ -154,7 +154,7 @@ QString SettingsFile::problemToWrite()
 {
     if (!PathEncoding::survives(m_path))
         return QStringLiteral("their name is not valid text");
-    lastLook() = {};
+    lastCheck() = {};
     QString problem;
     const bool isNew = !QFileInfo::exists(m_path);
     const QByteArray bytes = isNew ? QByteArray() : content(m_path, &problem);
@@ -168,12 +168,12 @@ QString SettingsFile::problemToWrite()
     return problem.isEmpty() ? problemToLock() : problem;
 }
 
-// The toolkit waits for its lock as long as it takes. What happens between this look and its own
-// is another program's ordinary work.
+// QSettings waits for its lock without limit. A lock taken after this check is another program's
+// normal, short use.
 QString SettingsFile::problemToLock() const
 {
     const QString name = m_path + QStringLiteral(".lock");
-    // With each further one it clears the one before, if that is dead.
+    // QLockFile removes a stale lock under the protection of another, FILE.lock.rmlock.
     for (QString lock = name; isThere(lock); lock += QStringLiteral(".rmlock"))
         if (!QFileInfo(lock).isFile())
             return QStringLiteral("%1 is not a regular file").arg(lock);

@@ -7,27 +7,27 @@ class QSettings;
 
 namespace Quillmont::Utility::Controllers {
 
-/// Whether QSettings, which trusts what it finds, can be let at the settings file. Where it cannot,
-/// the log says why.
+/// Checks that make it safe to open a file with QSettings, which deserialises whatever it finds.
+/// The log says why a file is not safe.
 class SettingsFile
 {
 public:
     /// @p path need not exist.
     explicit SettingsFile(const QString &path);
 
-    /// False where reading what is stored under @p key would wait for ever, use up the memory or
-    /// end the process; also where there is nothing to read.
+    /// False if reading @p key would hang, use up memory or crash, or if there is nothing to read.
     bool canRead(const QString &key);
 
-    /// The same for writing, which begins with reading all that is there: false too where that
-    /// would drop what another program stored, or wait long for one that holds the lock. Waits
-    /// ten seconds at most, and that only once.
+    /// The same for writing, which reads the whole file first: also false if that would drop
+    /// another program's value, or if another program holds the lock. Waits at most ten seconds for
+    /// the lock, once per process.
     bool canWrite();
 
-    /// Has @p settings take texts as whoever wrote the file last, now that it can be let at it.
+    /// Sets the text encoding of @p settings to that of the file; call it after canRead() or
+    /// canWrite().
     void prepare(QSettings *settings) const;
 
-    /// Says in the log that a change was not stored, for @p reason.
+    /// Logs that a change was not stored, for @p reason.
     void logLoss(const QString &reason) const;
 
 private:

@@ -15,8 +15,7 @@ QString translationFile(const QString &language)
     return QStringLiteral(":/translations/orbwell_%0.qm").arg(language);
 }
 
-// In these locales programs speak English, whatever the list of languages says. macOS has no such
-// variables.
+// The locale "C" overrides the list of languages. macOS has no such variables.
 bool isPlainLocale()
 {
 #ifdef Q_OS_MACOS
@@ -31,7 +30,7 @@ bool isPlainLocale()
 #endif
 }
 
-// "de-Latn-AT" is looked for as "de_Latn_AT", "de_Latn" and "de".
+// For "de-Latn-AT" tries "de_Latn_AT", "de_Latn" and "de".
 QString translationFor(QString language)
 {
     language.replace(u'-', u'_');

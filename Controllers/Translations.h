@@ -5,12 +5,12 @@
 
 namespace Quillmont::Utility::Controllers {
 
-/// The first language of the user's list that the program speaks, by the name of its translation
-/// ("de", "pt_BR"). Empty for English, which is also what a user with the locale "C" gets.
+/// The first of the user's languages that has a translation, by its name ("de", "pt_BR"). Empty for
+/// English, and for the locale "C".
 QString userLanguage();
 
-/// Has the application object's texts, and Qt's own where they are installed, come in that
-/// language. The translations belong to the application object. Does nothing for English.
+/// Installs the program's translation into that language, and Qt's own if there is one. The
+/// application object owns them. Does nothing for English.
 void installTranslations();
 
 } // namespace Quillmont::Utility::Controllers

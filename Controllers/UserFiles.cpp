@@ -7,7 +7,7 @@ namespace Quillmont::Utility::Controllers {
 
 namespace {
 
-// Only a program with windows has a display name. Any other has the name that this falls back to.
+// Only QGuiApplication has a display name; it defaults to the application name.
 QString programName()
 {
     const auto *program = QCoreApplication::instance();
@@ -40,7 +40,7 @@ QString recordFileToRead()
 QString settingsFolder()
 {
     QString path = userDataRoot() + QStringLiteral("/Quillmont/Vellum/");
-    // One pass makes two slashes of four; folders of the program's own name leave such a row.
+    // One pass turns four slashes into two. Folders with the program's own name leave that many.
     while (path.contains(QLatin1String("//")))
         path.replace(QLatin1String("//"), QLatin1String("/"));
     return path;

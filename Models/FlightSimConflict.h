@@ -18,8 +18,8 @@ public:
     /// the member's default.
     FlightSimConflict(QObject *parent, const QJsonObject &json);
 
-    /// Whether this entry gives its folder up when it arrives second; true unless the catalogue
-    /// says otherwise, since giving way is the harmless answer.
+    /// Whether this entry gives up its folder if it comes second; true unless the catalogue says
+    /// otherwise, since that does no harm.
     bool removeOnConflict;
     bool checkFile; ///< Carried along; false by default.
     QString name; ///< The group.

@@ -11,7 +11,7 @@ namespace Quillmont::Utility::Models {
 
 class FileOperation;
 
-/// What uninstalling takes out of a simulator.
+/// What uninstalling removes from a simulator.
 class FlightSimRemoval : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     /// value gives the member's default.
     FlightSimRemoval(QObject *parent, const QJsonObject &json);
 
-    QString parent; ///< Name of the configuration element to take out.
+    QString parent; ///< Name of the configuration element to remove.
     QString key; ///< Name of the child element that recognises it.
     QString value; ///< That child's text.
     bool deleteParent; ///< Whether the whole element goes; false by default.

@@ -24,8 +24,7 @@ FlightSimScan::FlightSimScan(QObject *parent, const QJsonObject &entry)
     readRoot();
     readFiles();
 
-    // A conflict counts only for an entry that says something about its configuration file: an
-    // entry to add, or a null for "none". An entry that is silent about it has no conflict either.
+    // A conflict is read only if "config" is null or an object that is not empty.
     const QJsonValue configValue = entry.value(QLatin1String("config"));
     if (!configValue.isNull()) {
         const QJsonObject configObject = configValue.toObject();

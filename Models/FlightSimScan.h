@@ -15,7 +15,7 @@ namespace Quillmont::Utility::Models {
 class FlightSimConflict;
 class FlightSimRemoval;
 
-/// One entry of the simulator catalogue: how a simulator is found and what goes into it.
+/// One entry of the simulator catalogue: how a simulator is found and what is installed in it.
 class FlightSimScan : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@ namespace Quillmont::Utility::Models {
 
 class FlightSimScan;
 
-/// Ties a catalogue entry to the folder in which that simulator is installed on this computer.
+/// A catalogue entry with the folder of its simulator on this computer.
 class FlightSimulatorMapping : public QObject // clazy:exclude=ctor-missing-parent-argument
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
 
     FlightSimScan *scan; ///< The entry; never null, not owned.
     QString path; ///< The simulator's folder; empty: not found and not set.
-    QString note; ///< The folder that the installation record gave, if it did.
+    QString note; ///< The folder from the installation record, if any.
 };
 
 } // namespace Quillmont::Utility::Models
