@@ -23,13 +23,13 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// A folder whose name is no text is not there by what the name became as text.
+// False if the folder's name cannot be decoded: the decoded path does not exist.
 bool isNamedByText(const QString &folder)
 {
     return !folder.contains(QChar::ReplacementCharacter) || QFileInfo::exists(folder);
 }
 
-// The maker's other programs look here for this one. They know it by one name on every system.
+// The maker's other programs find this one here, under the same name on every system.
 void writeLauncherPath()
 {
     const QString path = QDir::toNativeSeparators(launcherPathFile());

@@ -10,7 +10,7 @@ namespace Quillmont::Utility::ViewControllers {
 
 FlightSimulatorMapping *ScanController::scan(FlightSimScan *scan)
 {
-    // Never a folder of its own; the detection library knows these simulators.
+    // Only the detection library finds these simulators.
     if (scan->location == 4)
         scanMultiple(scan);
     return foundByStrategy(scan);

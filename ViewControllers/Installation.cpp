@@ -42,10 +42,10 @@ void removeOldFile(const QString &path)
         logAction() << "old file not removed:" << path << file.errorString();
 }
 
-// Nothing can be put in the place of a link that leads nowhere, though nothing seems to be there.
+// A dangling link blocks the path, although nothing seems to be there.
 void reportDeadLink(const QString &path)
 {
-    // A record can name a path of a million folders, which no system takes.
+    // The systems' maximum; a record can contain a path of a million folders.
     constexpr int maxPathLength = 4096;
     if (path.size() > maxPathLength)
         return;
@@ -147,7 +147,7 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     qDebug("hit reg search...");
 
     const QString file = QDir::toNativeSeparators(configurationFile(mapping));
-    // A file that only cannot be looked at now must not be replaced.
+    // A file that merely cannot be accessed now must not be replaced.
     if (FileHelper::isMissing(file))
         writeLaunchDocument(file);
     else

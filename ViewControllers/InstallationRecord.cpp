@@ -31,7 +31,7 @@ void ScanController::createMappingFile()
 {
     const QString path = recordFile();
     if (!PathEncoding::survives(path)) {
-        logAction() << "nothing is written below a folder whose name is no text:" << path;
+        logAction() << "nothing is written below a folder whose name is not valid text:" << path;
         return;
     }
     makeFolderOf(path);
@@ -39,7 +39,7 @@ void ScanController::createMappingFile()
 
     QFile file(path);
     if (!QFile::exists(path))
-        file.open(QIODevice::Append); // empties nothing, should it be there after all
+        file.open(QIODevice::Append); // never truncates, in case the file exists after all
 }
 
 void ScanController::getUserSimulatorMapping()

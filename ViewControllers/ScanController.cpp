@@ -34,7 +34,7 @@ ScanController::ScanController(QObject *parent, QWidget *parentWidget)
     , view(new ScannerView(parentWidget))
     , simPaths(SimDetect::GetAllSimPaths())
 {
-    // Under the name that the slot's signature carries, so that it can be called by name, too.
+    // Under the name in the slot's signature, so that the slot can be invoked by name.
     qRegisterMetaType<InstallationMode>("InstallationMode");
 
     const Request request = commandLineRequest();
@@ -55,7 +55,7 @@ ScanController::ScanController(QObject *parent, QWidget *parentWidget)
     }
 }
 
-// Every argument is looked at, the program's own path included, and the last switch wins.
+// Every argument is checked, including the program's own path, and the last switch wins.
 ScanController::Request ScanController::commandLineRequest()
 {
     Request request;
@@ -101,7 +101,7 @@ void ScanController::runInstallation(bool quiet)
     startScan(false, true, quiet ? ModeNone : ModeInstall);
     getUserSimulatorMapping();
     autoInstall(mappings, true, ModeNone);
-    // 2 whatever the outcome: callers tell an installation run from a repair run by it.
+    // 2 whatever the result: callers distinguish an installation run from a repair run by it.
     endProcess(2);
 }
 

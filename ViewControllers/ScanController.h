@@ -19,9 +19,9 @@ class ScannerView;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// Drives the whole run: reads the command line, finds the simulators, installs into them and
-/// removes from them, and keeps the record of what went where. Catalogue entries and mappings
-/// belong to the controller and live as long as it does, over every scan.
+/// Controls the whole run: reads the command line, finds the simulators, installs and uninstalls
+/// the plugin, and keeps the installation record. Owns the catalogue entries and mappings, which
+/// are not deleted between scans.
 class ScanController : public QObject
 {
     Q_OBJECT
@@ -36,62 +36,62 @@ public:
     };
     Q_ENUM(InstallationMode)
 
-    /// Makes the window as a child of @p parentWidget and shows it. With a switch on the command
-    /// line no window is shown: all the work is done here and the process ends with its status.
+    /// Creates the window as a child of @p parentWidget and shows it. With a switch on the command
+    /// line no window is shown: the whole run is done here, and the process exits with its status.
     ScanController(QObject *parent, QWidget *parentWidget);
 
-    /// The catalogue's text; empty when there is no catalogue beside the executable.
+    /// The catalogue's text; empty if there is no catalogue beside the executable.
     QString getJsonContent();
 
-    // Detection: a new mapping, owned by @p scan, or null when its strategy finds nothing.
+    // Detection: returns a new mapping, owned by @p scan, or null if its strategy finds nothing.
     Models::FlightSimulatorMapping *scan(Models::FlightSimScan *scan);
     Models::FlightSimulatorMapping *scanFile(Models::FlightSimScan *scan);
     Models::FlightSimulatorMapping *scanFolder(Models::FlightSimScan *scan);
     Models::FlightSimulatorMapping *scanRegistry(Models::FlightSimScan *scan);
     Models::FlightSimulatorMapping *scanMultiple(Models::FlightSimScan *scan);
 
-    /// Settles which entry of a conflict group keeps a folder that several found, and gives the
-    /// entries of a group that found several folders their own configuration files.
+    /// Decides which entry of a conflict group keeps a folder that several found. Entries of a
+    /// group that found several folders get their own configuration files.
     void sloveConflict(QList<Models::FlightSimulatorMapping *> mappings);
 
-    /// Installs into each of @p mappings that has a folder and lacks the plugin, records all that
-    /// have it, says so in a box unless @p silent, and writes the launcher path file.
+    /// Installs into each of @p mappings that has a folder but not the plugin, records all that
+    /// have it, shows a result box unless @p silent, and writes the launcher path file.
     void autoInstall(QList<Models::FlightSimulatorMapping *> mappings,
                      bool silent,
                      InstallationMode mode);
 
-    /// Puts the plugin into one simulator and answers whether no error line came up. The result
-    /// is shown unless @p silent, then the error lines stay in m_errorMessage; @p rescan starts a
-    /// new scan first. Without a folder nothing happens and the answer is false.
+    /// Installs into one simulator; true if there were no error lines. Shows the result unless
+    /// @p silent, when the error lines stay in m_errorMessage; @p rescan starts a new scan first.
+    /// Without a folder it does nothing and returns false.
     bool install(Models::FlightSimulatorMapping *mapping, bool silent, bool rescan);
 
-    /// Brings the simulator's configuration file in line, making it where it is missing.
+    /// Adds our entry to the simulator's configuration file, which is created if it is missing.
     void installToFlightSim(Models::FlightSimulatorMapping *mapping);
 
-    /// Takes the plugin out of one simulator and answers whether no error line is left. Success
-    /// is shown unless @p silent, failure always; @p rescan starts a new scan first. Without a
-    /// folder nothing happens and the answer is false.
+    /// Uninstalls from one simulator; true if there are no error lines. Shows success unless
+    /// @p silent, failure always; @p rescan starts a new scan first. Without a folder it does
+    /// nothing and returns false.
     bool uninstall(Models::FlightSimulatorMapping *mapping, bool silent, bool rescan);
 
-    /// Takes our entry out of the simulator's configuration file and deletes the extra files.
+    /// Removes our entry from the simulator's configuration file and deletes the extra files.
     void uninstallFromFlightSim(Models::FlightSimulatorMapping *mapping);
 
-    /// Makes sure that there is a record file.
+    /// Creates the record file if it is missing.
     void createMappingFile();
 
-    /// Gives the current mappings the folders of those records whose files are all in place.
+    /// Sets the current mappings' folders from those records whose files all exist.
     void getUserSimulatorMapping();
 
-    /// Replaces the record of @p mapping by a fresh one, or deletes it when @p uninstalled.
+    /// Replaces the record of @p mapping by a new one, or deletes it if @p uninstalled.
     void saveInstallationInfo(Models::FlightSimulatorMapping *mapping, bool uninstalled);
 
-    /// The whole text of a file. One that cannot be opened or read, or is bigger than any record,
-    /// reads as empty and leaves a line in m_errorMessage.
+    /// The whole text of a file. One that cannot be opened or read, or is larger than any record,
+    /// reads as empty and adds a line to m_errorMessage.
     QString readFile(const QString &path);
 
-    /// Makes @p content the whole text of a file, making missing folders. A file that cannot be
-    /// opened, or finds no room for it, keeps its text and leaves a line in m_errorMessage. So does
-    /// one that would be bigger than readFile() takes.
+    /// Makes @p content the whole text of a file, creating missing folders. If the file cannot be
+    /// opened, the disk is full or the text is larger than readFile() accepts, the file keeps its
+    /// text and a line is added to m_errorMessage.
     void saveFile(const QString &path, const QString &content);
 
     // For other platforms; they do nothing here.
@@ -99,16 +99,17 @@ public:
     void installToXPlane(Models::FlightSimulatorMapping *mapping);
     void uninstallFromXPlane(Models::FlightSimulatorMapping *mapping);
 
-    QString m_errorMessage; ///< Error lines of the work under way.
+    QString m_errorMessage; ///< Error lines of the current operation.
     Views::ScannerView *view; ///< The window; not deleted by the controller.
-    QList<Models::FlightSimulatorMapping *> mappings; ///< Of the last scan for automatic work.
-    QMap<QString, QString> simPaths; ///< Simulator code to folder, as detected last.
+    QList<Models::FlightSimulatorMapping *>
+        mappings; ///< Of the last scan that installed or ran silently.
+    QMap<QString, QString> simPaths; ///< Simulator code to folder, as last detected.
 
 public slots:
-    /// Reads the catalogue, finds the simulators, and shows them, or, when @p silent or in
-    /// ModeScanAndInstall, installs into them. @p updateDefault lets the window's rows take up
-    /// folders that the user picked earlier. Without a catalogue nothing happens.
-    // The short name is part of the signature under which the slot is looked up.
+    /// Reads the catalogue, finds the simulators, and shows them, or, if @p silent or in
+    /// ModeScanAndInstall, installs into them. With @p updateDefault the rows use folders that the
+    /// user picked earlier. Without a catalogue nothing happens.
+    // The unqualified name is part of the signature by which the slot is invoked.
     void startScan(bool updateDefault, // clazy:exclude=fully-qualified-moc-types
                    bool silent,
                    InstallationMode mode);

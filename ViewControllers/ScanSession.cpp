@@ -38,8 +38,7 @@ void reportFolder(const FlightSimulatorMapping *mapping)
         logAction() << "simulator" << mapping->scan->name << "in" << mapping->path;
 }
 
-// Both paths of an entry, whichever a conflict leaves it: that may have come out otherwise in an
-// earlier run.
+// Both of an entry's paths, since an earlier run may have settled its conflict differently.
 QStringList configurationFiles(const QList<FlightSimulatorMapping *> &mappings)
 {
     if (!PathEncoding::survives(userDataRoot()))
@@ -55,8 +54,8 @@ QStringList configurationFiles(const QList<FlightSimulatorMapping *> &mappings)
     return files;
 }
 
-// An earlier run may have been ended in the middle of a change. One that is still at it has the
-// lock, which nobody waits for who finds nothing to clear.
+// An earlier run may have been killed in the middle of a change. A run that is still working holds
+// the lock, which is needed only if there is something to clear.
 void clearUnfinishedChanges(const QStringList &files)
 {
     if (std::none_of(files.cbegin(), files.cend(), FileWriter::hasUnfinished))
@@ -97,7 +96,7 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
 
     if (mode == ModeScanAndInstall || silent) {
         mappings = result;
-        // The one command line run that reports what it installed is not silent here.
+        // A run with --INSTALL reports what it installed, so it is not silent here.
         autoInstall(result, mode == ModeInstall ? false : silent, mode);
     } else {
         view->setScanResult(result, updateDefault, true);

@@ -31,7 +31,7 @@ bool ScanController::readText(const QString &path, QString *text)
 
     text->clear();
     logAction() << "not read:" << native << problem;
-    // Says "empty" of a file that could not be opened: what support has been told to look for.
+    // The message says "empty" even if the file could not be opened: support looks for that word.
     m_errorMessage += tr("The file '%0' is empty. Quillmont Orbwell installer was not able to "
                          "change your configuration.")
                           .arg(native);
@@ -45,7 +45,7 @@ void ScanController::saveFile(const QString &path, const QString &content)
 
     QFile file(native);
     QString problem;
-    // As a text stream encodes it.
+    // Encoded as QTextStream does it.
     if (rewriteText(&file, QTextCodec::codecForLocale()->fromUnicode(content), &problem))
         logAction() << "written:" << native;
     else

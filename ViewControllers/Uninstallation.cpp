@@ -28,19 +28,18 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// QDir removes the folder that a path with ".." means as text, which behind a linked folder is not
-// the one that it lists.
-QString asTheSystemHasIt(const QString &folder)
+// QDir resolves ".." as text when it removes a folder; after a linked folder that is a different
+// folder from the one it lists.
+QString realFolder(const QString &folder)
 {
     const bool leadsUp = (folder + u'/').contains(QLatin1String("/../"));
     return leadsUp ? QFileInfo(folder).canonicalFilePath() : folder;
 }
 
-// Only what the user can see counts: a folder that holds nothing but hidden files is left over
-// from us and goes with them.
+// Only visible files count: a folder with nothing but hidden files is removed with them.
 void removeIfEmpty(const QString &path)
 {
-    const QString real = asTheSystemHasIt(path);
+    const QString real = realFolder(path);
     QDir folder(real);
     if (!real.isEmpty() && isSurelyEmpty(folder) && folder.removeRecursively())
         logAction() << "folder removed:" << folder.path();
@@ -70,8 +69,8 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
     if (mapping->path.isEmpty())
         return false;
 
-    // Unlike install, this starts from the lines that are there: errors of a silent installation
-    // just before are shown here.
+    // Unlike install(), this does not clear the error lines: those of a silent installation just
+    // before are shown here.
     const BusyPointer busy;
     logAction() << "uninstall from" << mapping->scan->name << "in" << mapping->path;
     removePluginFiles(mapping);

@@ -48,7 +48,7 @@ QAccessibleInterface *accessiblePart(const QString &, QObject *object)
 ScannerView::ScannerView(QWidget *parent)
     : QWidget(parent)
 {
-    // Before the first part says anything: what was asked for once is kept.
+    // Before any child exists: Qt caches the first accessible interface of an object.
     QAccessible::installFactory(accessiblePart);
     OnePress::watch();
     auto *layout = new QVBoxLayout(this);
@@ -63,7 +63,7 @@ ScannerView::ScannerView(QWidget *parent)
         showRowAround(now);
     });
 
-    // A screen reader presses them even while a folder is being chosen for a row.
+    // A screen reader can press them even while the folder dialog of a row is open.
     connect(m_close, &QPushButton::clicked, this, [this] {
         if (!isBehindDialog(this))
             QCoreApplication::exit(0);
@@ -93,15 +93,15 @@ QListWidget *ScannerView::makeList()
 {
     m_list = new QListWidget(this);
     m_list->setAccessibleName(tr("Simulators"));
-    // A row has buttons of its own; marking it would only drown its name and icon in colour.
+    // A row has its own buttons; a selection would only make its name and icon hard to see.
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->verticalScrollBar()->setSingleStep(21); // a wheel's notch is three: a row
+    m_list->verticalScrollBar()->setSingleStep(21); // a wheel notch scrolls three steps: one row
     explainEmptyList();
     return m_list;
 }
 
-// Nothing but the catalogue decides whether there are rows.
+// The list is empty only if the catalogue has no entries.
 void ScannerView::explainEmptyList()
 {
     const QString text
@@ -118,7 +118,7 @@ void ScannerView::explainEmptyList()
 void ScannerView::showEmptyListText(bool isEmpty)
 {
     m_emptyListText->setVisible(isEmpty);
-    // A screen reader sees nothing of the list but its rows.
+    // A screen reader finds only the rows in the list.
     m_list->setAccessibleDescription(isEmpty ? m_emptyListText->text() : QString());
 }
 
@@ -134,11 +134,11 @@ QHBoxLayout *ScannerView::makeButtons()
 
 ScannerView::~ScannerView()
 {
-    // The focus moves on from one part to the next while they go.
+    // Destroying the children moves the focus; do not react any more.
     disconnect(qApp, &QApplication::focusChanged, this, nullptr);
 }
 
-// By value, as its callers know it.
+// By value: the signature is fixed for its callers.
 void ScannerView::setScanResult(
     QList<FlightSimulatorMapping *> mappings, // NOLINT clazy:exclude=function-args-by-ref
     bool updateDefault,
@@ -146,12 +146,12 @@ void ScannerView::setScanResult(
 {
     const RowControl focused = focusedControl();
     const int scrolled = m_list->verticalScrollBar()->value();
-    // Or the focus would run through all the rows that go.
+    // Otherwise the focus would jump through every row that is deleted.
     if (!focused.control.isEmpty())
         m_list->setFocus();
     m_list->clear();
     int found = 0;
-    // All items before the first row: for each that comes behind a row Qt lays out the whole list.
+    // All items before the first row: Qt lays out the whole list for each item added after a row.
     for (int i = 0; i < mappings.size(); ++i)
         m_list->addItem(new QListWidgetItem);
     for (int i = 0; i < mappings.size(); ++i) {
@@ -160,7 +160,7 @@ void ScannerView::setScanResult(
             ++found;
     }
     showEmptyListText(mappings.isEmpty());
-    moveButtonsBehindRows();
+    moveButtonsAfterRows();
     scrollTo(scrolled);
     focusControl(focused);
     if (!updateDefault && !quiet)
@@ -203,8 +203,7 @@ ScannerView::RowControl ScannerView::focusedControl() const
     return {index, row->accessibleName(), control->objectName()};
 }
 
-// The row in the same place, where it is still that simulator's; of two with one name that is the
-// one.
+// Prefers the row at the same index, which tells two simulators of one name apart.
 int ScannerView::rowOf(const RowControl &wanted) const
 {
     const auto isWanted = [&](int index) {
@@ -226,7 +225,7 @@ void ScannerView::focusControl(const RowControl &wanted)
     if (!row || wanted.control.isEmpty())
         return;
     auto *control = row->findChild<QWidget *>(wanted.control);
-    // Without a folder there is only one to be chosen.
+    // Without a folder, only "..." is enabled.
     if (!control->isEnabled())
         control = row->findChild<QWidget *>(QStringLiteral("browse"));
     control->setFocus();
@@ -234,15 +233,15 @@ void ScannerView::focusControl(const RowControl &wanted)
 
 void ScannerView::scrollTo(int position)
 {
-    // A window that has not come up yet has not got its size yet.
+    // A window that was never shown does not have its size yet.
     if (m_list->isVisible() || position > 0)
-        m_list->doItemsLayout(); // or the scroll bar does not reach that far
+        m_list->doItemsLayout(); // otherwise the scroll bar's range is too small
     m_list->verticalScrollBar()->setValue(position);
 }
 
-void ScannerView::moveButtonsBehindRows()
+void ScannerView::moveButtonsAfterRows()
 {
-    // The toolkit hangs new rows on the end of the tab order, behind the buttons below them.
+    // Qt appends new rows to the tab order, after the buttons below them.
     const auto *lastRow = m_list->itemWidget(m_list->item(m_list->count() - 1));
     auto *last = lastRow ? lastRow->findChild<QWidget *>(QStringLiteral("action")) : m_list;
     setTabOrder(last, m_scanAndInstall);

@@ -13,7 +13,7 @@ class QPushButton;
 
 namespace Quillmont::Utility::Views {
 
-/// The program's window: what it does in a sentence, a row for each simulator, two buttons.
+/// The program's window: a sentence that says what it does, a row for each simulator, two buttons.
 class ScannerView : public QWidget
 {
     Q_OBJECT
@@ -22,10 +22,10 @@ public:
     explicit ScannerView(QWidget *parent);
     ~ScannerView() override;
 
-    /// Replaces the rows by one for each of @p mappings, which stay their owner's. The list stays
-    /// scrolled as it was, and a control that had the focus hands it to its successor. With
-    /// @p updateDefault folders that the user picked earlier come back into the mappings. With
-    /// neither flag a box says how many simulators have a folder.
+    /// Replaces the rows by one for each of @p mappings, which are not owned. The scroll position
+    /// is kept, and the focus goes to the same control of the new row. With @p updateDefault,
+    /// folders that the user picked earlier replace those of the mappings. With neither flag, a box
+    /// says how many simulators have a folder.
     void
     setScanResult(QList<Models::FlightSimulatorMapping *> mappings, bool updateDefault, bool quiet);
 
@@ -35,7 +35,7 @@ signals:
     void uninstall(Quillmont::Utility::Models::FlightSimulatorMapping *);
 
 private:
-    /// A control of a row, by what outlives the row.
+    /// Identifies a control of a row after the row was replaced.
     struct RowControl
     {
         int row = -1;
@@ -55,7 +55,7 @@ private:
     void focusControl(const RowControl &wanted);
     void scrollTo(int position);
     void setRow(int index, Models::FlightSimulatorMapping *mapping, bool updateDefault);
-    void moveButtonsBehindRows();
+    void moveButtonsAfterRows();
     void showCount(int count);
 
     QLabel *m_introduction;

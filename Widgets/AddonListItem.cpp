@@ -26,7 +26,7 @@ namespace Quillmont::Utility::Widgets {
 
 namespace {
 
-// A tool tip takes tags for its own, and a long plain one runs out of the screen.
+// A tool tip interprets tags, and a long plain one does not fit the screen.
 QString literalToolTip(const QString &text)
 {
     const bool fits = text.size() < 120 && !Qt::mightBeRichText(text);
@@ -54,7 +54,7 @@ AddonListItem::AddonListItem(QWidget *parent,
     m_path->setPlaceholderText(tr("Path not set"));
     m_path->setMinimumHeight(24);
     m_path->setReadOnly(true);
-    // It takes what the buttons leave, however large the letters on them are.
+    // Takes the width that the buttons leave, at any font size.
     m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     applyMappedPath(updateDefault);
 
@@ -90,12 +90,12 @@ void AddonListItem::arrange()
     pathLine->addWidget(m_path, 0);
     pathLine->addWidget(m_browse, 2);
     pathLine->addWidget(m_action, 2);
-    // Only now: a layout that has its widget posts a request, and Qt looks through all that wait
-    // for one like it, which of thousands of rows takes longer than the rows themselves.
+    // Set last: each change of an installed layout posts a request, and Qt searches all pending
+    // ones, which with thousands of rows takes longer than the rows themselves.
     setLayout(outer);
 }
 
-// A screen reader says these without the row around them.
+// A screen reader reads these without the row around them.
 void AddonListItem::nameControls()
 {
     const QString &simulator = m_mapping->scan->name;
@@ -116,8 +116,8 @@ void AddonListItem::watchParts()
         part->installEventFilter(this);
 }
 
-// What comes up asks to be painted, and Qt looks through all rows behind it for one that covers
-// it. Where thousands come up at once, only those in sight may ask.
+// Each part that is shown requests an update, for which Qt searches all later rows for one that
+// covers it. With thousands of rows, only visible ones may request it.
 bool AddonListItem::eventFilter(QObject *part, QEvent *event)
 {
     const auto *list = parentWidget();
@@ -164,7 +164,7 @@ void AddonListItem::browsePath()
         QMessageBox::critical(
             nullptr, tr("Invalid path"), tr("This path is invalid"), QMessageBox::Ok);
     }
-    // Also after a folder that was not taken: the row then keeps the one it had.
+    // Also after an invalid folder: the row then keeps its old one.
     updateStatus();
     savePath();
 }
@@ -173,7 +173,7 @@ void AddonListItem::showPath(const QString &path)
 {
     m_path->setText(path);
     m_path->setCursorPosition(0);
-    // What the field took of it, which is no more than it can show.
+    // QLineEdit cuts at its maximum length; show what it kept.
     m_path->setToolTip(literalToolTip(m_path->text()));
 }
 
@@ -197,7 +197,7 @@ void AddonListItem::updateStatus()
     m_action->setAccessibleName(tr("%0: %1").arg(m_action->text(), m_mapping->scan->name));
 }
 
-// What to do about a simulator that was not found, on the buttons that a newcomer tries.
+// The buttons' tool tips say what to do about a simulator that was not found.
 void AddonListItem::explainButtons()
 {
     const bool isKnown = !m_mapping->path.isEmpty();
@@ -215,7 +215,7 @@ QString AddonListItem::stateInWords(bool exists, bool installed) const
     return installed ? tr("Orbwell is installed") : tr("Orbwell is not installed");
 }
 
-// A tool button knows the space bar only.
+// A tool button handles only the space bar.
 void AddonListItem::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -230,7 +230,7 @@ void AddonListItem::keyPressEvent(QKeyEvent *event)
 
 QPixmap AddonListItem::artwork(const QString &name) const
 {
-    // A label neither looks a pixmap up by the screen's scale nor smooths one that does not fit it.
+    // QLabel neither picks a pixmap for the screen's scale nor scales one smoothly.
     const qreal scale = devicePixelRatioF();
     const QLatin1String detail(scale > 1 ? "@2x" : "");
     const QPixmap drawn(QStringLiteral(":/assets/Quillmont Orbwell/%1%2.png").arg(name, detail));

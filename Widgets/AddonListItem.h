@@ -11,17 +11,17 @@ class QToolButton;
 
 namespace Quillmont::Utility::Widgets {
 
-/// One row of the simulator list: the state of the plugin in a simulator, the simulator's name
-/// and folder, and the button that installs or uninstalls. The row only asks for that work; the
-/// one thing it does itself is to keep a folder that the user picks. Its accessible name is the
-/// simulator's, its accessible description the state in words.
+/// One row of the simulator list: the state of the plugin in a simulator, the simulator's name and
+/// folder, and the button that installs or uninstalls. The row only emits signals for that work; it
+/// stores a folder that the user picks. Its accessible name is the simulator's, its accessible
+/// description the state in words.
 class AddonListItem : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// A row for @p mapping, which stays its owner's. With @p updateDefault a folder that the
-    /// user picked earlier replaces the mapping's; without, that choice is forgotten.
+    /// A row for @p mapping, which is not owned. With @p updateDefault a folder that the user
+    /// picked earlier replaces the mapping's; without it, that choice is forgotten.
     AddonListItem(QWidget *parent, Models::FlightSimulatorMapping *mapping, bool updateDefault);
 
 signals:
@@ -29,7 +29,7 @@ signals:
     void uninstall(Quillmont::Utility::Models::FlightSimulatorMapping *mapping);
 
 public slots:
-    /// Lets the user pick the simulator's folder, and keeps it for later runs.
+    /// Lets the user pick the simulator's folder, and stores it for later runs.
     void browsePath();
 
 protected:

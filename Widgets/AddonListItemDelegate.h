@@ -5,7 +5,7 @@
 
 namespace Quillmont::Utility::Widgets {
 
-/// Gives every entry of the simulator list the height of a row.
+/// Gives every item of the simulator list the height of a row.
 class AddonListItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

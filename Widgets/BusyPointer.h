@@ -5,8 +5,8 @@
 
 namespace Quillmont::Utility::Widgets {
 
-/// Shows the wait pointer while it lives. Work that calls other work needs no care: the pointer
-/// is back to normal when the outermost one ends.
+/// Shows the wait pointer for its lifetime. Can be nested: the pointer is back to normal when the
+/// outermost one ends.
 class BusyPointer
 {
 public:
@@ -15,7 +15,7 @@ public:
     Q_DISABLE_COPY(BusyPointer)
 };
 
-/// Gives the user the ordinary pointer back while it lives, however much work is under way.
+/// Shows the normal pointer for its lifetime, however many BusyPointers there are.
 class BusyPointerPause
 {
 public:

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int minHeight = 64;
 
-// What the window's frame leaves of the screen that Qt opens the box on.
+// The size that the window frame leaves on the screen where Qt opens the box.
 QSize room()
 {
     const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
@@ -28,8 +28,8 @@ QSize room()
     return screen->availableSize() * 9 / 10;
 }
 
-// A view lays out only the lines in sight, but each of them whole. Nobody looks for the ends of
-// lines that are longer than any path.
+// A view lays out only the visible lines, but each as a whole, which takes long for lines far
+// longer than any path.
 QString withEveryLineShort(const QString &text)
 {
     constexpr int longest = 5000;
@@ -47,7 +47,7 @@ QString withEveryLineShort(const QString &text)
     return lines;
 }
 
-// The label keeps the text, out of sight.
+// The label keeps the text but is hidden.
 QPlainTextEdit *putIntoView(QLabel *text, QMessageBox *box)
 {
     constexpr int wide = 600;
@@ -64,7 +64,7 @@ QPlainTextEdit *putIntoView(QLabel *text, QMessageBox *box)
     return view;
 }
 
-// A box knows its size only when it is about to be shown, and works it out once more then.
+// A box computes its size only when it is about to be shown, and then once more.
 void layOut(QMessageBox *box)
 {
     QEvent request(QEvent::LayoutRequest);
@@ -89,7 +89,7 @@ void fit(QMessageBox *box)
         view->setFixedHeight(std::max(minHeight, minHeight + room().height() - box->height()));
 }
 
-// Qt would lay out the whole label, which takes minutes for a line of a million characters.
+// Qt needs minutes to lay out a label with a line of a million characters.
 bool isTooLongForLabel(const QMessageBox *box)
 {
     constexpr int longest = 20000;

@@ -5,9 +5,8 @@
 
 namespace Quillmont::Utility::Widgets {
 
-/// While it lives, a message box whose text needs more height than the screen has shows that text
-/// in a view that scrolls, so that its button stays on the screen; the box's text() is the same.
-/// Other boxes are as Qt makes them.
+/// For its lifetime, a message box that is too tall for the screen shows its text in a scrolling
+/// view, so that its button stays on the screen; its text() is the same. Other boxes are unchanged.
 class FittingBox : public QObject
 {
     Q_OBJECT

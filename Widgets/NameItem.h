@@ -5,8 +5,8 @@
 
 namespace Quillmont::Utility::Widgets {
 
-/// The place of a row's name. Rows keep their height however large the letters are; where the
-/// name does not fit into its share of it, it reaches up into the margin above.
+/// Layout item for a row's name: with a large font it grows into the margin above, since rows have
+/// a fixed height.
 class NameItem : public QWidgetItem
 {
 public:

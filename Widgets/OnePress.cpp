@@ -33,8 +33,7 @@ void OnePress::watch()
     qApp->installEventFilter(watching);
 }
 
-// A widget that has no use for an event hands it to its parent, and it comes by here once more:
-// the answer must be the same.
+// An ignored event is passed on to the parent and filtered once more: the result must be the same.
 bool OnePress::eventFilter(QObject *watched, QEvent *event)
 {
     if (!watched->isWidgetType())
@@ -43,12 +42,12 @@ bool OnePress::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        return keepsKeyFrom(receiver, static_cast<QKeyEvent *>(event));
+        return blocksKey(receiver, static_cast<QKeyEvent *>(event));
     case QEvent::MouseButtonPress:
         m_clickWindow = receiver->window();
         m_hasClicked = true;
         return false;
-    case QEvent::MouseButtonDblClick: // in place of a second press
+    case QEvent::MouseButtonDblClick: // instead of a second press
         return m_hasClicked && m_clickWindow != receiver->window()
             && receiver->window()->windowType() != Qt::Popup;
     default:
@@ -56,7 +55,7 @@ bool OnePress::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-bool OnePress::keepsKeyFrom(QWidget *receiver, const QKeyEvent *event)
+bool OnePress::blocksKey(QWidget *receiver, const QKeyEvent *event)
 {
     if (!pressesButtons(event))
         return false;
@@ -74,13 +73,13 @@ bool OnePress::keepsKeyFrom(QWidget *receiver, const QKeyEvent *event)
 
 bool OnePress::isRepeat(const QKeyEvent *press, const QWidget *receiver) const
 {
-    // No finger is that quick; an X server gives both ends of a repeat one time.
+    // Milliseconds; an X server gives a repeat's release and press the same time.
     constexpr ulong nextPress = 3;
     if (press->isAutoRepeat())
         return true;
     if (press->key() != m_key)
         return false;
-    // Without a time it was made up in this process, and its release does not get lost.
+    // Events without a time come from this process, and their releases are never lost.
     return press->timestamp() == 0 ? m_keyButton && m_keyButton.data() == receiver
                                    : press->timestamp() - m_keyReleased < nextPress;
 }

@@ -10,20 +10,21 @@ class QWidget;
 
 namespace Quillmont::Utility::Widgets {
 
-/// Makes one press one action, in all windows of the process.
+/// Makes each press one action only, in all windows of the process.
 ///
 /// While Return, Enter or the space bar is held down, its repeats press no button, and do nothing
-/// in a window that came up meanwhile. Qt marks only those repeats of which both ends have arrived
-/// when it looks; on X11 it hands out the others as a key that was let go and pressed again.
+/// in a window that has opened meanwhile. On X11, Qt marks a repeat as such only if both its
+/// release and its press have arrived; otherwise it reports a key that was released and pressed
+/// again.
 ///
-/// The second click of a double click does nothing in another window than the first: there it
-/// would answer a box that came up under the pointer, or press what a closed one had covered.
+/// The second click of a double click does nothing in a different window from the first: it would
+/// answer a box that has opened under the pointer, or press what a closed box had covered.
 class OnePress : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Sees to it from now on. A second call does nothing.
+    /// Installs the filter. A second call does nothing.
     static void watch();
 
 protected:
@@ -32,15 +33,15 @@ protected:
 private:
     using QObject::QObject;
 
-    bool keepsKeyFrom(QWidget *receiver, const QKeyEvent *event);
+    bool blocksKey(QWidget *receiver, const QKeyEvent *event);
     bool isRepeat(const QKeyEvent *press, const QWidget *receiver) const;
     void keepPress(const QKeyEvent *press, QWidget *receiver);
 
     int m_key = 0;
-    ulong m_keyReleased = 0; ///< In the window system's milliseconds; 0 when it does not say.
+    ulong m_keyReleased = 0; ///< In the window system's milliseconds; 0 if unknown.
     QPointer<QWidget> m_keyWindow; ///< Where it was pressed.
-    QPointer<QAbstractButton> m_keyButton; ///< What it pressed, until it is let go.
-    QPointer<QWidget> m_clickWindow; ///< That of the last single click.
+    QPointer<QAbstractButton> m_keyButton; ///< What it pressed, until it is released.
+    QPointer<QWidget> m_clickWindow; ///< The window of the last single click.
     bool m_hasClicked = false;
 };
 

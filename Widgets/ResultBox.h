@@ -5,8 +5,8 @@ class QString;
 
 namespace Quillmont::Utility::Widgets {
 
-/// Tells the user an outcome, good or bad, in a box of its own with one Ok button, and waits
-/// until it is read. The pointer is the ordinary one meanwhile.
+/// Shows a result, good or bad, in a modal box with an Ok button, and waits until it is closed.
+/// Meanwhile the pointer is the normal one.
 void showInformation(const QString &title, const QString &text);
 
 } // namespace Quillmont::Utility::Widgets

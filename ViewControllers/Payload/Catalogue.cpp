@@ -39,8 +39,8 @@ QString catalogueText(const QString &path)
     return QTextStream(&file).readAll();
 }
 
-// Simulators that are known to be here come first, each group in reverse catalogue order: a map
-// with several values a key hands the newest out first.
+// Detected simulators come first, each group in reverse catalogue order, since QMultiMap returns
+// the newest value of a key first.
 QList<FlightSimScan *>
 catalogueEntries(QObject *owner, const QString &content, const QMap<QString, QString> &simPaths)
 {

@@ -16,15 +16,15 @@ namespace Quillmont::Utility::ViewControllers {
 /// The native path of the catalogue beside the executable.
 QString catalogueFile();
 
-/// The native path of the folder with the plugin's files beside the executable, with a separator
-/// at its end.
+/// The native path of the folder with the plugin's files beside the executable, with a trailing
+/// separator.
 QString payloadFolder();
 
-/// The text of the catalogue at @p path; empty when it cannot be read, and the log says why.
+/// The text of the catalogue at @p path; empty if it cannot be read; the log says why.
 QString catalogueText(const QString &path);
 
-/// The entries that the catalogue's text describes, children of @p owner, in the order in which
-/// they are shown and worked on: those whose simulators are in @p simPaths first.
+/// The catalogue's entries, as children of @p owner, in the order in which they are shown and
+/// processed: first those whose simulators are in @p simPaths.
 QList<Models::FlightSimScan *>
 catalogueEntries(QObject *owner, const QString &content, const QMap<QString, QString> &simPaths);
 

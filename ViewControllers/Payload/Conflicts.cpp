@@ -16,8 +16,8 @@ namespace {
 using Group = QMap<QString, FlightSimulatorMapping *>; // by the folder that was found
 using Groups = QMap<QString, Group>; // by the conflict's name
 
-// Where two entries found one folder, the conflict of the one that comes second decides who
-// gives it up. The first keeps its place in the group even when it is the one that does.
+// If two entries found one folder, the second entry's conflict decides which of them gives it up.
+// The first one stays in the group even if it gives up its folder.
 Groups groupByFolder(const QList<FlightSimulatorMapping *> &mappings)
 {
     Groups groups;
@@ -42,7 +42,7 @@ void applySolution(const FlightSimulatorMapping *mapping)
     if (!config || conflict->solution.isEmpty())
         return;
     config->path = conflict->solution;
-    // It is relative to the data root, also where it takes the place of a file in a prefix.
+    // It is relative to the data root, even if it replaces a path in a prefix.
     config->prefix.clear();
     config->steam = 0;
 }

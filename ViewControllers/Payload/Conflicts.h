@@ -9,8 +9,8 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// Settles which entry of a conflict group keeps a folder that several found, and gives the
-/// entries of a group that found several folders their own configuration files.
+/// Decides which entry of a conflict group keeps a folder that several found. Entries of a group
+/// that found several folders get their own configuration files.
 void settleConflicts(const QList<Models::FlightSimulatorMapping *> &mappings);
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -20,15 +20,14 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// The folder that the record is in is there from the start of every run, and a lock on it needs no
-// file of its own.
+// The record's folder exists from the start of every run; locking it needs no lock file.
 int openFolder()
 {
     return ::open(QFile::encodeName(recordFolder()).constData(),
                   O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-// Where no lock can be had (on a network's file system, say) one copy at a time works as well.
+// Where flock() is not supported, as on some network file systems, we work unlocked.
 bool isTaken(int folder)
 {
     return ::flock(folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;

@@ -5,11 +5,11 @@
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// Keeps other copies of the program that the same user runs away from the simulators' files while
-/// it lives: two that read a configuration and write it back in turn would lose one's entry, and
-/// one could not copy a plugin file that the other just made. Waits for its turn, but no longer
-/// than ten seconds, and that only once: a copy that hangs must not hang all. Ends with the process
-/// at the latest and leaves nothing behind. One at a time: a second one waits for the first.
+/// Per-user lock between processes on the simulators' files, held for this object's lifetime: two
+/// copies of the program that change a configuration file at once could lose one's entry, and one
+/// could not copy a plugin file that the other has just created. Waits up to ten seconds, once per
+/// process, then goes on without the lock, so that one hanging copy does not block all others. The
+/// system releases it when the process ends. Not recursive.
 class InstallationLock
 {
 public:

@@ -5,8 +5,8 @@
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// What a simulator without a configuration file gets: one that already loads the plugin. To be
-/// written as Windows-1252.
+/// The configuration file for a simulator that has none: it already loads the plugin. To be written
+/// as Windows-1252.
 QString launchDocument();
 
 } // namespace Quillmont::Utility::ViewControllers

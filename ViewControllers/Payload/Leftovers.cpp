@@ -18,8 +18,8 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// What a folder's listing shows: nothing hidden, no link that leads nowhere, and a device, a pipe
-// or a socket only through a link. What cannot be looked at may be shown.
+// Whether a file manager shows the entry: nothing hidden, no dangling link, and a device, pipe or
+// socket only through a link. What cannot be accessed counts as visible.
 bool isVisible(const std::filesystem::directory_entry &entry)
 {
     using std::errc;
@@ -35,7 +35,7 @@ bool isVisible(const std::filesystem::directory_entry &entry)
         && (!isSpecial || entry.is_symlink(ignored));
 }
 
-// A number that the toolkit has no location for names no folder.
+// A number that is no QStandardPaths location names no folder.
 QString numberedFolder(int number)
 {
     if (number < QStandardPaths::DesktopLocation || number > QStandardPaths::AppConfigLocation)
@@ -45,8 +45,7 @@ QString numberedFolder(int number)
 
 } // namespace
 
-// Qt's listing takes a folder that cannot be listed for an empty one, and leaves names out that
-// are no text.
+// Not QDir: it takes an unreadable folder for an empty one, and omits names that cannot be decoded.
 bool isSurelyEmpty(const QDir &folder, const QSet<QString> &gone)
 {
     std::error_code failure;
@@ -62,7 +61,7 @@ QString extraFile(const FlightSimulatorMapping *mapping, const FileOperation *op
 {
     if (operation->root == QLatin1String("-1")) {
         const QString &base = mapping->note.isNull() ? mapping->path : mapping->note;
-        // Joined by a backslash on every system, as the catalogues' authors expect it.
+        // Joined with a backslash on every system, as the catalogues' authors expect.
         return QDir::toNativeSeparators(base + QDir::toNativeSeparators(u'\\' + operation->path));
     }
     return QDir::toNativeSeparators(numberedFolder(operation->root.toInt()) + operation->path);

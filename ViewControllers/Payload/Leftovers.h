@@ -13,11 +13,11 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// Whether the user sees nothing in @p folder: hidden files do not count, nor do those paths that
-/// are in @p gone. A folder that cannot be listed may well hold something.
+/// True only if @p folder certainly has nothing visible in it; hidden files and the paths in
+/// @p gone do not count. A folder that cannot be listed may hold something.
 bool isSurelyEmpty(const QDir &folder, const QSet<QString> &gone = {});
 
-/// The native path of a file that uninstalling deletes beside the plugin's own.
+/// The native path of a file that uninstalling deletes in addition to the plugin's own.
 QString extraFile(const Models::FlightSimulatorMapping *mapping,
                   const Models::FileOperation *operation);
 

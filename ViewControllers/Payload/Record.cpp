@@ -26,7 +26,7 @@ QJsonObject recordOf(const FlightSimulatorMapping *mapping)
             {QStringLiteral("files"), files}};
 }
 
-// Of several records with one name only the last goes.
+// Of several records with one name only the last is removed.
 void removeLastRecord(QJsonArray &records, const QString &name)
 {
     for (int i = records.size() - 1; i >= 0; --i) {
@@ -46,7 +46,7 @@ QJsonArray recordsIn(const QString &text)
 
 bool isComplete(const QJsonObject &record)
 {
-    // Each is looked up, as isAddonInstalled() does it.
+    // Every file is looked up, as in isAddonInstalled().
     bool complete = true;
     const QJsonArray files = record.value(QLatin1String("files")).toArray();
     for (const QJsonValue &file : files)

@@ -12,14 +12,14 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// The records in the record's text; none where it is damaged.
+/// The records in the record's text; none if it is damaged.
 QJsonArray recordsIn(const QString &text);
 
-/// Whether every file of a record is there.
+/// Whether every file of a record exists.
 bool isComplete(const QJsonObject &record);
 
-/// The record's text with a fresh record of @p mapping in place of its last one, or just without
-/// that when @p uninstalled.
+/// The record's text with the last record of @p mapping replaced by a new one, or removed if
+/// @p uninstalled.
 QString
 updatedRecord(const QString &text, const Models::FlightSimulatorMapping *mapping, bool uninstalled);
 

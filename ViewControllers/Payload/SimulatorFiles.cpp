@@ -29,8 +29,8 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// QFile::copy() gives the copy the permissions that the original says it has. Its mode alone would
-// grant more than a file does that has an access list or another group.
+// QFile::copy() copies the reported permissions. The mode alone would grant more than the original
+// does if that has an access list or another group.
 class Original : public QFile // clazy:exclude=missing-qobject-macro
 {
 public:
@@ -47,11 +47,11 @@ void copyStatus(const QString &from, const QString &to)
         FileStatus::copy(original.handle(), copy.handle());
 }
 
-bool copyOrdinary(const QString &from, const QString &to)
+bool copyRegular(const QString &from, const QString &to)
 {
     Original original(from);
     QString ignored;
-    // Copying a pipe would wait for its other end for ever, and a device may have no end.
+    // Copying a pipe would block for ever, and a device may never end.
     const bool copied
         = FileHelper::open(&original, QIODevice::ReadOnly, &ignored) && original.copy(to);
     if (copied)
@@ -66,22 +66,23 @@ QString inAnyLetterCase(const QString &folder, const QString &relative)
         return exact;
     const QStringList others = LetterCase::files(folder, relative);
     if (others.size() > 1)
-        logAction() << "no configuration file of several that differ in letter case:" << others;
+        logAction() << "none of several configuration files that differ in letter case is used:"
+                    << others;
     return others.size() == 1 ? others.constFirst() : exact;
 }
 
-// The way leads over the top of the disk; as text it does so without a data root, too.
+// The prefix is relative and leads up to "/"; resolved as text, since the data root may be missing.
 QString prefixFolder(const XmlConfigModel &config)
 {
     return QDir::cleanPath(userDataRoot() + config.prefix);
 }
 
-// The beginning of a line in the log; null where there is none.
+// The beginning of the log line that gives the reason; null if the file can be edited.
 const char *objectionToEditing(const XmlConfigModel &config)
 {
     if (!PathEncoding::survives(userDataRoot()))
         return "the data folder's name is not valid text, so no configuration file to edit:";
-    // Nothing is made in a prefix that is not there: it would mislead Steam and others.
+    // Nothing is created in a missing prefix: that would mislead Steam and other programs.
     const bool isThere = config.steam == 0
         || (!config.prefix.isEmpty() && QFileInfo(prefixFolder(config)).isDir());
     return isThere ? nullptr : "no Proton prefix, so no configuration file to edit:";
@@ -121,8 +122,7 @@ QString configurationFile(const FlightSimulatorMapping *mapping)
     const auto *config = mapping->scan->config;
     if (config->steam == 0)
         return configurationFile(config->path);
-    // The way to a file in a prefix was found on the disk; in other letter case it would lead to
-    // another prefix.
+    // A prefix's path is spelled as on disk; in other letter case it would be another prefix.
     const QString path = prefixFolder(*config) + config->path.mid(config->prefix.size());
     const int name = path.lastIndexOf(u'/') + 1;
     return inAnyLetterCase(path.left(name), path.mid(name));
@@ -148,7 +148,7 @@ void backUp(const QString &file, const QString &suffix)
         return;
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
-    const bool copied = copyOrdinary(file, backup);
+    const bool copied = copyRegular(file, backup);
     qDebug().noquote().nospace() << "file backups to '" << backup
                                  << "'. Result: " << (copied ? "succeed" : "error");
 }

@@ -16,9 +16,9 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// What leads to @p path when it is put behind the data root. The data root may be a link: so many
-// steps up lead to the top of the disk, whether they are taken as the system takes them, from where
-// the link leads, or as text, which is the only way while the data root is missing.
+// @p path relative to the data root, which may be a link: with enough steps up, the path leads to
+// "/" both as the system resolves it, from the link's target, and as text, which is the only way
+// while the data root is missing.
 QString wayFromDataRoot(const QString &path)
 {
     const QString root = userDataRoot();
@@ -40,7 +40,7 @@ void findPrefix(XmlConfigModel *config)
     const bool isNamed = config->steam > 0 && !config->path.isEmpty();
     const QString prefix = isNamed ? survey.prefix(config->steam) : QString();
     config->prefix = prefix.isEmpty() ? QString() : wayFromDataRoot(prefix);
-    // The folders as they are spelled on disk; which file is the one is asked when it is edited.
+    // Folders are spelled as on disk; the file's own letter case is resolved when it is edited.
     const int name = config->path.lastIndexOf(u'/') + 1;
     const QString folder = survey.fileIn(prefix, config->path.left(name));
     config->path = config->prefix.isEmpty()

@@ -7,8 +7,8 @@ class XmlConfigModel;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// Where @p config names a file in the Proton prefix of a game, makes its path the way there from
-/// the data root. Where the last look for simulators saw no prefix, the path becomes empty.
+/// If @p config names a file in a game's Proton prefix, makes its path relative to the data root.
+/// The path becomes empty if the last detection found no prefix.
 void findPrefix(Library::Models::XmlConfigModel *config);
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -22,11 +22,11 @@ FlightSimulatorMapping *foundByStrategy(FlightSimScan *scan)
         qDebug("Scanning folders...");
         return foundFolder(scan);
     case 2:
-        // No registry on this platform: such entries are left to the detection library.
+        // No registry on this platform: only the detection library finds these simulators.
         qDebug("Scanning registry...");
         return nullptr;
     case 4:
-        // Never a folder of its own either; the detection library knows these simulators.
+        // Only the detection library finds these simulators, too.
         qDebug("Scanning multiple locations...");
         return nullptr;
     default:
@@ -39,7 +39,7 @@ FlightSimulatorMapping *foundFile(FlightSimScan *scan)
     const QString path
         = QDir::toNativeSeparators(QString(scan->path + u'/' + scan->key).replace(u'\\', u'/'));
     qDebug().noquote().nospace() << "file: " << path;
-    // An entry that names neither would find the root of the disk.
+    // An entry with neither would find the root of the disk.
     const bool namesAFile = !scan->path.isEmpty() || !scan->key.isEmpty();
     return namesAFile && QFile::exists(path) ? new FlightSimulatorMapping(scan, path) : nullptr;
 }
@@ -48,7 +48,7 @@ FlightSimulatorMapping *foundFolder(FlightSimScan *scan)
 {
     const QString path = QDir::toNativeSeparators(QString(scan->path).replace(u'\\', u'/'));
     qDebug().noquote().nospace() << "folder: " << path;
-    // The toolkit takes an empty path for the working directory.
+    // Qt takes an empty path for the working directory.
     const bool exists = !path.isEmpty() && QDir(path).exists();
     return exists ? new FlightSimulatorMapping(scan, path) : nullptr;
 }

@@ -8,7 +8,7 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-// How a catalogue entry itself finds its simulator: a new mapping, owned by @p scan, or null when
+// How a catalogue entry finds its simulator: returns a new mapping, owned by @p scan, or null if
 // nothing is found.
 
 /// By the strategy that the entry names.

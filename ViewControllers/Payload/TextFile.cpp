@@ -15,7 +15,7 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// Hundreds of thousands of records have less; what is bigger only eats up memory.
+// Larger than hundreds of thousands of records; larger files are refused to save memory.
 constexpr qint64 maxSize = 96LL * 1024 * 1024;
 
 } // namespace

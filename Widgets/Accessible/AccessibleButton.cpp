@@ -17,7 +17,7 @@ QStringList AccessibleButton::actionNames() const
     return names;
 }
 
-// Pressed a moment later, and not before it is clear that no other press has opened a dialog.
+// Clicked asynchronously, and only if no dialog has been opened meanwhile.
 void AccessibleButton::doAction(const QString &actionName)
 {
     if (actionName != pressAction()) {

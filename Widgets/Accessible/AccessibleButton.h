@@ -7,8 +7,8 @@ class QToolButton;
 
 namespace Quillmont::Utility::Widgets {
 
-/// What a screen reader finds of a row's button. The toolkit's own would answer a press only when
-/// all is done, the box that follows included, and leave the screen reader waiting for it.
+/// Accessible interface of a row's button. Qt's own clicks synchronously: a screen reader would
+/// hang until the work is done and the result box is closed.
 class AccessibleButton : public QAccessibleWidget
 {
 public:
@@ -18,7 +18,7 @@ public:
     void doAction(const QString &actionName) override;
 };
 
-/// Whether a dialog is open that keeps mouse and keys from @p widget; it keeps no screen reader.
+/// Whether a modal dialog blocks the mouse and keys for @p widget; a screen reader is not blocked.
 bool isBehindDialog(const QWidget *widget);
 
 } // namespace Quillmont::Utility::Widgets

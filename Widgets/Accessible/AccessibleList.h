@@ -7,8 +7,8 @@ class QListWidget;
 
 namespace Quillmont::Utility::Widgets {
 
-/// What a screen reader finds of the list of simulators: its rows with all that is in them. The
-/// toolkit's own would offer the items below the rows, which are empty.
+/// Accessible interface of the list of simulators: its children are the rows. Qt's own shows the
+/// list's items, which are empty behind the rows.
 class AccessibleList : public QAccessibleWidget
 {
 public:

@@ -7,7 +7,7 @@ class QListWidget;
 
 namespace Quillmont::Utility::Widgets {
 
-/// What a screen reader finds of a row: an entry of the list that the row stands in.
+/// Accessible interface of a row: an item of the list that contains it.
 class AccessibleRow : public QAccessibleWidget
 {
 public:

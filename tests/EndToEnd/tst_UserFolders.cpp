@@ -90,7 +90,7 @@ void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText()
     const QByteArray log = computer.program().standardError();
     QCOMPARE(difference(treeOf(computer.absolute(lost())), before), QString());
     QVERIFY(isThereAlready || !QFileInfo::exists(computer.absolute(lost())));
-    QVERIFY2(log.contains("whose name is no text"), log.constData());
+    QVERIFY2(log.contains("whose name is not valid text"), log.constData());
     if (!arguments.isEmpty()) {
         QCOMPARE(status, 2);
         QVERIFY2(log.contains("name is not valid text, so no configuration file"), log.constData());
