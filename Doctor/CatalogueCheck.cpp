@@ -17,8 +17,8 @@ namespace Quillmont::Utility::Doctor {
 
 namespace {
 
-// The keys that the program reads of each kind of object, and of what type it wants them. Behind a
-// colon: the kind of object, or of objects in the array.
+// The keys that the program reads in each kind of object, with their types. After a colon: the kind
+// of the object, or of the array's objects.
 QMap<QString, QString> keysOf(const QString &kind)
 {
     static const QMap<QString, QString> keys{
@@ -189,7 +189,7 @@ void CatalogueCheck::checkConfiguration(const QJsonObject &entry, const QString 
     checkRemoval(config, place);
 }
 
-// An entry that is not recognised is added with each installation, and never removed.
+// An entry that is not recognised is added again by each installation, and never removed.
 void CatalogueCheck::checkRemoval(const QJsonObject &config, const QString &path)
 {
     const XmlInsertionModel model(nullptr, config);

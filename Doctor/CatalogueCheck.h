@@ -13,17 +13,17 @@ namespace Quillmont::Utility::Doctor {
 
 class Page;
 
-/// What is wrong in a catalogue, and what the program makes of it: it reads leniently, and says
-/// nothing of it.
+/// Reports mistakes in a catalogue, and their effect: the program reads leniently, without a
+/// warning.
 class CatalogueCheck
 {
     Q_DECLARE_TR_FUNCTIONS(CatalogueCheck)
 
 public:
-    /// @p payload is the folder that sources are in, with a separator at its end.
+    /// @p payload is the folder of the plugin's files, with a trailing separator.
     CatalogueCheck(const QByteArray &text, const QString &payload);
 
-    /// "fine", and "findings" with "line", "column", "key" and "text" each, in the text's order.
+    /// "fine", and "findings" with "line", "column", "key" and "text" each, in text order.
     QJsonObject json() const;
 
     /// Writes @p json for a person, as FILE:LINE:COLUMN lines.
@@ -41,7 +41,7 @@ private:
 
     const JsonPlaces m_places;
     const QString m_payload;
-    QMap<QString, QString> m_names; ///< Of the entries so far, and their paths.
+    QMap<QString, QString> m_names; ///< Names of the entries so far, with their paths.
     QMultiMap<QPair<int, int>, QJsonObject> m_findings;
 };
 

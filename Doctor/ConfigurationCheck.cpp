@@ -151,7 +151,7 @@ void ConfigurationCheck::lookAtOurs(const RootChild &entry)
     m_ours.insert(QStringLiteral("fileThere"), path.isEmpty() || isFileThere(path));
 }
 
-// Listed, not judged: a maker may have reasons.
+// Listed, not judged: other makers may have their reasons.
 void ConfigurationCheck::lookAtOthers(const RootChild &entry)
 {
     const QString path = childText(entry, "Path");

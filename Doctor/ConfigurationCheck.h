@@ -19,18 +19,18 @@ namespace Quillmont::Utility::Doctor {
 
 class Problems;
 
-/// A simulator's configuration file: is it well formed, and what about our entry in it.
+/// Checks whether a simulator's configuration file is well formed and has our entry.
 class ConfigurationCheck
 {
     Q_DECLARE_TR_FUNCTIONS(ConfigurationCheck)
 
 public:
-    /// @p isInstalled: whether the plugin's files are there, so that an entry should be, too.
+    /// @p isInstalled: whether the plugin's files exist, so that the entry should, too.
     ConfigurationCheck(const Models::FlightSimulatorMapping *mapping,
                        bool isInstalled,
                        Problems *problems);
 
-    /// The findings, under stable keys.
+    /// The findings, with stable keys.
     const QJsonObject &json() const { return m_json; }
 
 private:

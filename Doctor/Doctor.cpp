@@ -25,7 +25,7 @@ Doctor::Doctor(const Options &options, QTextStream *output, QTextStream *errors)
     , m_output(output)
     , m_errors(errors)
 {
-    // Of the window's log nothing but warnings is of use here.
+    // Only warnings of the shared code's log are useful here.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
 }
 
@@ -124,7 +124,7 @@ QString Doctor::catalogueFile() const
                                            : m_options.catalogue();
 }
 
-// A maker's catalogue is where its payload is.
+// A catalogue given as an option may have its own payload beside it.
 QString Doctor::payloadFolder() const
 {
     const QString beside = QFileInfo(m_options.catalogue()).path() + QStringLiteral("/plugins/");

@@ -12,7 +12,7 @@ namespace Quillmont::Utility::Doctor {
 
 class Options;
 
-/// One run of the program: looks, and says what it has seen.
+/// One run of the program: examines, and reports.
 class Doctor
 {
     Q_DECLARE_TR_FUNCTIONS(Doctor)
@@ -24,10 +24,10 @@ public:
         CouldNotLook = 2
     };
 
-    /// All that is handed in has to outlive this.
+    /// All arguments have to outlive this.
     Doctor(const Options &options, QTextStream *output, QTextStream *errors);
 
-    /// Does what the options ask for, and gives the exit status.
+    /// Does what the options request, and returns the exit status.
     int run();
 
 private:

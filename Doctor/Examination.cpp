@@ -21,7 +21,7 @@ namespace Quillmont::Utility::Doctor {
 
 namespace {
 
-// All that detection has said of a simulator, or a list of what it turned down.
+// The folders that detection turned down for the simulator @p code.
 QJsonArray turnedDown(const QString &code)
 {
     QJsonArray places;

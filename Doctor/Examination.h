@@ -11,17 +11,17 @@ namespace Quillmont::Utility::Doctor {
 
 class Problems;
 
-/// Looks at simulators, their files and the record, and changes nothing.
+/// Examines simulators, their files and the record, and changes nothing.
 class Examination
 {
     Q_DECLARE_TR_FUNCTIONS(Examination)
 
 public:
-    /// @p payload is the folder with the plugin's files, with a separator at its end.
+    /// @p payload is the folder with the plugin's files, with a trailing separator.
     Examination(const QList<Simulator> &simulators, const QString &payload);
 
-    /// The report on the simulators of these @p names, or on all without any: what
-    /// docs/doctor.schema.json describes, less the program itself.
+    /// The report on the simulators in @p names, or on all if it is empty, as
+    /// docs/doctor.schema.json describes it, but without "program".
     QJsonObject report(const QStringList &names) const;
 
 private:

@@ -13,10 +13,10 @@ namespace Quillmont::Utility::Doctor {
 
 class Problems;
 
-/// Whether two files have the same bytes; false where one cannot be read.
+/// Whether two files have the same bytes; false if one cannot be read.
 bool haveSameBytes(const QString &first, const QString &second);
 
-/// The plugin's files in a simulator, beside those in the folder @p payload.
+/// Compares the plugin's files in a simulator with those in the payload folder.
 class FilesCheck
 {
     Q_DECLARE_TR_FUNCTIONS(FilesCheck)
@@ -26,13 +26,13 @@ public:
                const QString &payload,
                Problems *problems);
 
-    /// One object for each file, with its "state".
+    /// One object per file, with its "state".
     const QJsonArray &json() const { return m_json; }
 
-    /// How many are there, whatever is in them.
+    /// How many exist, whatever their content.
     int present() const { return m_present; }
 
-    /// What copying takes in the simulator's folder, in bytes.
+    /// The room that copying needs in the simulator's folder, in bytes.
     qint64 neededBytes() const { return m_needed; }
 
 private:

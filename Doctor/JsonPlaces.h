@@ -8,7 +8,7 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// Where in a JSON text things are, which QJsonDocument does not tell.
+/// The positions of keys and elements in a JSON text, which QJsonDocument does not report.
 class JsonPlaces
 {
 public:
@@ -18,16 +18,16 @@ public:
         int column = 1;
     };
 
-    /// Reads @p text. If it is no JSON, nothing in it has a place.
+    /// Reads @p text. If it is not JSON, nothing in it has a place.
     explicit JsonPlaces(const QByteArray &text);
 
-    /// Of the key, or the element of an array, that has this path: "0/files/1/source".
+    /// The place of the key or array element with this path, such as "0/files/1/source".
     Place of(const QString &path) const { return placeAt(m_offsets.value(path)); }
 
-    /// Of a byte.
+    /// The place of a byte.
     Place placeAt(int offset) const;
 
-    /// The paths of keys that their object has already.
+    /// The paths and offsets of keys that occur twice in their object.
     const QVector<QPair<QString, int>> &repeated() const { return m_repeated; }
 
 private:

@@ -12,7 +12,7 @@ namespace {
 
 using Lines = QVector<QString>;
 
-// With their ends; the last may have none.
+// The lines with their line ends; the last one may have none.
 Lines linesOf(const QString &text)
 {
     Lines lines;
@@ -25,7 +25,7 @@ Lines linesOf(const QString &text)
     return lines;
 }
 
-// A piece of each text, of which one takes the other's place.
+// A range of lines in each text: the new one replaces the old one.
 struct Hunk
 {
     int oldBegin;
@@ -34,7 +34,7 @@ struct Hunk
     int newEnd;
 };
 
-// How many lines the rests of the two pieces have in common at most, for each pair of beginnings.
+// For each pair of start lines, the length of the longest common subsequence of the rest.
 QVector<QVector<int>> commonCounts(const Lines &before, const Lines &after, Hunk piece)
 {
     const int rows = piece.oldEnd - piece.oldBegin;
@@ -86,7 +86,7 @@ std::vector<Hunk> hunksIn(const Lines &before, const Lines &after, Hunk piece)
     return hunks;
 }
 
-// Without the lines that are alike at both ends.
+// Leaves out the equal lines at both ends.
 Hunk differingPiece(const Lines &before, const Lines &after)
 {
     Hunk piece{0, before.size(), 0, after.size()};
@@ -104,7 +104,7 @@ Hunk differingPiece(const Lines &before, const Lines &after)
     return piece;
 }
 
-// A place without lines is named by the line in front of it.
+// An empty range is named by the line before it.
 QString range(int begin, int end)
 {
     return QStringLiteral("%1,%2").arg(end > begin ? begin + 1 : begin).arg(end - begin);

@@ -5,8 +5,8 @@ class QString;
 
 namespace Quillmont::Utility::Doctor {
 
-/// What makes @p after of @p before, as a unified diff without lines around the changes, which may
-/// be somebody else's. Empty where nothing is different; a null @p before is a missing file.
+/// A unified diff from @p before to @p after, without context lines, which may be somebody else's.
+/// Empty if nothing differs; a null @p before is a missing file.
 QString lineDiff(const QString &path, const QString &before, const QString &after);
 
 } // namespace Quillmont::Utility::Doctor

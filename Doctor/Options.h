@@ -7,7 +7,7 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// What the command line asks for.
+/// The options on the command line.
 class Options
 {
     Q_DECLARE_TR_FUNCTIONS(Options)
@@ -21,10 +21,10 @@ public:
         Version
     };
 
-    /// @p arguments are those behind the program's name.
+    /// @p arguments are those after the program's name.
     explicit Options(const QStringList &arguments);
 
-    /// Why the command line is refused, with a hint; empty if it is not.
+    /// Why the command line is invalid, with a hint; empty if it is valid.
     const QString &problem() const { return m_problem; }
 
     Task task() const { return m_task; }
@@ -34,10 +34,10 @@ public:
     /// "install", "repair" or "uninstall".
     const QString &plan() const { return m_plan; }
 
-    /// The catalogue asked for; empty for the one beside the program.
+    /// The catalogue to use; empty for the one beside the program.
     const QString &catalogue() const { return m_catalogue; }
 
-    /// The simulators asked for; none for all.
+    /// The simulators to examine; empty for all.
     const QStringList &names() const { return m_names; }
 
     static QString help();

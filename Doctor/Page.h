@@ -5,8 +5,8 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// Text for a person, without control characters: folded to the width of the terminal, and coloured
-/// where that is wanted.
+/// Text for a person, without control characters: wrapped to the width of the terminal, and
+/// coloured on request.
 class Page
 {
 public:
@@ -17,19 +17,19 @@ public:
         Bad
     };
 
-    /// For what standard output is: a file or a pipe gets no colours, and its lines are not folded.
+    /// For standard output: a file or a pipe gets no colours and no wrapping.
     static Page forStandardOutput();
 
-    /// Lines have @p width characters, or are not folded if that is 0.
+    /// Wraps lines at @p width characters, or not at all if that is 0.
     Page(int width, bool isColoured)
         : m_width(width)
         , m_isColoured(isColoured)
     { }
 
-    /// Adds a line behind @p indent blanks; what is folded is indented by two more.
+    /// Adds a line indented by @p indent spaces; wrapped lines are indented by two more.
     void add(int indent, const QString &line, Style style = Plain);
 
-    /// Adds @p line as it is, never folded.
+    /// Adds @p line as it is, never wrapped.
     void addExactly(int indent, const QString &line, Style style = Plain);
 
     void addEmptyLine() { m_text += u'\n'; }

@@ -11,7 +11,7 @@ namespace Quillmont::Utility::Doctor {
 
 class Page;
 
-/// What the window would do now in each simulator, each by itself.
+/// What the window would do now in each simulator, independently of the others.
 class Plan
 {
     Q_DECLARE_TR_FUNCTIONS(Plan)

@@ -48,7 +48,7 @@ void PlannedDisk::makeFolderOf(const QString &path)
 {
     QString folder = key(QFileInfo(path).absolutePath());
     while (!isFolder(folder) && folder.contains(u'/')) {
-        // One that was taken away before comes back.
+        // A folder that was removed before is created again.
         if (!m_goneFolders.remove(folder))
             m_newFolders.insert(folder);
         folder = folder.left(folder.lastIndexOf(u'/'));

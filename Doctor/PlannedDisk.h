@@ -8,8 +8,8 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// The disk as it would be after some changes, none of which is made. Paths that differ in doubled
-/// slashes only are one.
+/// The disk as it would be after some changes, none of which is made. Doubled slashes in paths are
+/// ignored.
 class PlannedDisk
 {
 public:
@@ -22,31 +22,30 @@ public:
         };
 
         Kind kind = Removed;
-        QString source; ///< What it is a copy of.
-        QByteArray bytes; ///< What is written.
+        QString source; ///< The file that is copied.
+        QByteArray bytes; ///< The content that is written.
     };
 
-    /// Whether there is anything at @p path, links followed.
+    /// Whether something exists at @p path, following links.
     bool exists(const QString &path) const;
 
-    /// Makes the folder that the file at @p path is to be in, and all above it.
+    /// Creates the folder of the file at @p path, with its parents.
     void makeFolderOf(const QString &path);
 
     void remove(const QString &path);
     void copy(const QString &source, const QString &target);
     void write(const QString &path, const QByteArray &bytes);
 
-    /// Takes the folder of @p path away, with all that is hidden in it, if the user sees nothing
-    /// there.
+    /// Removes the folder of @p path, with hidden files in it, if it has nothing visible.
     void removeFolderIfEmpty(const QString &path);
 
-    /// What is to happen to a file; null where nothing is.
+    /// What is planned for a file; null if nothing is.
     const File *file(const QString &path) const;
 
-    /// All of that, by path.
+    /// All planned files, by path.
     const QMap<QString, File> &files() const { return m_files; }
 
-    /// The folders that are made, or taken away, by path.
+    /// The folders that are created or removed, by path.
     QStringList newFolders() const;
     QStringList goneFolders() const;
 

@@ -6,20 +6,20 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// What is wrong, in the order in which it was found.
+/// The problems, in the order in which they were found.
 class Problems
 {
 public:
     /// The simulator may load no add-on at all.
     void addGrave(const QString &text, const QString &advice) { add("grave", text, advice); }
 
-    /// The plugin does not load, or nothing can be done about it without this.
+    /// The plugin does not load, or cannot be installed until this is solved.
     void addError(const QString &text, const QString &advice) { add("error", text, advice); }
 
-    /// It works, but not as it should.
+    /// The plugin works, but not as it should.
     void addWarning(const QString &text, const QString &advice) { add("warning", text, advice); }
 
-    /// Objects with "level", "text" and "advice".
+    /// One object per problem, with "level", "text" and "advice".
     const QJsonArray &all() const { return m_all; }
 
 private:

@@ -5,8 +5,8 @@ class QString;
 
 namespace Quillmont::Utility::Doctor {
 
-/// @p text in one line: control characters, line ends and what turns the direction of writing
-/// become "\u000a".
+/// @p text on one line: control characters, line ends and bidirectional controls become escapes
+/// such as "\u000a".
 QString printable(const QString &text);
 
 /// The same in quotation marks.

@@ -14,7 +14,7 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::Doctor {
 
-/// The installation record beside what is on the disk.
+/// Compares the installation record with the disk.
 class RecordCheck
 {
     Q_DECLARE_TR_FUNCTIONS(RecordCheck)
@@ -23,10 +23,10 @@ public:
     /// Reads the record.
     RecordCheck();
 
-    /// What it says of the simulator; empty where it says nothing.
+    /// The findings on the simulator's record; empty if it has none.
     QJsonObject of(const Models::FlightSimulatorMapping *mapping, Problems *problems) const;
 
-    /// The record as a whole, and its simulators that are not among @p names.
+    /// The record as a whole, and its simulators other than @p names.
     QJsonObject json(const QSet<QString> &names, Problems *problems) const;
 
 private:
@@ -35,7 +35,7 @@ private:
     QString m_state;
     Problems m_problems;
     QVector<QString> m_names;
-    QHash<QString, QJsonObject> m_records; ///< By name; of several the last, as a run takes it.
+    QHash<QString, QJsonObject> m_records; ///< By name; of several the last one, as in a run.
 };
 
 } // namespace Quillmont::Utility::Doctor

@@ -17,19 +17,19 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::Doctor {
 
-/// Goes through an installation or removal step by step as the window would now, on a planned disk.
+/// Runs the steps of an installation or removal, as the window would now, on a planned disk.
 class Rehearsal
 {
     Q_DECLARE_TR_FUNCTIONS(Rehearsal)
 
 public:
-    /// For the simulator of @p mapping, which has a folder, with the files in @p payload.
+    /// For the simulator of @p mapping, which must have a folder, with the files in @p payload.
     Rehearsal(const Models::FlightSimulatorMapping *mapping, const QString &payload);
 
     void install();
     void uninstall();
 
-    /// All that would be different afterwards, and what would go wrong.
+    /// Everything that would be changed, and what would go wrong.
     QJsonObject plan() const;
 
 private:

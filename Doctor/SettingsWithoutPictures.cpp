@@ -2,7 +2,7 @@
 
 namespace Quillmont::Utility::Controllers {
 
-// Qt makes pictures and colours only where there is a display. No folder is one.
+// Without Qt Gui there are no pictures and colours; no folder is stored as one.
 bool SerialisedObject::readPicture(int, qint64)
 {
     return fail(Harmful);

@@ -41,7 +41,7 @@ Simulator detected(FlightSimScan *entry, const QMap<QString, QString> &simPaths)
 
 using Place = QPair<QString, QString>; // a conflict's name, and a folder
 
-// Who has a folder in the end; of several in one group the first.
+// Which entry keeps a folder; of several in one group the first.
 QHash<Place, QString> keepers(const QList<Simulator> &simulators)
 {
     QHash<Place, QString> names;

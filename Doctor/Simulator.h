@@ -12,24 +12,24 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::Doctor {
 
-/// A catalogue entry as the window shows it, and how it came by its folder.
+/// A catalogue entry as the window shows it, and how its folder was found.
 struct Simulator
 {
     enum Origin {
         NotFound,
         ByStrategy, ///< The entry's own "location".
-        ByDetection, ///< What the simulator, Steam or a well-known folder says.
+        ByDetection, ///< The simulator's own files, Steam or a well-known folder.
         ByHand ///< The folder that the user chose in the window.
     };
 
-    Models::FlightSimulatorMapping *mapping = nullptr; ///< With the folder; not owned.
+    Models::FlightSimulatorMapping *mapping = nullptr; ///< The entry with its folder; not owned.
     Origin origin = NotFound;
-    QString gaveUp; ///< The folder that it found and a conflict took from it.
-    QString gaveWayTo; ///< The name of the entry that kept that one.
+    QString gaveUp; ///< The folder that it found but gave up in a conflict.
+    QString gaveWayTo; ///< The name of the entry that keeps that folder.
 };
 
-/// The entries of the catalogue with that text, found as the window finds them, in its order.
-/// They become children of @p owner.
+/// The entries in the text @p catalogue, as the window finds and orders them. They become children
+/// of @p owner.
 QList<Simulator> simulatorsIn(const QString &catalogue, QObject *owner);
 
 } // namespace Quillmont::Utility::Doctor

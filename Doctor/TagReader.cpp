@@ -29,7 +29,7 @@ Tag TagReader::next()
     return tag;
 }
 
-// What has an end of its own, whatever is in it.
+// A comment, CDATA section or the like, which may contain tags.
 Tag TagReader::special(int begin) const
 {
     const auto rest = m_text.midRef(begin);

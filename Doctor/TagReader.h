@@ -14,15 +14,15 @@ struct Tag
         End,
         Declaration, ///< "<?xml ...?>"
         Other, ///< A comment, an instruction, a CDATA section, a document type.
-        Malformed, ///< It begins like no tag: "<\Path>", "< Path>".
+        Malformed, ///< It does not begin like a tag: "<\Path>", "< Path>".
         Unfinished, ///< Another tag, or the end of the text, comes before its ">".
         Nothing ///< There is no more markup.
     };
 
     Kind kind = Nothing;
-    QString name; ///< Of an element, as far as it can be told; with the first "<\" or "</ " gone.
+    QString name; ///< The element's name, as far as it can be recognised; without "<\" or "</ ".
     int begin = -1; ///< Of its "<".
-    int end = -1; ///< Behind its ">".
+    int end = -1; ///< After its ">".
 };
 
 /// Goes from tag to tag through a text that a strict reader has refused.

@@ -11,7 +11,7 @@ namespace Quillmont::Utility::Doctor {
 
 class Page;
 
-/// Tells a person what an Examination's report says.
+/// Writes an Examination's report as text for a person.
 class TextReport
 {
     Q_DECLARE_TR_FUNCTIONS(TextReport)

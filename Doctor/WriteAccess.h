@@ -5,8 +5,8 @@ class QString;
 
 namespace Quillmont::Utility::Doctor {
 
-/// Whether this user may make and replace the file at @p path: in its folder, or in the one in
-/// which that would have to be made.
+/// Whether this user may create and replace the file at @p path: in its folder, or if that is
+/// missing in the nearest existing parent.
 bool mayReplace(const QString &path);
 
 } // namespace Quillmont::Utility::Doctor

@@ -19,7 +19,7 @@ XmlDamage::XmlDamage(const QString &text, const QString &problem)
     m_sentence = tr("It is not well-formed XML: %1").arg(problem);
 }
 
-// What needs no look at the tags.
+// Finds damage that can be recognised without looking at the tags.
 bool XmlDamage::findKind()
 {
     static const QRegularExpression page(QStringLiteral(R"(^\s*<(!doctype\s+)?html\b)"),
@@ -100,7 +100,7 @@ bool XmlDamage::takeLateDeclaration(const Tag &tag)
             : tr("A second document begins in line %1: somebody appended it.").arg(line));
 }
 
-// A second root may also mean that the line which begins the first is lost; what follows tells.
+// A second root may also mean that the first one's start tag is lost; later tags decide.
 bool XmlDamage::takeStart(const Tag &tag)
 {
     if (m_open.isEmpty() && m_rootEnd >= 0 && m_secondRoot < 0)
@@ -171,7 +171,7 @@ bool XmlDamage::takeMalformed(const Tag &tag)
                    tr(R"("<" in line %1 begins no tag; as text it is written "&lt;".)")
                        .arg(lineOf(tag.begin)));
     const bool isEnd = m_text.at(tag.begin + 1) == u'/' || m_text.at(tag.begin + 1) == u'\\';
-    // The document has a greater damage, which the reader sees later.
+    // The document has worse damage, which the reader reports later.
     if (m_secondRoot >= 0 && isEnd) {
         if (!m_open.isEmpty() && m_open.constLast().name == tag.name)
             m_open.removeLast();
@@ -184,7 +184,7 @@ bool XmlDamage::takeMalformed(const Tag &tag)
                    .arg((isEnd ? QStringLiteral("</") : QStringLiteral("<")) + tag.name + u'>'));
 }
 
-// What is wrong between the tags.
+// Finds damage in the text between the tags.
 bool XmlDamage::findText()
 {
     static const QRegularExpression ampersand(
@@ -214,7 +214,7 @@ bool XmlDamage::findText()
                    .arg(lineOf(forbidden)));
 }
 
-// "line 3, column 5: why", as the library says it.
+// Parses the library's "line 3, column 5: why".
 void XmlDamage::takeReaderPlace(const QString &problem)
 {
     static const QRegularExpression form(QStringLiteral("^line (\\d+), column (\\d+):"));

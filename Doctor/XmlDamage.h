@@ -9,8 +9,8 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// Says in words what is wrong with a file that is not well-formed XML. Whether it is, the library
-/// decides; this only looks for what a person would see there.
+/// Explains what is wrong with a file that the library has refused as not well-formed XML, in terms
+/// of what a person sees there.
 class XmlDamage
 {
     Q_DECLARE_TR_FUNCTIONS(XmlDamage)
@@ -22,12 +22,12 @@ public:
     /// One sentence, or a few.
     const QString &sentence() const { return m_sentence; }
 
-    /// Where that is, from 1. The reader may have noticed it later.
+    /// The line of the damage, from 1; the reader may have noticed it later.
     int line() const { return lineOf(m_place); }
 
     int column() const;
 
-    /// The line there without its white space, cut off after some 160 characters.
+    /// That line, trimmed and cut off after about 160 characters.
     QString brokenLine() const;
 
 private:
@@ -57,8 +57,8 @@ private:
     int m_place = 0;
     QVector<Open> m_open;
     QString m_root;
-    int m_rootEnd = -1; ///< Behind the root element, once it has ended.
-    int m_secondRoot = -1; ///< The begin of an element behind that.
+    int m_rootEnd = -1; ///< After the root element, once it has ended.
+    int m_secondRoot = -1; ///< The begin of an element after that.
 };
 
 } // namespace Quillmont::Utility::Doctor

@@ -15,13 +15,13 @@ using Quillmont::Utility::Doctor::Options;
 
 int main(int argc, char *argv[])
 {
-    // As the program with the window does, so that both read the same.
+    // As in the program with the window, so that both read the same.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     PathEncoding::ignoreRelativeFolders();
     std::signal(SIGPIPE, SIG_IGN);
 
     const QCoreApplication application(argc, argv);
-    // The name that the window's program has goes into the paths to the user's files.
+    // The paths of the user's files contain the name of the program with the window.
     QCoreApplication::setApplicationName(QStringLiteral("QuillmontOrbwell"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORBWELL_VERSION));
 
