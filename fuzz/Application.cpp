@@ -10,7 +10,7 @@ namespace Fuzz {
 
 void makeApplication()
 {
-    // The program takes its name out of paths wherever it stands.
+    // The program removes every occurrence of its name from paths.
     static std::string name("OrbwellFuzzing");
     static std::array<char *, 2> arguments{name.data(), nullptr};
     static int count = 1;

@@ -3,8 +3,8 @@
 
 namespace Fuzz {
 
-/// Makes the toolkit's application object, as the program does, but without a screen, without a
-/// command line, and with a log that nobody reads. It lives until the process ends.
+/// Creates the QApplication like the program, but without a screen and a command line, and discards
+/// the log. It exists until the process ends.
 void makeApplication();
 
 } // namespace Fuzz

@@ -5,7 +5,7 @@
 
 namespace Fuzz {
 
-/// Ends the run as a finding unless it @p holds that @p what.
+/// Reports a finding unless @p holds; @p what describes the expectation.
 inline void expect(bool holds, const char *what)
 {
     if (holds)

@@ -25,13 +25,13 @@ QString keyOf(const QString &name)
     return QStringLiteral("flightsim/") + QString(name).replace(u' ', u'_');
 }
 
-// Slashes part a key into levels, however many stand in a row.
+// Slashes separate a key into levels; several in a row count as one.
 QString levels(const QString &key)
 {
     return key.split(u'/', Qt::SkipEmptyParts).join(u'/');
 }
 
-// A settings file and the one object that works on it, for the whole run.
+// A settings file and the single object that works on it, for the whole run.
 class Store
 {
 public:
@@ -80,7 +80,7 @@ Settings Store::content() const
     const QSettings file(path(), QSettings::IniFormat);
     Settings content;
     const QStringList keys = file.allKeys();
-    // A line without a name makes a key that nobody can ask for.
+    // A line without a name creates a key that cannot be requested.
     for (const QString &key : keys) {
         if (key == levels(key))
             content.insert(key, file.value(key));
@@ -115,7 +115,7 @@ void remove(const QString &name, Settings *expected)
     expect(!store().settings->getSettings(key).isValid(), "what is removed is gone");
 }
 
-// What Qt cannot be let at is not even looked at with Qt.
+// A file that is not safe for Qt is not read with Qt here either.
 void leaveAlone(const QString &name)
 {
     const QByteArray before = store().file();
@@ -127,8 +127,8 @@ void leaveAlone(const QString &name)
 
 } // namespace
 
-// The input is a settings file up to a line "----", and then one row's work per line: "NAME=FOLDER"
-// saves and "NAME" removes. A vertical tab stands for a line end.
+// The input is a settings file up to a line "----", and then one operation per line: "NAME=FOLDER"
+// saves and "NAME" removes. A vertical tab means a line end.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));

@@ -19,7 +19,7 @@ using namespace Quillmont::Utility::Models;
 using Fuzz::expect;
 using Quillmont::Library::Models::XmlInsertionModel;
 
-// The catalogue's rules told once more, from the JSON's side.
+// The catalogue's rules stated a second time, based on the JSON.
 namespace {
 
 QString textAt(const QJsonObject &json, const char *key)
@@ -62,7 +62,7 @@ void checkRoot(int root, const QString &text)
     else if (number.match(text).hasMatch())
         expect(text.toDouble() == root, "the root is the number that is written");
     else if (text.size() < 32 && text.contains(noNumber) && text.toUtf8().size() == text.size())
-        expect(root == 0, "what is no number is the root 0");
+        expect(root == 0, "a root that is not a number is 0");
 }
 
 void checkFiles(const QMap<QString, QString> &files, const QJsonArray &written)
@@ -84,7 +84,8 @@ void checkRemoval(const FlightSimRemoval &removal, const QJsonObject &json)
     expect(removal.parent == textAt(json, "parent") && removal.key == textAt(json, "key")
                && removal.value == textAt(json, "value"),
            "a removal has the texts that are written");
-    expect(removal.deleteParent == flagAt(json, "delete_parent", false), "so with its flag");
+    expect(removal.deleteParent == flagAt(json, "delete_parent", false),
+           "a removal has the flag that is written");
     const QJsonArray files = json[QLatin1String("files")].toArray();
     expect(removal.files.size() == files.size(), "a removal has each file");
     for (int i = 0; i < files.size(); ++i) {
@@ -115,7 +116,7 @@ void checkConflict(const FlightSimConflict &conflict, const QJsonObject &json)
     expect(conflict.removeOnConflict == flagAt(json, "remove_on_conflict", true)
                && conflict.checkFile == flagAt(json, "check_file", false)
                && conflict.location == numberAt(json, "location"),
-           "so with its flags and its number");
+           "a conflict has the flags and the number that are written");
 }
 
 void checkParts(const FlightSimScan &scan, const QJsonObject &json)
@@ -158,12 +159,12 @@ void checkEntry(const QJsonObject &json)
     auto *mapping = new FlightSimulatorMapping(&scan, {});
     expect(!mapping->isAddonInstalled(), "nothing is installed without a folder");
     mapping->updateFlightSimPath(QStringLiteral("/dev/null"));
-    expect(mapping->isAddonInstalled() == scan.files.isEmpty(), "no file lies in a file");
+    expect(mapping->isAddonInstalled() == scan.files.isEmpty(), "no file is inside a file");
 }
 
 } // namespace
 
-// Any catalogue reads as its format says, and no part of it is lost or owned twice.
+// Any catalogue is read as its format specifies, and no part of it is lost or owned twice.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));

@@ -89,7 +89,7 @@ Office &office()
     return office;
 }
 
-// What the bytes of a record hold; anything that is no list holds nothing.
+// The records in the bytes; none if they are not a list.
 QJsonArray records(const QByteArray &bytes)
 {
     const QString text = QTextStream(bytes).readAll();
@@ -102,7 +102,7 @@ bool has(const QJsonValue &record, const QString &name)
     return written.isString() && written.toString() == name;
 }
 
-// The records that stay when one goes: the last of its name.
+// The records without the last one of this name.
 QJsonArray without(const QJsonArray &all, const QString &name)
 {
     int last = -1;
@@ -149,7 +149,7 @@ void checkReading(const QByteArray &bytes)
     }
 }
 
-// Byte by byte: the toolkit's reader drops a byte-order mark at the beginning of a text.
+// Checked as bytes: QTextStream drops a byte-order mark at the beginning.
 void checkWritten(const QJsonArray &expected)
 {
     const QByteArray written = office().record();
@@ -183,7 +183,7 @@ void checkWriting(const QByteArray &bytes, FlightSimulatorMapping *mapping)
 
 } // namespace
 
-// Any bytes read as records or as none, and other programs' records survive ours.
+// Any bytes are read as records or as none, and other records are kept.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));

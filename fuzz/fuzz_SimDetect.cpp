@@ -17,7 +17,7 @@ using Quillmont::SimDetect::Environment;
 
 namespace {
 
-// A computer with a simulator of each kind, whose own and whose shops' files anybody may write.
+// A computer with a simulator of each kind; the files that name their folders are the input.
 class FuzzedComputer
 {
 public:
@@ -38,7 +38,7 @@ private:
 
 constexpr auto Library = "home/.local/share/Steam";
 
-// What is read of them, in the input's order.
+// The files read by detection, in the input's order.
 constexpr std::array<const char *, 8> Files = {
     "home/.local/share/Steam/config/libraryfolders.vdf",
     "home/.local/share/Steam/steamapps/appmanifest_314160.acf",
@@ -88,7 +88,7 @@ void FuzzedComputer::write(const QList<QByteArray> &contents) const
     }
 }
 
-// Only what is there is found, and only under the name of what it is.
+// Only existing simulators are found, and only under their own codes.
 void FuzzedComputer::check(const QString &code, const QString &folder) const
 {
     static const QMap<QString, const char *> marks{{QStringLiteral("XP10"), "Resources/plugins"},
@@ -100,10 +100,10 @@ void FuzzedComputer::check(const QString &code, const QString &folder) const
     expect(marks.contains(code), "nothing is found that is not there");
     expect(folder.startsWith(u'/') && !folder.endsWith(u'/')
                && !folder.contains(QLatin1String("//")),
-           "a folder is absolute and without a slash at its end");
+           "a folder is absolute and without a trailing slash");
     const QString resolved = QFileInfo(folder).canonicalFilePath();
     expect(resolved.startsWith(QFileInfo(m_sandbox.root()).canonicalFilePath() + u'/'),
-           "a folder lies on the computer");
+           "a folder is on the computer");
     expect(QFileInfo::exists(folder + u'/' + QLatin1String(marks.value(code))),
            "a folder looks like its simulator");
 }
@@ -126,8 +126,8 @@ QList<QByteArray> partsOf(QByteArray bytes)
 
 } // namespace
 
-// The input is one file's content after the other, parted by lines "----"; "$R" in it stands for
-// the folder that holds all. No file makes a simulator out of something else, or two out of one.
+// The input is the content of the files, separated by lines "----"; "$R" is the root folder. No
+// file turns anything else into a simulator, or one simulator into two.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));
@@ -140,6 +140,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     expect(folders.size() == found.size(), "no folder is two simulators");
     expect(Quillmont::SimDetect::simPaths(computer().environment) == found,
-           "a second look finds the same");
+           "a second detection finds the same");
     return 0;
 }

@@ -9,7 +9,7 @@ using Quillmont::SimDetect::TextFormat;
 
 namespace {
 
-// Goes through all of it. Each step takes at least one byte, so there are no more than bytes.
+// Reads the whole text. Each step takes at least one byte, which limits the number of steps.
 void readEverything(const QByteArray &bytes)
 {
     TextFormat text(bytes);
@@ -39,6 +39,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     while (skipped.next())
         skipped.skip();
     TextFormat entered(bytes);
-    expect(!entered.enter("AppState") || entered.isBlock(), "what is entered is a block");
+    expect(!entered.enter("AppState") || entered.isBlock(), "an entered entry is a block");
     return 0;
 }

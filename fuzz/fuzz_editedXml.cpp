@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// Any bytes at all are left alone, or get our entry and lose it again without a trace.
+// Any bytes are either unchanged, or get our entry and lose it again without a trace.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const auto length = static_cast<int>(size);

@@ -17,8 +17,7 @@ using namespace Benchmarks;
 using namespace Quillmont::SimDetect;
 using namespace Tests;
 
-// How long it takes to find every simulator in the home of somebody who has several, and many
-// other games.
+// The time to find every simulator in the home of a user with several, and many other games.
 
 namespace {
 
@@ -55,8 +54,8 @@ Cost costOnce(const Environment &environment)
     return costOf([&environment] { simPaths(environment); });
 }
 
-/// The most often that one file is opened in a detection, as the operating system sees it.
-int mostOpenings(const QString &program)
+/// The maximum number of times that a detection opens any one file, according to strace.
+int maxOpenings(const QString &program)
 {
     const QTemporaryDir folder;
     const QString log = folder.filePath(QStringLiteral("calls"));
@@ -98,7 +97,7 @@ void tellTime(const Environment &environment, bool tiny)
 
 void tellOpenings(const QString &program)
 {
-    const int most = mostOpenings(program);
+    const int most = maxOpenings(program);
     Table::row(QStringLiteral("detection in a normal home, reads of one file"),
                most < 0 ? QStringLiteral("strace is missing") : QString::number(most),
                {},

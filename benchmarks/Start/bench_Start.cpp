@@ -13,7 +13,7 @@ using namespace Benchmarks;
 using Tests::Display;
 using Tests::Sandbox;
 
-// From the start of the process until its window is painted, for the program that ships.
+// From the start of the process until its window is painted, for the shipped program.
 
 namespace {
 
@@ -76,8 +76,8 @@ void onAnXServer(Sandbox *sandbox, int pairs)
     Table::compare(what, &Cost::memory, result, 0.7);
     Table::compare(what, &Cost::cpu, result, 0);
     Table::explain(QStringLiteral(
-        "start, X server: the same in Xvfb. Floor: a program that shows an empty window, as the "
-        "toolkit starts it, which loads OpenGL there."));
+        "start, X server: the same in Xvfb. Floor: a program that shows an empty window, as "
+        "Qt starts it, which loads OpenGL there."));
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include <QApplication>
 
-// The smallest program that shows a window of as many rows as its argument says, or without one an
-// empty window of the same size.
+// The smallest program that shows a window with the number of rows in its argument, or without an
+// argument an empty window of the same size.
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);

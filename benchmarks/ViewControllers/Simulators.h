@@ -20,11 +20,11 @@ namespace Benchmarks {
 class Simulators
 {
 public:
-    /// What each simulator gets.
+    /// The plugin files for each simulator.
     struct Payload
     {
         int files;
-        int size; ///< Of each, in bytes.
+        int size; ///< Of each file, in bytes.
         int type; ///< As in the catalogue; 0 has a configuration file of 20 KB.
     };
 
@@ -33,20 +33,20 @@ public:
     Simulators(const Simulators &) = delete;
     Simulators &operator=(const Simulators &) = delete;
 
-    /// Makes all as it was before anything was installed.
+    /// Restores the state before any installation.
     void reset() const;
 
-    /// What @p work of a new controller costs.
+    /// The cost of @p work on a new controller.
     static Cost costOfController(
         const std::function<void(Quillmont::Utility::ViewControllers::ScanController *)> &work);
 
     /// Copies the payload into all simulators, one file after the other.
     void copyBare() const;
 
-    /// Where the files belong, for all simulators.
+    /// The files' destinations in all simulators.
     QStringList targets() const;
 
-    /// A configuration file as it was before.
+    /// The initial configuration file.
     static QByteArray configuration();
 
 private:

@@ -39,8 +39,8 @@ Cost costOfCopying(const Simulators &simulators)
     return costOf([&] { simulators.copyBare(); });
 }
 
-/// What the configuration file of each simulator takes at least: it is read for each file once
-/// when the rest of an old installation is cleared away and once when the new one comes.
+/// The minimum cost of each simulator's configuration file: it is read twice per plugin file, once
+/// when an old installation is cleared and once when the new one is added.
 Cost costOfCopyingAndReading(const Simulators &simulators)
 {
     simulators.reset();
@@ -66,7 +66,7 @@ void install(const QString &what, Simulators::Payload payload, int pairs, double
     Table::compare(what, &Cost::wall, result, goal);
     Table::compare(what, &Cost::cpu, result, goal);
     if (payload.type == 0) {
-        // It says where the time goes; once is enough for that, since once takes long.
+        // It only shows where the time goes, and takes long, so it is measured once.
         const auto floor = [&] {
             return costOfCopyingAndReading(simulators);
         };

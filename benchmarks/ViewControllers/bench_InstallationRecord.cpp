@@ -16,7 +16,7 @@ using Quillmont::Utility::ViewControllers::ScanController;
 using Tests::readFile;
 using Tests::writeFile;
 
-// One installation where the record holds a great many simulators already.
+// One installation with a record that already has very many simulators.
 
 namespace {
 

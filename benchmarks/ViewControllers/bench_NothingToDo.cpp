@@ -59,7 +59,7 @@ int main(int argc, char *argv[])
         costs.append(result.ours.cpu);
     }
     Table::growth(what, sizes, costs);
-    Table::explain(QStringLiteral("nothing to do: an unattended run where all is installed, "
+    Table::explain(QStringLiteral("nothing to do: an unattended run with everything installed, "
                                   "without the start of the program. "
                                   "Floor: one test of each plugin file."));
     return 0;

@@ -30,7 +30,7 @@ QString folder(int number)
     return QStringLiteral("/Sims/Simulator %1").arg(number);
 }
 
-/// An entry of each like those of the catalogue that ships.
+/// Entries like those of the shipped catalogue.
 void writeCatalogue(int entries)
 {
     const QByteArray shipped

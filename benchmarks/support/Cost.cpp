@@ -83,7 +83,7 @@ Cost costOfProgram(const QStringList &command)
 Comparison compare(int pairs, const std::function<Cost()> &ours, const std::function<Cost()> &floor)
 {
     constexpr int warmUp = 1;
-    constexpr int mostPairs = 101;
+    constexpr int maxPairs = 101;
     constexpr int milliseconds = 2000;
     QVector<Cost> our;
     QVector<Cost> floors;
@@ -91,7 +91,7 @@ Comparison compare(int pairs, const std::function<Cost()> &ours, const std::func
     QElapsedTimer clock;
     clock.start();
     const auto isEnough = [&](int i) {
-        const bool more = pairs > 1 && i < mostPairs && !clock.hasExpired(milliseconds);
+        const bool more = pairs > 1 && i < maxPairs && !clock.hasExpired(milliseconds);
         return i >= pairs + (pairs > 1 ? warmUp : 0) && !more;
     };
     for (int i = 0; !isEnough(i); ++i) {
@@ -110,7 +110,7 @@ Comparison compare(int pairs, const std::function<Cost()> &ours, const std::func
     return {median(our), median(floors), median(ratios)};
 }
 
-// The slope of the line that fits best where both are drawn by their logarithms.
+// The slope of the best-fitting line through the logarithms of both.
 double exponent(const QVector<double> &sizes, const QVector<double> &costs)
 {
     double x = 0;

@@ -8,15 +8,15 @@
 
 namespace Benchmarks {
 
-/// What some work took.
+/// The cost of some work.
 struct Cost
 {
     double wall = 0; ///< Milliseconds on the clock.
-    double cpu = 0; ///< Milliseconds of the processor's.
-    double memory = 0; ///< Megabytes at the peak; only that of a program is known.
+    double cpu = 0; ///< Milliseconds of processor time.
+    double memory = 0; ///< Peak memory in megabytes; only known for a program.
 };
 
-/// Our cost, the floor's, and how often the floor goes into ours, all medians.
+/// Our cost, the floor's, and their ratio, all medians.
 struct Comparison
 {
     Cost ours;
@@ -24,19 +24,19 @@ struct Comparison
     Cost ratio;
 };
 
-/// The cost of @p work, done here and now.
+/// The cost of @p work, done in this process.
 Cost costOf(const std::function<void()> &work);
 
-/// The cost of running @p command to its end, which has to be a good one.
+/// The cost of running @p command, which has to succeed.
 Cost costOfProgram(const QStringList &command);
 
-/// Measures both in turn, at least @p pairs times and more often where that takes no time, each
-/// going first as often as the other: what slows the computer down slows both. The first pair of
-/// several warms caches and does not count.
+/// Measures both alternately, at least @p pairs times and more often if they are fast, each going
+/// first equally often, so that a busy computer slows both. The first of several pairs warms caches
+/// and does not count.
 Comparison
 compare(int pairs, const std::function<Cost()> &ours, const std::function<Cost()> &floor);
 
-/// The power of the size that the costs grow with: 1 is linear, 2 quadratic.
+/// The exponent of the costs' growth with the size: 1 is linear, 2 quadratic.
 double exponent(const QVector<double> &sizes, const QVector<double> &costs);
 
 } // namespace Benchmarks

@@ -7,7 +7,7 @@ class QListWidget;
 
 namespace Benchmarks {
 
-/// The child widgets of a simulator's row with what they show, and nothing behind them.
+/// The child widgets of a simulator's row with their content, but without any function.
 class PlainRow : public QWidget
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ class PlainRow : public QWidget
 public:
     PlainRow(QWidget *parent, const QString &name, const QString &path);
 
-    /// Puts a row at the end of @p list, as high as the program's rows are.
+    /// Appends a row to @p list, as high as the program's rows.
     static void addTo(QListWidget *list, const QString &name, const QString &path);
 };
 
-/// A window with those child widgets that the program's window has, and @p rows plain rows.
+/// A window with the child widgets of the program's window, and @p rows plain rows.
 QWidget *plainWindow(int rows, const QString &path);
 
 } // namespace Benchmarks

@@ -7,7 +7,7 @@
 
 namespace Benchmarks {
 
-/// Lets the log go nowhere: what a terminal takes to show it is not what is measured.
+/// Discards the log, so that the time of a terminal to show it is not measured.
 inline void beQuiet()
 {
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {

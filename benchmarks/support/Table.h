@@ -7,20 +7,20 @@
 
 namespace Benchmarks {
 
-/// Writes a benchmark's part of the table that script/bench puts together. A line that begins
-/// with "|" is a row of it, every other line says what the rows above compare.
+/// Writes a benchmark's part of the table that script/bench assembles. A line that begins with "|"
+/// is a row; every other line explains the rows above.
 class Table
 {
 public:
-    /// How many pairs are measured: 7, or 1 with "--tiny" among the arguments.
+    /// The number of pairs to measure: 7, or 1 with the argument "--tiny".
     static int pairs(int argc, const char *const *argv);
 
-    /// A row of the median of @p member on both sides; @p goal is the most it may be of the floor,
-    /// 0 if that is only told.
+    /// A row with the medians of @p member on both sides; @p goal is the maximum ratio to the
+    /// floor, 0 if there is none.
     static void
     compare(const QString &what, double Cost::*member, const Comparison &comparison, double goal);
 
-    /// A row for how the costs of the rows above grow.
+    /// A row with the growth of the costs in the rows above.
     static void
     growth(const QString &what, const QVector<double> &sizes, const QVector<double> &costs);
 
@@ -31,7 +31,7 @@ public:
                     const QString &ratio,
                     const QString &goal);
 
-    /// What the rows above compare, a sentence or two.
+    /// Explains the rows above, in a sentence or two.
     static void explain(const QString &text);
 };
 

@@ -14,8 +14,8 @@
 using namespace Benchmarks;
 using Tests::writeFile;
 
-// Compares adding an entry with reading the same bytes once. Both grow with the file alike, so the
-// ratio says whether a big file is slow because of us.
+// Compares adding an entry with reading the same bytes once. Both grow linearly with the file, so
+// the ratio shows whether we make a large file slow.
 
 namespace {
 
@@ -96,7 +96,7 @@ int main(int argc, char *argv[])
     for (const char *encoding : {"UTF-8", "windows-1252", "UTF-16", "Shift_JIS"})
         compareSizes(encoding, &model, pairs);
     Table::explain(QStringLiteral(
-        "XML insertion: one entry into a file of so many others, reading and writing the file "
+        "XML insertion: one entry into a file with that many others, reading and writing the file "
         "included. Floor: QXmlStreamReader reads the same bytes once."));
     return 0;
 }

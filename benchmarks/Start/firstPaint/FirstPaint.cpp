@@ -14,8 +14,8 @@ FirstPaint::FirstPaint(QObject *parent)
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-// The rest of the window is painted and handed to the screen before the event loop goes on. What
-// the program does at its end is no part of its start.
+// The rest of the window is painted and shown before the event loop continues. The program's normal
+// exit is not part of its start.
 bool FirstPaint::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::Paint) {

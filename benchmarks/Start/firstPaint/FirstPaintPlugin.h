@@ -5,8 +5,8 @@
 
 namespace Benchmarks {
 
-/// Watches a program that knows nothing of it: the toolkit loads this plugin when
-/// QT_QPA_GENERIC_PLUGINS names "orbwell-first-paint".
+/// Watches an unmodified program: Qt loads this plugin if QT_QPA_GENERIC_PLUGINS names
+/// "orbwell-first-paint".
 class FirstPaintPlugin : public QGenericPlugin
 {
     Q_OBJECT
