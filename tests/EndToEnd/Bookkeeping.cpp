@@ -61,7 +61,7 @@ void Bookkeeping::uninstall(const QString &simulator)
     record(simulator, false);
 }
 
-// Later entries come first. What is complete is only recorded anew.
+// Later entries come first. A complete installation is only recorded again.
 QStringList Bookkeeping::installEverywhere()
 {
     QStringList done;
@@ -124,7 +124,7 @@ void Bookkeeping::removeEntry(const QString &simulator)
     takeOut(&m_disk, QStringLiteral("sims/%1\\x.cfg").arg(simulator));
 }
 
-// By what can be seen in it.
+// Only visible content counts.
 void Bookkeeping::removeIfEmpty(const QString &folder)
 {
     for (auto it = m_disk.keyBegin(); it != m_disk.keyEnd(); ++it) {

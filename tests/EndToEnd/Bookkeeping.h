@@ -12,12 +12,12 @@ namespace Tests {
 
 class Computer;
 
-/// What ought to lie on a computer after each thing that its user does there: the program as a
-/// few lines that know nothing of how it works. Every simulator of the catalogue is found.
+/// A model of the program: which files should be on a computer after each action of its user,
+/// independent of the implementation. Every simulator of the catalogue is found.
 class Bookkeeping
 {
 public:
-    /// Starts from what @p computer holds and has the @p catalogue.
+    /// Starts from the files on @p computer, with this @p catalogue.
     Bookkeeping(const Computer &computer, const QJsonArray &catalogue);
 
     /// The names of the simulators, in the catalogue's order.
@@ -26,10 +26,10 @@ public:
     bool isInstalled(const QString &simulator) const;
     void install(const QString &simulator);
     void uninstall(const QString &simulator);
-    /// Installs wherever the plugin is missing; the names of those simulators, in order.
+    /// Installs wherever the plugin is missing; returns the names of those simulators, in order.
     QStringList installEverywhere();
 
-    /// What somebody else does to a file.
+    /// Applies another program's change to a file.
     void change(const QString &path, const QByteArray &content);
     void lose(const QString &path);
 
@@ -41,10 +41,10 @@ public:
     QStringList pluginFilesOf(const QString &simulator) const;
     QString configurationOf(const QString &simulator) const;
 
-    /// What lies there now, with the first backup of each set.
+    /// The files that should be there now, with the first backup of each set.
     const Disk &disk() const { return m_disk; }
 
-    /// By backupOf(): what should have been kept each time, as far as the clock let it.
+    /// By backupOf(): the contents that were backed up; backups within the same second fail.
     const QMap<QString, QVector<QByteArray>> &backups() const { return m_backups; }
 
 private:

@@ -137,7 +137,7 @@ void Computer::answer(const SeenWindow &window)
         m_program.press(QStringLiteral("OK"));
 }
 
-// A window can be told to appear, and known to this process, before the server shows it.
+// A window may be known to this process before the server shows it.
 void Computer::click(const SeenWindow &window)
 {
     QElapsedTimer sinceClicked;

@@ -16,11 +16,11 @@ class Display;
 QMap<QString, QString> pluginFiles(const QJsonObject &entry);
 
 /// A user's computer: simulators "sims/<name>", their configuration files "Maker/<name>/dll.xml"
-/// below the data root, and the program, which runs on it to its end, again and again.
+/// below the data root, and the program, of which it makes any number of complete runs.
 class Computer
 {
 public:
-    /// Runs the program on @p display and answers with its mouse, or without a screen.
+    /// Runs the program on @p display, whose mouse answers boxes, or without a screen.
     explicit Computer(const Display *display = nullptr);
 
     Program &program() { return m_program; }
@@ -39,14 +39,14 @@ public:
 
     /// A catalogue entry of @p type 0 or 1 that finds the simulator in its folder, if it exists.
     QJsonObject entry(const QString &simulator, int type) const;
-    /// The same, which finds nothing: only a record can know the simulator's folder.
+    /// The same for an entry that finds nothing: only a record can name the simulator's folder.
     QJsonObject hiddenEntry(const QString &simulator, int type) const;
     /// Places the catalogue and the files to install beside the program.
     void setCatalogue(const QJsonArray &entries);
 
-    /// Makes the simulator's folder, with somebody else's file in "Gauges".
+    /// Creates the simulator's folder, with another program's file in "Gauges".
     void addSimulator(const QString &simulator) const;
-    /// Puts the plugin's files there, "old" in each.
+    /// Adds the plugin's files, each with the content "old".
     void addPlugin(const QString &simulator, int type) const;
     /// Writes the file at @p path of disk().
     void write(const QString &path, const QByteArray &content) const;
@@ -56,10 +56,10 @@ public:
     void setRecords(const QJsonArray &records) const;
     QJsonArray records() const;
 
-    /// Runs the program, answers its boxes with Ok and closes its window; the exit status.
+    /// Runs the program, answers its boxes with Ok and closes its window; returns the exit status.
     int run(const QStringList &arguments);
 
-    /// What the boxes of the last run said, in order.
+    /// The boxes of the last run, in order.
     const QVector<SeenWindow> &boxes() const { return m_boxes; }
 
     /// The same, "title: text" each.
@@ -68,11 +68,11 @@ public:
     /// Whether the last run showed the window.
     bool showedTheWindow() const { return m_showedTheWindow; }
 
-    /// The simulators, and all that lies below the data root; backups as withFirstBackups().
+    /// The simulators, and everything below the data root; backups as in withFirstBackups().
     Disk disk() const;
-    /// Puts onto @p disk what installing copies into the simulator of @p entry.
+    /// Adds to @p disk the files that installing copies into the simulator of @p entry.
     void putPlugin(Disk *disk, const QJsonObject &entry) const;
-    /// Puts the launcher path file and these records onto @p disk.
+    /// Adds the launcher path file and these records to @p disk.
     void finish(Disk *disk, const QJsonArray &records) const;
 
 private:
@@ -89,10 +89,10 @@ private:
 /// The plugin's entry in a launcher's configuration file.
 QByteArray pluginEntry();
 
-/// othersConfiguration() with the plugin's entry behind the others.
+/// othersConfiguration() with the plugin's entry after the others.
 QByteArray ourConfiguration();
 
-/// What a launcher without a configuration file gets.
+/// The configuration file that a simulator without one gets.
 QByteArray launchDocument();
 
 } // namespace Tests

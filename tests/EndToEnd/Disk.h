@@ -7,25 +7,25 @@
 
 namespace Tests {
 
-/// Files and folders as treeOf() gives them: relative path to content, a folder's path with a
-/// slash at its end.
+/// Files and folders as treeOf() returns them: relative path to content; a folder's path ends with
+/// a slash.
 using Disk = QMap<QString, QByteArray>;
 
-/// Puts a file there, with the folders to it.
+/// Adds a file and its parent folders.
 void put(Disk *disk, const QString &path, const QByteArray &content);
 
-/// Takes out a file, or a folder ("a/b/") and all that is in it.
+/// Removes a file, or a folder ("a/b/") with everything in it.
 void takeOut(Disk *disk, const QString &path);
 
 /// The path that withFirstBackups() gives to the backups of @p file from "installation" or
 /// "uninstallation".
 QString backupOf(const QString &file, const char *occasion);
 
-/// Each set of backups that one file has from one occasion, as one file "..._*.bak" that holds
-/// the earliest. How many more there are depends on the clock: those of one second share a name.
+/// Replaces all backups of a file from one occasion by a single file "..._*.bak" with the earliest
+/// content. Their number depends on the clock: those of one second share a name.
 Disk withFirstBackups(const Disk &disk);
 
-/// What differs, a line each; empty if nothing does.
+/// The differences, one per line; empty if there are none.
 QString difference(const Disk &actual, const Disk &expected);
 
 } // namespace Tests

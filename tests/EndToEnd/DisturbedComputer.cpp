@@ -27,7 +27,7 @@ static QString relative(const QString &simulator, const QString &file)
     return QStringLiteral("sims/%1/%2").arg(simulator, file);
 }
 
-// More than a buffer, so that there are several ways to lose a part of it.
+// Larger than a buffer, so that writing it can be interrupted at several points.
 static QByteArray manyConfigured()
 {
     const QByteArray others = othersConfiguration();
@@ -53,7 +53,7 @@ static QJsonObject file(const char *source, const char *destination)
             {QStringLiteral("destination"), QLatin1String(destination)}};
 }
 
-// Of a simulator that the catalogue does not have.
+// The record of a simulator that is not in the catalogue.
 static QJsonObject othersRecord()
 {
     return {{QStringLiteral("name"), QStringLiteral("Elsewhere")},
@@ -143,7 +143,7 @@ void DisturbedComputer::reset()
                 m_computer.write(relative(simulator, each), oldPlugin);
             records.append(m_computer.recordFor(entry(simulator)));
         }
-        // In front of others' entries, so that it moves when it goes and comes back.
+        // Before the other entries, so that removing and adding it again moves it.
         configuration.insert(configuration.indexOf("    <Launch.Addon>"), pluginEntry());
     }
     m_computer.write(m_computer.configuration(kept()), configuration);
@@ -153,7 +153,7 @@ void DisturbedComputer::reset()
                        m_computer.absolute(QStringLiteral("second")));
 }
 
-// The other simulator's, and of ours each at most once.
+// Has the other simulator's record, and each of ours at most once.
 bool DisturbedComputer::isWholeRecord(const QByteArray &text) const
 {
     QJsonArray expected{othersRecord()};

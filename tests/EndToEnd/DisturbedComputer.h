@@ -5,18 +5,18 @@
 
 namespace Tests {
 
-/// A computer on which runs go wrong. It has two simulators with a configuration each, three
-/// plugin files in several folders, and files of others all around: "Kept" has other add-ons in
-/// its configuration file, "Bare" has no such file yet. The record has another simulator, too.
+/// A computer for fault injection. It has two simulators with a configuration each, three plugin
+/// files in several folders, and other programs' files: "Kept" has other add-ons in its
+/// configuration file, "Bare" has no such file yet. The record also has a third simulator.
 class DisturbedComputer
 {
 public:
-    /// What lies there before a run.
+    /// The state before a run.
     enum Beginning {
         PartlyInstalled, ///< one plugin file of an older version in "Kept"
         Installed, ///< all plugin files of an older version, with their records
-        OnlyRecorded, ///< the same, and nothing but the record knows where the simulators are
-        RecordedTwice ///< as Installed, and the record has a second name somewhere else
+        OnlyRecorded, ///< the same, but only the record knows where the simulators are
+        RecordedTwice ///< as Installed, and the record has another hard link
     };
 
     explicit DisturbedComputer(Beginning beginning);
@@ -25,26 +25,26 @@ public:
 
     const Computer &computer() const { return m_computer; }
 
-    /// Makes everything as it was at the beginning.
+    /// Restores the initial state.
     void reset();
 
-    /// What a run did that no run may do, a line each: bytes of others changed or lost, a
-    /// configuration or plugin file that is neither old nor new, a record that is not whole.
+    /// The damage that a run did, one line each: other programs' bytes changed or lost, a
+    /// configuration or plugin file that is neither old nor new, an incomplete record.
     QStringList harm() const;
-    /// The files that a run left and no whole run leaves.
+    /// The files that an interrupted run left but a complete run does not.
     QStringList leftovers() const;
 
-    /// All but the backups, the records in the order of their names.
+    /// Everything except the backups; the records are sorted by name.
     Disk outcome() const;
-    /// What a run leads to that starts from @p start, if an undisturbed one leads to @p usual:
-    /// a simulator that the record no longer stands for stays as it is.
+    /// The outcome of a run from @p start, if an undisturbed one leads to @p usual: a simulator
+    /// that is no longer recorded is not changed.
     Disk expectedAfter(const Disk &start, const Disk &usual) const;
 
     /// The simulator's plugin files as paths of disk().
     QStringList pluginFilesOf(const QString &simulator) const;
-    /// Those of them that are there.
+    /// Those of them that exist.
     QStringList remaining(const QString &simulator) const;
-    /// Whether all of them are there as the run brings them.
+    /// Whether all of them exist in the version that the run installs.
     bool isWhole(const QString &simulator) const;
 
     /// The installation record as a path of disk().
@@ -56,7 +56,7 @@ private:
     QJsonObject entry(const QString &simulator) const;
     bool isWholeRecord(const QByteArray &text) const;
     QString configurationOf(const QString &path) const;
-    /// By the simulators' names.
+    /// The records, by simulator name.
     QMap<QString, QJsonObject> recordsOn(const Disk &disk) const;
     void putRecords(Disk *disk, const QMap<QString, QJsonObject> &records) const;
     /// Whether a run finds the simulator.
@@ -66,7 +66,8 @@ private:
     Computer m_computer;
     QJsonArray m_catalogue;
     Disk m_before;
-    /// What a file of ours may hold, by its path; a foreign file is not in here.
+    /// The contents that a file of ours may have, by its path; other programs' files are not
+    /// included.
     QMap<QString, QVector<QByteArray>> m_allowed;
 };
 

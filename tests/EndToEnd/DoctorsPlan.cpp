@@ -11,7 +11,7 @@
 
 namespace Tests {
 
-// Where "patch" would need a file and a program, this needs neither.
+// Instead of "patch", which needs a program and files.
 static QString patched(const QString &before, const QString &diff)
 {
     static const QRegularExpression line(QStringLiteral("[^\n]*\n|[^\n]+$"));
@@ -90,7 +90,7 @@ Disk plannedDisk(const Computer &computer, const QJsonObject &plan)
         const QJsonObject change = plan.value(QLatin1String(key)).toObject();
         if (change.value("diff"_s).toString().isEmpty())
             continue;
-        // The other programs' bytes here are alike in Windows-1252 and Latin-1.
+        // The other programs' bytes here are the same in Windows-1252 and Latin-1.
         QByteArray &bytes = disk[place(change.value("path"_s))];
         bytes = patched(QString::fromLatin1(bytes), change.value("diff"_s).toString()).toLatin1();
     }

@@ -13,10 +13,10 @@ class Computer;
 /// Runs orbwell-doctor beside the program of @p computer.
 CommandResult runDoctor(const Computer &computer, const QStringList &arguments);
 
-/// What it plans to "install", "repair" or "uninstall" for that simulator.
+/// Its plan to "install", "repair" or "uninstall" for that simulator.
 QJsonObject doctorsPlan(const Computer &computer, const QString &what, const QString &simulator);
 
-/// The disk of @p computer as it will be, if @p plan is true.
+/// The disk of @p computer after the changes in @p plan.
 Disk plannedDisk(const Computer &computer, const QJsonObject &plan);
 
 } // namespace Tests

@@ -23,7 +23,7 @@ bool tell(const char *file, const QByteArray &line)
     return out.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && out.write(line) == line.size();
 }
 
-// Whoever is not root keeps the own number and may mount all the same; a child may not.
+// An ordinary user keeps the user id and may mount here; child processes may not.
 bool unshareAsUser()
 {
     const QByteArray user = QByteArray::number(geteuid());

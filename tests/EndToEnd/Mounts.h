@@ -6,13 +6,13 @@
 
 namespace Tests {
 
-/// File systems that only this process and its children see; gone with the object.
+/// File systems that only this process and its children see; unmounted with the object.
 class Mounts
 {
 public:
-    /// Cuts this process off from the system's own, if it may; to be called before it has threads.
+    /// Gives this process its own mount namespace, if permitted; call it before there are threads.
     static void separate();
-    /// Whether that went well.
+    /// Whether that succeeded.
     static bool arePossible();
 
     Mounts() = default;
@@ -20,11 +20,11 @@ public:
     Mounts(const Mounts &) = delete;
     Mounts &operator=(const Mounts &) = delete;
 
-    /// Puts an empty disk of @p kilobytes at the folder, which is made; false if it cannot be.
+    /// Mounts an empty disk of @p kilobytes at the folder, which is created; false on failure.
     bool addDisk(const QString &folder, int kilobytes);
-    /// Shows the file or folder in the place of the other.
+    /// Bind-mounts @p source at @p place.
     bool show(const QString &source, const QString &place);
-    /// Lets nobody write to the folder.
+    /// Makes the folder read-only for everybody.
     bool protect(const QString &folder);
 
 private:

@@ -16,7 +16,7 @@ QByteArray manifest(const char *id, const QByteArray &folder)
         + "\"\n\t\"StateFlags\"\t\t\"4\"\n\t\"installdir\"\t\t\"" + folder + "\"\n}\n";
 }
 
-// Six other add-ons, as their installers leave it: Windows-1252, tabs beside blanks, comments.
+// Six other add-ons, as their installers leave it: Windows-1252, tabs and spaces, comments.
 QByteArray wellFilledDllXml()
 {
     QByteArray xml("<?xml version=\"1.0\" encoding=\"Windows-1252\"?>\r\n\r\n"
@@ -106,7 +106,7 @@ QString PilotsHome::second() const
     return m_drives + QStringLiteral("/SteamLibrary");
 }
 
-// What the user of the game's prefix has.
+// The folder of the user in the game's prefix.
 QString PilotsHome::user(const char *id) const
 {
     return m_prefixes + QStringLiteral("/steamapps/compatdata/") + QLatin1String(id)
@@ -131,7 +131,7 @@ void PilotsHome::makeXPlane(const QString &folder, int version)
 
 void PilotsHome::makeSteam() const
 {
-    // Flatpak shows its Steam the root under another name.
+    // Flatpak's Steam sees its root under another path.
     const QString flatpak = m_home + QStringLiteral("/.var/app/com.valvesoftware.Steam");
     const QString seen = QString(m_steam).replace(flatpak, m_home);
     QByteArray list = "\"libraryfolders\"\n{\n";

@@ -13,21 +13,21 @@ class Sandbox;
 struct PilotsSteam
 {
     QString root = QStringLiteral("home/.local/share/Steam");
-    QString games = root; ///< The library that holds the simulators for Windows.
-    QString prefixes = root; ///< The library that holds their prefixes; empty where there are none.
+    QString games = root; ///< The library with the Windows simulators.
+    QString prefixes = root; ///< The library with their prefixes; empty if there are none.
 };
 
-/// A computer as a pilot has it, inside a sandbox: X-Plane 12 on a drive of its own and in
-/// X-Plane's list, X-Plane 11 in a Steam library on another drive, FSX: Steam Edition under Proton
-/// with other add-ons in its dll.xml, and FlightGear's data.
+/// A typical pilot's computer inside a sandbox: X-Plane 12 on its own drive and in X-Plane's list,
+/// X-Plane 11 in a Steam library on another drive, FSX: Steam Edition under Proton with other
+/// add-ons in its dll.xml, and FlightGear's data.
 class PilotsHome
 {
 public:
-    /// Puts all of it on the disk but for FlightGear, which lies at @p flightGear.
+    /// Creates all of it except FlightGear, which is at @p flightGear.
     PilotsHome(const Sandbox &sandbox, const QString &flightGear, const PilotsSteam &steam = {});
 
-    /// Adds what else runs under Proton: Aerofly FS 4, and both Microsoft Flight Simulators with
-    /// their packages in one folder of another drive.
+    /// Adds Aerofly FS 4, and both Microsoft Flight Simulators with their packages in one folder on
+    /// another drive, all under Proton.
     void addNewerSimulators() const;
 
     QString xplane12() const;
@@ -36,7 +36,7 @@ public:
 
     QString flightGear() const { return m_flightGear; }
 
-    /// FSX's list of add-ons; its prefix has to be there.
+    /// FSX's list of add-ons; its prefix has to exist.
     QString dllXml() const;
     QString aerofly() const;
     QString packages() const;
@@ -45,7 +45,7 @@ public:
     /// path. Backups, which the program never deletes, are left out.
     QMap<QString, QByteArray> trees() const;
 
-    /// Makes a small X-Plane at @p folder, which says itself which version it is.
+    /// Creates a small X-Plane in @p folder, with files that say its version.
     static void makeXPlane(const QString &folder, int version);
 
 private:
@@ -62,7 +62,7 @@ private:
     const QString m_flightGear;
     const QString m_steam;
     const QString m_games;
-    const QString m_prefixes; ///< Empty where there are none.
+    const QString m_prefixes; ///< Empty if there are none.
 };
 
 } // namespace Tests

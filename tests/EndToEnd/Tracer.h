@@ -11,30 +11,30 @@ namespace Tests {
 struct SystemCall
 {
     QString name;
-    /// How many of that name the run has made so far, this one included.
+    /// The number of calls with this name so far, including this one.
     int count = 0;
-    /// As the tracer wrote it down, with the paths of its files.
+    /// As the tracer wrote it, with the paths of its files.
     QString text;
 };
 
-/// The commands that a program runs under so that its system calls are seen, or disturbed.
+/// Commands to run a program under, to record or disturb its system calls.
 namespace Tracer {
 
 /// Whether a process of this user can be traced here.
 bool works();
 
-/// Writes every system call down in the file @p log.
+/// Records every system call in the file @p log.
 QStringList recording(const QString &log);
 
-/// The calls in the file @p log that the program's first thread made.
+/// The calls of the program's first thread in the file @p log.
 QVector<SystemCall> callsIn(const QString &log);
 
-/// Lets @p fault happen in the place of that call, "signal=KILL" or "error=EIO", and writes the
-/// calls of its name down in the file @p log.
+/// Replaces that call by @p fault, "signal=KILL" or "error=EIO", and records the calls with its
+/// name in the file @p log.
 QStringList disturbing(const SystemCall &call, const QString &fault, const QString &log);
 
-/// The call that an error took the place of, as the file @p log has it: a run that makes a call
-/// more or less than the one before has another one there.
+/// The call that was replaced by an error, from the file @p log: it may be another one than planned
+/// if this run made more or fewer calls than the one before.
 QString disturbedIn(const QString &log);
 
 } // namespace Tracer

@@ -8,7 +8,7 @@
 
 using namespace Tests;
 
-// What a maker's support reads of a run.
+// What support reads about a run.
 class TestActionLog : public QObject
 {
     Q_OBJECT
@@ -16,13 +16,13 @@ class TestActionLog : public QObject
 private slots:
     void init();
 
-    void tellsAnInstallation();
-    void tellsARemoval();
-    void tellsWhyAFileWasNotCopied();
-    void tellsWhyAFileWasNotRemoved();
-    void tellsOfAConfigurationThatIsLeftAlone();
-    void tellsThatThereIsNoCatalogue();
-    void keepsEachKindOfLineInItsCategory();
+    void logsAnInstallation();
+    void logsARemoval();
+    void logsWhyAFileWasNotCopied();
+    void logsWhyAFileWasNotRemoved();
+    void logsAConfigurationThatWasNotChanged();
+    void logsAMissingCatalogue();
+    void writesEachKindOfLineInItsCategory();
     void canBeTurnedOff();
 
 private:
@@ -35,7 +35,7 @@ private:
 
 void TestActionLog::init()
 {
-    // One home at a time: the old one puts the environment back when it goes.
+    // One home at a time: the old one restores the environment when it is deleted.
     m_program.reset();
     m_sandbox.reset();
     m_sandbox = std::make_unique<Sandbox>();
@@ -47,7 +47,7 @@ void TestActionLog::init()
            pluginFolderEntry(QStringLiteral("Gone"), m_sandbox->path(QStringLiteral("gone")))});
 }
 
-// The lines of one run, whose boxes are answered; places in them begin with "$".
+// The lines of one run, whose boxes are answered; paths in them begin with "$".
 QStringList TestActionLog::run(const QStringList &arguments, int boxes)
 {
     m_program->start(arguments);
@@ -66,7 +66,7 @@ QStringList TestActionLog::run(const QStringList &arguments, int boxes)
     return QStringList(lines).replaceInStrings(QStringLiteral("orbwell: "), QString());
 }
 
-void TestActionLog::tellsAnInstallation()
+void TestActionLog::logsAnInstallation()
 {
     const QStringList lines = run(quietInstallation());
     QVERIFY(lines.first().startsWith(QLatin1String("start of version ")));
@@ -97,7 +97,7 @@ launcher path written: "$DATA/Quillmont/Orbwell/.path"
 end with status 2)"));
 }
 
-void TestActionLog::tellsARemoval()
+void TestActionLog::logsARemoval()
 {
     run(quietInstallation());
     const QStringList lines = run({QStringLiteral("--UNINSTALL")});
@@ -113,7 +113,7 @@ void TestActionLog::tellsARemoval()
     QCOMPARE(lines.last(), QStringLiteral("end with status 0"));
 }
 
-void TestActionLog::tellsWhyAFileWasNotCopied()
+void TestActionLog::logsWhyAFileWasNotCopied()
 {
     QDir(m_program->folder() + QStringLiteral("/plugins")).removeRecursively();
     const QStringList lines
@@ -123,7 +123,7 @@ void TestActionLog::tellsWhyAFileWasNotCopied()
     QVERIFY2(lines.first().contains(QLatin1String("\" \"Cannot open ")), qPrintable(lines.first()));
 }
 
-void TestActionLog::tellsWhyAFileWasNotRemoved()
+void TestActionLog::logsWhyAFileWasNotRemoved()
 {
     const QString module = QStringLiteral("/Gauges/QuillmontOrbwell_64.dll");
     QDir().mkpath(m_folder + module + QStringLiteral("/inside"));
@@ -135,7 +135,7 @@ void TestActionLog::tellsWhyAFileWasNotRemoved()
     QVERIFY(lines.first().size() > start.size() + 5);
 }
 
-void TestActionLog::tellsOfAConfigurationThatIsLeftAlone()
+void TestActionLog::logsAConfigurationThatWasNotChanged()
 {
     writeFile(m_sandbox->dataRoot() + QStringLiteral("Maker/dll.xml"), "not XML, and secret");
     const QStringList lines = run(quietInstallation());
@@ -143,7 +143,7 @@ void TestActionLog::tellsOfAConfigurationThatIsLeftAlone()
     QVERIFY(!m_program->standardError().contains("secret"));
 }
 
-void TestActionLog::tellsThatThereIsNoCatalogue()
+void TestActionLog::logsAMissingCatalogue()
 {
     QFile::remove(m_program->folder() + QStringLiteral("/flightsims.json"));
     const QStringList lines = run({QStringLiteral("--REPAIR")});
@@ -151,8 +151,8 @@ void TestActionLog::tellsThatThereIsNoCatalogue()
                                           "\"No such file or directory\"")));
 }
 
-// Debug lines of no category are what support has always searched the log for; nothing joins them.
-void TestActionLog::keepsEachKindOfLineInItsCategory()
+// Support has always searched the log for the debug lines without a category; no others are added.
+void TestActionLog::writesEachKindOfLineInItsCategory()
 {
     const QStringList kinds{
         QStringLiteral(

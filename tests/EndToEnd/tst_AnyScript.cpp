@@ -7,29 +7,29 @@
 
 using namespace Tests;
 
-// In a locale that knows nothing but ASCII: names and folders are UTF-8 all the same.
+// In an ASCII locale: names and folders are UTF-8 nevertheless.
 class TestAnyScript : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void works_data();
-    void works();
-    void worksBelowALongHome();
+    void worksWithPathsInAnyScript_data();
+    void worksWithPathsInAnyScript();
+    void worksInALongHomeFolder();
 };
 
-void TestAnyScript::works_data()
+void TestAnyScript::worksWithPathsInAnyScript_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("ASCII with blanks") << QStringLiteral("Flight Sim (x64)");
+    QTest::newRow("ASCII with spaces") << QStringLiteral("Flight Sim (x64)");
     QTest::newRow("Cyrillic") << QStringLiteral("Симулятор полёта");
     QTest::newRow("Japanese") << QStringLiteral("フライトシム 飛行");
     QTest::newRow("Greek") << QStringLiteral("Προσομοιωτής");
     QTest::newRow("emoji") << QStringLiteral("Fly ✈️🛩️");
-    QTest::newRow("place markers") << QStringLiteral("%1 of %0");
+    QTest::newRow("placeholders") << QStringLiteral("%1 of %0");
 }
 
-void TestAnyScript::works()
+void TestAnyScript::worksWithPathsInAnyScript()
 {
     QFETCH(const QString, name);
     const Sandbox sandbox;
@@ -62,7 +62,7 @@ void TestAnyScript::works()
     QCOMPARE(record.value(QLatin1String("files")).toArray(), QJsonArray{module});
 }
 
-void TestAnyScript::worksBelowALongHome()
+void TestAnyScript::worksInALongHomeFolder()
 {
     Sandbox sandbox;
     QString home = sandbox.home();

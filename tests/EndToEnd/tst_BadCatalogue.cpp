@@ -16,8 +16,8 @@ private slots:
     void init();
     void cleanup();
 
-    void leavesAnEmptyListAndAQuietDisk_data();
-    void leavesAnEmptyListAndAQuietDisk();
+    void leavesTheListEmptyAndTheDiskUnchanged_data();
+    void leavesTheListEmptyAndTheDiskUnchanged();
     void mayBeMissing();
     void mayBeAFolder();
     void mayHoldWrongTypesEverywhere();
@@ -55,11 +55,11 @@ void TestBadCatalogue::expectAWorkingWindow(int rows)
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void TestBadCatalogue::leavesAnEmptyListAndAQuietDisk_data()
+void TestBadCatalogue::leavesTheListEmptyAndTheDiskUnchanged_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("blanks") << QByteArray("  \n");
+    QTest::newRow("only white space") << QByteArray("  \n");
     QTest::newRow("empty array") << QByteArray("[]");
     QTest::newRow("cut off") << QByteArray("[{\"name\": \"Skylark\", \"loc");
     QTest::newRow("object") << QByteArray(R"({"name": "Skylark"})");
@@ -67,10 +67,10 @@ void TestBadCatalogue::leavesAnEmptyListAndAQuietDisk_data()
     QTest::newRow("null") << QByteArray("null");
     QTest::newRow("NUL bytes") << QByteArray(64, '\0');
     QTest::newRow("not UTF-8") << QByteArray("[{\"name\": \"\xff\xfe\"");
-    QTest::newRow("deeper than sense") << QByteArray(100000, '[');
+    QTest::newRow("nested too deeply") << QByteArray(100000, '[');
 }
 
-void TestBadCatalogue::leavesAnEmptyListAndAQuietDisk()
+void TestBadCatalogue::leavesTheListEmptyAndTheDiskUnchanged()
 {
     QFETCH(const QByteArray, content);
     writeFile(catalogue(), content);

@@ -18,9 +18,9 @@ private slots:
     void isShownAtOnce();
     void isRememberedByTheNextStart();
     void getsThePlugin();
-    void outranksTheDetectedOne();
+    void hasPriorityOverTheDetectedFolder();
     void isForgottenByTheScanButton();
-    void changesNothingWhenItIsNotChosen();
+    void changesNothingWhenCancelled();
 
 private:
     void start();
@@ -35,7 +35,7 @@ private:
     QScopedPointer<Program> m_program;
 };
 
-// Plover is not found by itself; Skylark is.
+// Plover is not found automatically; Skylark is.
 void TestChosenFolder::init()
 {
     m_sandbox.reset(new Sandbox);
@@ -117,7 +117,7 @@ void TestChosenFolder::getsThePlugin()
     QCOMPARE(m_program->row(m_plover).path, m_chosen);
 }
 
-void TestChosenFolder::outranksTheDetectedOne()
+void TestChosenFolder::hasPriorityOverTheDetectedFolder()
 {
     start();
     choose(m_skylark);
@@ -126,8 +126,8 @@ void TestChosenFolder::outranksTheDetectedOne()
     QCOMPARE(m_program->row(m_skylark).path, m_chosen);
 }
 
-// The button looks for the simulators afresh. It installs first, and each installation shows the
-// rows with the folders that were chosen; what it installs into is what it found.
+// The button searches for the simulators again. It installs into the folders found; each
+// installation shows the rows with the chosen folders.
 void TestChosenFolder::isForgottenByTheScanButton()
 {
     start();
@@ -142,7 +142,7 @@ void TestChosenFolder::isForgottenByTheScanButton()
     QVERIFY(!treeOf(m_sandbox->path(m_skylark)).isEmpty());
 }
 
-void TestChosenFolder::changesNothingWhenItIsNotChosen()
+void TestChosenFolder::changesNothingWhenCancelled()
 {
     start();
     m_program->pressBrowse(m_skylark);

@@ -15,9 +15,9 @@ private slots:
     void init();
     void cleanup();
 
-    void byTheButtonIsASuccess();
-    void byTheMouseIsASuccess();
-    void byTheFrameIsASuccess();
+    void succeedsByTheButton();
+    void succeedsByTheMouse();
+    void succeedsByTheWindowFrame();
 
 private:
     void start(const Display *display = nullptr);
@@ -46,14 +46,14 @@ void TestClosing::start(const Display *display)
     QCOMPARE(m_program->rows().size(), 1);
 }
 
-void TestClosing::byTheButtonIsASuccess()
+void TestClosing::succeedsByTheButton()
 {
     start();
     m_program->press(QStringLiteral("Close"));
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void TestClosing::byTheMouseIsASuccess()
+void TestClosing::succeedsByTheMouse()
 {
     const Display display;
     if (!display.isUp())
@@ -67,7 +67,7 @@ void TestClosing::byTheMouseIsASuccess()
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-void TestClosing::byTheFrameIsASuccess()
+void TestClosing::succeedsByTheWindowFrame()
 {
     start();
     m_program->close();

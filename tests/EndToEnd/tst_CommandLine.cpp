@@ -6,16 +6,16 @@
 
 using namespace Tests;
 
-// Which run a command line starts, told by what a user sees of it.
+// Which run a command line starts, as seen by a user.
 class TestCommandLine : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void starts_data();
-    void starts();
-    void countsItsOwnName_data();
-    void countsItsOwnName();
+    void startsInTheModeOfItsSwitches_data();
+    void startsInTheModeOfItsSwitches();
+    void readsItsOwnNameAsASwitch_data();
+    void readsItsOwnNameAsASwitch();
 
 private:
     void run(const QStringList &arguments, const QString &calledAs = {});
@@ -30,7 +30,7 @@ static void addLine(const char *what, const QStringList &arguments, const char *
     QTest::newRow(what) << arguments << run;
 }
 
-void TestCommandLine::starts_data()
+void TestCommandLine::startsInTheModeOfItsSwitches_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("expected");
@@ -79,7 +79,7 @@ void TestCommandLine::starts_data()
     addLine("empty ones around", {QString(), QStringLiteral("--INSTALL"), QString()}, "install");
 }
 
-void TestCommandLine::starts()
+void TestCommandLine::startsInTheModeOfItsSwitches()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, expected);
@@ -87,7 +87,7 @@ void TestCommandLine::starts()
     QCOMPARE(seen(), expected);
 }
 
-void TestCommandLine::countsItsOwnName_data()
+void TestCommandLine::readsItsOwnNameAsASwitch_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("arguments");
@@ -98,16 +98,16 @@ void TestCommandLine::countsItsOwnName_data()
               QTest::newRow(what) << QString::fromUtf8(name) << rest << run;
           };
     add("install", "--INSTALL", {}, "install");
-    add("small letters", "--repair", {}, "repair");
+    add("lower case", "--repair", {}, "repair");
     add("uninstall", "--Uninstall", {}, "uninstall");
     add("one, and install", "1", words("--INSTALL"), "quiet install");
     add("install, and one", "--INSTALL", words("1"), "quiet install");
     add("a later switch wins", "--INSTALL", words("--REPAIR"), "repair");
     add("in a folder", "folder/--INSTALL", {}, "window");
-    add("something else", "setup", {}, "window");
+    add("another name", "setup", {}, "window");
 }
 
-void TestCommandLine::countsItsOwnName()
+void TestCommandLine::readsItsOwnNameAsASwitch()
 {
     QFETCH(const QString, name);
     QFETCH(const QStringList, arguments);
@@ -116,7 +116,7 @@ void TestCommandLine::countsItsOwnName()
     QCOMPARE(seen(), expected);
 }
 
-// One simulator that is found and lacks the plugin, one that the record alone knows.
+// One simulator is found and lacks the plugin; only the record knows the other one.
 void TestCommandLine::run(const QStringList &arguments, const QString &calledAs)
 {
     m_computer.reset(new Computer);

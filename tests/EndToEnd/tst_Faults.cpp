@@ -8,9 +8,9 @@
 
 using namespace Tests;
 
-// Unattended runs that are killed, or that one system call fails, at every point from where they
-// first touch what belongs to the user. script/fault-injection tries them all; without its
-// variables each test takes a sample.
+// Unattended runs that are killed, or in which one system call fails, at every point after the
+// first access to the user's files. script/fault-injection tries all points; without its variables
+// each test takes a sample.
 class TestFaults : public QObject
 {
     Q_OBJECT
@@ -19,15 +19,15 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void killedRunLosesNothing_data() { addRuns(); }
+    void loseNothingInAKilledRun_data() { addRuns(); }
 
-    void killedRunLosesNothing();
+    void loseNothingInAKilledRun();
 
-    void failingCallLosesNothing_data();
-    void failingCallLosesNothing();
+    void loseNothingInAFailingCall_data();
+    void loseNothingInAFailingCall();
 
 private:
-    /// A system call and what happens in its place.
+    /// A system call and the fault that replaces it.
     using Fault = QPair<SystemCall, QString>;
 
     static void addRuns();
@@ -50,7 +50,7 @@ private:
     QVector<SystemCall> m_calls;
     int m_usualStatus = -1;
     Disk m_usual;
-    QVector<Disk> m_overcome; ///< what killed runs left and the next run made good
+    QVector<Disk> m_overcome; ///< the results of killed runs that the next run has repaired
     int m_fellShort = 0;
 };
 
@@ -181,7 +181,7 @@ void TestFaults::summarise(int points) const
     QCOMPARE(m_fellShort, 0);
 }
 
-void TestFaults::killedRunLosesNothing()
+void TestFaults::loseNothingInAKilledRun()
 {
     runUndisturbed();
     if (QTest::currentTestFailed())
@@ -192,12 +192,12 @@ void TestFaults::killedRunLosesNothing()
         killed += runWith(fault) == -1 ? 1 : 0;
         report(fault, wrongAfterKill(m_disturbed->computer().disk()));
     }
-    // Memory is not always asked for as often as the time before.
+    // The number of memory allocations varies from run to run.
     QVERIFY(killed >= faults.size() * 9 / 10);
     summarise(faults.size());
 }
 
-// The next run goes by what it finds, so it has to be made only once for the same disk.
+// The next run depends only on the disk, so it is made only once for the same content.
 QStringList TestFaults::wrongAfterKill(const Disk &left)
 {
     QStringList wrong = m_disturbed->harm();
@@ -217,15 +217,15 @@ QStringList TestFaults::wrongAfterKill(const Disk &left)
     return wrong;
 }
 
-// Where the record has two names it cannot be replaced, and is written over.
-void TestFaults::failingCallLosesNothing_data()
+// A record with two hard links cannot be replaced, and is overwritten.
+void TestFaults::loseNothingInAFailingCall_data()
 {
     addRuns();
     QTest::newRow("repair, recorded twice")
         << words("--REPAIR") << int(DisturbedComputer::RecordedTwice);
 }
 
-void TestFaults::failingCallLosesNothing()
+void TestFaults::loseNothingInAFailingCall()
 {
     runUndisturbed();
     if (QTest::currentTestFailed())
@@ -243,7 +243,7 @@ QStringList TestFaults::wrongAfterFailure(const SystemCall &call, int status) co
     QStringList wrong = m_disturbed->harm() + m_disturbed->leftovers();
     if (status != 0 && status != 2)
         wrong.append(QStringLiteral("ended with status %1").arg(status));
-    // What cannot be looked at is taken for missing, and that is no failure to tell of.
+    // What cannot be accessed counts as missing, which is not reported as a failure.
     if (isLook(call))
         return wrong;
     const QStringList simulators = DisturbedComputer::simulators();
@@ -258,7 +258,7 @@ QStringList TestFaults::wrongAfterFailure(const SystemCall &call, int status) co
     return wrong;
 }
 
-// What the user is not told of a simulator that is not as the run should make it.
+// The failures at a simulator that the run does not report.
 QStringList TestFaults::untold(const QString &simulator, int status) const
 {
     QFETCH(const int, beginning);

@@ -17,14 +17,14 @@ private slots:
     void cleanup();
 
     void showsTheWindow();
-    void showsOneRowASimulator();
+    void showsOneRowPerSimulator();
     void showsTheRowsOnAScreen();
     void keepsEverythingInsideTheWindow();
     void isDrawnAtTheScaleOfTheScreen();
     void isDrawnAtTheDensityOfTheScreen();
-    void startsAnEmptyRecordAndWritesNothingElse();
-    void leavesAnOldRecordAlone();
-    void hasNothingToComplainAbout();
+    void createsAnEmptyRecordAndNothingElse();
+    void keepsAnOldRecord();
+    void writesNoWarnings();
 
 private:
     void start(const Display *display = nullptr);
@@ -79,7 +79,7 @@ void TestFirstStart::showsTheWindow()
     QCOMPARE(m_program->windows().size(), 1);
 }
 
-void TestFirstStart::showsOneRowASimulator()
+void TestFirstStart::showsOneRowPerSimulator()
 {
     start();
     const QVector<SeenRow> rows = m_program->rows();
@@ -153,7 +153,7 @@ void TestFirstStart::isDrawnAtTheDensityOfTheScreen()
     QCOMPARE(QImage(picture).size(), QSize(1280, 960));
 }
 
-void TestFirstStart::startsAnEmptyRecordAndWritesNothingElse()
+void TestFirstStart::createsAnEmptyRecordAndNothingElse()
 {
     start();
     QMap<QString, QByteArray> written = treeOf(m_sandbox->dataRoot());
@@ -164,7 +164,7 @@ void TestFirstStart::startsAnEmptyRecordAndWritesNothingElse()
     QCOMPARE(QDir(skylark()).count(), 2U); // "." and ".."
 }
 
-void TestFirstStart::leavesAnOldRecordAlone()
+void TestFirstStart::keepsAnOldRecord()
 {
     const QString record = m_sandbox->dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping");
     writeFile(record, "[ not quite JSON");
@@ -172,7 +172,7 @@ void TestFirstStart::leavesAnOldRecordAlone()
     QCOMPARE(readFile(record), QByteArray("[ not quite JSON"));
 }
 
-void TestFirstStart::hasNothingToComplainAbout()
+void TestFirstStart::writesNoWarnings()
 {
     start();
     m_program->press(QStringLiteral("Close"));

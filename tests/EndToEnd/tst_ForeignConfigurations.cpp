@@ -9,8 +9,8 @@
 
 using namespace Tests;
 
-// The configuration files of many pilots, one after the other in one simulator's place, while the
-// program goes on running: the plugin is installed and removed by click.
+// Many pilots' configuration files, one after the other for the same simulator, while the program
+// is running: the plugin is installed and removed by click.
 class TestForeignConfigurations : public QObject
 {
     Q_OBJECT
@@ -20,13 +20,13 @@ private slots:
     void init();
     void cleanupTestCase();
 
-    void ownFiles_data();
-    void ownFiles();
-    void foreignFiles_data();
-    void foreignFiles();
-    void twoPluginFilesMakeOneEntry();
-    void eachOfAGroupEditsItsOwnFile();
-    void aMissingFileIsMade();
+    void surviveInTheRepositorysSamples_data();
+    void surviveInTheRepositorysSamples();
+    void surviveInOtherSamples_data();
+    void surviveInOtherSamples();
+    void getOneEntryForTwoPluginFiles();
+    void areEditedSeparatelyByEachOfAGroup();
+    void areCreatedWhenMissing();
 
 private:
     static QJsonObject grouped(const QString &name, const QString &solution);
@@ -88,7 +88,7 @@ QString TestForeignConfigurations::configuration(const QString &name) const
     return m_sandbox.dataRoot() + QStringLiteral("Maker/") + name;
 }
 
-// The first backup of that occasion. A later one, of the next second, shows a later moment.
+// The first backup of that occasion; one in the next second has later content.
 QByteArray TestForeignConfigurations::backup(const QString &file, const QString &occasion) const
 {
     const QStringList names = backupsOf(file, occasion);
@@ -104,24 +104,24 @@ void TestForeignConfigurations::press(const QString &simulator)
     m_program.window();
 }
 
-void TestForeignConfigurations::ownFiles_data()
+void TestForeignConfigurations::surviveInTheRepositorysSamples_data()
 {
     Corpus::addRows(Corpus::own());
 }
 
-void TestForeignConfigurations::ownFiles()
+void TestForeignConfigurations::surviveInTheRepositorysSamples()
 {
     checkRoundTrip();
 }
 
-void TestForeignConfigurations::foreignFiles_data()
+void TestForeignConfigurations::surviveInOtherSamples_data()
 {
     if (!QFileInfo::exists(Corpus::foreign()))
         QSKIP("no folder of files; ORBWELL_XML_CORPUS may name one");
     Corpus::addRows(Corpus::foreign());
 }
 
-void TestForeignConfigurations::foreignFiles()
+void TestForeignConfigurations::surviveInOtherSamples()
 {
     checkRoundTrip();
 }
@@ -151,7 +151,7 @@ void TestForeignConfigurations::checkRoundTrip()
     QVERIFY(edited == before || XmlPromises::isOnePieceMore(before, edited));
 }
 
-void TestForeignConfigurations::twoPluginFilesMakeOneEntry()
+void TestForeignConfigurations::getOneEntryForTwoPluginFiles()
 {
     const QString file = configuration(QStringLiteral("twin.xml"));
     writeFile(file, othersConfiguration());
@@ -163,7 +163,7 @@ void TestForeignConfigurations::twoPluginFilesMakeOneEntry()
     QCOMPARE(readFile(file), othersConfiguration());
 }
 
-void TestForeignConfigurations::eachOfAGroupEditsItsOwnFile()
+void TestForeignConfigurations::areEditedSeparatelyByEachOfAGroup()
 {
     for (const char *name : {"shared.xml", "east.xml", "west.xml"})
         writeFile(configuration(QLatin1String(name)), othersConfiguration());
@@ -180,7 +180,7 @@ void TestForeignConfigurations::eachOfAGroupEditsItsOwnFile()
                 .isEmpty());
 }
 
-void TestForeignConfigurations::aMissingFileIsMade()
+void TestForeignConfigurations::areCreatedWhenMissing()
 {
     const QString file = configuration(QStringLiteral("dll.xml"));
     press(m_skylark);

@@ -12,14 +12,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// Puts something at a path.
+/// Creates something at a path.
 using Maker = std::function<void(const QString &path)>;
 Q_DECLARE_METATYPE(Maker)
 
 using namespace Tests;
 
-// Files and folders made by somebody who wants to do harm: a run ends, soon and within a bound of
-// memory, installs where it can, and touches nothing but what it is about.
+// Malicious files and folders: a run ends soon and in limited memory, installs where it can, and
+// changes no other files.
 class TestHostileData : public QObject
 {
     Q_OBJECT
@@ -28,18 +28,18 @@ private slots:
     void init();
     void cleanup();
 
-    void endsWhateverIsThere_data();
-    void endsWhateverIsThere();
+    void endsARunWhateverTheFilesAre_data();
+    void endsARunWhateverTheFilesAre();
 
-    void showsItsWindowWhateverIsThere_data();
+    void showsTheWindowWhateverTheFilesAre_data();
 
-    void showsItsWindowWhateverIsThere();
-    void endsWhateverTheRecordSays_data();
-    void endsWhateverTheRecordSays();
-    void staysInsideTheSimulator_data();
-    void staysInsideTheSimulator();
-    void worksInAFolderOfAnyName_data();
-    void worksInAFolderOfAnyName();
+    void showsTheWindowWhateverTheFilesAre();
+    void endsARunWhateverTheRecordSays_data();
+    void endsARunWhateverTheRecordSays();
+    void leavesFilesOutsideTheSimulatorAlone_data();
+    void leavesFilesOutsideTheSimulatorAlone();
+    void worksInAFolderWithAnyName_data();
+    void worksInAFolderWithAnyName();
 
 private:
     void putAt(const QString &dataPath, const Maker &make) const;
@@ -60,8 +60,8 @@ private:
 
 static const QStringList repair{QStringLiteral("--REPAIR")};
 
-// Big files take no room on the disk, and no copy of one gets far. A sanitizer needs all of the
-// addresses for itself.
+// Large files are sparse, and copies of them hit a limit. A sanitizer needs the whole address
+// space, so memory is not limited there.
 static void limit()
 {
     constexpr rlim_t mega = 1U << 20U;
@@ -89,7 +89,7 @@ void TestHostileData::cleanup()
     m_computer.reset();
 }
 
-// In place of whatever is there.
+// Replaces whatever is there.
 void TestHostileData::putAt(const QString &dataPath, const Maker &make) const
 {
     const QString path = m_computer->absolute(m_computer->data(dataPath));
@@ -157,7 +157,7 @@ static void addPlaces(const QStringList &places)
     }
 }
 
-void TestHostileData::endsWhateverIsThere_data()
+void TestHostileData::endsARunWhateverTheFilesAre_data()
 {
     addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
                QStringLiteral("Quillmont/Orbwell/.path"),
@@ -168,7 +168,7 @@ void TestHostileData::endsWhateverIsThere_data()
                QStringLiteral("Maker/Det")});
 }
 
-void TestHostileData::endsWhateverIsThere()
+void TestHostileData::endsARunWhateverTheFilesAre()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
@@ -182,14 +182,14 @@ void TestHostileData::endsWhateverIsThere()
     QVERIFY(isInstalled());
 }
 
-void TestHostileData::showsItsWindowWhateverIsThere_data()
+void TestHostileData::showsTheWindowWhateverTheFilesAre_data()
 {
     addPlaces({QStringLiteral("Quillmont/Orbwell/.mapping"),
                QStringLiteral("Quillmont/Vellum/.settings"),
                QStringLiteral("Maker/Det/dll.xml")});
 }
 
-void TestHostileData::showsItsWindowWhateverIsThere()
+void TestHostileData::showsTheWindowWhateverTheFilesAre()
 {
     QFETCH(const QString, place);
     QFETCH(const Maker, make);
@@ -206,23 +206,23 @@ void TestHostileData::showsItsWindowWhateverIsThere()
     QCOMPARE(m_computer->program().exitStatus(), 0);
 }
 
-void TestHostileData::endsWhateverTheRecordSays_data()
+void TestHostileData::endsARunWhateverTheRecordSays_data()
 {
     QTest::addColumn<QByteArray>("path");
     QTest::addColumn<QByteArray>("files");
     QTest::newRow("an endless folder") << QByteArray("/a").repeated(1000000) << QByteArray();
     QTest::newRow("many lines") << QByteArray("\\n").repeated(1000000) << QByteArray();
-    QTest::newRow("much markup") << QByteArray("<b>").repeated(1000000) << QByteArray();
+    QTest::newRow("a lot of markup") << QByteArray("<b>").repeated(1000000) << QByteArray();
     QTest::newRow("many placeholders") << QByteArray("%1").repeated(100000) << QByteArray();
-    QTest::newRow("a pipe's folder") << QByteArray("/dev/null/x") << QByteArray();
-    QTest::newRow("no characters") << QByteArray("\\u0000\\ud800") << QByteArray();
+    QTest::newRow("a path inside a device") << QByteArray("/dev/null/x") << QByteArray();
+    QTest::newRow("invalid characters") << QByteArray("\\u0000\\ud800") << QByteArray();
     QTest::newRow("many files") << QByteArray("/gone") << QByteArray("\"/\",").repeated(300000);
-    QTest::newRow("endless files")
+    QTest::newRow("very long file names")
         << QByteArray("/gone") << '"' + QByteArray("/a").repeated(3000000) + "\",";
 }
 
-// Its folder counts, and nothing can be installed there; what is told fits on a screen.
-void TestHostileData::endsWhateverTheRecordSays()
+// The record's folder is used, and nothing can be installed there; the message fits on the screen.
+void TestHostileData::endsARunWhateverTheRecordSays()
 {
     QFETCH(const QByteArray, path);
     QFETCH(const QByteArray, files);
@@ -240,7 +240,7 @@ void TestHostileData::endsWhateverTheRecordSays()
     QVERIFY(!isInstalled());
 }
 
-void TestHostileData::staysInsideTheSimulator_data()
+void TestHostileData::leavesFilesOutsideTheSimulatorAlone_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::newRow("a link") << Maker([](const QString &path) {
@@ -260,7 +260,7 @@ void TestHostileData::staysInsideTheSimulator_data()
         QFile::link(QFileInfo(path + QLatin1String("/../../../../precious")).absoluteFilePath(),
                     path);
     });
-    QTest::newRow("a second name of a file") << Maker([](const QString &path) {
+    QTest::newRow("a hard link") << Maker([](const QString &path) {
         const QString precious
             = QFileInfo(path + QLatin1String("/../../../../precious/file")).absoluteFilePath();
         QCOMPARE(::link(QFile::encodeName(QDir::cleanPath(precious)).constData(),
@@ -269,8 +269,8 @@ void TestHostileData::staysInsideTheSimulator_data()
     });
 }
 
-// In the place of the plugin's file; installed or not, what it leads to stays as it was.
-void TestHostileData::staysInsideTheSimulator()
+// In place of the plugin's file; whether it is installed or not, the link's target is unchanged.
+void TestHostileData::leavesFilesOutsideTheSimulatorAlone()
 {
     QFETCH(const Maker, make);
     make(place());
@@ -282,18 +282,18 @@ void TestHostileData::staysInsideTheSimulator()
     }
 }
 
-void TestHostileData::worksInAFolderOfAnyName_data()
+void TestHostileData::worksInAFolderWithAnyName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("markup") << QStringLiteral("<b>bold</b> & <img src=x>");
     QTest::newRow("placeholders") << QStringLiteral("%1 %0 %2 %n %L1");
     QTest::newRow("lines") << QStringLiteral("a\nb\r\nc\td");
     QTest::newRow("quotes") << QStringLiteral("'\"`$(x);");
-    QTest::newRow("the other way round") << QStringLiteral("a%1txt.exe").arg(QChar(0x202e));
+    QTest::newRow("reversed writing direction") << QStringLiteral("a%1txt.exe").arg(QChar(0x202e));
 }
 
-// The name comes out of every text as it is, and as text.
-void TestHostileData::worksInAFolderOfAnyName()
+// The name appears unchanged and as plain text in every message.
+void TestHostileData::worksInAFolderWithAnyName()
 {
     QFETCH(const QString, name);
     const QString folder = m_computer->folder(name);

@@ -17,18 +17,18 @@ private slots:
     void init();
     void cleanup();
 
-    void ofAMouseOnAScreen();
-    void says_data();
-    void says();
-    void isAnsweredByTheReturnKeyToo();
+    void worksByMouseOnAScreen();
+    void showsTheResult_data();
+    void showsTheResult();
+    void closesItsBoxByTheReturnKey();
     void copiesTheFiles();
     void addsItsEntryToTheConfiguration();
     void keepsABackupOfTheConfiguration();
-    void createsALaunchDocumentWhereThereIsNone();
-    void recordsWhatItInstalled();
-    void turnsTheRowIntoAnInstalledOne();
-    void leavesTheOtherSimulatorsAlone();
-    void saysWhichFileCouldNotBeCopied();
+    void createsAMissingLaunchDocument();
+    void recordsTheInstallation();
+    void showsTheRowAsInstalled();
+    void doesNotTouchOtherSimulators();
+    void namesTheFileThatCouldNotBeCopied();
     void isUndoneByTheNextClick();
 
 private:
@@ -85,7 +85,7 @@ QString TestInstallByClick::configuration(const char *simulator) const
         + QStringLiteral("/dll.xml");
 }
 
-void TestInstallByClick::ofAMouseOnAScreen()
+void TestInstallByClick::worksByMouseOnAScreen()
 {
     const Display display;
     if (!display.isUp())
@@ -105,15 +105,15 @@ void TestInstallByClick::ofAMouseOnAScreen()
     QVERIFY(!recordOf(m_skylark, m_sandbox->dataRoot()).isEmpty());
 }
 
-void TestInstallByClick::says_data()
+void TestInstallByClick::showsTheResult_data()
 {
     QTest::addColumn<QString>("simulator");
     QTest::newRow("with a configuration") << m_skylark;
-    QTest::newRow("without a configuration yet") << m_plover;
+    QTest::newRow("without a configuration") << m_plover;
     QTest::newRow("with a plugin folder") << m_kestrel;
 }
 
-void TestInstallByClick::says()
+void TestInstallByClick::showsTheResult()
 {
     QFETCH(const QString, simulator);
     start();
@@ -133,7 +133,7 @@ void TestInstallByClick::says()
     QVERIFY(!m_program->isBusy());
 }
 
-void TestInstallByClick::isAnsweredByTheReturnKeyToo()
+void TestInstallByClick::closesItsBoxByTheReturnKey()
 {
     start();
     m_program->pressAction(m_kestrel);
@@ -179,7 +179,7 @@ void TestInstallByClick::keepsABackupOfTheConfiguration()
     QCOMPARE(beside.entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-void TestInstallByClick::createsALaunchDocumentWhereThereIsNone()
+void TestInstallByClick::createsAMissingLaunchDocument()
 {
     install(m_plover);
     const QByteArray expected = "<?xml version='1.0' encoding='Windows-1252'?>\r\n"
@@ -199,7 +199,7 @@ void TestInstallByClick::createsALaunchDocumentWhereThereIsNone()
     QCOMPARE(QFileInfo(configuration("Plover")).dir().entryList(QDir::Files).size(), 1);
 }
 
-void TestInstallByClick::recordsWhatItInstalled()
+void TestInstallByClick::recordsTheInstallation()
 {
     install(m_kestrel);
     const QString folder = m_sandbox->path(m_kestrel);
@@ -213,7 +213,7 @@ void TestInstallByClick::recordsWhatItInstalled()
     QCOMPARE(readFile(record), QJsonDocument(QJsonArray{expected}).toJson());
 }
 
-void TestInstallByClick::turnsTheRowIntoAnInstalledOne()
+void TestInstallByClick::showsTheRowAsInstalled()
 {
     start();
     QCOMPARE(m_program->row(m_skylark).icon, QStringLiteral("check-grey"));
@@ -227,7 +227,7 @@ void TestInstallByClick::turnsTheRowIntoAnInstalledOne()
     QCOMPARE(m_program->row(m_skylark).action.text, QStringLiteral("Uninstall Orbwell"));
 }
 
-void TestInstallByClick::leavesTheOtherSimulatorsAlone()
+void TestInstallByClick::doesNotTouchOtherSimulators()
 {
     install(m_skylark);
     QCOMPARE(m_program->row(m_plover).icon, QStringLiteral("check-grey"));
@@ -237,7 +237,7 @@ void TestInstallByClick::leavesTheOtherSimulatorsAlone()
     QVERIFY(!QFileInfo::exists(configuration("Plover")));
 }
 
-void TestInstallByClick::saysWhichFileCouldNotBeCopied()
+void TestInstallByClick::namesTheFileThatCouldNotBeCopied()
 {
     start();
     const QString source = m_program->folder() + QStringLiteral("/plugins/X-Plane/about.txt");

@@ -17,7 +17,7 @@ private slots:
     void keepsOneRecordAtTheEnd();
     void keepsOneEntryInTheConfiguration();
     void keepsTheFirstBackup();
-    void bringsTheFileBack();
+    void restoresADeletedFile();
 
 private:
     void install(const QString &simulator);
@@ -30,7 +30,7 @@ private:
     Program m_program{m_sandbox};
 };
 
-// Into one simulator, into another, and into the first again, from which a file was lost.
+// Installs into one simulator, into another, and again into the first, after deleting a file there.
 void TestInstallTwice::initTestCase()
 {
     m_configuration = m_sandbox.dataRoot() + QStringLiteral("Maker/dll.xml");
@@ -78,14 +78,14 @@ void TestInstallTwice::keepsOneEntryInTheConfiguration()
 
 void TestInstallTwice::keepsTheFirstBackup()
 {
-    // Within the same second the first backup is the only one.
+    // There is only one backup per second.
     const QStringList backups = backupsOf(m_configuration, QStringLiteral("installation"));
     QVERIFY(backups.size() == 1 || backups.size() == 2);
     const QDir beside = QFileInfo(m_configuration).dir();
     QCOMPARE(readFile(beside.filePath(backups.constFirst())), othersConfiguration());
 }
 
-void TestInstallTwice::bringsTheFileBack()
+void TestInstallTwice::restoresADeletedFile()
 {
     QCOMPARE(readFile(m_module), QByteArray("module"));
 }

@@ -9,22 +9,22 @@
 
 using namespace Tests;
 
-/// A pilot reads the window in the first language of the list that the program speaks.
+/// The window uses the first of the user's languages that has a translation.
 class TestLanguages : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void isTheFirstThatIsKnown_data();
-    void isTheFirstThatIsKnown();
-    void isThatOfEveryText_data();
-    void isThatOfEveryText();
+    void isTheUsersFirstWithATranslation_data();
+    void isTheUsersFirstWithATranslation();
+    void appliesToEveryText_data();
+    void appliesToEveryText();
 
 private:
     static void speak(Program *program, const QString &locale, const QString &list);
 };
 
-// The English text itself for English.
+// Returns the source text for English.
 static QString translated(const QString &language, const QString &source, int form = 0)
 {
     if (!language.isEmpty()) {
@@ -44,33 +44,33 @@ void TestLanguages::speak(Program *program, const QString &locale, const QString
     program->setVariable("LANGUAGE", list);
 }
 
-void TestLanguages::isTheFirstThatIsKnown_data()
+void TestLanguages::isTheUsersFirstWithATranslation_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("language");
-    QTest::newRow("of the locale") << "de_AT.UTF-8"_s << QString() << "de"_s;
-    QTest::newRow("of the list") << "en_GB.UTF-8"_s
-                                 << "fr:de"_s
-                                 << "fr"_s;
-    QTest::newRow("not the first, which is unknown") << "fi_FI.UTF-8"_s
-                                                     << "fi:pl"_s
-                                                     << "pl"_s;
+    QTest::newRow("the locale's") << "de_AT.UTF-8"_s << QString() << "de"_s;
+    QTest::newRow("the list's first") << "en_GB.UTF-8"_s
+                                      << "fr:de"_s
+                                      << "fr"_s;
+    QTest::newRow("the second, if the first is unknown") << "fi_FI.UTF-8"_s
+                                                         << "fi:pl"_s
+                                                         << "pl"_s;
     QTest::newRow("English before another") << "de_DE.UTF-8"_s
                                             << "en:de"_s << QString();
-    QTest::newRow("none that is known") << "fi_FI.UTF-8"_s << QString() << QString();
+    QTest::newRow("only unknown languages") << "fi_FI.UTF-8"_s << QString() << QString();
     QTest::newRow("C, whatever the list") << "C"_s
                                           << "de"_s << QString();
     QTest::newRow("C with an encoding") << "C.UTF-8"_s
                                         << "de"_s << QString();
     QTest::newRow("POSIX") << "POSIX"_s
                            << "de"_s << QString();
-    QTest::newRow("nothing") << QString() << "de"_s << QString();
+    QTest::newRow("no locale") << QString() << "de"_s << QString();
     QTest::newRow("Brazil's") << "pt_BR.UTF-8"_s << QString() << "pt_BR"_s;
     QTest::newRow("not Portugal's") << "pt_PT.UTF-8"_s << QString() << QString();
 }
 
-void TestLanguages::isTheFirstThatIsKnown()
+void TestLanguages::isTheUsersFirstWithATranslation()
 {
     QFETCH(const QString, locale);
     QFETCH(const QString, list);
@@ -83,14 +83,14 @@ void TestLanguages::isTheFirstThatIsKnown()
     QCOMPARE(program.window().title, translated(language, "Quillmont Orbwell Settings"_s));
 }
 
-void TestLanguages::isThatOfEveryText_data()
+void TestLanguages::appliesToEveryText_data()
 {
     QTest::addColumn<QString>("language");
     for (const QString &language : translatedLanguages())
         QTest::newRow(qPrintable(language)) << language;
 }
 
-void TestLanguages::isThatOfEveryText()
+void TestLanguages::appliesToEveryText()
 {
     QFETCH(const QString, language);
     const Sandbox sandbox;

@@ -42,8 +42,8 @@ bool hasFlightGear()
     });
 }
 
-// An empty folder for packaged programs that only this process and its children see. Root alone
-// may have one; and where a real FlightGear is installed, nothing may come near it.
+// An empty folder for packaged programs, visible only to this process and its children. Only root
+// may mount it, and only if no real FlightGear is installed.
 bool canPackage()
 {
 #ifdef Q_OS_LINUX
@@ -67,11 +67,11 @@ private slots:
     void init();
     void cleanup();
 
-    void isShownInTheDescribedOrder();
+    void listsItsSimulatorsInOrder();
     void getsThePluginInOneGo();
-    void isAsBeforeWhenEachIsRemoved();
-    void isChangedOnlyWhereItsSimulatorsRead_data();
-    void isChangedOnlyWhereItsSimulatorsRead();
+    void isRestoredByUninstallingEach();
+    void changesOnlyInItsSimulatorsFolders_data();
+    void changesOnlyInItsSimulatorsFolders();
     void findsAPackagedFlightGear();
     void showsAnUpgradedXPlaneOnce();
 
@@ -113,7 +113,7 @@ void TestPilotsComputer::cleanup()
 
 void TestPilotsComputer::begin()
 {
-    cleanup(); // before the next one keeps what the environment is
+    cleanup(); // before the next one saves the environment
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
 }
@@ -121,7 +121,7 @@ void TestPilotsComputer::begin()
 void TestPilotsComputer::use(const QString &flightGear, const PilotsSteam &steam)
 {
     m_home.reset(new PilotsHome(*m_sandbox, flightGear, steam));
-    // Looked at first, so a FlightGear of the computer that the test runs on is left alone.
+    // Checked first, so that a real FlightGear on this computer is not used.
     m_program->setVariable("FG_ROOT", flightGear);
 }
 
@@ -149,7 +149,7 @@ void TestPilotsComputer::start()
     m_program->window();
 }
 
-// All that is not the program's own, without backups, which stay.
+// Everything except the program's own files and the backups, which are kept.
 Tree TestPilotsComputer::disk() const
 {
     Tree disk = treeOf(m_sandbox->root());
@@ -169,7 +169,7 @@ QString TestPilotsComputer::keyOf(const QString &path) const
     return root.relativeFilePath(folder.canonicalFilePath()) + u'/' + QFileInfo(path).fileName();
 }
 
-// What the catalogue puts into each simulator's folder.
+// Adds the catalogue's files for each simulator's folder.
 void TestPilotsComputer::addPlugin(Tree &tree, const QMap<QString, QString> &folders) const
 {
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -219,7 +219,7 @@ void TestPilotsComputer::remove(const QString &simulator)
     m_program->window();
 }
 
-void TestPilotsComputer::isShownInTheDescribedOrder()
+void TestPilotsComputer::listsItsSimulatorsInOrder()
 {
     start();
     QCOMPARE(
@@ -270,7 +270,7 @@ void TestPilotsComputer::getsThePluginInOneGo()
     QVERIFY(!backupsOf(m_home->dllXml(), QStringLiteral("installation")).isEmpty());
 }
 
-void TestPilotsComputer::isAsBeforeWhenEachIsRemoved()
+void TestPilotsComputer::isRestoredByUninstallingEach()
 {
     const auto before = m_home->trees();
     start();
@@ -287,11 +287,12 @@ void TestPilotsComputer::isAsBeforeWhenEachIsRemoved()
     QVERIFY(!backupsOf(m_home->dllXml(), QStringLiteral("uninstallation")).isEmpty());
 }
 
-void TestPilotsComputer::isChangedOnlyWhereItsSimulatorsRead_data()
+void TestPilotsComputer::changesOnlyInItsSimulatorsFolders_data()
 {
     QTest::addColumn<PilotsSteam>("steam");
-    QTest::addColumn<QString>("dataRoot"); // empty: in its place
-    QTest::addColumn<bool>("isLink"); // in its place to where it is, or $XDG_DATA_HOME names that
+    QTest::addColumn<QString>("dataRoot"); // empty: the default
+    QTest::addColumn<bool>(
+        "isLink"); // a link to it at the default path; otherwise $XDG_DATA_HOME names it
     const auto row = [](const char *name,
                         const PilotsSteam &steam,
                         const QString &dataRoot = {},
@@ -319,7 +320,7 @@ void TestPilotsComputer::isChangedOnlyWhereItsSimulatorsRead_data()
     row("a data root elsewhere", {debian, drive, drive}, share);
 }
 
-void TestPilotsComputer::isChangedOnlyWhereItsSimulatorsRead()
+void TestPilotsComputer::changesOnlyInItsSimulatorsFolders()
 {
     QFETCH(PilotsSteam, steam);
     QFETCH(QString, dataRoot);
@@ -386,7 +387,7 @@ void TestPilotsComputer::findsAPackagedFlightGear()
 
 void TestPilotsComputer::showsAnUpgradedXPlaneOnce()
 {
-    // X-Plane 11 by its name and by a list, and X-Plane 12 by what is in it.
+    // X-Plane 11 by its name and by a list, but X-Plane 12 by its content.
     const QString folder = m_sandbox->path(QStringLiteral("games/X-Plane 11"));
     PilotsHome::makeXPlane(folder, 12);
     for (const char *list : {"11", "12"})

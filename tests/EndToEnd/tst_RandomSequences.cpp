@@ -12,15 +12,15 @@
 
 using namespace Tests;
 
-// Users and other programs at work, in any order: whatever went before, each click leaves on
-// disk exactly what it should, and what orbwell-doctor said that it would.
+// Users and other programs act in any order: each click leaves exactly the expected files on disk,
+// as orbwell-doctor predicted.
 class TestRandomSequences : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void leaveOnDiskWhatTheyShould_data();
-    void leaveOnDiskWhatTheyShould();
+    void leaveTheExpectedFilesOnDisk_data();
+    void leaveTheExpectedFilesOnDisk();
     void cleanupTestCase();
 
 private:
@@ -50,14 +50,14 @@ private:
     int m_plans = 0;
 };
 
-void TestRandomSequences::leaveOnDiskWhatTheyShould_data()
+void TestRandomSequences::leaveTheExpectedFilesOnDisk_data()
 {
     QTest::addColumn<unsigned>("seed");
     for (unsigned seed = 1; seed <= 32; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
 
-void TestRandomSequences::leaveOnDiskWhatTheyShould()
+void TestRandomSequences::leaveTheExpectedFilesOnDisk()
 {
     QFETCH(const unsigned, seed);
     m_random.seed(seed);
@@ -74,10 +74,10 @@ void TestRandomSequences::leaveOnDiskWhatTheyShould()
         qWarning("after: %s", qUtf8Printable(m_steps.join(QLatin1String(", "))));
 }
 
-// "Wren" shares the configuration of "Skylark" and is kept out of it, "Plover" has none yet.
+// "Wren" shares the configuration of "Skylark" but adds no entry, "Plover" has none yet.
 void TestRandomSequences::prepare()
 {
-    m_computer.reset(); // or it would put back the environment from before the next one's
+    m_computer.reset(); // otherwise it would restore the environment after the next one has set it
     m_computer.reset(new Computer);
     m_program = &m_computer->program();
     m_steps.clear();
@@ -166,7 +166,7 @@ void TestRandomSequences::scanAndInstall()
         checkRows();
 }
 
-// Whether it is there or not.
+// The file may already be missing.
 void TestRandomSequences::loseAPluginFile(const QString &simulator)
 {
     const QStringList files = m_books->pluginFilesOf(simulator);
@@ -230,7 +230,7 @@ void TestRandomSequences::check()
     checkBackups();
 }
 
-// The first is kept for certain, of the others those that met no backup of the same second.
+// The first one always exists, of the others only one per second.
 void TestRandomSequences::checkBackups()
 {
     const auto &sets = m_books->backups();
@@ -254,7 +254,7 @@ void TestRandomSequences::checkRows()
     }
 }
 
-// Unless only some were asked for.
+// Only if all sequences were run.
 void TestRandomSequences::cleanupTestCase()
 {
     QVERIFY(m_sequences < 32 || m_plans >= 200);

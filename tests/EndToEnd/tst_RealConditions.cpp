@@ -22,14 +22,14 @@
 #include <sys/ioctl.h>
 #endif
 
-/// Done in a process before it becomes the program.
+/// Runs in the child process before it executes the program.
 using Preparation = std::function<void()>;
 Q_DECLARE_METATYPE(Preparation)
 
 using namespace Tests;
 
-// Disks that are full or may only be read, files that nobody may change, users who may not write,
-// a log that nobody reads, and a computer without a screen: as they are, not as a test pretends.
+// Full and read-only disks, immutable files, users without permission, a log without a reader, and
+// a computer without a screen: real ones, not simulated.
 class TestRealConditions : public QObject
 {
     Q_OBJECT
@@ -38,24 +38,24 @@ private slots:
     void init();
     void cleanup();
 
-    void namesAFolderThatIsNotTheUsers();
-    void leavesAConfigurationThatIsNotTheUsers();
+    void reportsAFolderOfAnotherUser();
+    void keepsAConfigurationOfAnotherUser();
     void worksWithoutADataFolder_data();
     void worksWithoutADataFolder();
     void opensItsWindowWithoutADataFolder();
-    void namesWhatASmallDiskDoesNotTake();
-    void leavesAConfigurationOnAFullDisk();
-    void tellsOfARecordOnAFullDisk();
-    void namesWhatIsOverTheLimit();
-    void leavesAConfigurationOverTheLimit();
-    void namesAReadOnlyDisk();
+    void reportsFilesThatDoNotFitASmallDisk();
+    void keepsAConfigurationOnAFullDisk();
+    void reportsARecordOnAFullDisk();
+    void reportsFilesOverTheSizeLimit();
+    void keepsAConfigurationOverTheSizeLimit();
+    void reportsAReadOnlyDisk();
     void worksWithAReadOnlyDataFolder();
-    void leavesAnImmutableConfiguration();
-    void namesAnImmutablePluginFile();
-    void leavesAConfigurationThatIsAMountPoint();
-    void namesAPluginFileThatIsAMountPoint();
-    void worksWithoutItsDescriptors_data();
-    void worksWithoutItsDescriptors();
+    void keepsAnImmutableConfiguration();
+    void reportsAnImmutablePluginFile();
+    void keepsAConfigurationThatIsAMountPoint();
+    void reportsAPluginFileThatIsAMountPoint();
+    void worksWithoutStandardDescriptors_data();
+    void worksWithoutStandardDescriptors();
     void showsItsWindowWithoutStandardError();
     void endsWithoutAScreen_data();
     void endsWithoutAScreen();
@@ -117,7 +117,7 @@ void TestRealConditions::cleanup()
     m_computer.reset();
 }
 
-// One simulator, found in its folder, and how big its plugin file is.
+// One simulator, found in its folder, with this plugin file.
 void TestRealConditions::installInto(int type, const QByteArray &payload)
 {
     QJsonObject entry = m_computer->entry(m_det, 0);
@@ -138,7 +138,7 @@ QString TestRealConditions::cannotCopy() const
              m_computer->folder(m_det));
 }
 
-// Reading and writing it are told of together, and have no line end.
+// The messages about reading and writing appear together, without a line end.
 QString TestRealConditions::cannotRecord(const QString &dataRoot) const
 {
     return QStringLiteral("The file '%1' is empty. Quillmont Orbwell installer was not able to "
@@ -164,7 +164,7 @@ void TestRealConditions::forbid(const QString &folder)
     QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
 }
 
-// Root may write anywhere; the program gets another user then.
+// Root may write anywhere, so the program runs as another user then.
 void TestRealConditions::becomeAUser()
 {
     m_user.reset(new Unprivileged(m_computer->absolute(QString()).chopped(1)));
@@ -190,7 +190,7 @@ bool TestRealConditions::makeImmutable(const QString &path)
     return setImmutable(path, true);
 }
 
-void TestRealConditions::namesAFolderThatIsNotTheUsers()
+void TestRealConditions::reportsAFolderOfAnotherUser()
 {
     installInto(1, "module");
     becomeAUser();
@@ -203,7 +203,7 @@ void TestRealConditions::namesAFolderThatIsNotTheUsers()
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void TestRealConditions::leavesAConfigurationThatIsNotTheUsers()
+void TestRealConditions::keepsAConfigurationOfAnotherUser()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -221,11 +221,11 @@ void TestRealConditions::leavesAConfigurationThatIsNotTheUsers()
 void TestRealConditions::worksWithoutADataFolder_data()
 {
     QTest::addColumn<QString>("home");
-    QTest::newRow("a home that may only be read") << QStringLiteral("closed");
+    QTest::newRow("a read-only home") << QStringLiteral("closed");
     QTest::newRow("a home that does not exist") << QStringLiteral("closed/gone");
 }
 
-// The plugin gets in all the same.
+// The plugin is installed nevertheless.
 void TestRealConditions::worksWithoutADataFolder()
 {
     QFETCH(const QString, home);
@@ -254,7 +254,7 @@ void TestRealConditions::opensItsWindowWithoutADataFolder()
     QVERIFY(!QFileInfo::exists(QStringLiteral("/nobody's")));
 }
 
-void TestRealConditions::namesWhatASmallDiskDoesNotTake()
+void TestRealConditions::reportsFilesThatDoNotFitASmallDisk()
 {
     if (!m_mounts->addDisk(m_computer->folder(m_det), 100))
         QSKIP(noMount);
@@ -265,7 +265,7 @@ void TestRealConditions::namesWhatASmallDiskDoesNotTake()
              QStringList({QStringLiteral("Gauges/"), QStringLiteral("Gauges/other.dll")}));
 }
 
-void TestRealConditions::leavesAConfigurationOnAFullDisk()
+void TestRealConditions::keepsAConfigurationOnAFullDisk()
 {
     const QString folder = QFileInfo(configuration()).path();
     if (!m_mounts->addDisk(folder, 100))
@@ -282,7 +282,7 @@ void TestRealConditions::leavesAConfigurationOnAFullDisk()
     QCOMPARE(readFile(place()), QByteArray("module"));
 }
 
-void TestRealConditions::tellsOfARecordOnAFullDisk()
+void TestRealConditions::reportsARecordOnAFullDisk()
 {
     const QString folder
         = m_computer->absolute(m_computer->data(QStringLiteral("Quillmont/Orbwell")));
@@ -306,7 +306,7 @@ void TestRealConditions::tellsOfARecordOnAFullDisk()
     QVERIFY(!m_computer->program().standardError().contains("orbwell: written"));
 }
 
-void TestRealConditions::namesWhatIsOverTheLimit()
+void TestRealConditions::reportsFilesOverTheSizeLimit()
 {
     installInto(1, QByteArray(200 * 1024, 'x'));
     limitFiles(100000);
@@ -317,7 +317,7 @@ void TestRealConditions::namesWhatIsOverTheLimit()
     QCOMPARE(m_computer->records().size(), 1);
 }
 
-void TestRealConditions::leavesAConfigurationOverTheLimit()
+void TestRealConditions::keepsAConfigurationOverTheSizeLimit()
 {
     installInto(0, "module");
     const QByteArray content
@@ -330,7 +330,7 @@ void TestRealConditions::leavesAConfigurationOverTheLimit()
              (QMap<QString, QByteArray>{{QStringLiteral("dll.xml"), content}}));
 }
 
-void TestRealConditions::namesAReadOnlyDisk()
+void TestRealConditions::reportsAReadOnlyDisk()
 {
     installInto(1, "module");
     if (!m_mounts->protect(m_computer->folder(m_det)))
@@ -355,7 +355,7 @@ void TestRealConditions::worksWithAReadOnlyDataFolder()
     QCOMPARE(readFile(place()), QByteArray("module"));
 }
 
-void TestRealConditions::leavesAnImmutableConfiguration()
+void TestRealConditions::keepsAnImmutableConfiguration()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -364,7 +364,7 @@ void TestRealConditions::leavesAnImmutableConfiguration()
     QCOMPARE(m_computer->run(quietInstallation()), 2);
     QCOMPARE(m_computer->said(), QStringList());
     QCOMPARE(readFile(configuration()), othersConfiguration());
-    // The backup, and nothing that was meant to take the file's place.
+    // Only the backup, and no temporary file.
     const QStringList files
         = QFileInfo(configuration()).dir().entryList(QDir::Files | QDir::Hidden);
     QCOMPARE(files.size(),
@@ -373,7 +373,7 @@ void TestRealConditions::leavesAnImmutableConfiguration()
     QVERIFY(files.size() > 1);
 }
 
-void TestRealConditions::namesAnImmutablePluginFile()
+void TestRealConditions::reportsAnImmutablePluginFile()
 {
     QJsonObject entry = m_computer->entry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -392,7 +392,7 @@ void TestRealConditions::namesAnImmutablePluginFile()
 }
 
 // Nothing can be renamed over it.
-void TestRealConditions::leavesAConfigurationThatIsAMountPoint()
+void TestRealConditions::keepsAConfigurationThatIsAMountPoint()
 {
     installInto(0, "module");
     m_computer->write(m_computer->configuration(m_det), othersConfiguration());
@@ -406,7 +406,7 @@ void TestRealConditions::leavesAConfigurationThatIsAMountPoint()
              QStringList());
 }
 
-void TestRealConditions::namesAPluginFileThatIsAMountPoint()
+void TestRealConditions::reportsAPluginFileThatIsAMountPoint()
 {
     installInto(1, "module");
     writeFile(place(), "old");
@@ -432,7 +432,7 @@ static void loseTheReaderOfTheLog()
         _exit(99);
 }
 
-void TestRealConditions::worksWithoutItsDescriptors_data()
+void TestRealConditions::worksWithoutStandardDescriptors_data()
 {
     QTest::addColumn<Preparation>("prepare");
     QTest::addColumn<QStringList>("arguments");
@@ -450,8 +450,8 @@ void TestRealConditions::worksWithoutItsDescriptors_data()
     }
 }
 
-// No line of the log goes into the record, and nobody else's record is lost.
-void TestRealConditions::worksWithoutItsDescriptors()
+// No log line is written into the record, and no other record is lost.
+void TestRealConditions::worksWithoutStandardDescriptors()
 {
     QFETCH(const Preparation, prepare);
     QFETCH(const QStringList, arguments);
@@ -469,7 +469,7 @@ void TestRealConditions::worksWithoutItsDescriptors()
     QCOMPARE(readFile(m_computer->absolute(record)), QJsonDocument(records).toJson());
 }
 
-// The log does not go to the X server, which would wait for the rest of it for ever.
+// The log is not sent to the X server, which would then hang.
 void TestRealConditions::showsItsWindowWithoutStandardError()
 {
     const Display display;
@@ -495,7 +495,7 @@ void TestRealConditions::endsWithoutAScreen_data()
     }
 }
 
-// It says so, and touches nothing.
+// It reports that, and changes nothing.
 void TestRealConditions::endsWithoutAScreen()
 {
     QFETCH(const QString, platform);

@@ -5,7 +5,7 @@
 
 using namespace Tests;
 
-// What "Scan & Install" does with simulators that lack the plugin, and with others.
+// What "Scan & Install" does with simulators with and without the plugin.
 class TestScanAndInstall : public QObject
 {
     Q_OBJECT
@@ -14,10 +14,10 @@ private slots:
     void init();
     void cleanup();
 
-    void scansAfterEachOfThreeAndShowsOneBox();
-    void installsIntoAllOfThem();
-    void saysThatThereIsNothingToInstall();
-    void saysThatThereIsNoSimulator();
+    void scansAfterEachInstallationAndShowsOneBox();
+    void installsIntoAllSimulators();
+    void reportsThatThereIsNothingToInstall();
+    void reportsThatThereIsNoSimulator();
 
 private:
     SeenWindow scanAndInstall();
@@ -54,7 +54,7 @@ SeenWindow TestScanAndInstall::scanAndInstall()
     return m_program->box();
 }
 
-void TestScanAndInstall::scansAfterEachOfThreeAndShowsOneBox()
+void TestScanAndInstall::scansAfterEachInstallationAndShowsOneBox()
 {
     const SeenWindow box = scanAndInstall();
     QCOMPARE(box.title, QStringLiteral("Quillmont Orbwell Settings"));
@@ -73,7 +73,7 @@ void TestScanAndInstall::scansAfterEachOfThreeAndShowsOneBox()
     }
 }
 
-void TestScanAndInstall::installsIntoAllOfThem()
+void TestScanAndInstall::installsIntoAllSimulators()
 {
     Disk expected = m_computer->disk();
     scanAndInstall();
@@ -92,7 +92,7 @@ void TestScanAndInstall::installsIntoAllOfThem()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestScanAndInstall::saysThatThereIsNothingToInstall()
+void TestScanAndInstall::reportsThatThereIsNothingToInstall()
 {
     for (int i = 0; i < m_names.size(); ++i)
         m_computer->addPlugin(m_names.at(i), i % 2);
@@ -101,7 +101,7 @@ void TestScanAndInstall::saysThatThereIsNothingToInstall()
     QCOMPARE(m_computer->records().size(), 3);
 }
 
-void TestScanAndInstall::saysThatThereIsNoSimulator()
+void TestScanAndInstall::reportsThatThereIsNoSimulator()
 {
     m_computer->setCatalogue({});
     QCOMPARE(scanAndInstall().text,

@@ -9,7 +9,7 @@
 
 using namespace Tests;
 
-// A person who hears the window: what a screen reader finds and presses on the system's own bus.
+// What a screen reader finds and presses, on the system's accessibility bus.
 class TestScreenReader : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ void TestScreenReader::findsARowAndPressesItsButton()
            pluginFolderEntry(QStringLiteral("Elsewhere"), folder + QStringLiteral("/gone"))});
 
     const QString executable = program.folder() + QStringLiteral("/QuillmontOrbwell");
-    // The binding belongs to the system's Python, which another may hide.
+    // The module belongs to the system's Python, which may not be the first on the path.
     CommandResult heard = listen(QStringLiteral("python3"), executable);
     if (heard.status == 77)
         heard = listen(QStringLiteral("/usr/bin/python3"), executable);
@@ -85,7 +85,7 @@ void TestScreenReader::findsARowAndPressesItsButton()
           "- push button: Choose the folder of Skylark\n"
           "- push button: Uninstall Orbwell: Skylark\n"
           "status: 0\n";
-    // The bus's own registry says hello first.
+    // The bus's registry prints its own lines first.
     QCOMPARE(heard.output.mid(heard.output.indexOf("list item")), expected);
 }
 

@@ -13,7 +13,7 @@
 
 using namespace Tests;
 
-// Another copy that is at the simulators' files, for as long as it lives.
+// Holds the lock like another working copy, for its lifetime.
 class OtherCopy
 {
 public:
@@ -21,7 +21,7 @@ public:
     {
         QDir().mkpath(folder);
         m_folder = open(QFile::encodeName(folder).constData(), O_RDONLY | O_CLOEXEC);
-        // It would share the lock, so that a copy of the program has to want it for itself.
+        // A shared lock, so that the test fails unless the program requests an exclusive one.
         if (flock(m_folder, LOCK_SH | LOCK_NB) != 0)
             qFatal("cannot lock %s", qPrintable(folder));
     }
@@ -33,7 +33,7 @@ private:
     int m_folder;
 };
 
-// What the program does while another copy is at the simulators' files, which this test is.
+// What the program does while another copy, here this test, is working on the simulators' files.
 class TestTakingTurns : public QObject
 {
     Q_OBJECT
@@ -43,10 +43,10 @@ private slots:
     void cleanup();
 
     void startsAtOnceWithNothingToClear();
-    void waitsBeforeItTouchesAFile_data();
-    void waitsBeforeItTouchesAFile();
-    void waitsForEachCopyThatEndsItsWork();
-    void waitsOnceForACopyThatHangs();
+    void waitsBeforeItChangesAFile_data();
+    void waitsBeforeItChangesAFile();
+    void waitsForEachWorkingCopy();
+    void waitsOnlyOnceForAHangingCopy();
 
 private:
     QString simulator(const QString &name) const { return m_sandbox->path(name); }
@@ -80,7 +80,7 @@ static QJsonObject with(QJsonObject entry, const char *solution)
     return entry;
 }
 
-// "Wren" is there. "Crane" has a conflict with it, which counts once it is there as well.
+// "Wren" is installed. "Crane" has a conflict with it, which counts only if both exist.
 void TestTakingTurns::init()
 {
     m_sandbox.reset(new Sandbox);
@@ -123,7 +123,7 @@ void TestTakingTurns::startsAtOnceWithNothingToClear()
     QVERIFY(!m_program->standardError().contains(waiting));
 }
 
-void TestTakingTurns::waitsBeforeItTouchesAFile_data()
+void TestTakingTurns::waitsBeforeItChangesAFile_data()
 {
     QTest::addColumn<QString>("unfinished");
     QTest::addColumn<QByteArray>("before");
@@ -140,7 +140,7 @@ void TestTakingTurns::waitsBeforeItTouchesAFile_data()
     const QString nameless = QStringLiteral("/");
     QTest::newRow("to install") << plugin << none << module << usual << false;
     QTest::newRow("to remove") << plugin << module << none << usual << false;
-    QTest::newRow("without a name to take out of its folder's path")
+    QTest::newRow("with a program name that is not in the path")
         << plugin << none << module << nameless << false;
     QTest::newRow("to clear") << own << half << none << usual << false;
     QTest::newRow("to clear before a conflict") << own << half << none << usual << true;
@@ -148,7 +148,7 @@ void TestTakingTurns::waitsBeforeItTouchesAFile_data()
     QTest::newRow("to clear after a conflict") << solved << half << none << usual << false;
 }
 
-void TestTakingTurns::waitsBeforeItTouchesAFile()
+void TestTakingTurns::waitsBeforeItChangesAFile()
 {
     QFETCH(const QString, unfinished);
     QFETCH(const QByteArray, before);
@@ -184,8 +184,8 @@ void TestTakingTurns::waitsBeforeItTouchesAFile()
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-// To install, and then to remove.
-void TestTakingTurns::waitsForEachCopyThatEndsItsWork()
+// One installs, then one removes.
+void TestTakingTurns::waitsForEachWorkingCopy()
 {
     m_program->start();
     m_program->window();
@@ -204,8 +204,8 @@ void TestTakingTurns::waitsForEachCopyThatEndsItsWork()
     QCOMPARE(m_program->exitStatus(), 0);
 }
 
-// Ten seconds, however many changes there are: here a removal and an installation.
-void TestTakingTurns::waitsOnceForACopyThatHangs()
+// Ten seconds in all, however many changes there are: here a removal and an installation.
+void TestTakingTurns::waitsOnlyOnceForAHangingCopy()
 {
     m_program->start(quietInstallation());
     waitFor(waiting);

@@ -13,8 +13,8 @@
 
 using namespace Tests;
 
-/// Copies of the program, each with a simulator of its own to install into. All simulators load
-/// what one configuration file says, each copy's entry under a name of its own.
+/// Copies of the program that install at once, each into its own simulator. All simulators share
+/// one configuration file, in which each copy's entry has its own name.
 class TestTwoAtOnce : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ static const QStringList names{QStringLiteral("A"),
                                QStringLiteral("D"),
                                QStringLiteral("E")};
 
-// More of them show more; ORBWELL_ROUNDS says how many with two copies.
+// More rounds find more; ORBWELL_ROUNDS sets their number for two copies.
 static int rounds(int copies)
 {
     const int asked = qEnvironmentVariableIntValue("ORBWELL_ROUNDS");
@@ -51,8 +51,8 @@ static int rounds(int copies)
     return copies == 2 ? withTwo : qMax(1, withTwo / 4);
 }
 
-// One file for each, so that the configuration file is edited once: a second edit would mend what
-// the first one lost.
+// One plugin file each, so that the configuration file is edited only once: a second edit would
+// repair what the first one lost.
 static QJsonObject entryOf(const QString &simulator, const QString &folder)
 {
     QJsonObject entry = launcherEntry(simulator, folder, QStringLiteral("Maker/dll.xml"));
@@ -88,7 +88,7 @@ void TestTwoAtOnce::initTestCase()
     }
 }
 
-// A box, which nobody answers, would keep one from its end.
+// The runs are silent: nobody would answer a box.
 void TestTwoAtOnce::installTogether(int copies)
 {
     for (int i = 0; i < copies; ++i)
@@ -134,7 +134,7 @@ void TestTwoAtOnce::keepAllEntries()
             return;
 
         QCOMPARE(entryNames(readFile(m_configuration)), expected);
-        // Who writes the record last wins, but it is always a whole one.
+        // The last writer of the record wins, but the record is always complete.
         const auto kept = treeOf(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell"));
         QCOMPARE(kept.keys(), QStringList({QStringLiteral(".mapping"), QStringLiteral(".path")}));
         QVERIFY(!QJsonDocument::fromJson(kept.first()).array().isEmpty());

@@ -5,8 +5,8 @@
 
 using namespace Tests;
 
-// What each run does to two simulators: the scan finds "Det", which lacks the plugin; "Rec" is
-// known to the record alone, with all its files in place.
+// What each run does with two simulators: the scan finds "Det", which lacks the plugin; only the
+// record knows "Rec", which has all its files.
 class TestUnattended : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ void TestUnattended::addTypes()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("with a configuration file") << 0;
-    QTest::newRow("with plugin files alone") << 1;
+    QTest::newRow("with plugin files only") << 1;
 }
 
 void TestUnattended::prepare(int type)
@@ -138,7 +138,7 @@ void TestUnattended::repairs()
     QCOMPARE(difference(m_computer->disk(), m_expected), QString());
 }
 
-// Each removal is followed by a look at the computer that installs into what it finds.
+// Each removal is followed by a scan that installs into the simulators that it finds.
 void TestUnattended::uninstalls()
 {
     QFETCH(const int, type);

@@ -9,7 +9,7 @@
 
 using namespace Tests;
 
-// Records and configuration files that somebody damaged, or that became something else.
+// Records and configuration files that are damaged or not regular files.
 class TestUnattendedBadInput : public QObject
 {
     Q_OBJECT
@@ -18,17 +18,17 @@ private slots:
     void init();
     void cleanup();
 
-    void takesTheLastOfTwoRecords();
-    void takesTheRecordWhoseFilesAreThere();
+    void usesTheLastOfTwoRecords();
+    void usesTheRecordWhoseFilesExist();
     void keepsForeignRecords();
     void ignoresRecordsOfWrongTypes_data();
     void ignoresRecordsOfWrongTypes();
-    void startsAnUnreadableRecordAnew_data();
-    void startsAnUnreadableRecordAnew();
-    void sparesAFileInPlaceOfTheFolder();
-    void complainsOfAFolderInPlaceOfTheRecord();
-    void leavesAMalformedConfigurationAlone_data();
-    void leavesAMalformedConfigurationAlone();
+    void replacesAnUnreadableRecord_data();
+    void replacesAnUnreadableRecord();
+    void keepsAFileInPlaceOfAFolder();
+    void reportsAFolderInPlaceOfTheRecord();
+    void keepsAMalformedConfiguration_data();
+    void keepsAMalformedConfiguration();
     void worksWithAReadOnlyConfiguration();
     void worksWithAFolderInPlaceOfTheConfiguration();
 
@@ -57,7 +57,7 @@ QString TestUnattendedBadInput::file(const QString &simulator) const
     return m_computer->folder(simulator) + QLatin1String("/Resources/plugins/Orbwell/about.txt");
 }
 
-// Says of "Rec" that it lies in the folder.
+// A record that says that "Rec" is in the folder.
 QJsonObject TestUnattendedBadInput::recordIn(const QString &folder) const
 {
     QJsonObject record = m_computer->recordFor(m_computer->entry(folder, 1));
@@ -66,7 +66,7 @@ QJsonObject TestUnattendedBadInput::recordIn(const QString &folder) const
 }
 
 // The first counts in the next run.
-void TestUnattendedBadInput::takesTheLastOfTwoRecords()
+void TestUnattendedBadInput::usesTheLastOfTwoRecords()
 {
     const QString a = QStringLiteral("A");
     const QString b = QStringLiteral("B");
@@ -84,8 +84,8 @@ void TestUnattendedBadInput::takesTheLastOfTwoRecords()
     QCOMPARE(m_computer->records(), QJsonArray());
 }
 
-// And takes out the last, whichever counted.
-void TestUnattendedBadInput::takesTheRecordWhoseFilesAreThere()
+// And removes the last one, whichever counted.
+void TestUnattendedBadInput::usesTheRecordWhoseFilesExist()
 {
     const QString a = QStringLiteral("A");
     m_computer->addPlugin(a, 1);
@@ -151,16 +151,16 @@ void TestUnattendedBadInput::ignoresRecordsOfWrongTypes()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedBadInput::startsAnUnreadableRecordAnew_data()
+void TestUnattendedBadInput::replacesAnUnreadableRecord_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("cut off") << QByteArray(R"([{"name": "Rec", )");
     QTest::newRow("an object") << QByteArray(R"({"name": "Rec"})");
     QTest::newRow("not text") << QByteArray("\xFF\xFE\x00\x01", 4);
-    QTest::newRow("blank") << QByteArray("\n");
+    QTest::newRow("only a line end") << QByteArray("\n");
 }
 
-void TestUnattendedBadInput::startsAnUnreadableRecordAnew()
+void TestUnattendedBadInput::replacesAnUnreadableRecord()
 {
     QFETCH(const QByteArray, content);
     const QJsonObject entry = m_computer->entry(m_det, 1);
@@ -175,7 +175,7 @@ void TestUnattendedBadInput::startsAnUnreadableRecordAnew()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedBadInput::sparesAFileInPlaceOfTheFolder()
+void TestUnattendedBadInput::keepsAFileInPlaceOfAFolder()
 {
     m_computer->write(QStringLiteral("sims/Rec"), "precious");
     const QJsonObject record{{QStringLiteral("name"), m_rec},
@@ -190,8 +190,8 @@ void TestUnattendedBadInput::sparesAFileInPlaceOfTheFolder()
     QCOMPARE(m_computer->records(), QJsonArray());
 }
 
-// Both messages speak of the file and have no line end; the plugin gets installed all the same.
-void TestUnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
+// Both messages name the file and have no line end; the plugin is installed nevertheless.
+void TestUnattendedBadInput::reportsAFolderInPlaceOfTheRecord()
 {
     m_computer->setCatalogue({m_computer->entry(m_det, 1)});
     m_computer->addSimulator(m_det);
@@ -213,7 +213,7 @@ void TestUnattendedBadInput::complainsOfAFolderInPlaceOfTheRecord()
     QVERIFY(QFileInfo(m_computer->absolute(record)).isDir());
 }
 
-void TestUnattendedBadInput::leavesAMalformedConfigurationAlone_data()
+void TestUnattendedBadInput::keepsAMalformedConfiguration_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("cut off") << othersConfiguration().chopped(10);
@@ -223,7 +223,7 @@ void TestUnattendedBadInput::leavesAMalformedConfigurationAlone_data()
     QTest::newRow("an unescaped ampersand") << othersConfiguration().replace("Somebody's", "A & B");
 }
 
-void TestUnattendedBadInput::leavesAMalformedConfigurationAlone()
+void TestUnattendedBadInput::keepsAMalformedConfiguration()
 {
     QFETCH(const QByteArray, content);
     const QJsonObject entry = m_computer->entry(m_det, 0);
@@ -243,7 +243,7 @@ void TestUnattendedBadInput::leavesAMalformedConfigurationAlone()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-// Whether it can be changed depends on who asks; nobody else's line may get lost.
+// Root can change it and others cannot; other programs' lines must be kept in either case.
 void TestUnattendedBadInput::worksWithAReadOnlyConfiguration()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);

@@ -7,7 +7,7 @@
 
 using namespace Tests;
 
-// What follows from the steps of a run, taken to the letter.
+// Less obvious consequences of a run's steps.
 class TestUnattendedDetails : public QObject
 {
     Q_OBJECT
@@ -16,20 +16,20 @@ private slots:
     void init();
     void cleanup();
 
-    void clearsAHalfInstallationFirst();
-    void deletesAnEmptiedFolderWithWhatIsHidden();
-    void goesByTheFolderThatIsFound_data();
-    void goesByTheFolderThatIsFound();
-    void repairsNothingThatMissesAFile();
-    void putsItsWordIntoANameThatAsksForIt();
-    void leavesTheEntryOutButTakesItOut();
-    void takesTheLaterOfTwoEntriesInOneFolder();
+    void removesAPartialInstallationFirst();
+    void deletesAnEmptiedFolderWithHiddenFiles();
+    void prefersTheDetectedFolder_data();
+    void prefersTheDetectedFolder();
+    void repairsNoPartialInstallation();
+    void replacesAPlaceholderInASimulatorsName();
+    void removesAnEntryThatItDoesNotAdd();
+    void usesTheLaterOfTwoEntriesInOneFolder();
     void installsTheLaterOfTwoEntriesFirst();
     void showsAFailedCopyBeforeTheNextInstallation();
-    void tellsOthersWhereTheProgramIs();
-    void tellsOthersOneBackslashForTwo();
-    void looksAtTheComputer_data();
-    void looksAtTheComputer();
+    void writesTheLauncherPath();
+    void writesSingleBackslashesInTheLauncherPath();
+    void detectsSimulatorsOnTheComputer_data();
+    void detectsSimulatorsOnTheComputer();
 
 private:
     const QString m_det = QStringLiteral("Det");
@@ -71,8 +71,8 @@ void TestUnattendedDetails::cleanup()
     m_computer.reset();
 }
 
-// The entry goes back in behind the others, and so shows that it was out.
-void TestUnattendedDetails::clearsAHalfInstallationFirst()
+// The entry moves after the others, which shows that it was removed and added again.
+void TestUnattendedDetails::removesAPartialInstallationFirst()
 {
     const QJsonObject entry = withFilesToDelete(m_computer->entry(m_det, 0));
     m_computer->setCatalogue({entry});
@@ -97,7 +97,7 @@ void TestUnattendedDetails::clearsAHalfInstallationFirst()
     QVERIFY(!QFileInfo::exists(m_computer->absolute(QStringLiteral("home/y.cfg"))));
 }
 
-void TestUnattendedDetails::deletesAnEmptiedFolderWithWhatIsHidden()
+void TestUnattendedDetails::deletesAnEmptiedFolderWithHiddenFiles()
 {
     const QJsonObject entry = m_computer->entry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -113,7 +113,7 @@ void TestUnattendedDetails::deletesAnEmptiedFolderWithWhatIsHidden()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedDetails::goesByTheFolderThatIsFound_data()
+void TestUnattendedDetails::prefersTheDetectedFolder_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -122,9 +122,8 @@ void TestUnattendedDetails::goesByTheFolderThatIsFound_data()
     QTest::newRow("uninstall") << QStringList(QStringLiteral("--UNINSTALL")) << 0;
 }
 
-// The record names a folder with all the files in place; the scan has written the record anew
-// before it is read.
-void TestUnattendedDetails::goesByTheFolderThatIsFound()
+// The record names a folder with all files, but the scan rewrites the record before it is read.
+void TestUnattendedDetails::prefersTheDetectedFolder()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -143,7 +142,7 @@ void TestUnattendedDetails::goesByTheFolderThatIsFound()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedDetails::repairsNothingThatMissesAFile()
+void TestUnattendedDetails::repairsNoPartialInstallation()
 {
     const QJsonObject entry = m_computer->hiddenEntry(m_det, 1);
     m_computer->setCatalogue({entry});
@@ -157,8 +156,8 @@ void TestUnattendedDetails::repairsNothingThatMissesAFile()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-// The summary's lines are put in before its word.
-void TestUnattendedDetails::putsItsWordIntoANameThatAsksForIt()
+// The summary's lines are inserted before its status word, so a "%1" in them is replaced.
+void TestUnattendedDetails::replacesAPlaceholderInASimulatorsName()
 {
     const QJsonObject entry = m_computer->hiddenEntry(QStringLiteral("Rec %1"), 1);
     m_computer->setCatalogue({entry});
@@ -170,7 +169,7 @@ void TestUnattendedDetails::putsItsWordIntoANameThatAsksForIt()
              QStringLiteral("Rec updated: Updated"));
 }
 
-void TestUnattendedDetails::leavesTheEntryOutButTakesItOut()
+void TestUnattendedDetails::removesAnEntryThatItDoesNotAdd()
 {
     const QJsonObject entry = with(m_computer->entry(m_det, 0), "root", QStringLiteral("1"));
     m_computer->setCatalogue({entry});
@@ -187,8 +186,8 @@ void TestUnattendedDetails::leavesTheEntryOutButTakesItOut()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-// Both want the same files: the first to come installs them, the other one finds them there.
-void TestUnattendedDetails::takesTheLaterOfTwoEntriesInOneFolder()
+// Both have the same files: the first one installs them, and the other one finds them.
+void TestUnattendedDetails::usesTheLaterOfTwoEntriesInOneFolder()
 {
     const QJsonObject first = m_computer->entry(m_det, 1);
     const QJsonArray others{
@@ -220,7 +219,7 @@ void TestUnattendedDetails::installsTheLaterOfTwoEntriesFirst()
                                         "successfully installed Orbwell plugin to  Later Det.")));
 }
 
-// And in that one's name; the installation itself is said to have succeeded.
+// And under that one's name; the failed installation itself is reported as successful.
 void TestUnattendedDetails::showsAFailedCopyBeforeTheNextInstallation()
 {
     const QString next = QStringLiteral("Next");
@@ -248,8 +247,8 @@ void TestUnattendedDetails::showsAFailedCopyBeforeTheNextInstallation()
                          m_computer->recordFor(m_computer->entry(next, 1))}));
 }
 
-// The maker's other programs know this one by one name on every system.
-void TestUnattendedDetails::tellsOthersWhereTheProgramIs()
+// The maker's other programs expect the same file name on every system.
+void TestUnattendedDetails::writesTheLauncherPath()
 {
     m_computer->setCatalogue({});
     Disk expected;
@@ -259,7 +258,7 @@ void TestUnattendedDetails::tellsOthersWhereTheProgramIs()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedDetails::tellsOthersOneBackslashForTwo()
+void TestUnattendedDetails::writesSingleBackslashesInTheLauncherPath()
 {
     const Sandbox sandbox;
     Program program(sandbox, nullptr, QStringLiteral(R"(one\two\\\three)"));
@@ -271,17 +270,17 @@ void TestUnattendedDetails::tellsOthersOneBackslashForTwo()
         sandbox.path(QStringLiteral(R"(one\two\\three/QuillmontOrbwell.exe)")));
 }
 
-void TestUnattendedDetails::looksAtTheComputer_data()
+void TestUnattendedDetails::detectsSimulatorsOnTheComputer_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("times");
-    QTest::newRow("once to install") << quietInstallation() << 1;
-    QTest::newRow("and after each removal") << QStringList(QStringLiteral("--UNINSTALL")) << 3;
-    QTest::newRow("and each repair") << QStringList(QStringLiteral("--REPAIR")) << 5;
+    QTest::newRow("once for an installation") << quietInstallation() << 1;
+    QTest::newRow("again after each removal") << QStringList(QStringLiteral("--UNINSTALL")) << 3;
+    QTest::newRow("again after each repair") << QStringList(QStringLiteral("--REPAIR")) << 5;
 }
 
 // Two simulators lack the plugin.
-void TestUnattendedDetails::looksAtTheComputer()
+void TestUnattendedDetails::detectsSimulatorsOnTheComputer()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, times);

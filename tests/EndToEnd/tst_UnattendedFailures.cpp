@@ -10,7 +10,7 @@
 
 using namespace Tests;
 
-// What a run says, and how it ends, when something fails or there is nothing to do.
+// The messages and exit status of a run when something fails or there is nothing to do.
 class TestUnattendedFailures : public QObject
 {
     Q_OBJECT
@@ -21,15 +21,15 @@ private slots:
 
     void doesNothingWithoutACatalogue_data();
     void doesNothingWithoutACatalogue();
-    void endsAsUsualWhenThereIsNoSimulator_data();
-    void endsAsUsualWhenThereIsNoSimulator();
-    void namesAFileThatCannotBeRemoved_data();
-    void namesAFileThatCannotBeRemoved();
-    void saysThatASimulatorIsNotUpdated();
-    void saysThatARecordedSimulatorIsNotUpdated();
+    void succeedsWithoutASimulator_data();
+    void succeedsWithoutASimulator();
+    void reportsAFileThatCannotBeRemoved_data();
+    void reportsAFileThatCannotBeRemoved();
+    void reportsASimulatorAsNotUpdated();
+    void reportsARecordedSimulatorAsNotUpdated();
     void showsAFailedUpdateBeforeTheNextOne();
-    void failsTheRunForOneSimulatorOfTwo();
-    void namesAFolderThatCannotBeWritten();
+    void failsIfOneSimulatorOfTwoFails();
+    void reportsAFolderThatCannotBeWritten();
 
 private:
     QString cannotRemove(const QString &simulator, const QString &lines) const;
@@ -76,7 +76,7 @@ void TestUnattendedFailures::doesNothingWithoutACatalogue_data()
     QTest::newRow("uninstall") << words("--UNINSTALL") << 0;
 }
 
-// Only an installation says where the program is.
+// Only an installation writes the launcher path.
 void TestUnattendedFailures::doesNothingWithoutACatalogue()
 {
     QFETCH(const QStringList, arguments);
@@ -96,28 +96,29 @@ void TestUnattendedFailures::doesNothingWithoutACatalogue()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator_data()
+void TestUnattendedFailures::succeedsWithoutASimulator_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<bool>("emptyCatalogue");
     QTest::addColumn<int>("status");
     QTest::addColumn<QStringList>("boxes");
     const QString settings = QStringLiteral("Quillmont Orbwell Settings: ");
-    QTest::newRow("install, none known")
+    QTest::newRow("install, empty catalogue")
         << words("--INSTALL") << true << 2
         << QStringList(settings
                        + QLatin1String("There are no other simulator found for install Orbwell "
                                        "plugin."));
-    QTest::newRow("install, none here")
+    QTest::newRow("install, none found")
         << words("--INSTALL") << false << 2
         << QStringList(settings + QLatin1String("Orbwell plugin is installed in all simulators."));
     QTest::newRow("quiet install") << quietInstallation() << false << 2 << QStringList();
-    QTest::newRow("quiet install, none known") << quietInstallation() << true << 2 << QStringList();
+    QTest::newRow("quiet install, empty catalogue")
+        << quietInstallation() << true << 2 << QStringList();
     QTest::newRow("repair") << words("--REPAIR") << false << 0 << QStringList();
     QTest::newRow("uninstall") << words("--UNINSTALL") << false << 0 << QStringList();
 }
 
-void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
+void TestUnattendedFailures::succeedsWithoutASimulator()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const bool, emptyCatalogue);
@@ -133,7 +134,7 @@ void TestUnattendedFailures::endsAsUsualWhenThereIsNoSimulator()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedFailures::namesAFileThatCannotBeRemoved_data()
+void TestUnattendedFailures::reportsAFileThatCannotBeRemoved_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("summary");
@@ -141,9 +142,9 @@ void TestUnattendedFailures::namesAFileThatCannotBeRemoved_data()
     QTest::newRow("repair") << words("--REPAIR") << updated("Det: Updated\nRec: Not updated");
 }
 
-// In the place of the file stands a folder with something in it. It stays; the other simulator
-// is done as ever.
-void TestUnattendedFailures::namesAFileThatCannotBeRemoved()
+// There is a folder with content in place of the file. It is kept; the other simulator is processed
+// as usual.
+void TestUnattendedFailures::reportsAFileThatCannotBeRemoved()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, summary);
@@ -170,8 +171,8 @@ void TestUnattendedFailures::namesAFileThatCannotBeRemoved()
     QCOMPARE(m_computer->records().size(), summary.isEmpty() ? 1 : 2);
 }
 
-// Two looks at the computer try to install as well and complain on the way.
-void TestUnattendedFailures::saysThatASimulatorIsNotUpdated()
+// Two scans try to install as well and report failures.
+void TestUnattendedFailures::reportsASimulatorAsNotUpdated()
 {
     const QJsonObject entry = m_computer->entry(m_det, 0);
     m_computer->setCatalogue({entry});
@@ -193,8 +194,8 @@ void TestUnattendedFailures::saysThatASimulatorIsNotUpdated()
     QCOMPARE(m_computer->said(), QStringList(cannotRemove(m_det, line)));
 }
 
-// The plugin is in a simulator that the record alone knows, so that nothing but the installation
-// itself can fail. Answers what it complains about.
+// The plugin is in a simulator that only the record knows, so that only the installation itself can
+// fail. Returns its error lines.
 QString TestUnattendedFailures::installWithoutPayload() const
 {
     const QString source
@@ -206,7 +207,7 @@ QString TestUnattendedFailures::installWithoutPayload() const
         .arg(source, m_computer->folder(m_rec) + m_module, m_computer->folder(m_rec));
 }
 
-void TestUnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
+void TestUnattendedFailures::reportsARecordedSimulatorAsNotUpdated()
 {
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
     m_computer->setCatalogue({rec});
@@ -217,7 +218,7 @@ void TestUnattendedFailures::saysThatARecordedSimulatorIsNotUpdated()
     QCOMPARE(m_computer->said(), QStringList(updated("Rec: Not updated")));
 }
 
-// The lines of one installation come up with the next removal, which so fails as well.
+// The error lines of one installation appear with the next removal, which fails for that reason.
 void TestUnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
 {
     const QString other = QStringLiteral("Other");
@@ -233,7 +234,7 @@ void TestUnattendedFailures::showsAFailedUpdateBeforeTheNextOne()
              QStringList({cannotRemove(other, line), updated("Rec: Not updated\nOther: Updated")}));
 }
 
-void TestUnattendedFailures::failsTheRunForOneSimulatorOfTwo()
+void TestUnattendedFailures::failsIfOneSimulatorOfTwoFails()
 {
     const QString other = QStringLiteral("Other");
     const QJsonObject rec = m_computer->hiddenEntry(m_rec, 0);
@@ -250,7 +251,7 @@ void TestUnattendedFailures::failsTheRunForOneSimulatorOfTwo()
                                + QLatin1String("/Resources/plugins/Orbwell")));
 }
 
-// Nobody may write there, not even an administrator.
+// Nobody can write there, not even root.
 QString TestUnattendedFailures::unwritableFolder() const
 {
     if (::geteuid() == 0)
@@ -261,7 +262,7 @@ QString TestUnattendedFailures::unwritableFolder() const
     return folder;
 }
 
-void TestUnattendedFailures::namesAFolderThatCannotBeWritten()
+void TestUnattendedFailures::reportsAFolderThatCannotBeWritten()
 {
     const QString folder = unwritableFolder();
     if (!QFileInfo::exists(folder))

@@ -6,7 +6,7 @@
 
 using namespace Tests;
 
-// The runs end before there is an event loop; whatever they run on, that must not be a crash.
+// The runs end before there is an event loop, which must not crash on any platform.
 class TestUnattendedOnAScreen : public QObject
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ class TestUnattendedOnAScreen : public QObject
 private slots:
     void endsByItself_data();
     void endsByItself();
-    void showsItsBoxesToTheMouse_data();
-    void showsItsBoxesToTheMouse();
+    void closesItsBoxesByMouse_data();
+    void closesItsBoxesByMouse();
     void showsOneBoxAfterTheOther();
 
 private:
@@ -43,7 +43,7 @@ void TestUnattendedOnAScreen::endsByItself_data()
     }
 }
 
-// Whatever box comes up is answered.
+// Every box is answered.
 void TestUnattendedOnAScreen::endsByItself()
 {
     QFETCH(const bool, onAScreen);
@@ -66,7 +66,7 @@ void TestUnattendedOnAScreen::endsByItself()
              log.constData());
 }
 
-void TestUnattendedOnAScreen::showsItsBoxesToTheMouse_data()
+void TestUnattendedOnAScreen::closesItsBoxesByMouse_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -81,7 +81,7 @@ void TestUnattendedOnAScreen::showsItsBoxesToTheMouse_data()
                                "Wren: Updated\nDet: Updated";
 }
 
-void TestUnattendedOnAScreen::showsItsBoxesToTheMouse()
+void TestUnattendedOnAScreen::closesItsBoxesByMouse()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -109,7 +109,7 @@ void TestUnattendedOnAScreen::showsItsBoxesToTheMouse()
     QVERIFY(QRect(0, 0, 1280, 1024).contains(box.rectangle));
 }
 
-// A box that closes is the last window there is, and still not the end of the run.
+// Closing a box closes the last window, but must not end the run.
 void TestUnattendedOnAScreen::showsOneBoxAfterTheOther()
 {
     if (!m_display.isUp())

@@ -5,7 +5,7 @@
 
 using namespace Tests;
 
-// Runs over simulators that are known, installed or entangled in one way or another.
+// Runs with simulators that are found, installed or in conflict in various ways.
 class TestUnattendedSimulators : public QObject
 {
     Q_OBJECT
@@ -14,17 +14,17 @@ private slots:
     void init();
     void cleanup();
 
-    void bringsBackALostFile_data();
-    void bringsBackALostFile();
-    void leavesWhatIsCompleteAlone();
-    void knowsAFolderByTheRecordAlone();
+    void restoresALostFile_data();
+    void restoresALostFile();
+    void keepsACompleteInstallation();
+    void findsAFolderOnlyByTheRecord();
     void findsAFolderByDetection_data();
     void findsAFolderByDetection();
-    void givesAFolderToOneOfTwoEntries_data();
-    void givesAFolderToOneOfTwoEntries();
-    void keepsTheConfigurationsOfTwoFoldersApart_data();
-    void keepsTheConfigurationsOfTwoFoldersApart();
-    void repairsBothEntriesThatTheRecordKnows();
+    void assignsAFolderToOneOfTwoEntries_data();
+    void assignsAFolderToOneOfTwoEntries();
+    void editsSeparateConfigurationsForTwoFolders_data();
+    void editsSeparateConfigurationsForTwoFolders();
+    void repairsBothRecordedEntries();
 
 private:
     QJsonObject rival(const char *name, const QJsonObject &conflict) const;
@@ -71,7 +71,7 @@ static QJsonObject conflict(const char *key, const QJsonValue &value)
     return {{QStringLiteral("name"), QStringLiteral("family")}, {QLatin1String(key), value}};
 }
 
-void TestUnattendedSimulators::bringsBackALostFile_data()
+void TestUnattendedSimulators::restoresALostFile_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
@@ -80,8 +80,8 @@ void TestUnattendedSimulators::bringsBackALostFile_data()
     QTest::newRow("uninstall") << words("--UNINSTALL") << 0;
 }
 
-// What is there of the plugin is replaced as well.
-void TestUnattendedSimulators::bringsBackALostFile()
+// Existing plugin files are replaced as well.
+void TestUnattendedSimulators::restoresALostFile()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -99,7 +99,7 @@ void TestUnattendedSimulators::bringsBackALostFile()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedSimulators::leavesWhatIsCompleteAlone()
+void TestUnattendedSimulators::keepsACompleteInstallation()
 {
     const QString whole = QStringLiteral("Whole");
     const QJsonObject entry = m_computer->entry(whole, 0);
@@ -116,8 +116,8 @@ void TestUnattendedSimulators::leavesWhatIsCompleteAlone()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-// An uninstallation that the next one finds nothing left to do for.
-void TestUnattendedSimulators::knowsAFolderByTheRecordAlone()
+// A second uninstallation finds nothing to do.
+void TestUnattendedSimulators::findsAFolderOnlyByTheRecord()
 {
     const QString recorded = QStringLiteral("Recorded");
     const QJsonObject entry = m_computer->hiddenEntry(recorded, 1);
@@ -142,10 +142,10 @@ void TestUnattendedSimulators::knowsAFolderByTheRecordAlone()
 
 void TestUnattendedSimulators::findsAFolderByDetection_data()
 {
-    bringsBackALostFile_data();
+    restoresALostFile_data();
 }
 
-// It comes before those that detection does not know.
+// It comes before the entries that detection did not find.
 void TestUnattendedSimulators::findsAFolderByDetection()
 {
     QFETCH(const QStringList, arguments);
@@ -173,15 +173,15 @@ void TestUnattendedSimulators::findsAFolderByDetection()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUnattendedSimulators::givesAFolderToOneOfTwoEntries_data()
+void TestUnattendedSimulators::assignsAFolderToOneOfTwoEntries_data()
 {
     QTest::addColumn<bool>("removeOnConflict");
     QTest::addColumn<QString>("winner");
-    QTest::newRow("to the first that comes") << true << "Later";
-    QTest::newRow("to the second") << false << "First";
+    QTest::newRow("to the first entry") << true << "Later";
+    QTest::newRow("to the second entry") << false << "First";
 }
 
-void TestUnattendedSimulators::givesAFolderToOneOfTwoEntries()
+void TestUnattendedSimulators::assignsAFolderToOneOfTwoEntries()
 {
     QFETCH(const bool, removeOnConflict);
     QFETCH(const QString, winner);
@@ -198,13 +198,13 @@ void TestUnattendedSimulators::givesAFolderToOneOfTwoEntries()
              QStringList(updated(qPrintable(winner + QLatin1String(": Updated")))));
 }
 
-void TestUnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart_data()
+void TestUnattendedSimulators::editsSeparateConfigurationsForTwoFolders_data()
 {
-    bringsBackALostFile_data();
+    restoresALostFile_data();
 }
 
-// Each gets a configuration of its own, in place of the one that both would edit.
-void TestUnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart()
+// Each gets its own configuration instead of the one that both would edit.
+void TestUnattendedSimulators::editsSeparateConfigurationsForTwoFolders()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, status);
@@ -236,8 +236,8 @@ void TestUnattendedSimulators::keepsTheConfigurationsOfTwoFoldersApart()
     QCOMPARE(difference(actual, expected), QString());
 }
 
-// The record of an earlier day gives the folder back to the entry that has to give way.
-void TestUnattendedSimulators::repairsBothEntriesThatTheRecordKnows()
+// An earlier record gives the folder back to the entry that has to give it up.
+void TestUnattendedSimulators::repairsBothRecordedEntries()
 {
     const QJsonObject first = rival("First", conflict("check_file", true));
     const QJsonObject later = rival("Later", conflict("check_file", true));

@@ -13,9 +13,9 @@ private slots:
     void init();
     void cleanup();
 
-    void leavesTheSimulatorWithoutThePlugin_data();
-    void leavesTheSimulatorWithoutThePlugin();
-    void saysWhatItCouldNotRemove();
+    void removesThePlugin_data();
+    void removesThePlugin();
+    void namesTheFileThatCouldNotBeRemoved();
     void scansOnceAfterwards();
 
 private:
@@ -61,14 +61,14 @@ SeenWindow TestUninstallByClick::uninstall()
     return m_program->box();
 }
 
-void TestUninstallByClick::leavesTheSimulatorWithoutThePlugin_data()
+void TestUninstallByClick::removesThePlugin_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("with a configuration file") << 0;
-    QTest::newRow("with plugin files alone") << 1;
+    QTest::newRow("with plugin files only") << 1;
 }
 
-void TestUninstallByClick::leavesTheSimulatorWithoutThePlugin()
+void TestUninstallByClick::removesThePlugin()
 {
     QFETCH(const int, type);
     start(type);
@@ -99,7 +99,7 @@ void TestUninstallByClick::leavesTheSimulatorWithoutThePlugin()
     QCOMPARE(difference(m_computer->disk(), expected), QString());
 }
 
-void TestUninstallByClick::saysWhatItCouldNotRemove()
+void TestUninstallByClick::namesTheFileThatCouldNotBeRemoved()
 {
     start(1);
     const QString target = QStringLiteral("Resources/plugins/Orbwell/about.txt");

@@ -7,21 +7,21 @@
 
 using namespace Tests;
 
-// Where a user's own folders are, when the environment names them in a way that Qt does not expect.
+// The user's folders, when the environment names them in a way that Qt does not expect.
 class TestUserFolders : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void nothingIsWrittenBesideAFolderWhoseNameIsNoText_data();
-    void nothingIsWrittenBesideAFolderWhoseNameIsNoText();
-    void noProgramIsNamedByAFolderWhoseNameIsNoText();
-    void aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText();
-    void aFolderNamedWithTheReplacementCharacterIsUsed();
-    void aRelativeFolderIsIgnored();
+    void writesNothingBesideAFolderThatCannotBeDecoded_data();
+    void writesNothingBesideAFolderThatCannotBeDecoded();
+    void writesNoLauncherPathThatCannotBeDecoded();
+    void storesNoFolderBesideAFolderThatCannotBeDecoded();
+    void usesAFolderNamedWithTheReplacementCharacter();
+    void ignoresARelativeFolder();
 };
 
-// A shell, since an environment of Qt's holds nothing but text.
+// Set by a shell, since QProcessEnvironment can hold only valid text.
 static void setBytes(Computer *computer, const char *variable, const QString &shellText)
 {
     computer->program().setTracer(
@@ -37,7 +37,7 @@ static QString lost()
     return QStringLiteral("caf\uFFFD");
 }
 
-void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText_data()
+void TestUserFolders::writesNothingBesideAFolderThatCannotBeDecoded_data()
 {
     QTest::addColumn<QByteArray>("variable");
     QTest::addColumn<QStringList>("arguments");
@@ -55,7 +55,7 @@ void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText_data()
     }
 }
 
-void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText()
+void TestUserFolders::writesNothingBesideAFolderThatCannotBeDecoded()
 {
     QFETCH(const QByteArray, variable);
     QFETCH(const QStringList, arguments);
@@ -100,8 +100,8 @@ void TestUserFolders::nothingIsWrittenBesideAFolderWhoseNameIsNoText()
         QVERIFY(computer.said().constLast().endsWith(QLatin1String("Det: Not updated")));
 }
 
-// Nor is it itself there by such a name, so it finds no catalogue.
-void TestUserFolders::noProgramIsNamedByAFolderWhoseNameIsNoText()
+// The program cannot find its own folder by such a name either, so it finds no catalogue.
+void TestUserFolders::writesNoLauncherPathThatCannotBeDecoded()
 {
     Computer computer;
     computer.program().setTracer(
@@ -118,7 +118,7 @@ void TestUserFolders::noProgramIsNamedByAFolderWhoseNameIsNoText()
     QVERIFY(treeOf(computer.absolute({})).keys().filter(QStringLiteral("/.path")).isEmpty());
 }
 
-void TestUserFolders::aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText()
+void TestUserFolders::storesNoFolderBesideAFolderThatCannotBeDecoded()
 {
     Computer computer;
     const QString simulator = QStringLiteral("Det");
@@ -137,7 +137,7 @@ void TestUserFolders::aChosenFolderIsNotKeptBesideAFolderWhoseNameIsNoText()
     QVERIFY(!QFileInfo::exists(computer.absolute(lost())));
 }
 
-void TestUserFolders::aFolderNamedWithTheReplacementCharacterIsUsed()
+void TestUserFolders::usesAFolderNamedWithTheReplacementCharacter()
 {
     Computer computer;
     const QString simulator = QStringLiteral("Det");
@@ -149,7 +149,7 @@ void TestUserFolders::aFolderNamedWithTheReplacementCharacterIsUsed()
         computer.absolute(lost() + QLatin1String("/.local/share/Quillmont/Orbwell/.mapping"))));
 }
 
-void TestUserFolders::aRelativeFolderIsIgnored()
+void TestUserFolders::ignoresARelativeFolder()
 {
     Computer computer;
     const QString simulator = QStringLiteral("Det");
