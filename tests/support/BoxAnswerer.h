@@ -10,7 +10,7 @@
 
 namespace Tests {
 
-/// What a person saw of one message box.
+/// A message box as a user saw it.
 struct SeenBox
 {
     QString title;
@@ -18,11 +18,11 @@ struct SeenBox
     QMessageBox::Icon icon;
     QMessageBox::StandardButtons buttons;
     const QWidget *parent;
-    /// Whether the busy pointer was up while the box was open.
+    /// Whether the busy pointer was shown while the box was open.
     bool busyPointer;
 };
 
-/// Presses Ok in every message box that opens while it lives, and remembers what it said.
+/// Presses Ok in every message box during its lifetime, and records the boxes.
 class BoxAnswerer : public QObject
 {
     Q_OBJECT

@@ -8,29 +8,29 @@
 
 namespace Tests {
 
-/// What a command left behind.
+/// The result of a command.
 struct CommandResult
 {
-    /// Its exit status, -1 when it did not start, crashed or took longer than five minutes.
+    /// Its exit status; -1 if it did not start, crashed or took longer than five minutes.
     int status = -1;
-    /// What it wrote to standard output.
+    /// Its standard output.
     QByteArray output;
-    /// What it wrote to standard error.
+    /// Its standard error.
     QByteArray errors;
 };
 
-/// A command of this system, looked for on the path, run to its end with nothing to read.
+/// A command on the path, run to its end with empty standard input.
 class Command
 {
 public:
     explicit Command(const QString &program, const QStringList &arguments = {});
 
-    /// Whether there is such a program on this computer.
+    /// Whether the program is installed.
     static bool exists(const QString &program);
 
-    /// Sets a variable of its environment.
+    /// Sets an environment variable.
     Command &with(const QString &variable, const QString &value);
-    /// Sets the folder that it runs in.
+    /// Sets the working folder.
     Command &in(const QString &folder);
     CommandResult run() const;
 

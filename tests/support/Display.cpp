@@ -10,7 +10,7 @@ Display::Display(int dotsPerInch)
     const QString server = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
     if (server.isEmpty() || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
         return;
-    // The server takes a free number by itself and says which as soon as it listens.
+    // The server chooses a free number, and prints it as soon as it is listening.
     m_server.start(server,
                    {QStringLiteral("-displayfd"),
                     QStringLiteral("1"),

@@ -7,7 +7,7 @@
 
 namespace Tests {
 
-/// An X server without a screen, for as long as it lives, and a mouse on it.
+/// An X server without a screen, running for this object's lifetime, and a mouse.
 class Display
 {
 public:
@@ -16,13 +16,13 @@ public:
     Display(const Display &) = delete;
     Display &operator=(const Display &) = delete;
 
-    /// Whether the server runs and a mouse is at hand.
+    /// Whether the server is running and there is a mouse.
     bool isUp() const { return !m_name.isEmpty(); }
 
-    /// What DISPLAY has to say.
+    /// The value for DISPLAY.
     QString name() const { return m_name; }
 
-    /// Moves the mouse there and presses its left button; false if that was not possible.
+    /// Moves the mouse there and clicks its left button; false on failure.
     bool click(QPoint at) const;
 
 private:

@@ -7,7 +7,7 @@
 
 namespace Tests {
 
-/// Writes @p content to @p path, making missing folders; a failure ends the test program.
+/// Writes @p content to @p path, creating missing folders; a failure ends the test program.
 void writeFile(const QString &path, const QByteArray &content);
 
 /// The whole content of the file at @p path; a failure ends the test program.

@@ -39,7 +39,7 @@ void FolderPicker::answer(QFileDialog *dialog)
         return;
     }
     dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(m_folder);
-    // QDialog keeps accept() public, QFileDialog hides it.
+    // accept() is public in QDialog but protected in QFileDialog.
     static_cast<QDialog *>(dialog)->accept();
     m_accepted = dialog->result() == QDialog::Accepted;
     if (!m_accepted)

@@ -10,7 +10,7 @@
 
 namespace Tests {
 
-/// What a person saw of one folder chooser.
+/// A folder chooser as a user saw it.
 struct SeenPicker
 {
     QString title;
@@ -19,8 +19,8 @@ struct SeenPicker
     const QWidget *parent;
 };
 
-/// Answers every folder chooser that opens while it lives, and remembers what it was like. The
-/// choosers are the toolkit's own for that time, so that they open without a desktop.
+/// Answers every folder chooser during its lifetime, and records them. Meanwhile Qt's own dialog is
+/// used, which needs no desktop.
 class FolderPicker : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     /// Whether the chooser took the folder. One that it refuses is cancelled instead.
     bool wasAccepted() const { return m_accepted; }
 
-    /// Runs @p act between the person's choice and the program's look at it.
+    /// Runs @p act after the user's choice, before the program uses it.
     void afterPicking(std::function<void()> act) { m_act = std::move(act); }
 
 protected:

@@ -5,10 +5,10 @@
 
 namespace Tests {
 
-/// @p text as a JSON object; a text that is none ends the test program.
+/// @p text as a JSON object; any other text ends the test program.
 QJsonObject json(const QByteArray &text);
 
-/// Any JSON value, written as JSON text; a text that is none ends the test program.
+/// @p text as any JSON value; invalid text ends the test program.
 QJsonValue jsonValue(const QByteArray &text);
 
 } // namespace Tests

@@ -5,7 +5,7 @@
 
 namespace Tests {
 
-/// "text"_s is a QString: a table of texts can be read without the wrapping.
+/// "text"_s is a QString, so that tables of texts are easy to read.
 inline QString operator""_s(const char *text, std::size_t size)
 {
     return QString::fromUtf8(text, static_cast<int>(size));

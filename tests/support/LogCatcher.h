@@ -8,7 +8,7 @@
 
 namespace Tests {
 
-/// Collects what is written to the toolkit's log while it lives; one at a time.
+/// Collects Qt's log for its lifetime; there can be only one at a time.
 class LogCatcher
 {
 public:
@@ -26,10 +26,10 @@ public:
     /// All other lines so far, in order.
     QStringList warnings() const { return m_warnings; }
 
-    /// Whether some debug line holds @p text.
+    /// Whether any debug line contains @p text.
     bool hasDebugLineWith(const QString &text) const;
 
-    /// Runs @p look with each debug line as it is written, in the midst of the work that writes it.
+    /// Calls @p look with each debug line as it is written.
     void atEachDebugLine(std::function<void(const QString &)> look) { m_look = std::move(look); }
 
 private:

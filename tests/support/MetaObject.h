@@ -7,7 +7,7 @@ struct QMetaObject;
 
 namespace Tests {
 
-/// What a class itself adds to its base's meta-object, in order: "signal a(int)", "slot b()",
+/// The members that a class adds to its base's meta-object, in order: "signal a(int)", "slot b()",
 /// "property c", "enum D".
 QStringList ownMembers(const QMetaObject &metaObject);
 

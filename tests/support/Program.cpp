@@ -32,7 +32,7 @@ static QString copyOfProgram(const QString &folder)
     return copy;
 }
 
-// The program comes up the same whatever desktop the tests are started from.
+// The program looks the same on every desktop.
 static QProcessEnvironment plainEnvironment()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -61,7 +61,7 @@ Program::Program(const Sandbox &sandbox, const Display *display, const QString &
     setVariable("QT_QPA_PLATFORM", QLatin1String(display ? "xcb" : "offscreen"));
     if (display)
         setVariable("DISPLAY", display->name());
-    // The window lives until the process ends; to a sanitizer that is a leak.
+    // The window is not deleted before the process ends, which a sanitizer reports as a leak.
     setVariable("ASAN_OPTIONS", QStringLiteral("detect_leaks=0"));
 }
 
@@ -95,7 +95,7 @@ void Program::start(const QStringList &arguments)
         const QString first = command.takeFirst();
         m_process.start(first, command);
     } else {
-        // Only a shell can call a program by a name that is not its own.
+        // QProcess cannot set argv[0], but a shell can.
         const QStringList shell{QStringLiteral("-c"),
                                 QStringLiteral("exec -a \"$0\" \"$@\""),
                                 m_calledAs,
@@ -239,7 +239,7 @@ void Program::grab(const QString &file)
 bool Program::waitFor(const std::function<bool()> &condition, const char *what)
 {
     bool holds = false;
-    // What it says last may be there only once it has ended.
+    // Its last output may arrive only after it has ended.
     const auto isDecided = [&] {
         const bool hasEnded = !isRunning();
         holds = condition();

@@ -18,13 +18,13 @@ namespace Tests {
 class Display;
 class Sandbox;
 
-/// The program that ships, as a process of its own in a folder of its own inside a sandbox, with
-/// the sandbox's home. A test places the catalogue and the payload into folder(). Whatever the
-/// program does not do in time fails the running test.
+/// The shipped program as a separate process, in its own folder inside a sandbox, with the
+/// sandbox's home. A test puts the catalogue and the payload into folder(). A time-out fails the
+/// running test.
 class Program
 {
 public:
-    /// Runs without a screen, or on @p display when there is one, from @p folder of the sandbox.
+    /// Runs without a screen, or on @p display if not null, from @p folder of the sandbox.
     explicit Program(const Sandbox &sandbox,
                      const Display *display = nullptr,
                      const QString &folder = QStringLiteral("program"));
@@ -32,60 +32,60 @@ public:
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
-    /// The folder that the executable lies in, without a slash at its end.
+    /// The folder of the executable, without a trailing slash.
     QString folder() const { return m_folder; }
 
-    /// Sets a variable of the environment that the next start gets.
+    /// Sets an environment variable for the next start.
     void setVariable(const char *name, const QString &value);
 
-    /// What the next start calls the program, in place of its path.
+    /// Sets argv[0] of the next start, which is otherwise the path.
     void setCalledAs(const QString &name) { m_calledAs = name; }
 
-    /// Has @p prepare done in the next process before it becomes the program.
+    /// Runs @p prepare in the next child process before it executes the program.
     void prepare(std::function<void()> prepare) { m_process.prepare = std::move(prepare); }
 
-    /// A command that the next start runs the program under: a tracer and its options.
+    /// Sets a command to run the program under: a tracer and its options.
     void setTracer(const QStringList &command) { m_tracer = command; }
 
-    /// Starts it; the arguments are its command line's.
+    /// Starts the program with these arguments.
     void start(const QStringList &arguments = {});
 
-    /// Whether the process has not ended yet.
+    /// Whether the process is running.
     bool isRunning() const { return m_process.state() == QProcess::Running; }
 
-    /// The visible windows, the one that takes input first.
+    /// The visible windows, the active one first.
     QVector<SeenWindow> windows();
     /// The rows of the list of simulators, from the top.
     QVector<SeenRow> rows();
     /// The row of that simulator; an empty one if there is none.
     SeenRow row(const QString &simulator);
-    /// Whether the busy pointer is up.
+    /// Whether the busy pointer is shown.
     bool isBusy();
     /// Waits for a message box.
     SeenWindow box();
-    /// Waits for the window with its rows, no box over it.
+    /// Waits for the window with its rows and without a box.
     SeenWindow window();
 
     /// Presses "Install Orbwell" or "Uninstall Orbwell" in the simulator's row.
     void pressAction(const QString &simulator);
     /// Presses "..." in the simulator's row.
     void pressBrowse(const QString &simulator);
-    /// Presses the button in the window that takes input.
+    /// Presses the button in the active window.
     void press(const QString &button);
     /// Enters a folder into the open folder dialog and presses its button.
     void chooseFolder(const QString &folder);
-    /// Presses a key, "Esc" or "Tab", in the window that takes input.
+    /// Presses a key, such as "Esc" or "Tab", in the active window.
     void pressKey(const QString &key);
-    /// Closes the window that takes input by its frame.
+    /// Closes the active window by its frame.
     void close();
-    /// Saves a picture of the window that takes input as a PNG file.
+    /// Saves a picture of the active window as a PNG file.
     void grab(const QString &file);
 
-    /// Waits until @p condition holds; false, and the test has failed, if it never does.
+    /// Waits until @p condition holds; if it never does, fails the test and returns false.
     bool waitFor(const std::function<bool()> &condition, const char *what);
-    /// Waits for the end of the process and gives its exit status, -1 after a crash.
+    /// Waits for the end of the process and returns its exit status, -1 after a crash.
     int exitStatus();
-    /// All that it has written to standard error since its start, at each call.
+    /// Everything that it has written to standard error since its start.
     QByteArray standardError();
 
 private:

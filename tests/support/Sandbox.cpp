@@ -6,8 +6,8 @@
 
 namespace Tests {
 
-// The folder's name must not hold a test program's name: the program takes its own name out of
-// the per-user paths wherever it stands.
+// The folder's name must not contain a test program's name: a program removes every occurrence of
+// its own name from the per-user paths.
 Sandbox::Sandbox()
     : m_directory(QDir::tempPath() + QLatin1String("/sandbox-XXXXXX"))
 {
@@ -24,7 +24,7 @@ Sandbox::Sandbox()
 
 Sandbox::~Sandbox()
 {
-    // Qt does not see files whose names are no text.
+    // Qt does not see files whose names cannot be decoded.
     std::error_code ignored;
     std::filesystem::remove_all(QFile::encodeName(root()).toStdString(), ignored);
     for (auto it = m_before.crbegin(); it != m_before.crend(); ++it) {

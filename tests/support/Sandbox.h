@@ -8,8 +8,8 @@
 
 namespace Tests {
 
-/// A home of a test's own. While it lives, every per-user place of this process and of those
-/// that it starts lies inside it; afterwards the environment is as it was and the folder gone.
+/// A test's own home. During its lifetime, every per-user folder of this process and its children
+/// is inside it; afterwards the environment is restored and the folder deleted.
 class Sandbox
 {
 public:
@@ -18,16 +18,16 @@ public:
     Sandbox(const Sandbox &) = delete;
     Sandbox &operator=(const Sandbox &) = delete;
 
-    /// The folder that holds everything, absolute, without a slash at its end.
+    /// The sandbox's folder, absolute, without a trailing slash.
     QString root() const;
     /// The home folder, inside root().
     QString home() const;
-    /// The per-user application-data root, with a slash at its end.
+    /// The per-user application-data root, with a trailing slash.
     QString dataRoot() const;
     /// @p relative as a path inside root().
     QString path(const QString &relative) const;
 
-    /// Sets an environment variable until the sandbox ends.
+    /// Sets an environment variable for the sandbox's lifetime.
     void setVariable(const char *name, const QByteArray &value);
 
 private:

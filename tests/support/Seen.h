@@ -10,7 +10,7 @@ class QJsonObject;
 
 namespace Tests {
 
-/// A button as a person sees it.
+/// A button as a user sees it.
 struct SeenControl
 {
     SeenControl() = default;
@@ -48,14 +48,14 @@ struct SeenWindow
     /// The texts of its buttons.
     QStringList buttonTexts() const;
 
-    /// Which of the windows that this process has shown, counted from 1; 0 for none.
+    /// The number of the window, in the order in which the process showed them, from 1; 0 for none.
     int number = 0;
     QString className;
     QString title;
     QString text;
-    /// A box's: the name of its QMessageBox::Icon.
+    /// Of a box: the name of its QMessageBox::Icon.
     QString icon;
-    /// A box's: its parent's class, empty without a parent.
+    /// Of a box: its parent's class, empty without a parent.
     QString parent;
     QVector<SeenControl> buttons;
     QRect rectangle;

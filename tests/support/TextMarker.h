@@ -5,7 +5,7 @@
 
 namespace Tests {
 
-/// "Translates" every text of the program's own while it lives: "[context] text".
+/// For its lifetime "translates" each of the program's texts into "[context] text".
 class TextMarker : public QTranslator
 {
     Q_OBJECT

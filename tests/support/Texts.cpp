@@ -52,7 +52,7 @@ QString notUninstalledBox(const QString &simulator, const QString &errorLines)
                            errorLines));
 }
 
-// A blank before each name makes two of them before the first.
+// The text before the names ends with a space, and each name begins with one.
 QString autoInstalledBox(const QStringList &simulators)
 {
     return settingsBox("Quillmont Orbwell have successfully installed Orbwell plugin to  "_s

@@ -5,17 +5,17 @@
 
 namespace Tests {
 
-/// How tests write a message box down: "title: text".
+/// A message box as tests write it: "title: text".
 QString box(const QString &title, const QString &text);
 
-// The boxes after one installation or removal. Error lines each bring their own line end.
+// The boxes after one installation or removal. Each error line has its own line end.
 QString installedBox(const QString &simulator);
 QString notInstalledBox(const QString &simulator, const QString &errorLines);
 QString uninstalledBox(const QString &simulator);
 QString notUninstalledBox(const QString &simulator, const QString &errorLines);
 
-// The boxes after automatic installation: into these; into none, since all have it or none is
-// known.
+// The boxes after automatic installation: into these simulators; into none, since all have the
+// plugin; into none, since none was found.
 QString autoInstalledBox(const QStringList &simulators);
 QString allInstalledBox();
 QString noSimulatorBox();

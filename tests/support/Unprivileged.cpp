@@ -20,7 +20,7 @@ void giveAway(const QString &path)
 void become(uid_t user)
 {
 #ifdef Q_OS_LINUX
-    // The real user as well, of whom QFileInfo asks what may be done.
+    // The real user id as well, since QFileInfo checks permissions by it.
     if (setresuid(user, user, 0) != 0)
 #else
     if (seteuid(user) != 0)

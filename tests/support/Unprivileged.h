@@ -5,8 +5,8 @@
 
 namespace Tests {
 
-/// While it lives, a test that runs as root works as an ordinary user, for whom permissions mean
-/// something, and everything below the given folder is that user's. Others it changes nothing for.
+/// For its lifetime, a test that runs as root runs as an ordinary user, to whom permissions apply
+/// and to whom everything below the given folder belongs. Does nothing for other users.
 class Unprivileged
 {
 public:

@@ -3,8 +3,8 @@
 
 namespace Tests {
 
-/// The descriptors by which a test tells the driver in the program what to do, and hears of it:
-/// not the standard ones, since the program may be started without any of those.
+/// The descriptors by which a test sends commands to the driver in the program, and gets its
+/// answers: not the standard ones, since the program may be started without these.
 constexpr int driverInput = 20;
 constexpr int driverOutput = 21;
 

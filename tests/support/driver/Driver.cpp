@@ -39,7 +39,7 @@ void Driver::readCommands()
     for (int end = m_input.indexOf('\n'); end >= 0; end = m_input.indexOf('\n')) {
         const QJsonObject command = QJsonDocument::fromJson(m_input.left(end)).object();
         m_input.remove(0, end + 1);
-        // Queued: what a click starts may run for long, and commands must still be heard.
+        // Queued: a click may start long work, and commands must be handled meanwhile.
         QMetaObject::invokeMethod(
             this, [this, command] { obey(command); }, Qt::QueuedConnection);
     }
@@ -53,7 +53,7 @@ void Driver::obey(const QJsonObject &command)
         return;
     }
     Hand hand(command);
-    // Answered before the deed, since a click that opens a box returns only when it is closed.
+    // Answered before the action, since a click that opens a box returns only when it is closed.
     answer({{QStringLiteral("error"), hand.reach()}});
     hand.act();
 }

@@ -9,9 +9,8 @@ class QSocketNotifier;
 
 namespace Tests {
 
-/// Reads one JSON object per line from driverInput and answers each with one on driverOutput. It
-/// goes on answering while a box of the program runs an event loop of its own, and ends the
-/// process when the test that it listens to is gone.
+/// Reads one JSON object per line from driverInput and answers each with one on driverOutput, even
+/// while a box of the program runs its own event loop. Ends the process when the test is gone.
 class Driver : public QObject
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 
 namespace Tests {
 
-/// Lets a test drive a program that knows nothing of it: the toolkit loads this plugin when
-/// QT_QPA_GENERIC_PLUGINS names "orbwell-driver".
+/// Lets a test drive the unmodified program: Qt loads this plugin if QT_QPA_GENERIC_PLUGINS names
+/// "orbwell-driver".
 class DriverPlugin : public QGenericPlugin
 {
     Q_OBJECT

@@ -67,7 +67,7 @@ static void describeBox(QJsonObject *seen, const QMessageBox *box)
                  parent ? QString::fromLatin1(parent->metaObject()->className()) : QString());
 }
 
-// A window that comes after another can lie at the same address.
+// A later window can have the same address.
 static int numberOf(QWidget *window)
 {
     static int count = 0;
@@ -139,7 +139,7 @@ static qint64 difference(const QImage &a, const QImage &b)
 static QString iconName(const QPixmap &pixmap)
 {
     QString nearest;
-    qint64 smallest = 100000; // further off than scaling ever takes a picture from itself
+    qint64 smallest = 100000; // more than scaling ever changes a picture
     const QImage shown = pixmap.toImage().scaled(44, 44, {}, Qt::SmoothTransformation);
     for (const char *name : {"check-green", "check-grey", "minus-grey"}) {
         const QImage drawn(

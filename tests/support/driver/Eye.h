@@ -10,8 +10,8 @@ class QWidget;
 
 namespace Tests::Eye {
 
-/// The visible windows, the one that takes input first: class, title, text, icon, buttons,
-/// parent's class, geometry.
+/// The visible windows, the active one first: class, title, text, icon, buttons, parent's class,
+/// geometry.
 QJsonArray windows();
 
 /// The rows of the list of simulators, from the top: name, path field, icon, controls.

@@ -16,7 +16,7 @@
 
 namespace Tests {
 
-// As a person does before pressing what lies behind the list's edge.
+// As a user does before pressing something outside the visible part of the list.
 static void scrollTo(const QWidget *row)
 {
     auto *list = qobject_cast<QListWidget *>(row->parentWidget()->parentWidget());
