@@ -29,7 +29,7 @@ void checkCaseOn(Environment::System system)
     QFETCH(QString, log);
     DescribedComputer computer(system);
     computer.make(tree);
-    // Nothing counts for lying beside the working folder.
+    // Relative paths must not be resolved against the working folder.
     QDir::setCurrent(computer.environment.root);
     const auto leave = qScopeGuard([] { QDir::setCurrent(QDir::rootPath()); });
     QCOMPARE(computer.detect(), computer.expanded(linesOf(found)));

@@ -11,8 +11,8 @@
 
 namespace Tests {
 
-/// A computer of a test's own, on which simulators are looked for. What is on its disk is
-/// described as text, one thing a line:
+/// A test's own computer, on which to detect simulators. Its disk is described as text, one item
+/// per line:
 ///
 ///     dir PATH
 ///     file PATH = CONTENT
@@ -24,31 +24,31 @@ namespace Tests {
 ///     variable NAME = VALUE
 ///     prefix ID = PATH            asks where PATH is in the Proton prefix of that game
 ///
-/// In every line $R is the root of everything, $H the home folder, $S the place of Steam, and $L
-/// that of X-Plane's own lists; \n, \r, \t, \0, \\ and \xHH are the bytes that they are in C.
+/// In every line $R is the root of everything, $H the home folder, $S Steam's folder, and $L the
+/// folder of X-Plane's lists; \n, \r, \t, \0, \\ and \xHH are escapes as in C.
 class DescribedComputer
 {
 public:
     explicit DescribedComputer(Quillmont::SimDetect::Environment::System system);
 
-    /// Puts @p description on the disk; a line that makes no sense ends the test program.
+    /// Creates the files in @p description; an invalid line ends the test program.
     void make(const QString &description);
 
-    /// @p text with $R, $H, $S and $L put in.
+    /// @p text with $R, $H, $S and $L replaced.
     QString expanded(const QString &text) const;
 
-    /// Looks for simulators. The answer is one line for each, "CODE: folder", in code order, and
-    /// behind them "ID: path" for each prefix that was asked for and is there.
+    /// Detects simulators. Returns one line for each, "CODE: folder", in code order, followed by
+    /// "ID: path" for each requested prefix that exists.
     QString detect();
 
-    /// What the last detection wrote to the log, debug lines first.
+    /// The log of the last detection, debug lines first.
     const QStringList &log() const { return m_log; }
 
-    /// The processor's time that the last detection took, in milliseconds: a busy machine does not
-    /// make it longer.
+    /// The processor time of the last detection, in milliseconds, which does not depend on how busy
+    /// the machine is.
     qint64 duration() const { return m_duration; }
 
-    /// What is told of the computer.
+    /// The description of the computer for detection.
     Quillmont::SimDetect::Environment environment;
 
 private:

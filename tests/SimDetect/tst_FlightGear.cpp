@@ -4,7 +4,7 @@
 
 using namespace Tests;
 
-/// FlightGear's data folder, wherever it comes from.
+/// How FlightGear's data folder is found.
 class TestFlightGear : public QObject
 {
     Q_OBJECT
@@ -14,22 +14,22 @@ private slots:
 
     void findsItsData() { checkCase(); }
 
-    void asksItsLauncher_data();
+    void readsItsLaunchersSettings_data();
 
-    void asksItsLauncher() { checkCase(); }
+    void readsItsLaunchersSettings() { checkCase(); }
 
-    void findsDownloadsWhereTheLauncherPutsThem_data();
+    void findsTheLaunchersDownloads_data();
 
-    void findsDownloadsWhereTheLauncherPutsThem() { checkCase(); }
+    void findsTheLaunchersDownloads() { checkCase(); }
 
-    void passesOverWhatIsNoData_data();
+    void ignoresFoldersWithoutData_data();
 
-    void passesOverWhatIsNoData() { checkCase(); }
+    void ignoresFoldersWithoutData() { checkCase(); }
 };
 
 namespace {
 
-// Data folders, which a space separates.
+// Data folders, separated by spaces.
 QByteArray data(const QByteArray &folders)
 {
     QByteArray tree;
@@ -121,7 +121,7 @@ void TestFlightGear::findsItsData_data()
             "FGFS: $R/usr/share/flightgear");
 }
 
-void TestFlightGear::asksItsLauncher_data()
+void TestFlightGear::readsItsLaunchersSettings_data()
 {
     caseColumns();
     const QByteArray chosen = "[General]\\nfg-root-2024-1=$R/chosen\\n";
@@ -245,7 +245,7 @@ void TestFlightGear::asksItsLauncher_data()
             "FGFS: $R/chosen");
 }
 
-void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
+void TestFlightGear::findsTheLaunchersDownloads_data()
 {
     caseColumns();
     const QByteArray there = launcher("[General]\\ndownload-dir=$R/downloads\\n");
@@ -293,7 +293,7 @@ void TestFlightGear::findsDownloadsWhereTheLauncherPutsThem_data()
         "FGFS: $R/downloads/fgdata_2020_3");
 }
 
-void TestFlightGear::passesOverWhatIsNoData_data()
+void TestFlightGear::ignoresFoldersWithoutData_data()
 {
     caseColumns();
     addCase("FG_ROOT is gone, and a download is not whole",

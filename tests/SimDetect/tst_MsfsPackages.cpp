@@ -4,7 +4,7 @@
 
 using namespace Tests;
 
-/// The packages folder of Microsoft Flight Simulator inside a Proton prefix.
+/// How the packages folder of Microsoft Flight Simulator is found in a Proton prefix.
 class TestMsfsPackages : public QObject
 {
     Q_OBJECT
@@ -14,13 +14,13 @@ private slots:
 
     void findsThePackages() { checkCase(); }
 
-    void wantsItsMarks_data();
+    void requiresTheTypicalFolders_data();
 
-    void wantsItsMarks() { checkCase(); }
+    void requiresTheTypicalFolders() { checkCase(); }
 
-    void passesOverWhatNamesNone_data();
+    void ignoresFilesThatNameNoPackages_data();
 
-    void passesOverWhatNamesNone() { checkCase(); }
+    void ignoresFilesThatNameNoPackages() { checkCase(); }
 };
 
 namespace {
@@ -51,7 +51,7 @@ QByteArray settings(const QByteArray &content)
     return "file " + roaming2020() + "/UserCfg.opt = " + content + "\n";
 }
 
-// The text as a file description's escapes, two bytes a character.
+// The text as escapes of a file description, two bytes per character.
 QByteArray utf16(const QString &text, bool isBigEndian)
 {
     QByteArray bytes = isBigEndian ? "\\xFE\\xFF" : "\\xFF\\xFE";
@@ -81,9 +81,9 @@ void TestMsfsPackages::findsThePackages_data()
     add("among others",
         R"(Version 66\r\n{Graphics\r\n\tVersion 1\r\n}\r\nInstalledPackagesPath ")" + place
             + R"("\r\n)");
-    add("behind the path of the next start, in other letter case",
+    add("after the path of the next start, in other letter case",
         R"(InstalledPackagesPathNextBoot "D:\\Other"\r\ninstalledpackagespath "c:\\USERS\\SteamUser\\appdata\\ROAMING\\microsoft flight simulator\\PACKAGES\\"\r\n)");
-    add("several blanks", R"(\tInstalledPackagesPath \t  ")" + place + "\"  ");
+    add("several spaces", R"(\tInstalledPackagesPath \t  ")" + place + "\"  ");
     add("forward slashes",
         R"(InstalledPackagesPath "C:/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/Packages/")");
     add("a byte-order mark", R"(\xEF\xBB\xBFInstalledPackagesPath ")" + place + "\"");
@@ -91,7 +91,7 @@ void TestMsfsPackages::findsThePackages_data()
         "InstalledPackagesPath \"" + place + R"("\nInstalledPackagesPath "C:\\gone")");
     add("bytes that are not UTF-8 elsewhere",
         R"(Name \xFF\xFE\n\xE9\nInstalledPackagesPath ")" + place + "\"");
-    add("steps upwards stay on the drive",
+    add("\"..\" components stay on the drive",
         R"(InstalledPackagesPath "C:\\..\\..\\..\\users\\steamuser\\x\\..\\AppData\\Roaming\\Microsoft Flight Simulator\\Packages")");
     const QString line = QStringLiteral(
         "InstalledPackagesPath \"C:\\users\\steamuser\\AppData\\Roaming\\Microsoft Flight "
@@ -160,7 +160,7 @@ void TestMsfsPackages::findsThePackages_data()
             "MSFS2020: $R/b/steamapps/compatdata/1250410/pfx/drive_c/P");
 }
 
-void TestMsfsPackages::wantsItsMarks_data()
+void TestMsfsPackages::requiresTheTypicalFolders_data()
 {
     caseColumns();
     for (const char *mark : {"Community", "Official/Steam", "Official/OneStore", "community"}) {
@@ -199,7 +199,7 @@ void TestMsfsPackages::wantsItsMarks_data()
             "MSFS2020: " + prefix2024() + "/drive_c/P\nMSFS2024: " + prefix2024() + "/drive_c/P");
 }
 
-void TestMsfsPackages::passesOverWhatNamesNone_data()
+void TestMsfsPackages::ignoresFilesThatNameNoPackages_data()
 {
     caseColumns();
     const auto add = [](const char *name,
@@ -215,21 +215,21 @@ void TestMsfsPackages::passesOverWhatNamesNone_data()
     const QByteArray file = roaming2020() + "/UserCfg.opt";
     const QByteArray none = "no InstalledPackagesPath in it";
     add("nothing", "", file, none);
-    add("only that of the next start", R"(InstalledPackagesPathNextBoot "C:\\P")", file, none);
-    add("no blank", R"(InstalledPackagesPath"C:\\P")", file, none);
-    add("another key that ends alike", R"(OldInstalledPackagesPath "C:\\P")", file, none);
+    add("only the path of the next start", R"(InstalledPackagesPathNextBoot "C:\\P")", file, none);
+    add("no space", R"(InstalledPackagesPath"C:\\P")", file, none);
+    add("another key with the same ending", R"(OldInstalledPackagesPath "C:\\P")", file, none);
     add("no quotes", R"(InstalledPackagesPath C:\\P)", file, none);
     add("one quote", R"(InstalledPackagesPath "C:\\P\nName "x")", file, none);
     add("an empty value", R"(InstalledPackagesPath "")", file, none);
     const QByteArray noDrive = "its InstalledPackagesPath does not begin with a drive";
-    add("a path of this system", "InstalledPackagesPath \"/P\"", file, noDrive);
-    add("a share", R"(InstalledPackagesPath "\\\\server\\P")", file, noDrive);
+    add("a POSIX path", "InstalledPackagesPath \"/P\"", file, noDrive);
+    add("a network share", R"(InstalledPackagesPath "\\\\server\\P")", file, noDrive);
     add("relative to a drive", R"(InstalledPackagesPath "C:P")", file, noDrive);
-    add("a folder that is gone",
+    add("a deleted folder",
         R"(InstalledPackagesPath "C:\\Q")",
         prefix2020() + "/drive_c/Q",
         "no such folder");
-    add("a drive that is gone",
+    add("a missing drive",
         R"(InstalledPackagesPath "E:\\P")",
         prefix2020() + "/dosdevices/e:/P",
         "no such folder");

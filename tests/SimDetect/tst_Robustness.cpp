@@ -16,18 +16,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// Puts something at a path.
+/// Creates something at a path.
 using Maker = std::function<void(const QString &path)>;
 Q_DECLARE_METATYPE(Maker)
 
-/// What a file is made as big as.
+/// Files with the sizes to extend them to.
 using Sizes = QVector<QPair<QString, int>>;
 Q_DECLARE_METATYPE(Sizes)
 
 using namespace Quillmont::SimDetect;
 using namespace Tests;
 
-/// Whatever lies on the disk, the answer comes soon and is never a wrong one.
+/// Whatever is on the disk, detection finishes soon and never reports a wrong folder.
 class TestRobustness : public QObject
 {
     Q_OBJECT
@@ -36,24 +36,24 @@ private slots:
     void findsNothingInRandomBytes_data();
     void findsNothingInRandomBytes();
     void survivesDamagedFiles();
-    void answersSoonWhateverIsThere_data();
-    void answersSoonWhateverIsThere();
-    void answersSoonWithAllOfItAtOnce();
-    void looksAtNoMoreFoldersThanMakeSense();
-    void followsPathsUpToABound_data();
-    void followsPathsUpToABound();
-    void readsNoMoreThanMakesSense();
-    void readsFilesUpToABound_data();
-    void readsFilesUpToABound();
-    void readsWhatComesBehindJunk();
+    void finishesSoonWhateverTheFilesAre_data();
+    void finishesSoonWhateverTheFilesAre();
+    void finishesSoonWithAllOfTheseTogether();
+    void limitsTheNumberOfFolders();
+    void followsPathsUpToAMaximumDepth_data();
+    void followsPathsUpToAMaximumDepth();
+    void limitsTheBytesRead();
+    void readsFilesUpToAMaximumSize_data();
+    void readsFilesUpToAMaximumSize();
+    void readsEntriesAfterJunk();
     void opensNoFileTwice();
-    void saysThatAFolderIsClosed_data();
-    void saysThatAFolderIsClosed();
+    void reportsAFolderWithoutPermission_data();
+    void reportsAFolderWithoutPermission();
 };
 
 namespace {
 
-// A computer with every kind of source on it, each with a simulator behind it.
+// A computer with every kind of source, each with a simulator.
 const auto Everything = QStringLiteral(R"(
     xplane $R/sims/X-Plane 12
     file $R/sims/X-Plane 12/Log.txt = Log.txt for X-Plane 12.0.9\n
@@ -114,7 +114,7 @@ QByteArray randomBytes(QRandomGenerator &random, int size)
     return bytes;
 }
 
-// A few bytes changed, a piece taken out, one doubled, or the end cut off.
+// A few bytes changed, a piece removed or doubled, or the end cut off.
 QByteArray damaged(const QByteArray &content, QRandomGenerator &random)
 {
     QByteArray result = content;
@@ -181,7 +181,7 @@ void TestRobustness::survivesDamagedFiles()
     QCOMPARE(computer.detect().split(u'\n'), found);
 }
 
-void TestRobustness::answersSoonWhateverIsThere_data()
+void TestRobustness::finishesSoonWhateverTheFilesAre_data()
 {
     QTest::addColumn<Maker>("make");
     QTest::newRow("pipes") << Maker(
@@ -201,7 +201,7 @@ void TestRobustness::answersSoonWhateverIsThere_data()
     row("100,000 nested blocks", QByteArray("libraryfolders{").repeated(100000));
     row("a block that is cut off", "AppState { installdir X");
     row("1 MiB of one character", QByteArray(most, 'x'));
-    row("1 MiB of blanks", QByteArray(most, ' '));
+    row("1 MiB of spaces", QByteArray(most, ' '));
     row("1 MiB of line ends", QByteArray(most, '\n'));
     row("1 MiB of short lines", QByteArray("/\n").repeated(most / 2));
     row("1 MiB of keys", "AppState { " + QByteArray("a b ").repeated(most / 4 - 10) + "}");
@@ -210,7 +210,7 @@ void TestRobustness::answersSoonWhateverIsThere_data()
     row("1 MiB of elements", "<plist><dict>" + QByteArray("<dict>").repeated(most / 6 - 10));
 }
 
-void TestRobustness::answersSoonWhateverIsThere()
+void TestRobustness::finishesSoonWhateverTheFilesAre()
 {
     QFETCH(Maker, make);
     DescribedComputer computer(Environment::Linux);
@@ -224,7 +224,7 @@ void TestRobustness::answersSoonWhateverIsThere()
     QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
 }
 
-void TestRobustness::answersSoonWithAllOfItAtOnce()
+void TestRobustness::finishesSoonWithAllOfTheseTogether()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
@@ -257,7 +257,7 @@ void TestRobustness::answersSoonWithAllOfItAtOnce()
     QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-void TestRobustness::looksAtNoMoreFoldersThanMakeSense()
+void TestRobustness::limitsTheNumberOfFolders()
 {
     DescribedComputer computer(Environment::Linux);
     QByteArray lines;
@@ -271,18 +271,18 @@ void TestRobustness::looksAtNoMoreFoldersThanMakeSense()
     QVERIFY2(computer.duration() < 2000, qPrintable(QString::number(computer.duration())));
 }
 
-void TestRobustness::followsPathsUpToABound_data()
+void TestRobustness::followsPathsUpToAMaximumDepth_data()
 {
-    QTest::addColumn<QString>("step"); // in front of the path
-    QTest::addColumn<int>("size"); // of the whole, in letters or in names
+    QTest::addColumn<QString>("step"); // repeated before the path
+    QTest::addColumn<int>("size"); // of the whole path, in characters or in names
     QTest::addColumn<bool>("isFollowed");
-    QTest::newRow("the longest") << QStringLiteral("/") << 4096 << true;
-    QTest::newRow("a longer one") << QStringLiteral("/") << 4097 << false;
-    QTest::newRow("the deepest") << QStringLiteral("/.") << 128 << true;
-    QTest::newRow("a deeper one") << QStringLiteral("/.") << 129 << false;
+    QTest::newRow("maximum length") << QStringLiteral("/") << 4096 << true;
+    QTest::newRow("one character longer") << QStringLiteral("/") << 4097 << false;
+    QTest::newRow("maximum depth") << QStringLiteral("/.") << 128 << true;
+    QTest::newRow("one level deeper") << QStringLiteral("/.") << 129 << false;
 }
 
-void TestRobustness::followsPathsUpToABound()
+void TestRobustness::followsPathsUpToAMaximumDepth()
 {
     QFETCH(const QString, step);
     QFETCH(const int, size);
@@ -295,8 +295,8 @@ void TestRobustness::followsPathsUpToABound()
     QCOMPARE(computer.detect(), isFollowed ? QStringLiteral("XP12: ") + path : QString());
 }
 
-// Each of a tolerable size, and with nothing wrong up to the last brace.
-void TestRobustness::readsNoMoreThanMakesSense()
+// Each file has an acceptable size, and is valid up to the last brace.
+void TestRobustness::limitsTheBytesRead()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral("xplane $R/sims/X-Plane 12\n"
@@ -317,11 +317,11 @@ void TestRobustness::readsNoMoreThanMakesSense()
     }
     writeFile(computer.expanded(QStringLiteral("$S/config/libraryfolders.vdf")), list + " }");
     QCOMPARE(computer.detect(), computer.expanded(QStringLiteral("XP12: $R/sims/X-Plane 12")));
-    // A second as the program ships; gigabytes would take minutes.
+    // A release build takes a second; gigabytes would take minutes.
     QVERIFY2(computer.duration() < 15000, qPrintable(QString::number(computer.duration())));
 }
 
-void TestRobustness::readsFilesUpToABound_data()
+void TestRobustness::readsFilesUpToAMaximumSize_data()
 {
     QTest::addColumn<QString>("description");
     QTest::addColumn<Sizes>("sizes");
@@ -358,16 +358,14 @@ void TestRobustness::readsFilesUpToABound_data()
     const auto found = path("XP10: $R/drive/steamapps/common/X");
     QTest::newRow("Steam's libraries") << game << Sizes{{libraries, big}} << found << "";
     QTest::newRow("Steam's game") << game << Sizes{{manifest, big}} << found << "";
-    // Half of what the big ones leave.
+    // Half of what the large files leave.
     const auto otherLibraries = path("$S/steamapps/libraryfolders.vdf");
-    QTest::newRow("all in all") << game + path("\nfile $S/steamapps/libraryfolders.vdf =")
-                                << Sizes{{libraries, big},
-                                         {otherLibraries, big},
-                                         {manifest, 4 * small}}
-                                << found << "";
+    QTest::newRow("all files together")
+        << game + path("\nfile $S/steamapps/libraryfolders.vdf =")
+        << Sizes{{libraries, big}, {otherLibraries, big}, {manifest, 4 * small}} << found << "";
 }
 
-void TestRobustness::readsFilesUpToABound()
+void TestRobustness::readsFilesUpToAMaximumSize()
 {
     QFETCH(const QString, description);
     QFETCH(const Sizes, sizes);
@@ -385,7 +383,7 @@ void TestRobustness::readsFilesUpToABound()
     QCOMPARE(computer.detect(), computer.expanded(foundBehindIt));
 }
 
-void TestRobustness::readsWhatComesBehindJunk()
+void TestRobustness::readsEntriesAfterJunk()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(
@@ -416,7 +414,7 @@ void TestRobustness::opensNoFileTwice()
     QFile events;
     QVERIFY(
         events.open(watcher, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle));
-    // The system joins equal events that follow on each other, but other files lie between.
+    // The system merges consecutive equal events, but here other files come between.
     QHash<int, int> opened;
     const QByteArray seen = events.read(65536);
     for (int at = 0; at + int(sizeof(inotify_event)) <= seen.size();) {
@@ -433,18 +431,18 @@ void TestRobustness::opensNoFileTwice()
 #endif
 }
 
-void TestRobustness::saysThatAFolderIsClosed_data()
+void TestRobustness::reportsAFolderWithoutPermission_data()
 {
     QTest::addColumn<unsigned>("mode");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("nothing is allowed") << 0U << "no permission to look inside";
-    QTest::newRow("only to list it") << 0400U << "no permission to look inside";
-    QTest::newRow("only to open what is in it") << 0100U << "no permission to look inside";
-    QTest::newRow("to look at it") << 0500U << "no X-Plane executable";
+    QTest::newRow("no permissions") << 0U << "no permission to look inside";
+    QTest::newRow("permission to list only") << 0400U << "no permission to look inside";
+    QTest::newRow("permission to open only") << 0100U << "no permission to look inside";
+    QTest::newRow("permission to list and open") << 0500U << "no X-Plane executable";
 }
 
-// FlightGear's data can be known without a list of what is beside it.
-void TestRobustness::saysThatAFolderIsClosed()
+// FlightGear's data can be recognised without listing its folder.
+void TestRobustness::reportsAFolderWithoutPermission()
 {
     QFETCH(const unsigned, mode);
     QFETCH(const QString, reason);

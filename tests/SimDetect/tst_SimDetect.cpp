@@ -13,24 +13,24 @@
 using namespace Quillmont::SimDetect;
 using namespace Tests;
 
-/// What is found on whole computers, and what the computer at hand is taken for.
+/// Detection on complete computers, and the description of this computer.
 class TestSimDetect : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void findsWhatIsThere_data();
+    void findsEverySimulator_data();
 
-    void findsWhatIsThere() { checkCase(); }
+    void findsEverySimulator() { checkCase(); }
 
     void findsNothingWithoutAHome_data();
     void findsNothingWithoutAHome();
-    void asksTheComputerItRunsOn();
-    void takesNoHomeForNoHome();
+    void searchesTheComputerItRunsOn();
+    void treatsAnUnsetHomeAsNone();
     void writesNothing();
 };
 
-void TestSimDetect::findsWhatIsThere_data()
+void TestSimDetect::findsEverySimulator_data()
 {
     caseColumns();
     addCase("an empty home", OnBoth, "dir $H", "");
@@ -86,7 +86,7 @@ void TestSimDetect::findsNothingWithoutAHome()
     for (const auto system : {Environment::Linux, Environment::MacOS}) {
         DescribedComputer computer(system);
         computer.make(QStringLiteral("xplane $R/sim\nfile $L/x-plane_install_12.txt = $R/sim"));
-        // Where a relative one would lead to the list.
+        // In this folder a relative home would lead to the list.
         QDir::setCurrent(QFileInfo(computer.environment.home).path());
         const auto leave = qScopeGuard([] { QDir::setCurrent(QDir::rootPath()); });
         computer.environment.home = home;
@@ -95,7 +95,7 @@ void TestSimDetect::findsNothingWithoutAHome()
     }
 }
 
-void TestSimDetect::asksTheComputerItRunsOn()
+void TestSimDetect::searchesTheComputerItRunsOn()
 {
     Sandbox sandbox;
     const QString data = sandbox.path(QStringLiteral("fgdata"));
@@ -110,7 +110,7 @@ void TestSimDetect::asksTheComputerItRunsOn()
     QCOMPARE(environment.variables.value(QStringLiteral("FG_ROOT")), data);
 }
 
-void TestSimDetect::takesNoHomeForNoHome()
+void TestSimDetect::treatsAnUnsetHomeAsNone()
 {
     Sandbox sandbox;
     sandbox.setVariable("HOME", {});

@@ -7,7 +7,7 @@
 using namespace Quillmont::SimDetect;
 using namespace Tests;
 
-/// Steam's roots, its libraries on other drives, and what its manifests say of a game.
+/// Steam's roots, its libraries on other drives, and its manifests.
 class TestSteam : public QObject
 {
     Q_OBJECT
@@ -21,19 +21,19 @@ private slots:
 
     void findsItsLibraries() { checkCase(); }
 
-    void seesThroughASandbox_data();
+    void mapsPathsFromASandbox_data();
 
-    void seesThroughASandbox() { checkCase(); }
+    void mapsPathsFromASandbox() { checkCase(); }
 
-    void believesManifests_data();
+    void readsManifests_data();
 
-    void believesManifests() { checkCase(); }
+    void readsManifests() { checkCase(); }
 
     void refusesFoldersOutsideTheLibrary_data();
     void refusesFoldersOutsideTheLibrary();
-    void wantsTheGamesMarks_data();
+    void requiresTheGamesFiles_data();
 
-    void wantsTheGamesMarks() { checkCase(); }
+    void requiresTheGamesFiles() { checkCase(); }
 
     void findsAeroflysUserFolder_data();
 
@@ -43,7 +43,7 @@ private slots:
 
     void findsThePrefixOfAGame() { checkCase(); }
 
-    void keepsThePartsOfAHomeApart();
+    void keepsALibraryInTheSandboxsOwnFolder();
 };
 
 void TestSteam::findsItsRoots_data()
@@ -221,7 +221,7 @@ void TestSteam::findsItsLibraries_data()
             "XP12: $R/drive/SteamApps/common/X-Plane 12");
 }
 
-void TestSteam::seesThroughASandbox_data()
+void TestSteam::mapsPathsFromASandbox_data()
 {
     caseColumns();
     const QByteArray flatpak = "$H/.var/app/com.valvesoftware.Steam/.local/share/Steam";
@@ -242,7 +242,7 @@ void TestSteam::seesThroughASandbox_data()
             "");
 }
 
-void TestSteam::believesManifests_data()
+void TestSteam::readsManifests_data()
 {
     caseColumns();
     const auto add
@@ -285,18 +285,18 @@ void TestSteam::believesManifests_data()
     add("the first of two keys",
         R"("AppState" { "installdir" "X-Plane 12" "InstallDir" "other" "StateFlags" "4" "StateFlags" "1" })",
         "");
-    add("the keys of inner blocks are not its own",
+    add("keys of inner blocks do not count",
         R"("AppState" { "UserConfig" { "installdir" "other" "StateFlags" "1" } "installdir" "X-Plane 12" })",
         "");
-    add("junk behind the last brace", R"("AppState" { "installdir" "X-Plane 12" }\0\0"junk)", "");
-    add("blanks around the game's number",
+    add("junk after the last brace", R"("AppState" { "installdir" "X-Plane 12" }\0\0"junk)", "");
+    add("spaces around the app id",
         R"("AppState" { "appid" " 2014780 " "installdir" "X-Plane 12" })",
         "");
-    add("another game's number",
+    add("another game's app id",
         R"("AppState" { "appid" "269950" "installdir" "X-Plane 12" })",
         "it is about another game");
     add("no folder", R"("AppState" { "appid" "2014780" })", "installdir is not a plain name");
-    add("a block for a folder",
+    add("a block in place of a folder",
         R"("AppState" { "installdir" { "a" "b" } "installdir" "X-Plane 12" })",
         "installdir is not a plain name");
     add("another block",
@@ -333,7 +333,7 @@ void TestSteam::refusesFoldersOutsideTheLibrary_data()
         QTest::newRow(name) << QString::fromUtf8(name);
 }
 
-// Wherever the name could lead there is an X-Plane, so that taking it would show.
+// There is an X-Plane at each possible target of the name, so that a mistake would show.
 void TestSteam::refusesFoldersOutsideTheLibrary()
 {
     QFETCH(QString, name);
@@ -355,7 +355,7 @@ void TestSteam::refusesFoldersOutsideTheLibrary()
                                           "installdir is not a plain name"))});
 }
 
-void TestSteam::wantsTheGamesMarks_data()
+void TestSteam::requiresTheGamesFiles_data()
 {
     caseColumns();
     addCase("each simulator's own",
@@ -474,7 +474,7 @@ void TestSteam::findsThePrefixOfAGame_data()
                file $R/a/steamapps/appmanifest_4711.acf = AppState { installdir Kestrel StateFlags 4 }
                game $R/b 4711 Kestrel)",
         "4711: $R/b" + prefix + "/a/b.xml");
-    add("a game that is being downloaded is not there yet",
+    add("a game that is still being downloaded",
         both + R"(
                file $R/b/steamapps/appmanifest_4711.acf = AppState { installdir Kestrel StateFlags 1026 })",
         "4711: $R/a" + prefix + "/a/b.xml");
@@ -501,7 +501,7 @@ void TestSteam::findsThePrefixOfAGame_data()
     add("several that all differ",
         "dir $S" + drive + "file $S" + prefix + "/a/B.xml =\nfile $S" + prefix + "/a/b.XML =",
         "4711: $S" + prefix + "/a/b.xml");
-    add("a file for a prefix", "file $S" + prefix + " =", "");
+    add("a file in place of a prefix", "file $S" + prefix + " =", "");
     add("a prefix without a drive",
         "dir $S" + prefix + "\nfile $R/b" + prefix
             + "/drive_c =\nlibraries $S = $R/b, $R/c\ndir $R/c" + drive,
@@ -510,14 +510,14 @@ void TestSteam::findsThePrefixOfAGame_data()
             OnLinux,
             "dir $S/steamapps/compatdata/4294967295/pfx/drive_c\nprefix 4294967295 = a.xml",
             "4294967295: $S/steamapps/compatdata/4294967295/pfx/a.xml");
-    add("a link that leads nowhere",
+    add("a dangling link",
         "dir $S/steamapps/compatdata/4711\nlink $S" + prefix + " -> $R/unplugged",
         "");
     add("none", "game $S 4711 Kestrel\ndir $S/steamapps/compatdata/471", "");
 }
 
-// A home folder that is itself a link, as some systems have it: Steam writes where it leads.
-void TestSteam::keepsThePartsOfAHomeApart()
+// A home folder that is itself a link, as on some systems: Steam writes its target.
+void TestSteam::keepsALibraryInTheSandboxsOwnFolder()
 {
     DescribedComputer computer(Environment::Linux);
     computer.make(QStringLiteral(R"(

@@ -4,7 +4,7 @@
 
 using Quillmont::SimDetect::TextFormat;
 
-/// Steam's text format, entry by entry.
+/// How Steam's text format is read.
 class TestTextFormat : public QObject
 {
     Q_OBJECT
@@ -12,18 +12,18 @@ class TestTextFormat : public QObject
 private slots:
     void readsEntries_data();
     void readsEntries();
-    void givesUp_data();
-    void givesUp();
+    void refusesBrokenText_data();
+    void refusesBrokenText();
     void skipsBlocks();
-    void entersTheFirstBlockOfAName_data();
-    void entersTheFirstBlockOfAName();
-    void keepsItsLimits_data();
-    void keepsItsLimits();
+    void entersTheFirstBlockWithAKey_data();
+    void entersTheFirstBlockWithAKey();
+    void refusesTextOverItsLimits_data();
+    void refusesTextOverItsLimits();
 };
 
 namespace {
 
-// The text as it was understood: key=value; and key{...} one behind the other, "!" where it broke.
+// The text as it was read: a sequence of key=value; and key{...}, with "!" if it is broken.
 QByteArray understood(const QByteArray &content)
 {
     TextFormat text(content);
@@ -53,22 +53,22 @@ void TestTextFormat::readsEntries_data()
         QTest::newRow(name) << content << meaning;
     };
     row("nothing", "", "");
-    row("blanks only", " \t\r\n\v\f", "");
+    row("only white space", " \t\r\n\v\f", "");
     row("quoted", R"("key" "value")", "key=value;");
     row("bare", "key value", "key=value;");
-    row("no blank between", R"("key""value")", "key=value;");
+    row("no space between", R"("key""value")", "key=value;");
     row("a quote ends a bare token", R"(key"value")", "key=value;");
     row("a brace ends a bare token", "key{a b}", "key{a=b;}");
     row("nested", "a { b { c d } e f } g h", "a{b{c=d;}e=f;}g=h;");
     row("an empty value", R"("key" "")", "key=;");
     row("an empty key", R"("" "value")", "=value;");
     row("escapes", R"("k" "a\nb\tc\\d\"e")", "k=a\nb\tc\\d\"e;");
-    row("other backslash pairs stay", R"("k" "C:\Games\0")", R"(k=C:\Games\0;)");
-    row("a backslash is nothing special in a bare token", R"(k a\nb)", R"(k=a\nb;)");
+    row("other backslash pairs are kept", R"("k" "C:\Games\0")", R"(k=C:\Games\0;)");
+    row("a backslash is literal in a bare token", R"(k a\nb)", R"(k=a\nb;)");
     row("a line end in a quoted token", "k \"a\nb\"", "k=a\nb;");
     row("braces in a quoted token", R"(k "{}")", "k={};");
     row("comments", "// one\nk // two\nv // three { \"\nk2 v2//none", "k=v;k2=v2//none;");
-    row("a comment behind a quoted token", "\"k\"//x\n\"v\"//y", "k=v;");
+    row("a comment after a quoted token", "\"k\"//x\n\"v\"//y", "k=v;");
     row("slashes in a quoted token", R"(k "//v")", "k=//v;");
     row("a condition", "k v [$WIN32] k2 v2", "k=v;k2=v2;");
     row("a condition before a block", "k [$A] { a b } k2 v2", "k{a=b;}k2=v2;");
@@ -78,7 +78,7 @@ void TestTextFormat::readsEntries_data()
         "#base \"a.vdf\" #include b.vdf\nk {}",
         "#base=a.vdf;#include=b.vdf;k{}");
     row("a byte-order mark", "\xEF\xBB\xBF\"k\" v", "k=v;");
-    row("bytes beyond ASCII", "k \xC3\xA9\xFF", "k=\xC3\xA9\xEF\xBF\xBD;");
+    row("non-ASCII bytes", "k \xC3\xA9\xFF", "k=\xC3\xA9\xEF\xBF\xBD;");
 }
 
 void TestTextFormat::readsEntries()
@@ -88,7 +88,7 @@ void TestTextFormat::readsEntries()
     QCOMPARE(understood(content), meaning);
 }
 
-void TestTextFormat::givesUp_data()
+void TestTextFormat::refusesBrokenText_data()
 {
     QTest::addColumn<QByteArray>("content");
     const auto row = [](const char *name, const QByteArray &content) {
@@ -105,11 +105,11 @@ void TestTextFormat::givesUp_data()
     row("a condition that does not end", "a b [$c");
 }
 
-void TestTextFormat::givesUp()
+void TestTextFormat::refusesBrokenText()
 {
     QFETCH(QByteArray, content);
     QVERIFY2(understood(content).endsWith('!'), understood(content).constData());
-    // Once broken it stays so.
+    // A broken text stays broken.
     TextFormat text(content);
     for (int i = 0; i < 10; ++i)
         text.next();
@@ -130,21 +130,21 @@ void TestTextFormat::skipsBlocks()
     QVERIFY(!text.isBroken());
 }
 
-void TestTextFormat::entersTheFirstBlockOfAName_data()
+void TestTextFormat::entersTheFirstBlockWithAKey_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isEntered");
     QTest::newRow("the only one") << QByteArray("key { in 1 }") << true;
     QTest::newRow("other letter case") << QByteArray("KEY { in 1 }") << true;
-    QTest::newRow("behind others")
-        << QByteArray("other { key { in 2 } } more x key { in 1 }") << true;
+    QTest::newRow("after others") << QByteArray("other { key { in 2 } } more x key { in 1 }")
+                                  << true;
     QTest::newRow("the first of two") << QByteArray("key { in 1 } key { in 2 }") << true;
     QTest::newRow("a value first") << QByteArray("key value key { in 1 }") << false;
     QTest::newRow("a longer name") << QByteArray("keys { in 1 }") << false;
     QTest::newRow("none") << QByteArray() << false;
 }
 
-void TestTextFormat::entersTheFirstBlockOfAName()
+void TestTextFormat::entersTheFirstBlockWithAKey()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isEntered);
@@ -156,26 +156,27 @@ void TestTextFormat::entersTheFirstBlockOfAName()
     }
 }
 
-void TestTextFormat::keepsItsLimits_data()
+void TestTextFormat::refusesTextOverItsLimits_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isBroken");
     const QByteArray longest(64 * 1024, 'x');
     QTest::newRow("a long quoted token") << QByteArray("k \"" + longest + "\"") << false;
-    QTest::newRow("too long a quoted token") << QByteArray("k \"" + longest + "x\"") << true;
+    QTest::newRow("a quoted token that is too long")
+        << QByteArray("k \"" + longest + "x\"") << true;
     QTest::newRow("a long bare token") << QByteArray("k " + longest) << false;
-    QTest::newRow("too long a bare token") << QByteArray("k x" + longest) << true;
-    QTest::newRow("too long a key") << QByteArray(longest + "x v") << true;
+    QTest::newRow("a bare token that is too long") << QByteArray("k x" + longest) << true;
+    QTest::newRow("a key that is too long") << QByteArray(longest + "x v") << true;
     const QByteArray condition = "k v [$" + longest.mid(2);
     QTest::newRow("a long condition") << QByteArray(condition + "]") << false;
-    QTest::newRow("too long a condition") << QByteArray(condition + "x]") << true;
+    QTest::newRow("a condition that is too long") << QByteArray(condition + "x]") << true;
     QTest::newRow("64 levels") << QByteArray("k {").repeated(64) + QByteArray(64, '}') << false;
     QTest::newRow("65 levels") << QByteArray("k {").repeated(65) + QByteArray(65, '}') << true;
     QTest::newRow("100,000 levels") << QByteArray("k {").repeated(100000) << true;
     QTest::newRow("100,000 braces") << QByteArray(100000, '{') << true;
 }
 
-void TestTextFormat::keepsItsLimits()
+void TestTextFormat::refusesTextOverItsLimits()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isBroken);

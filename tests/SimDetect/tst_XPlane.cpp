@@ -4,7 +4,7 @@
 
 using namespace Tests;
 
-/// X-Plane by its own lists, by Steam and in well-known folders, and which version it is.
+/// How X-Plane is found by its own lists, by Steam and in well-known folders, with its version.
 class TestXPlane : public QObject
 {
     Q_OBJECT
@@ -14,21 +14,21 @@ private slots:
 
     void readsItsLists() { checkCase(); }
 
-    void passesOverWhatIsNoXPlane_data();
+    void ignoresFoldersWithoutXPlane_data();
 
-    void passesOverWhatIsNoXPlane() { checkCase(); }
+    void ignoresFoldersWithoutXPlane() { checkCase(); }
 
-    void tellsTheVersion_data();
+    void readsTheVersion_data();
 
-    void tellsTheVersion() { checkCase(); }
+    void readsTheVersion() { checkCase(); }
 
-    void looksInWellKnownFolders_data();
+    void searchesWellKnownFolders_data();
 
-    void looksInWellKnownFolders() { checkCase(); }
+    void searchesWellKnownFolders() { checkCase(); }
 
-    void keepsTheOrder_data();
+    void prefersSourcesInOrder_data();
 
-    void keepsTheOrder() { checkCase(); }
+    void prefersSourcesInOrder() { checkCase(); }
 };
 
 void TestXPlane::readsItsLists_data()
@@ -139,7 +139,7 @@ void TestXPlane::readsItsLists_data()
     addCase("an empty list", OnBoth, "file $L/x-plane_install_12.txt =", "");
 }
 
-void TestXPlane::passesOverWhatIsNoXPlane_data()
+void TestXPlane::ignoresFoldersWithoutXPlane_data()
 {
     caseColumns();
     addCase("lines that are no folder of it, then a good one",
@@ -245,7 +245,7 @@ void TestXPlane::passesOverWhatIsNoXPlane_data()
             "XP12 not taken: $R/a?b?[31m: no such folder");
 }
 
-void TestXPlane::tellsTheVersion_data()
+void TestXPlane::readsTheVersion_data()
 {
     caseColumns();
     addCase("two lists name one folder whose log says 12",
@@ -386,7 +386,7 @@ void TestXPlane::tellsTheVersion_data()
             "XP12 not taken: $H/X-Plane 12: it is taken as XP11");
 }
 
-void TestXPlane::looksInWellKnownFolders_data()
+void TestXPlane::searchesWellKnownFolders_data()
 {
     caseColumns();
     addCase("in the home folder, then on the desktop",
@@ -416,7 +416,7 @@ void TestXPlane::looksInWellKnownFolders_data()
             "XP12 not taken: $H/X-Plane 12: no Resources/plugins");
 }
 
-void TestXPlane::keepsTheOrder_data()
+void TestXPlane::prefersSourcesInOrder_data()
 {
     caseColumns();
     addCase("its list before Steam before well-known folders",

@@ -10,7 +10,7 @@ namespace Tests {
 
 namespace {
 
-// The index's first column names a file, the last one says what is expected of it.
+// The index's first column is a file, the last one the expected result.
 QMap<QString, QString> expectations(const QString &folder)
 {
     QMap<QString, QString> result;

@@ -5,19 +5,18 @@
 
 namespace Tests {
 
-/// Folders of configuration files, each with something special about it, and an index that says
-/// what is to become of an edit.
+/// Folders of unusual configuration files, with an index of the expected results.
 class Corpus
 {
 public:
-    /// The repository's own.
+    /// The repository's own folder.
     static QString own();
 
-    /// Another one, which ORBWELL_XML_CORPUS names; it need not exist.
+    /// Another folder, which ORBWELL_XML_CORPUS names; it need not exist.
     static QString foreign();
 
-    /// A row for each XML file of @p folder, with "path" and what is "expected": "accept",
-    /// "refuse", or something else where either will do.
+    /// Adds a row for each XML file in @p folder, with its "path" and the "expected" result:
+    /// "accept", "refuse", or anything else if either will do.
     static void addRows(const QString &folder);
 };
 

@@ -29,7 +29,7 @@ bool remove(const QString &path)
     return XmlHelper(nullptr, path).removeConfig(XmlPromises::model());
 }
 
-/// What changes whenever a file is written, even with the same bytes.
+/// A value that changes whenever the file is written, even with the same bytes.
 QByteArray identity(const QString &path)
 {
     struct stat now = {};

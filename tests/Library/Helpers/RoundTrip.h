@@ -6,14 +6,14 @@
 
 namespace Tests {
 
-/// Adds an entry to one file and takes it out again, and looks at the bytes after each step.
+/// Adds an entry to one file and removes it again, and checks the bytes after each step.
 class RoundTrip
 {
 public:
     /// Works on the file at @p path, whose content it overwrites.
     explicit RoundTrip(const QString &path);
 
-    /// What a file of @p bytes showed that breaks a promise; empty if none was broken.
+    /// The promise that is broken for a file with @p bytes; empty if none is.
     QString broken(const QByteArray &bytes);
 
     /// Whether the last file was edited; false if it was refused.

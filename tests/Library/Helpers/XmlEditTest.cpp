@@ -73,7 +73,7 @@ QByteArray XmlEditTest::identity() const
 {
     struct stat now = {};
     stat(QFile::encodeName(path()).constData(), &now);
-    // A file that is replaced has another number even where clocks are coarse.
+    // A replaced file has another inode number, even if time stamps are coarse.
     return QByteArray::number(quint64(now.st_ino)) + ' ' + QByteArray::number(qint64(now.st_mtime));
 }
 

@@ -12,7 +12,7 @@ namespace Tests {
 /// The entry that most tests write: an element "Addon" with the children "Name" and "Path".
 extern const char *const addon;
 
-/// A test that edits one file, "exe.xml" in a folder of its own.
+/// A test that edits one file, "exe.xml" in its own folder.
 class XmlEditTest : public QObject
 {
     Q_OBJECT
@@ -20,13 +20,13 @@ class XmlEditTest : public QObject
 protected:
     QString path() const { return m_sandbox.path(QStringLiteral("exe.xml")); }
 
-    /// Makes @p bytes the file's content, and lets @p config's entry into it.
+    /// Makes @p bytes the file's content, and inserts @p config's entry.
     bool insertInto(const QByteArray &bytes, const QByteArray &config = addon);
-    /// Makes @p bytes the file's content, and takes @p config's entry out of it.
+    /// Makes @p bytes the file's content, and removes @p config's entry.
     bool removeFrom(const QByteArray &bytes, const QByteArray &config = addon);
-    /// Lets @p config's entry into the file as it stands.
+    /// Inserts @p config's entry into the current file.
     bool insert(const QByteArray &config = addon);
-    /// Takes @p config's entry out of the file as it stands.
+    /// Removes @p config's entry from the current file.
     bool remove(const QByteArray &config = addon);
     /// Likewise for the file at @p path.
     static bool insertAt(const QString &path, const QByteArray &config = addon);
@@ -35,7 +35,7 @@ protected:
 
     /// The file's bytes.
     QByteArray content() const;
-    /// Changes whenever the file is written, with the same bytes too.
+    /// A value that changes whenever the file is written, even with the same bytes.
     QByteArray identity() const;
 
     Sandbox m_sandbox;

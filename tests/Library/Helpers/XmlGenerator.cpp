@@ -46,8 +46,8 @@ QByteArray XmlGenerator::document()
     text += misc() + oneOf({m_lineEnd, QString()});
 
     QTextCodec *encoder = QTextCodec::codecForName(codec.toLatin1());
-    // What the encoding lacks becomes "?", which is no name; what it has to shift for cannot be
-    // written once more at any place.
+    // A character that the encoding lacks becomes "?", which is not a name; one that needs a shift
+    // state cannot be repeated at any place.
     if (!encoder->canEncode(QStringLiteral("日本")) || codec == QStringLiteral("ISO-2022-JP"))
         text.replace(QStringLiteral("日本"), QStringLiteral("nihon"));
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);

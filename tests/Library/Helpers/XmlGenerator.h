@@ -8,17 +8,17 @@
 
 namespace Tests {
 
-/// Makes well-formed documents out of all that XML offers, and breaks documents. The same seed
-/// gives the same ones in every run.
+/// Generates well-formed documents with all features of XML, and breaks documents. The same seed
+/// gives the same documents in every run.
 class XmlGenerator
 {
 public:
     explicit XmlGenerator(quint32 seed);
 
-    /// A well-formed document that holds no entry of ours.
+    /// A well-formed document without an entry of ours.
     QByteArray document();
 
-    /// @p bytes with some bytes changed, cut out, doubled or put in.
+    /// @p bytes with some bytes changed, removed, doubled or inserted.
     QByteArray broken(QByteArray bytes);
 
 private:

@@ -49,7 +49,7 @@ bool XmlPromises::isOpenedRoot(const QByteArray &before, const QByteArray &after
         return false;
     const auto split = std::mismatch(before.cbegin(), before.cend(), after.cbegin());
     const auto place = static_cast<int>(split.first - before.cbegin());
-    // Characters of more than one byte hold zeros.
+    // UTF-16 and UTF-32 contain zero bytes.
     QByteArray tag = before.mid(place, 8).replace('\0', QByteArray());
     QByteArray tags
         = after.mid(place, after.size() - before.size() + 8).replace('\0', QByteArray());

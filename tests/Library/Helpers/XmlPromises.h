@@ -10,21 +10,21 @@ class XmlInsertionModel;
 
 namespace Tests {
 
-/// What holds for the bytes of every file, well formed or not.
+/// The promises about the bytes of every file, well formed or not.
 class XmlPromises
 {
 public:
-    /// The entry that is added and removed. Its texts want escaping, and are not in ASCII.
+    /// The entry that is added and removed. Its texts need escaping, and are not ASCII.
     static Quillmont::Library::Models::XmlInsertionModel *model();
 
-    /// Whether @p longer is @p shorter with one piece put into it.
+    /// Whether @p longer is @p shorter with one piece inserted.
     static bool isOnePieceMore(const QByteArray &shorter, const QByteArray &longer);
 
-    /// Whether @p after is @p before but for the one tag of a self-closed root, which became two.
+    /// Whether @p after is @p before with its self-closed root split into two tags.
     static bool isOpenedRoot(const QByteArray &before, const QByteArray &after);
 
-    /// What adding an entry to @p bytes and taking it out shows that breaks a promise; empty if
-    /// nothing does. @p isAccepted says whether the entry could be added at all.
+    /// The promise that is broken when an entry is added to @p bytes and removed again; empty if
+    /// none is. @p isAccepted says whether the entry could be added.
     static QString broken(const QByteArray &bytes, bool *isAccepted);
 };
 

@@ -19,20 +19,20 @@ class TestFileHelper : public QObject
 
 private slots:
     void init();
-    void textIsWrittenInTheEncoding_data();
-    void textIsWrittenInTheEncoding();
-    void contentIsReplaced();
-    void missingFoldersAreMade();
-    void whatCannotBeWrittenChangesNothing_data();
-    void whatCannotBeWrittenChangesNothing();
-    void folderThatCannotBeMadeIsAFailure();
-    void symbolicLinkStays();
-    void linkOutOfALinkedFolderStays_data();
-    void linkOutOfALinkedFolderStays();
-    void onlyWhatComesToAnEndIsOpened_data();
-    void onlyWhatComesToAnEndIsOpened();
-    void fileThatGetsItsFirstBytesIsOpened();
-    void onlyWhatIsSurelyNotThereIsMissing();
+    void writesTextInTheEncoding_data();
+    void writesTextInTheEncoding();
+    void replacesTheContent();
+    void createsMissingFolders();
+    void changesNothingOnFailure_data();
+    void changesNothingOnFailure();
+    void failsIfAFolderCannotBeCreated();
+    void keepsASymbolicLink();
+    void keepsALinkOutOfALinkedFolder_data();
+    void keepsALinkOutOfALinkedFolder();
+    void opensOnlyFilesThatEnd_data();
+    void opensOnlyFilesThatEnd();
+    void opensAFileThatIsBeingWritten();
+    void reportsOnlyCertainlyMissingFilesAsMissing();
 
 private:
     QString folder() const { return m_sandbox.path(QStringLiteral("config")); }
@@ -44,7 +44,7 @@ private:
 
 namespace {
 
-// Empty when it is first asked for its size, and never again: another process has just written.
+// A file that reports an empty size only once, as if another process had just written to it.
 class GrowingFile : public QFile
 {
 public:
@@ -66,7 +66,7 @@ void TestFileHelper::init()
     QDir(folder()).removeRecursively();
 }
 
-void TestFileHelper::textIsWrittenInTheEncoding_data()
+void TestFileHelper::writesTextInTheEncoding_data()
 {
     QTest::addColumn<QString>("encoding");
     QTest::addColumn<QByteArray>("bytes");
@@ -78,7 +78,7 @@ void TestFileHelper::textIsWrittenInTheEncoding_data()
                               << QByteArray("\xfe\xff\0\xfc\0\r\0\n\x20\xac\0\n", 12);
 }
 
-void TestFileHelper::textIsWrittenInTheEncoding()
+void TestFileHelper::writesTextInTheEncoding()
 {
     QFETCH(const QString, encoding);
     QFETCH(const QByteArray, bytes);
@@ -86,7 +86,7 @@ void TestFileHelper::textIsWrittenInTheEncoding()
     QCOMPARE(Tests::readFile(path()), bytes);
 }
 
-void TestFileHelper::contentIsReplaced()
+void TestFileHelper::replacesTheContent()
 {
     Tests::writeFile(path(), "a longer text than the new one");
     QVERIFY(FileHelper::saveText(path(), QStringLiteral("new"), QString()));
@@ -96,24 +96,25 @@ void TestFileHelper::contentIsReplaced()
     QCOMPARE(Tests::readFile(path()), QByteArray());
 }
 
-void TestFileHelper::missingFoldersAreMade()
+void TestFileHelper::createsMissingFolders()
 {
     const QString deep = folder() + QStringLiteral("/one/two words/\u65e5\u672c/exe.xml");
     QVERIFY(FileHelper::saveText(deep, QStringLiteral("new"), QString()));
     QCOMPARE(Tests::readFile(deep), QByteArray("new"));
 }
 
-void TestFileHelper::whatCannotBeWrittenChangesNothing_data()
+void TestFileHelper::changesNothingOnFailure_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("encoding");
     QTest::newRow("unknown encoding") << QStringLiteral("new") << QStringLiteral("klingon-8");
-    QTest::newRow("name of no encoding") << QStringLiteral("new") << QStringLiteral("\u65e5\u672c");
+    QTest::newRow("non-ASCII encoding name")
+        << QStringLiteral("new") << QStringLiteral("\u65e5\u672c");
     QTest::newRow("character that the encoding lacks")
         << QStringLiteral("\u65e5") << QStringLiteral("Windows-1252");
 }
 
-void TestFileHelper::whatCannotBeWrittenChangesNothing()
+void TestFileHelper::changesNothingOnFailure()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, encoding);
@@ -128,7 +129,7 @@ void TestFileHelper::whatCannotBeWrittenChangesNothing()
     QVERIFY(log.hasDebugLineWith(path()));
 }
 
-void TestFileHelper::folderThatCannotBeMadeIsAFailure()
+void TestFileHelper::failsIfAFolderCannotBeCreated()
 {
     Tests::writeFile(folder(), "no folder");
     QVERIFY(!FileHelper::saveText(path(), QStringLiteral("new"), QString()));
@@ -137,7 +138,7 @@ void TestFileHelper::folderThatCannotBeMadeIsAFailure()
     QVERIFY(QFile::remove(folder()));
 }
 
-void TestFileHelper::symbolicLinkStays()
+void TestFileHelper::keepsASymbolicLink()
 {
     Tests::writeFile(folder() + QStringLiteral("/target.xml"), "old");
     QVERIFY(QFile::link(QStringLiteral("target.xml"), path()));
@@ -146,17 +147,17 @@ void TestFileHelper::symbolicLinkStays()
     QCOMPARE(Tests::readFile(folder() + QStringLiteral("/target.xml")), QByteArray("new"));
 }
 
-void TestFileHelper::linkOutOfALinkedFolderStays_data()
+void TestFileHelper::keepsALinkOutOfALinkedFolder_data()
 {
     QTest::addColumn<QString>("saved");
     QTest::newRow("a link") << path();
     QTest::newRow("a path through it") << folder() + QStringLiteral("/linked/../new/other.xml");
-    QTest::newRow("a path through what is made for it")
+    QTest::newRow("a path through a new folder")
         << folder() + QStringLiteral("/linked/made/../../new/other.xml");
 }
 
-// What ".." means there is not what the text says; the neighbour of the same name stays.
-void TestFileHelper::linkOutOfALinkedFolderStays()
+// ".." is not resolved as text there; the neighbour of the same name is unchanged.
+void TestFileHelper::keepsALinkOutOfALinkedFolder()
 {
     QFETCH(const QString, saved);
     Tests::writeFile(folder() + QStringLiteral("/new/other.xml"), "foreign");
@@ -171,7 +172,7 @@ void TestFileHelper::linkOutOfALinkedFolderStays()
     QCOMPARE(Tests::readFile(folder() + QStringLiteral("/new/other.xml")), QByteArray("foreign"));
 }
 
-void TestFileHelper::onlyWhatComesToAnEndIsOpened_data()
+void TestFileHelper::opensOnlyFilesThatEnd_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<bool>("forReading");
@@ -192,7 +193,7 @@ void TestFileHelper::onlyWhatComesToAnEndIsOpened_data()
     row("/proc/self/pagemap", false, false);
 }
 
-void TestFileHelper::onlyWhatComesToAnEndIsOpened()
+void TestFileHelper::opensOnlyFilesThatEnd()
 {
     QFETCH(const QString, file);
     QFETCH(const bool, forReading);
@@ -211,7 +212,7 @@ void TestFileHelper::onlyWhatComesToAnEndIsOpened()
         QCOMPARE(FileHelper::open(&opened, mode, &problem), expected);
         QCOMPARE(opened.isOpen(), expected);
         QCOMPARE(problem.isEmpty(), expected);
-        if (mode == QIODevice::ReadOnly) // what may not be written is told in the system's words
+        if (mode == QIODevice::ReadOnly) // otherwise the message is the system's
             QCOMPARE(problem.startsWith(QLatin1String("not a")), !forWriting);
         if (expected)
             QCOMPARE(opened.readAll(),
@@ -219,7 +220,7 @@ void TestFileHelper::onlyWhatComesToAnEndIsOpened()
     }
 }
 
-void TestFileHelper::fileThatGetsItsFirstBytesIsOpened()
+void TestFileHelper::opensAFileThatIsBeingWritten()
 {
     Tests::writeFile(path(), {});
     GrowingFile file(path());
@@ -228,14 +229,14 @@ void TestFileHelper::fileThatGetsItsFirstBytesIsOpened()
     QCOMPARE(file.readAll(), QByteArray("text"));
 }
 
-void TestFileHelper::onlyWhatIsSurelyNotThereIsMissing()
+void TestFileHelper::reportsOnlyCertainlyMissingFilesAsMissing()
 {
     Tests::writeFile(path(), "text");
     QVERIFY(QFile::link(QStringLiteral("nothing"), folder() + QStringLiteral("/link")));
     QVERIFY(FileHelper::isMissing(folder() + QStringLiteral("/link")));
     QVERIFY(FileHelper::isMissing(folder() + QStringLiteral("/other/exe.xml")));
     QVERIFY(!FileHelper::isMissing(path()));
-    // The system refuses to look for a name of that length.
+    // The system refuses to look up a name of that length.
     QVERIFY(!FileHelper::isMissing(folder() + u'/' + QString(300, u'x')));
 }
 

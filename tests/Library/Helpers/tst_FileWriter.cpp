@@ -27,21 +27,21 @@
 #include <sys/xattr.h>
 #endif
 
-// What the system is asked for, in order.
+// The system calls so far, in order.
 static QStringList s_steps;
 
-// The error that attributes of users' fail with; 0 for none.
+// The error with which setting a user attribute fails; 0 for none.
 static int s_attributeError = 0;
 
-// How long a name may be.
-static long s_longestName = 255;
+// The maximum length of a name.
+static long s_maxNameSize = 255;
 
 // The system call that fails, and how.
 static QByteArray s_failing;
 static int s_error = 0;
 
 #ifdef Q_OS_LINUX
-// They stand in front of the C library's.
+// These replace the C library's functions.
 extern "C" int
 fsetxattr(int handle, const char *name, const void *value, size_t size, int flags) noexcept
 {
@@ -57,7 +57,7 @@ static bool fails(const char *call)
     return s_failing == call;
 }
 
-// All of these stand in front of the C library's.
+// All of these replace the C library's functions.
 extern "C" int fsync(int handle)
 {
     struct stat status = {};
@@ -95,7 +95,7 @@ linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags
 
 extern "C" long pathconf(const char *, int) noexcept
 {
-    return s_longestName;
+    return s_maxNameSize;
 }
 
 extern "C" ssize_t read(int handle, void *bytes, size_t size)
@@ -103,7 +103,7 @@ extern "C" ssize_t read(int handle, void *bytes, size_t size)
     return fails("read") ? -1 : syscall(SYS_read, handle, bytes, size);
 }
 
-// Takes no more at a time than it likes, and does not fail for ever.
+// Writes only a part at a time, and fails only temporarily.
 extern "C" ssize_t write(int handle, const void *bytes, size_t size)
 {
     if (fails("write")) {
@@ -119,7 +119,7 @@ using Quillmont::Library::Files::Replacement;
 using Tests::modeOf;
 using Tests::setMode;
 
-/// Replaces files under the conditions in which that goes wrong.
+/// Replaces files under conditions in which that can fail.
 class TestFileWriter : public QObject
 {
     Q_OBJECT
@@ -127,55 +127,55 @@ class TestFileWriter : public QObject
 private slots:
     void init();
     void cleanup();
-    void newFileIsMade();
-    void contentIsReplaced_data();
-    void contentIsReplaced();
-    void modeStays_data();
-    void modeStays();
-    void ownerStays_data();
-    void ownerStays();
-    void groupStaysWhereTheOwnerCannot();
-    void whatAFileSystemLacksIsDoneWithout_data();
-    void whatAFileSystemLacksIsDoneWithout();
-    void accessListAndAttributesStay_data();
-    void accessListAndAttributesStay();
-    void attributeThatIsNotTakenStopsNothing_data();
-    void attributeThatIsNotTakenStopsNothing();
-    void listOfTheFolderDoesNotComeIn();
-    void anotherGroupHasNoMoreRights_data();
-    void anotherGroupHasNoMoreRights();
-    void symbolicLinkStays_data();
-    void symbolicLinkStays();
-    void linkBehindALinkedFolderStays();
-    void danglingLinkGetsItsTarget_data();
-    void danglingLinkGetsItsTarget();
-    void linkThatLeadsToNoNameIsRefused_data();
-    void linkThatLeadsToNoNameIsRefused();
-    void otherHardLinkKeepsTheOldBytes();
-    void openReaderKeepsTheOldBytes();
-    void bytesAreOnDiskBeforeTheyAreInPlace_data();
-    void bytesAreOnDiskBeforeTheyAreInPlace();
-    void leftOversDoNotDisturb();
-    void unfinishedFileOfAKilledProcessGoes_data();
-    void unfinishedFileOfAKilledProcessGoes();
-    void nothingElseIsCleared();
-    void nameOfAnyLengthCanBeWritten_data();
-    void nameOfAnyLengthCanBeWritten();
-    void longNamesHaveUnfinishedFilesOfTheirOwn();
-    void rewrittenFileKeepsItsFurtherNames_data();
-    void rewrittenFileKeepsItsFurtherNames();
-    void rewrittenFileOfAnotherUserStaysTheirs();
-    void rewrittenFileNeedsNoFileBesideIt();
-    void whatCannotBeFinishedIsTakenBack_data();
-    void whatCannotBeFinishedIsTakenBack();
-    void fileSizeLimitLeavesTheOldBytes_data();
-    void fileSizeLimitLeavesTheOldBytes();
-    void fullDiskLeavesTheOldBytes_data();
-    void fullDiskLeavesTheOldBytes();
-    void readOnlyFolderIsRefused();
-    void readOnlyFileIsRefused();
-    void whatIsNoFileIsRefused_data();
-    void whatIsNoFileIsRefused();
+    void createsANewFile();
+    void replacesTheContent_data();
+    void replacesTheContent();
+    void keepsTheMode_data();
+    void keepsTheMode();
+    void keepsTheOwner_data();
+    void keepsTheOwner();
+    void keepsTheGroupIfTheOwnerCannotBeKept();
+    void copesWithMissingFileSystemFeatures_data();
+    void copesWithMissingFileSystemFeatures();
+    void keepsAccessListAndAttributes_data();
+    void keepsAccessListAndAttributes();
+    void ignoresARefusedAttribute_data();
+    void ignoresARefusedAttribute();
+    void doesNotInheritTheFoldersAccessList();
+    void givesAnotherGroupNoMoreRights_data();
+    void givesAnotherGroupNoMoreRights();
+    void keepsASymbolicLink_data();
+    void keepsASymbolicLink();
+    void keepsALinkInsideALinkedFolder();
+    void createsTheTargetOfADanglingLink_data();
+    void createsTheTargetOfADanglingLink();
+    void refusesALinkWithoutATarget_data();
+    void refusesALinkWithoutATarget();
+    void keepsTheOldBytesInOtherHardLinks();
+    void keepsTheOldBytesForAnOpenReader();
+    void syncsBeforeItReplacesTheFile_data();
+    void syncsBeforeItReplacesTheFile();
+    void ignoresOldTemporaryFiles();
+    void removesTheUnfinishedFileOfAKilledProcess_data();
+    void removesTheUnfinishedFileOfAKilledProcess();
+    void removesNoOtherFile();
+    void writesFilesWithNamesOfAnyLength_data();
+    void writesFilesWithNamesOfAnyLength();
+    void usesADistinctTemporaryNamePerLongName();
+    void keepsHardLinksOfARewrittenFile_data();
+    void keepsHardLinksOfARewrittenFile();
+    void keepsTheOwnerOfARewrittenFile();
+    void rewritesWithoutAFileBesideIt();
+    void restoresTheOldBytesIfItCannotFinish_data();
+    void restoresTheOldBytesIfItCannotFinish();
+    void keepsTheOldBytesOverTheSizeLimit_data();
+    void keepsTheOldBytesOverTheSizeLimit();
+    void keepsTheOldBytesOnAFullDisk_data();
+    void keepsTheOldBytesOnAFullDisk();
+    void refusesAReadOnlyFolder();
+    void refusesAReadOnlyFile();
+    void refusesWhatIsNotARegularFile_data();
+    void refusesWhatIsNotARegularFile();
 
 private:
     QString path(const char *name = "exe.xml") const
@@ -210,7 +210,7 @@ private:
 
 namespace {
 
-// Does not take its new size when it is first told to.
+// A file whose first change of size fails.
 class StubbornFile : public QFile
 {
 public:
@@ -241,13 +241,13 @@ void TestFileWriter::init()
     QVERIFY(QDir().mkpath(m_sandbox.path(QStringLiteral("config"))));
 }
 
-// Names that are no text as well.
+// Also removes names that cannot be decoded.
 void TestFileWriter::cleanup()
 {
     std::filesystem::remove_all(m_sandbox.path(QStringLiteral("config")).toStdString());
 }
 
-void TestFileWriter::newFileIsMade()
+void TestFileWriter::createsANewFile()
 {
     const mode_t mask = umask(022);
     QVERIFY(write(path(), "new"));
@@ -262,16 +262,16 @@ void TestFileWriter::newFileIsMade()
     QCOMPARE(Tests::readFile(path("other.xml")), QByteArray("new"));
 }
 
-void TestFileWriter::contentIsReplaced_data()
+void TestFileWriter::replacesTheContent_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("by nothing") << QByteArray();
-    QTest::newRow("by less") << QByteArray("x");
-    QTest::newRow("by what a buffer holds") << QByteArray(16 * 1024, 'x');
-    QTest::newRow("by more") << QByteArray(1000 * 1000, '\0');
+    QTest::newRow("with nothing") << QByteArray();
+    QTest::newRow("with less") << QByteArray("x");
+    QTest::newRow("with one full buffer") << QByteArray(16 * 1024, 'x');
+    QTest::newRow("with more") << QByteArray(1000 * 1000, '\0');
 }
 
-void TestFileWriter::contentIsReplaced()
+void TestFileWriter::replacesTheContent()
 {
     QFETCH(const QByteArray, bytes);
     Tests::writeFile(path(), "old content");
@@ -280,14 +280,14 @@ void TestFileWriter::contentIsReplaced()
     QCOMPARE(files(), QStringList{QStringLiteral("exe.xml")});
 }
 
-void TestFileWriter::modeStays_data()
+void TestFileWriter::keepsTheMode_data()
 {
     QTest::addColumn<int>("mode");
     for (const int mode : {0600, 0640, 0644, 0664, 0666, 0755, 01644})
         QTest::newRow(QByteArray::number(mode, 8).constData()) << mode;
 }
 
-void TestFileWriter::modeStays()
+void TestFileWriter::keepsTheMode()
 {
     QFETCH(const int, mode);
     Tests::writeFile(path(), "old");
@@ -296,7 +296,7 @@ void TestFileWriter::modeStays()
     QCOMPARE(modeOf(path()), unsigned(mode));
 }
 
-void TestFileWriter::ownerStays_data()
+void TestFileWriter::keepsTheOwner_data()
 {
     QTest::addColumn<uid_t>("user");
     QTest::addColumn<gid_t>("group");
@@ -305,7 +305,7 @@ void TestFileWriter::ownerStays_data()
     QTest::newRow("another group") << getuid() << gid_t(23456);
 }
 
-void TestFileWriter::ownerStays()
+void TestFileWriter::keepsTheOwner()
 {
     QFETCH(const uid_t, user);
     QFETCH(const gid_t, group);
@@ -320,8 +320,8 @@ void TestFileWriter::ownerStays()
     QCOMPARE(modeOf(path()), 0640U);
 }
 
-// The one who writes is in the file's group.
-void TestFileWriter::groupStaysWhereTheOwnerCannot()
+// The writing user is in the file's group.
+void TestFileWriter::keepsTheGroupIfTheOwnerCannotBeKept()
 {
 #ifdef Q_OS_LINUX
     QVector<gid_t> before(getgroups(0, nullptr));
@@ -349,7 +349,7 @@ void TestFileWriter::groupStaysWhereTheOwnerCannot()
 #endif
 }
 
-void TestFileWriter::whatAFileSystemLacksIsDoneWithout_data()
+void TestFileWriter::copesWithMissingFileSystemFeatures_data()
 {
     QTest::addColumn<QByteArray>("call");
     QTest::addColumn<int>("error");
@@ -371,13 +371,13 @@ void TestFileWriter::whatAFileSystemLacksIsDoneWithout_data()
     row("linkat", ENOENT, true, 0640, "written");
     row("read", EIO, false, 0640, "rewritten under two names");
     row("write", EINTR, true, 0640, "rewritten under two names");
-    // In its place, if the disk is not to blame.
+    // Overwritten in place, unless it is a disk error.
     for (const int error : {EPERM, ENOSPC, EDQUOT, EFBIG, EIO})
         row("rename", error, error == EPERM, 0640, "rewritten");
     row("rename", EPERM, false, 0640, "written");
 }
 
-void TestFileWriter::whatAFileSystemLacksIsDoneWithout()
+void TestFileWriter::copesWithMissingFileSystemFeatures()
 {
 #ifdef Q_OS_LINUX
     QFETCH(const QByteArray, call);
@@ -400,15 +400,15 @@ void TestFileWriter::whatAFileSystemLacksIsDoneWithout()
 #endif
 }
 
-void TestFileWriter::accessListAndAttributesStay_data()
+void TestFileWriter::keepsAccessListAndAttributes_data()
 {
     QTest::addColumn<QByteArray>("list");
     QTest::newRow("nobody else") << QByteArray();
     QTest::newRow("a user who may only read") << Tests::accessList(04, 0, 04, 0);
-    QTest::newRow("a group that may less than a user") << Tests::accessList(06, 0, 06, 04);
+    QTest::newRow("a group with fewer rights than a user") << Tests::accessList(06, 0, 06, 04);
 }
 
-void TestFileWriter::accessListAndAttributesStay()
+void TestFileWriter::keepsAccessListAndAttributes()
 {
     QFETCH(const QByteArray, list);
     Tests::writeFile(path(), "old");
@@ -427,18 +427,18 @@ void TestFileWriter::accessListAndAttributesStay()
     QCOMPARE(modeOf(path()), mode);
 }
 
-void TestFileWriter::attributeThatIsNotTakenStopsNothing_data()
+void TestFileWriter::ignoresARefusedAttribute_data()
 {
     QTest::addColumn<int>("error");
     QTest::addColumn<bool>("stops");
-    QTest::newRow("not on this file system") << ENOTSUP << false;
-    QTest::newRow("not by this user") << EPERM << false;
-    QTest::newRow("no room") << ENOSPC << true;
-    QTest::newRow("no room for this user") << EDQUOT << true;
-    QTest::newRow("a broken disk") << EIO << true;
+    QTest::newRow("not supported by the file system") << ENOTSUP << false;
+    QTest::newRow("not permitted for this user") << EPERM << false;
+    QTest::newRow("full disk") << ENOSPC << true;
+    QTest::newRow("quota exceeded") << EDQUOT << true;
+    QTest::newRow("broken disk") << EIO << true;
 }
 
-void TestFileWriter::attributeThatIsNotTakenStopsNothing()
+void TestFileWriter::ignoresARefusedAttribute()
 {
     QFETCH(const int, error);
     QFETCH(const bool, stops);
@@ -456,7 +456,7 @@ void TestFileWriter::attributeThatIsNotTakenStopsNothing()
     QCOMPARE(log.hasDebugLineWith(QStringLiteral("attribute not kept: user.note")), !stops);
 }
 
-void TestFileWriter::listOfTheFolderDoesNotComeIn()
+void TestFileWriter::doesNotInheritTheFoldersAccessList()
 {
     Tests::writeFile(path(), "old");
     setMode(path(), 0640);
@@ -468,7 +468,7 @@ void TestFileWriter::listOfTheFolderDoesNotComeIn()
     QCOMPARE(modeOf(path()), 0640U);
 }
 
-void TestFileWriter::anotherGroupHasNoMoreRights_data()
+void TestFileWriter::givesAnotherGroupNoMoreRights_data()
 {
     QTest::addColumn<unsigned>("before");
     QTest::addColumn<unsigned>("after");
@@ -477,19 +477,19 @@ void TestFileWriter::anotherGroupHasNoMoreRights_data()
     const QByteArray none;
     QTest::newRow("readable by all") << 0644U << 0644U << none << none;
     QTest::newRow("the group may write") << 0664U << 0644U << none << none;
-    QTest::newRow("the group's alone") << 0660U << 0600U << none << none;
-    QTest::newRow("all but the group") << 0606U << 0600U << none << none;
-    QTest::newRow("in the group's name") << 02775U << 0755U << none << none;
-    QTest::newRow("a user beside the group")
+    QTest::newRow("only for the group") << 0660U << 0600U << none << none;
+    QTest::newRow("everybody except the group") << 0606U << 0600U << none << none;
+    QTest::newRow("setgid") << 02775U << 0755U << none << none;
+    QTest::newRow("a user in addition to the group")
         << 0U << 0664U << Tests::accessList(06, 06, 06, 04) << Tests::accessList(06, 04, 06, 04);
-    QTest::newRow("a user who may nothing")
+    QTest::newRow("a user without rights")
         << 0U << 0660U << Tests::accessList(0, 06, 06, 04) << Tests::accessList(0, 0, 06, 0);
     QTest::newRow("a mask below the group")
         << 0U << 0644U << Tests::accessList(06, 06, 04, 06) << Tests::accessList(06, 04, 04, 04);
 }
 
-// The one who writes cannot give the new file the old one's group.
-void TestFileWriter::anotherGroupHasNoMoreRights()
+// The writing user cannot give the new file the old one's group.
+void TestFileWriter::givesAnotherGroupNoMoreRights()
 {
     QFETCH(const unsigned, before);
     QFETCH(const unsigned, after);
@@ -511,18 +511,18 @@ void TestFileWriter::anotherGroupHasNoMoreRights()
     QCOMPARE(QString::number(modeOf(path()), 8), QString::number(after, 8));
 }
 
-void TestFileWriter::symbolicLinkStays_data()
+void TestFileWriter::keepsASymbolicLink_data()
 {
     QTest::addColumn<QString>("target");
     QTest::addColumn<bool>("isFollowed");
     QTest::newRow("relative") << QStringLiteral("real/target.xml") << true;
     QTest::newRow("absolute") << path("real/target.xml") << true;
     QTest::newRow("link to a link") << QStringLiteral("real/link.xml") << true;
-    QTest::newRow("as many as the system follows") << QStringLiteral("real/37") << true;
-    QTest::newRow("one more") << QStringLiteral("real/38") << false;
+    QTest::newRow("the longest chain that the system follows") << QStringLiteral("real/37") << true;
+    QTest::newRow("one link more") << QStringLiteral("real/38") << false;
 }
 
-void TestFileWriter::symbolicLinkStays()
+void TestFileWriter::keepsASymbolicLink()
 {
     QFETCH(const QString, target);
     QFETCH(const bool, isFollowed);
@@ -542,8 +542,8 @@ void TestFileWriter::symbolicLinkStays()
     QCOMPARE(files(), before);
 }
 
-// "..", in a link, leads out of the folder that it really lies in.
-void TestFileWriter::linkBehindALinkedFolderStays()
+// ".." in a link's target is relative to the link's real folder.
+void TestFileWriter::keepsALinkInsideALinkedFolder()
 {
     QVERIFY(QDir().mkpath(path("real/deep/folder")));
     Tests::writeFile(path("real/deep/store/dll.xml"), "old");
@@ -556,23 +556,23 @@ void TestFileWriter::linkBehindALinkedFolderStays()
     QCOMPARE(Tests::readFile(path("store/dll.xml")), QByteArray("foreign"));
 }
 
-void TestFileWriter::danglingLinkGetsItsTarget_data()
+void TestFileWriter::createsTheTargetOfADanglingLink_data()
 {
     QTest::addColumn<QByteArray>("link");
     QTest::addColumn<QByteArray>("target");
     QTest::newRow("beside it") << QByteArray("other.xml") << QByteArray("other.xml");
-    QTest::newRow("behind a linked folder")
+    QTest::newRow("in a linked folder")
         << QByteArray("folder/other.xml") << QByteArray("far/deep/other.xml");
     QTest::newRow("out of a linked folder")
         << QByteArray("folder/../other.xml") << QByteArray("far/other.xml");
-    QTest::newRow("by another link")
+    QTest::newRow("through another link")
         << QByteArray("folder/link.xml") << QByteArray("far/other.xml");
-    QTest::newRow("into a folder that is no text")
+    QTest::newRow("into a folder whose name cannot be decoded")
         << QByteArray("\xff/other.xml") << QByteArray("\xff/other.xml");
 }
 
-// What of the same name is elsewhere stays as it is, what a killed process left included.
-void TestFileWriter::danglingLinkGetsItsTarget()
+// Files of the same name elsewhere are unchanged, including one left by a killed process.
+void TestFileWriter::createsTheTargetOfADanglingLink()
 {
     QFETCH(const QByteArray, link);
     QFETCH(const QByteArray, target);
@@ -602,7 +602,7 @@ void TestFileWriter::danglingLinkGetsItsTarget()
     QCOMPARE(tree.values().count("new"), isText ? 1 : 0);
 }
 
-void TestFileWriter::linkThatLeadsToNoNameIsRefused_data()
+void TestFileWriter::refusesALinkWithoutATarget_data()
 {
     QTest::addColumn<QString>("link");
     for (const char *link : {"other.xml",
@@ -617,8 +617,8 @@ void TestFileWriter::linkThatLeadsToNoNameIsRefused_data()
         QTest::newRow(link) << QString::fromLatin1(link);
 }
 
-// The first two lead around in circles.
-void TestFileWriter::linkThatLeadsToNoNameIsRefused()
+// The first two are cycles.
+void TestFileWriter::refusesALinkWithoutATarget()
 {
     QFETCH(const QString, link);
     QVERIFY(QDir().mkpath(path("folder")));
@@ -632,8 +632,8 @@ void TestFileWriter::linkThatLeadsToNoNameIsRefused()
     QCOMPARE(Tests::treeOf(m_sandbox.path(QStringLiteral("config"))), before);
 }
 
-/// The price of never having half a file: the name gets a new one.
-void TestFileWriter::otherHardLinkKeepsTheOldBytes()
+/// The price of writing all or nothing: only this name gets the new file.
+void TestFileWriter::keepsTheOldBytesInOtherHardLinks()
 {
     Tests::writeFile(path(), "old");
     QCOMPARE(::link(QFile::encodeName(path()).constData(),
@@ -644,7 +644,7 @@ void TestFileWriter::otherHardLinkKeepsTheOldBytes()
     QCOMPARE(Tests::readFile(path("other.xml")), QByteArray("old"));
 }
 
-void TestFileWriter::openReaderKeepsTheOldBytes()
+void TestFileWriter::keepsTheOldBytesForAnOpenReader()
 {
     Tests::writeFile(path(), "old");
     QFile reader(path());
@@ -654,13 +654,13 @@ void TestFileWriter::openReaderKeepsTheOldBytes()
     QCOMPARE(Tests::readFile(path()), QByteArray("new"));
 }
 
-void TestFileWriter::bytesAreOnDiskBeforeTheyAreInPlace_data()
+void TestFileWriter::syncsBeforeItReplacesTheFile_data()
 {
     addWays({{"much", 100 * 1024}});
 }
 
-// Otherwise a loss of power could leave an empty file in the place of a good one.
-void TestFileWriter::bytesAreOnDiskBeforeTheyAreInPlace()
+// Otherwise a loss of power could leave an empty file instead of a good one.
+void TestFileWriter::syncsBeforeItReplacesTheFile()
 {
     QFETCH(const int, size);
     QFETCH(const QString, way);
@@ -670,12 +670,12 @@ void TestFileWriter::bytesAreOnDiskBeforeTheyAreInPlace()
     if (s_steps.isEmpty())
         QSKIP("no view of what the system is asked for");
     const QString onDisk = QStringLiteral("%1 bytes on disk").arg(size);
-    // A file with two names is only written over.
+    // A file with two names is overwritten in place.
     const QString then = way.endsWith(QLatin1String("names")) ? onDisk : QStringLiteral("in place");
     QCOMPARE(s_steps, QStringList({onDisk, then}));
 }
 
-void TestFileWriter::leftOversDoNotDisturb()
+void TestFileWriter::ignoresOldTemporaryFiles()
 {
     Tests::writeFile(path(), "old");
     Tests::writeFile(path("exe.xml.AbCdEf"), "half");
@@ -684,14 +684,14 @@ void TestFileWriter::leftOversDoNotDisturb()
     QCOMPARE(Tests::readFile(path("exe.xml.AbCdEf")), QByteArray("half"));
 }
 
-void TestFileWriter::unfinishedFileOfAKilledProcessGoes_data()
+void TestFileWriter::removesTheUnfinishedFileOfAKilledProcess_data()
 {
     QTest::addColumn<bool>("written");
     QTest::newRow("with the next change") << true;
-    QTest::newRow("by itself") << false;
+    QTest::newRow("without a change") << false;
 }
 
-void TestFileWriter::unfinishedFileOfAKilledProcessGoes()
+void TestFileWriter::removesTheUnfinishedFileOfAKilledProcess()
 {
     QFETCH(const bool, written);
     Tests::writeFile(path("store/exe.xml"), "old");
@@ -707,7 +707,7 @@ void TestFileWriter::unfinishedFileOfAKilledProcessGoes()
     QCOMPARE(Tests::readFile(path()), QByteArray(written ? "new" : "old"));
 }
 
-void TestFileWriter::nothingElseIsCleared()
+void TestFileWriter::removesNoOtherFile()
 {
     for (const char *name : {"exe.xml", "exe.xml.AbCdEf", "other.xml_quillmont_unfinished"})
         Tests::writeFile(path(name), "foreign");
@@ -718,7 +718,7 @@ void TestFileWriter::nothingElseIsCleared()
     QCOMPARE(Tests::treeOf(m_sandbox.path(QStringLiteral("config"))), before);
 }
 
-void TestFileWriter::nameOfAnyLengthCanBeWritten_data()
+void TestFileWriter::writesFilesWithNamesOfAnyLength_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isBlocked");
@@ -731,8 +731,8 @@ void TestFileWriter::nameOfAnyLengthCanBeWritten_data()
     }
 }
 
-// A folder in its place makes that name useless.
-void TestFileWriter::nameOfAnyLengthCanBeWritten()
+// A folder with that name blocks it.
+void TestFileWriter::writesFilesWithNamesOfAnyLength()
 {
     QFETCH(const QString, name);
     QFETCH(const bool, isBlocked);
@@ -752,7 +752,7 @@ void TestFileWriter::nameOfAnyLengthCanBeWritten()
     }
 }
 
-void TestFileWriter::longNamesHaveUnfinishedFilesOfTheirOwn()
+void TestFileWriter::usesADistinctTemporaryNamePerLongName()
 {
     const QByteArray name = '/' + QByteArray(254, 'x');
     const QByteArray first = Replacement::unfinishedName(name + 'a');
@@ -760,19 +760,19 @@ void TestFileWriter::longNamesHaveUnfinishedFilesOfTheirOwn()
     QCOMPARE(first, Replacement::unfinishedName(name + 'a'));
     QVERIFY(first.startsWith("/xxxx") && first.endsWith("_quillmont_unfinished"));
 #ifdef Q_OS_LINUX
-    s_longestName = 143;
+    s_maxNameSize = 143;
     const QByteArray shorter = Replacement::unfinishedName(name);
-    s_longestName = 255;
+    s_maxNameSize = 255;
     QCOMPARE(shorter.size(), 143 + 1 - 7);
 #endif
 }
 
-void TestFileWriter::rewrittenFileKeepsItsFurtherNames_data()
+void TestFileWriter::keepsHardLinksOfARewrittenFile_data()
 {
-    contentIsReplaced_data();
+    replacesTheContent_data();
 }
 
-void TestFileWriter::rewrittenFileKeepsItsFurtherNames()
+void TestFileWriter::keepsHardLinksOfARewrittenFile()
 {
     QFETCH(const QByteArray, bytes);
     Tests::writeFile(path(), "old content");
@@ -785,8 +785,8 @@ void TestFileWriter::rewrittenFileKeepsItsFurtherNames()
     QCOMPARE(files().size(), 2);
 }
 
-// Whoever writes may write there, but gives no file away.
-void TestFileWriter::rewrittenFileOfAnotherUserStaysTheirs()
+// The user may write there, but may not change a file's owner.
+void TestFileWriter::keepsTheOwnerOfARewrittenFile()
 {
     if (getuid() != 0)
         QSKIP("only the superuser gives a file away");
@@ -809,7 +809,7 @@ void TestFileWriter::rewrittenFileOfAnotherUserStaysTheirs()
     QCOMPARE(files(), QStringList{QStringLiteral("exe.xml")});
 }
 
-void TestFileWriter::rewrittenFileNeedsNoFileBesideIt()
+void TestFileWriter::rewritesWithoutAFileBesideIt()
 {
     Tests::writeFile(path(), "old");
     setMode(m_sandbox.path(QStringLiteral("config")), 0555);
@@ -823,13 +823,13 @@ void TestFileWriter::rewrittenFileNeedsNoFileBesideIt()
     QCOMPARE(Tests::readFile(path()), QByteArray("the new one"));
 }
 
-void TestFileWriter::whatCannotBeFinishedIsTakenBack_data()
+void TestFileWriter::restoresTheOldBytesIfItCannotFinish_data()
 {
-    contentIsReplaced_data();
+    replacesTheContent_data();
 }
 
-// The file has a second name, so that its bytes are written over.
-void TestFileWriter::whatCannotBeFinishedIsTakenBack()
+// The file has a second name, so that it is overwritten in place.
+void TestFileWriter::restoresTheOldBytesIfItCannotFinish()
 {
     QFETCH(const QByteArray, bytes);
     Tests::writeFile(path(), "old content");
@@ -842,7 +842,7 @@ void TestFileWriter::whatCannotBeFinishedIsTakenBack()
     QCOMPARE(Tests::readFile(path()), QByteArray("old content"));
 }
 
-// Each of these many bytes is written in each way that a file can be.
+// Each of these sizes with each way of writing a file.
 void TestFileWriter::addWays(const QVector<QPair<const char *, int>> &sizes)
 {
     QTest::addColumn<int>("size");
@@ -866,12 +866,12 @@ bool TestFileWriter::writeInItsWay(const QString &path, const QByteArray &bytes)
     return isWritten;
 }
 
-void TestFileWriter::fileSizeLimitLeavesTheOldBytes_data()
+void TestFileWriter::keepsTheOldBytesOverTheSizeLimit_data()
 {
     addWays({{"what a buffer holds", 10 * 1024}, {"more", 100 * 1024}});
 }
 
-void TestFileWriter::fileSizeLimitLeavesTheOldBytes()
+void TestFileWriter::keepsTheOldBytesOverTheSizeLimit()
 {
     QFETCH(const int, size);
     Tests::writeFile(path(), "old");
@@ -891,12 +891,12 @@ void TestFileWriter::fileSizeLimitLeavesTheOldBytes()
     QVERIFY(action.sa_handler == SIG_DFL);
 }
 
-void TestFileWriter::fullDiskLeavesTheOldBytes_data()
+void TestFileWriter::keepsTheOldBytesOnAFullDisk_data()
 {
     addWays({{"no block left", 10 * 1024}, {"some blocks left", 200 * 1024}});
 }
 
-void TestFileWriter::fullDiskLeavesTheOldBytes()
+void TestFileWriter::keepsTheOldBytesOnAFullDisk()
 {
     QFETCH(const int, size);
 #ifdef Q_OS_LINUX
@@ -924,7 +924,7 @@ void TestFileWriter::fullDiskLeavesTheOldBytes()
 #endif
 }
 
-void TestFileWriter::readOnlyFolderIsRefused()
+void TestFileWriter::refusesAReadOnlyFolder()
 {
     Tests::writeFile(path(), "old");
     setMode(m_sandbox.path(QStringLiteral("config")), 0555);
@@ -940,7 +940,7 @@ void TestFileWriter::readOnlyFolderIsRefused()
     QCOMPARE(files(), QStringList{QStringLiteral("exe.xml")});
 }
 
-void TestFileWriter::readOnlyFileIsRefused()
+void TestFileWriter::refusesAReadOnlyFile()
 {
     Tests::writeFile(path(), "old");
     setMode(path(), 0444);
@@ -950,23 +950,23 @@ void TestFileWriter::readOnlyFileIsRefused()
     QCOMPARE(Tests::readFile(path()), QByteArray("old"));
 }
 
-void TestFileWriter::whatIsNoFileIsRefused_data()
+void TestFileWriter::refusesWhatIsNotARegularFile_data()
 {
     QTest::addColumn<QString>("target");
     QTest::newRow("folder") << path("folder");
     QTest::newRow("pipe") << path("pipe");
     QTest::newRow("device") << path("device");
-    QTest::newRow("no name") << QString();
-    QTest::newRow("a name that goes on behind a NUL") << path("exe.xml") + QChar(QChar::Null);
+    QTest::newRow("empty path") << QString();
+    QTest::newRow("a name with a NUL") << path("exe.xml") + QChar(QChar::Null);
     QTest::newRow("missing folder") << path("missing/exe.xml");
 }
 
-void TestFileWriter::whatIsNoFileIsRefused()
+void TestFileWriter::refusesWhatIsNotARegularFile()
 {
     QFETCH(const QString, target);
     QVERIFY(QDir().mkpath(path("folder")));
     QCOMPARE(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    // The superuser, who could replace the system's own, makes another.
+    // Root could replace the system's own device, so root creates another one.
     const QByteArray device = QFile::encodeName(path("device"));
     if (mknod(device.constData(), S_IFCHR | 0600, statusOf(QStringLiteral("/dev/null")).st_rdev)
         != 0)

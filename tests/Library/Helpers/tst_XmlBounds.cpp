@@ -11,7 +11,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-/// Files that are made, or broken, so that they take for ever or all of the memory.
+/// Files made or damaged so that reading them could take for ever or use up memory.
 class TestXmlBounds : public Tests::XmlEditTest
 {
     Q_OBJECT
@@ -19,32 +19,32 @@ class TestXmlBounds : public Tests::XmlEditTest
 private slots:
     void init();
     void cleanup();
-    void entityBombIsRefused_data();
-    void entityBombIsRefused();
-    void entitiesOfAnHonestSizeAreRead_data();
-    void entitiesOfAnHonestSizeAreRead();
-    void deepNestingIsEdited();
-    void manyEntriesAreEdited();
-    void manyEntriesOfOursAreRemoved();
-    void zerosAreRefused_data();
-    void zerosAreRefused();
-    void hugeFileIsRefused_data();
-    void hugeFileIsRefused();
-    void whatIsNoFileIsRefused_data();
-    void whatIsNoFileIsRefused();
+    void refusesAnEntityBomb_data();
+    void refusesAnEntityBomb();
+    void readsEntitiesOfRealisticSize_data();
+    void readsEntitiesOfRealisticSize();
+    void editsDeepNesting();
+    void editsManyEntries();
+    void removesManyEntriesOfOurs();
+    void refusesZeroBytes_data();
+    void refusesZeroBytes();
+    void refusesAHugeFile_data();
+    void refusesAHugeFile();
+    void refusesWhatIsNotARegularFile_data();
+    void refusesWhatIsNotARegularFile();
 
 private:
     QElapsedTimer m_timer;
 };
 
-// A document in which one entity, used so often, adds so many characters each time.
+// A document with one entity of this size, used this many times.
 static QByteArray grown(int size, int times, const QByteArray &beside)
 {
     return "<!DOCTYPE R [<!ENTITY x 'x'><!ENTITY a '" + QByteArray(size, 'x') + "'>]>\n<R><A>"
         + QByteArray("&a;").repeated(times) + "</A>" + beside + "</R>";
 }
 
-// A document in which one entity holds the next, and so on.
+// A document in which each entity contains the next one.
 static QByteArray nested(int depth)
 {
     QByteArray bytes = "<!DOCTYPE R [<!ENTITY a1 'x'>";
@@ -60,7 +60,7 @@ void TestXmlBounds::init()
 
 void TestXmlBounds::cleanup()
 {
-    // Far more than any of them takes, far less than what they would take without a bound.
+    // Far more than any of them takes, far less than they would take without a limit.
     QVERIFY2(m_timer.elapsed() < 60000, "took too long");
     struct rusage usage = {};
     getrusage(RUSAGE_SELF, &usage);
@@ -69,7 +69,7 @@ void TestXmlBounds::cleanup()
 #endif
 }
 
-void TestXmlBounds::entityBombIsRefused_data()
+void TestXmlBounds::refusesAnEntityBomb_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QByteArray laughs = "<!DOCTYPE R [<!ENTITY a0 'ha'>";
@@ -77,31 +77,32 @@ void TestXmlBounds::entityBombIsRefused_data()
         const QByteArray before = "&a" + QByteArray::number(i - 1) + ';';
         laughs += "<!ENTITY a" + QByteArray::number(i) + " '" + before.repeated(10) + "'>";
     }
-    QTest::newRow("doubled again and again") << laughs + "]>\n<R>&a29;</R>";
-    QTest::newRow("the same in an attribute") << laughs + "]>\n<R a='&a29;'/>";
+    QTest::newRow("exponential expansion") << laughs + "]>\n<R>&a29;</R>";
+    QTest::newRow("exponential expansion in an attribute") << laughs + "]>\n<R a='&a29;'/>";
 
     const QByteArray small = "<!DOCTYPE R [<!ENTITY a '" + QByteArray(4000, 'x') + "'>]>\n<R>";
     const QByteArray many = QByteArray("&a;").repeated(1000000);
-    QTest::newRow("one of moderate size a million times") << small + many + "</R>";
-    QTest::newRow("the same in an attribute, at once") << small + "<A a='" + many + "'/></R>";
+    QTest::newRow("a medium entity a million times") << small + many + "</R>";
+    QTest::newRow("a medium entity a million times in an attribute")
+        << small + "<A a='" + many + "'/></R>";
     QTest::newRow("elements a million times") << "<!DOCTYPE R [<!ENTITY a '"
             + QByteArray("<b/>").repeated(900) + "'>]>\n<R>" + many + "</R>";
-    QTest::newRow("one of great size")
+    QTest::newRow("a huge entity")
         << "<!DOCTYPE R [<!ENTITY a '" + QByteArray(100000, 'x') + "'>]>\n<R>&a;</R>";
-    QTest::newRow("in itself") << QByteArray(
-        "<!DOCTYPE R [<!ENTITY a '&b;'><!ENTITY b '&a;'>]>\n<R>&a;</R>");
-    QTest::newRow("in defaults of attributes")
+    QTest::newRow("a recursive entity")
+        << QByteArray("<!DOCTYPE R [<!ENTITY a '&b;'><!ENTITY b '&a;'>]>\n<R>&a;</R>");
+    QTest::newRow("in default attribute values")
         << QByteArray(small).replace("]>\n<R>", "<!ATTLIST R b CDATA '" + many + "'>]>\n<R/>");
-    QTest::newRow("of the declarations' own") << "<!DOCTYPE R [<!ENTITY % a '<!--"
-            + QByteArray(4000, 'x') + "-->'>" + QByteArray(many).replace('&', '%') + "]>\n<R/>";
-    QTest::newRow("behind a small one of the declarations' own")
+    QTest::newRow("parameter entities") << "<!DOCTYPE R [<!ENTITY % a '<!--" + QByteArray(4000, 'x')
+            + "-->'>" + QByteArray(many).replace('&', '%') + "]>\n<R/>";
+    QTest::newRow("after a small parameter entity of the same name")
         << QByteArray(small).replace("[", "[<!ENTITY % a ''>") + many + "</R>";
-    QTest::newRow("one character more than one may have") << grown(4100, 1, "");
-    QTest::newRow("one character more than all may have") << grown(4096, 4096, "&x;");
-    QTest::newRow("one deeper than they may be") << nested(101);
+    QTest::newRow("one character over the limit per entity") << grown(4100, 1, "");
+    QTest::newRow("one character over the limit for all") << grown(4096, 4096, "&x;");
+    QTest::newRow("one level too deep") << nested(101);
 }
 
-void TestXmlBounds::entityBombIsRefused()
+void TestXmlBounds::refusesAnEntityBomb()
 {
     QFETCH(const QByteArray, bytes);
     Tests::RoundTrip roundTrip(path());
@@ -110,26 +111,26 @@ void TestXmlBounds::entityBombIsRefused()
     QVERIFY(m_timer.elapsed() < 10000);
 }
 
-void TestXmlBounds::entitiesOfAnHonestSizeAreRead_data()
+void TestXmlBounds::readsEntitiesOfRealisticSize_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const QByteArray head = "<!DOCTYPE R [<!ENTITY a 'Harbour and Sons'>]>\n<R>\n";
-    QTest::newRow("a short one many times")
+    QTest::newRow("a short entity many times")
         << head + QByteArray(" <A>&a;</A>\n").repeated(4200) + "</R>";
-    QTest::newRow("a long one once, beside what every document has")
+    QTest::newRow("a long entity once, beside predefined entities")
         << grown(3000, 1, QByteArray("&amp;&#65;").repeated(8000));
-    QTest::newRow("a short one with what every document has")
+    QTest::newRow("a short entity with predefined entities")
         << QByteArray(head).replace("and", "&#38;amp;") + QByteArray("&a;").repeated(50000)
             + "</R>";
     const QByteArray names = QByteArray("&a;").repeated(5000);
-    QTest::newRow("where they are only text")
+    QTest::newRow("in comments and CDATA sections")
         << grown(4096, 1, "<!--" + names + "--><![CDATA[" + names + "]]><?p " + names + "?>");
-    QTest::newRow("as long as one may be") << grown(4099, 1, "");
-    QTest::newRow("as much as all may be") << grown(4096, 4096, "");
-    QTest::newRow("as deep as they may be") << nested(100);
+    QTest::newRow("the limit per entity") << grown(4099, 1, "");
+    QTest::newRow("the limit for all") << grown(4096, 4096, "");
+    QTest::newRow("the maximum depth") << nested(100);
 }
 
-void TestXmlBounds::entitiesOfAnHonestSizeAreRead()
+void TestXmlBounds::readsEntitiesOfRealisticSize()
 {
     QFETCH(const QByteArray, bytes);
     Tests::RoundTrip roundTrip(path());
@@ -137,7 +138,7 @@ void TestXmlBounds::entitiesOfAnHonestSizeAreRead()
     QVERIFY(roundTrip.wasAccepted());
 }
 
-void TestXmlBounds::deepNestingIsEdited()
+void TestXmlBounds::editsDeepNesting()
 {
     constexpr int depth = 100000;
     Tests::RoundTrip roundTrip(path());
@@ -151,7 +152,7 @@ void TestXmlBounds::deepNestingIsEdited()
     QVERIFY(roundTrip.wasAccepted());
 }
 
-void TestXmlBounds::manyEntriesAreEdited()
+void TestXmlBounds::editsManyEntries()
 {
     const QByteArray entry = "  <Launch.Addon>\r\n    <Name>Tide</Name>\r\n  </Launch.Addon>\r\n";
     Tests::RoundTrip roundTrip(path());
@@ -159,7 +160,7 @@ void TestXmlBounds::manyEntriesAreEdited()
     QVERIFY(roundTrip.wasAccepted());
 }
 
-void TestXmlBounds::manyEntriesOfOursAreRemoved()
+void TestXmlBounds::removesManyEntriesOfOurs()
 {
     const QByteArray other = "  <A>\n    <B/>\n  </A>\n";
     const QByteArray ours = "  <Addon>\n    <Name>Tide</Name>\n  </Addon>\n";
@@ -167,19 +168,19 @@ void TestXmlBounds::manyEntriesOfOursAreRemoved()
     QCOMPARE(content(), QByteArray("<R>\n" + other.repeated(20000) + "</R>\n"));
 }
 
-void TestXmlBounds::zerosAreRefused_data()
+void TestXmlBounds::refusesZeroBytes_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("nothing but zeros") << QByteArray(5000, '\0');
     QTest::newRow("many zeros") << QByteArray(30000000, '\0');
-    QTest::newRow("zeros behind the root") << "<R></R>\n" + QByteArray(512, '\0');
-    QTest::newRow("zeros in front") << QByteArray(512, '\0') + "<R></R>\n";
+    QTest::newRow("zeros after the root") << "<R></R>\n" + QByteArray(512, '\0');
+    QTest::newRow("zeros before the root") << QByteArray(512, '\0') + "<R></R>\n";
     QTest::newRow("a zero in a text") << QByteArray("<R>a\0b</R>", 10);
     QTest::newRow("a zero in a name") << QByteArray("<R a\0b='1'></R>", 15);
-    QTest::newRow("zeros behind UTF-16") << QByteArray("\xff\xfe<\0R\0/\0>\0\0\0\0\0", 14);
+    QTest::newRow("zeros after UTF-16") << QByteArray("\xff\xfe<\0R\0/\0>\0\0\0\0\0", 14);
 }
 
-void TestXmlBounds::zerosAreRefused()
+void TestXmlBounds::refusesZeroBytes()
 {
     QFETCH(const QByteArray, bytes);
     Tests::RoundTrip roundTrip(path());
@@ -187,18 +188,18 @@ void TestXmlBounds::zerosAreRefused()
     QVERIFY(!roundTrip.wasAccepted());
 }
 
-// Zeros are refused as well, but only a file that is read has a place where it is wrong.
-void TestXmlBounds::hugeFileIsRefused_data()
+// Zero bytes are refused in any case, but the message names their place only if the file was read.
+void TestXmlBounds::refusesAHugeFile_data()
 {
     QTest::addColumn<qint64>("size");
     QTest::addColumn<QString>("reason");
     constexpr qint64 most = 32LL * 1024 * 1024;
-    QTest::newRow("as big as it may be") << most << "line 1, column 4: ";
-    QTest::newRow("bigger by a byte") << most + 1 << "too big";
-    QTest::newRow("far bigger") << 3 * most << "too big";
+    QTest::newRow("maximum size") << most << "line 1, column 4: ";
+    QTest::newRow("one byte larger") << most + 1 << "too big";
+    QTest::newRow("far larger") << 3 * most << "too big";
 }
 
-void TestXmlBounds::hugeFileIsRefused()
+void TestXmlBounds::refusesAHugeFile()
 {
     QFETCH(const qint64, size);
     QFETCH(const QString, reason);
@@ -214,7 +215,7 @@ void TestXmlBounds::hugeFileIsRefused()
     QVERIFY(QFile::remove(path()));
 }
 
-void TestXmlBounds::whatIsNoFileIsRefused_data()
+void TestXmlBounds::refusesWhatIsNotARegularFile_data()
 {
     QTest::addColumn<QString>("path");
     const QString folder = m_sandbox.path(QStringLiteral("folder"));
@@ -229,7 +230,7 @@ void TestXmlBounds::whatIsNoFileIsRefused_data()
     QTest::newRow("link to a pipe") << link;
 }
 
-void TestXmlBounds::whatIsNoFileIsRefused()
+void TestXmlBounds::refusesWhatIsNotARegularFile()
 {
     QFETCH(const QString, path);
     const Tests::LogCatcher log;

@@ -9,16 +9,16 @@
 using Tests::Corpus;
 using Tests::RoundTrip;
 
-/// Adds an entry to many files of the kind that simulators have, and takes it out again.
+/// Adds an entry to many files like those of real simulators, and removes it again.
 class TestXmlCorpus : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void ownFiles_data();
-    void ownFiles();
-    void foreignFiles_data();
-    void foreignFiles();
+    void survivesInTheRepositorysSamples_data();
+    void survivesInTheRepositorysSamples();
+    void survivesInOtherSamples_data();
+    void survivesInOtherSamples();
 
 private:
     void check();
@@ -26,24 +26,24 @@ private:
     Tests::Sandbox m_sandbox;
 };
 
-void TestXmlCorpus::ownFiles_data()
+void TestXmlCorpus::survivesInTheRepositorysSamples_data()
 {
     Corpus::addRows(Corpus::own());
 }
 
-void TestXmlCorpus::ownFiles()
+void TestXmlCorpus::survivesInTheRepositorysSamples()
 {
     check();
 }
 
-void TestXmlCorpus::foreignFiles_data()
+void TestXmlCorpus::survivesInOtherSamples_data()
 {
     if (!QFileInfo::exists(Corpus::foreign()))
         QSKIP("no folder of files; ORBWELL_XML_CORPUS may name one");
     Corpus::addRows(Corpus::foreign());
 }
 
-void TestXmlCorpus::foreignFiles()
+void TestXmlCorpus::survivesInOtherSamples()
 {
     check();
 }

@@ -7,24 +7,24 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
-/// Files in the encodings that turn up, said truly or not.
+/// Files in the encodings that occur, declared correctly or not.
 class TestXmlEncodings : public Tests::XmlEditTest
 {
     Q_OBJECT
 
 private slots:
-    void entryIsWrittenInTheFilesEncoding_data();
-    void entryIsWrittenInTheFilesEncoding();
-    void otherBytesStay_data();
-    void otherBytesStay();
-    void nameThatTheEncodingLacksIsRefused();
-    void endTagThatTheEncodingLacksIsRefused();
-    void nothingShiftsToAnotherState();
-    void halfACharacterBehindTheRootIsRefused();
-    void everyCodecKeepsItsPromises_data();
-    void everyCodecKeepsItsPromises();
-    void secondMarkIsRefused();
-    void splitCharacterIsNotJoined();
+    void writesTheEntryInTheFilesEncoding_data();
+    void writesTheEntryInTheFilesEncoding();
+    void keepsAllOtherBytes_data();
+    void keepsAllOtherBytes();
+    void refusesANameThatTheEncodingLacks();
+    void refusesAnEndTagThatTheEncodingLacks();
+    void writesNoShiftSequences();
+    void refusesHalfACharacterAfterTheRoot();
+    void keepsThePromisesForEveryCodec_data();
+    void keepsThePromisesForEveryCodec();
+    void refusesASecondByteOrderMark();
+    void doesNotJoinASplitCharacter();
 };
 
 namespace {
@@ -35,7 +35,7 @@ QByteArray encoded(const char *codec, const QString &text)
     return QTextCodec::codecForName(codec)->fromUnicode(text.constData(), text.size(), &state);
 }
 
-/// The text of the last element "Name", as a reader of the bytes understands it.
+/// The text of the last element "Name", as an XML reader decodes it.
 QString lastName(const QByteArray &bytes)
 {
     QXmlStreamReader reader(bytes);
@@ -49,7 +49,7 @@ QString lastName(const QByteArray &bytes)
 
 } // namespace
 
-void TestXmlEncodings::entryIsWrittenInTheFilesEncoding_data()
+void TestXmlEncodings::writesTheEntryInTheFilesEncoding_data()
 {
     QTest::addColumn<QByteArray>("head");
     QTest::addColumn<QByteArray>("codec");
@@ -80,7 +80,7 @@ void TestXmlEncodings::entryIsWrittenInTheFilesEncoding_data()
     row("Big5", "", "Big5", "Big5", "潮 功", "潮 功");
     row("EUC-KR", "", "EUC-KR", "EUC-KR", "조수", "조수");
     row("shift states", "", "ISO-2022-JP", "ISO-2022-JP", "潮", "&#28526;");
-    row("beyond the first plane",
+    row("beyond the basic plane",
         "",
         "Windows-1252",
         "windows-1252",
@@ -95,12 +95,17 @@ void TestXmlEncodings::entryIsWrittenInTheFilesEncoding_data()
     row("UTF-16BE", "\xfe\xff", "UTF-16", "UTF-16BE", "ü 日", "ü 日");
     row("UTF-16LE unlabelled", "\xff\xfe", "", "UTF-16LE", "ü 日", "ü 日");
     row("UTF-32LE", QByteArray("\xff\xfe\0\0", 4), "UTF-32", "UTF-32LE", "ü 日", "ü 日");
-    row("UTF-8 mark against the label", "\xef\xbb\xbf", "Windows-1252", "UTF-8", "ü", "&#252;");
-    row("UTF-16 mark against the label", "\xff\xfe", "utf-8", "UTF-16LE", "ü", "&#252;");
-    row("label of two bytes on single bytes", "", "utf-16", "UTF-8", "ü", "&#252;");
+    row("UTF-8 mark contradicting the label",
+        "\xef\xbb\xbf",
+        "Windows-1252",
+        "UTF-8",
+        "ü",
+        "&#252;");
+    row("UTF-16 mark contradicting the label", "\xff\xfe", "utf-8", "UTF-16LE", "ü", "&#252;");
+    row("UTF-16 label on single bytes", "", "utf-16", "UTF-8", "ü", "&#252;");
 }
 
-void TestXmlEncodings::entryIsWrittenInTheFilesEncoding()
+void TestXmlEncodings::writesTheEntryInTheFilesEncoding()
 {
     QFETCH(const QByteArray, head);
     QFETCH(const QByteArray, codec);
@@ -128,7 +133,7 @@ void TestXmlEncodings::entryIsWrittenInTheFilesEncoding()
     QCOMPARE(content(), before);
 }
 
-void TestXmlEncodings::otherBytesStay_data()
+void TestXmlEncodings::keepsAllOtherBytes_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const auto row = [](const char *name, const QByteArray &bytes) {
@@ -142,9 +147,9 @@ void TestXmlEncodings::otherBytesStay_data()
         "<?xml version='1.0' encoding='windows-1252'?><R>\x81\x8d\x8f\x90\x9d</R>");
     row("unused byte of 1253", "<?xml version='1.0' encoding='windows-1253'?><R>\xaa\xd2\xff</R>");
     row("1252 called ASCII", "<?xml version='1.0' encoding='us-ascii'?><R>\xe9</R>");
-    row("lead byte in front of white space", "<R><A/>\xc3\n</R>");
-    row("lead byte in front of a tag", "<R><A>\xe2\x82</A>\xe2\x82</R>");
-    row("lead byte behind a tag", "<R><A/>\xf0\x9f</R>");
+    row("lead byte before white space", "<R><A/>\xc3\n</R>");
+    row("lead byte before a tag", "<R><A>\xe2\x82</A>\xe2\x82</R>");
+    row("lead byte after a tag", "<R><A/>\xf0\x9f</R>");
     row("trail bytes alone", "<R>\x80\xbf<A/>\x80\xbf</R>");
     row("overlong form and surrogates", "<R>\xc0\xbc\xed\xa0\x80\xed\xb0\x80<A/>\xf5\xff\xfe</R>");
     row("long run of undecodable bytes",
@@ -171,11 +176,11 @@ void TestXmlEncodings::otherBytesStay_data()
         encoded("UTF-16BE",
                 QStringLiteral("<?xml version='1.0' encoding='utf-16'?>\n<R>\n<A/>\n</R>")));
     row("EBCDIC label on ASCII", "<?xml version='1.0' encoding='IBM037'?><R><A/></R>");
-    row("label of UTF-32 on single bytes",
+    row("UTF-32 label on single bytes",
         "<?xml version='1.0' encoding='UTF-32'?><R><A>\xe9</A></R>");
 }
 
-void TestXmlEncodings::otherBytesStay()
+void TestXmlEncodings::keepsAllOtherBytes()
 {
     QFETCH(const QByteArray, bytes);
     Tests::RoundTrip roundTrip(path());
@@ -183,7 +188,7 @@ void TestXmlEncodings::otherBytesStay()
     QVERIFY(roundTrip.wasAccepted());
 }
 
-void TestXmlEncodings::nameThatTheEncodingLacksIsRefused()
+void TestXmlEncodings::refusesANameThatTheEncodingLacks()
 {
     const char *const config = R"({"parent": "日", "values": [{"key": "Name", "value": "x"}]})";
     const QByteArray bytes = "<?xml version='1.0' encoding='windows-1252'?><R></R>";
@@ -194,7 +199,7 @@ void TestXmlEncodings::nameThatTheEncodingLacksIsRefused()
 }
 
 /// In such an encoding a tilde and a brace begin two-byte characters.
-void TestXmlEncodings::nothingShiftsToAnotherState()
+void TestXmlEncodings::writesNoShiftSequences()
 {
     const QByteArray bytes = "<?xml version='1.0' encoding='HZ-GB-2312'?><R></R>";
     QVERIFY(insertInto(bytes, R"({"parent": "A", "values": [{"key": "Name", "value": "~{x"}]})"));
@@ -204,21 +209,21 @@ void TestXmlEncodings::nothingShiftsToAnotherState()
     QCOMPARE(content(), bytes);
 }
 
-void TestXmlEncodings::endTagThatTheEncodingLacksIsRefused()
+void TestXmlEncodings::refusesAnEndTagThatTheEncodingLacks()
 {
     const QByteArray bytes = "<?xml version='1.0' encoding='ISO-2022-JP'?><\x1b$BF|\x1b(B/>";
     QVERIFY(!insertInto(bytes));
     QCOMPARE(content(), bytes);
 }
 
-void TestXmlEncodings::halfACharacterBehindTheRootIsRefused()
+void TestXmlEncodings::refusesHalfACharacterAfterTheRoot()
 {
     const QByteArray bytes = "<R></R>\xc3";
     QVERIFY(!insertInto(bytes));
     QCOMPARE(content(), bytes);
 }
 
-void TestXmlEncodings::everyCodecKeepsItsPromises_data()
+void TestXmlEncodings::keepsThePromisesForEveryCodec_data()
 {
     QTest::addColumn<QByteArray>("name");
     QSet<QByteArray> seen;
@@ -231,7 +236,7 @@ void TestXmlEncodings::everyCodecKeepsItsPromises_data()
     }
 }
 
-void TestXmlEncodings::everyCodecKeepsItsPromises()
+void TestXmlEncodings::keepsThePromisesForEveryCodec()
 {
     QFETCH(const QByteArray, name);
     const QString text
@@ -241,7 +246,7 @@ void TestXmlEncodings::everyCodecKeepsItsPromises()
 
     Tests::RoundTrip roundTrip(path());
     QCOMPARE(roundTrip.broken(QTextCodec::codecForName(name)->fromUnicode(text)), QString());
-    // As plain ASCII it can be read under every name that ASCII bytes can have.
+    // ASCII can be read under the name of any encoding that extends it.
     QString ascii = text;
     ascii.replace(QRegularExpression(QStringLiteral("[^\\n -}]")), QString());
     QCOMPARE(roundTrip.broken(ascii.toLatin1()), QString());
@@ -253,16 +258,16 @@ void TestXmlEncodings::everyCodecKeepsItsPromises()
     }
 }
 
-void TestXmlEncodings::secondMarkIsRefused()
+void TestXmlEncodings::refusesASecondByteOrderMark()
 {
     const QByteArray bytes = "\xef\xbb\xbf\xef\xbb\xbf<R></R>";
     QVERIFY(!insertInto(bytes));
     QCOMPARE(content(), bytes);
 }
 
-/// Two halves of a character, with our entry between them: they were two undecodable pieces, and
-/// must not become one character.
-void TestXmlEncodings::splitCharacterIsNotJoined()
+/// Two halves of a character, with our entry between them: they were invalid bytes, and must not
+/// become a character.
+void TestXmlEncodings::doesNotJoinASplitCharacter()
 {
     const QByteArray bytes = "<R>\xc3<Addon><Name>Tide</Name></Addon>\xa9</R>";
     QVERIFY(!removeFrom(bytes));

@@ -6,24 +6,24 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-/// Ends the process that edits a file at each of its system calls, and makes each of them fail.
+/// Kills the process that edits a file at each of its system calls, and makes each of them fail.
 class TestXmlFaults : public Tests::XmlEditTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void killedProcessLeavesOldOrNewBytes_data();
-    void killedProcessLeavesOldOrNewBytes();
-    void failingCallLeavesOldOrNewBytes_data();
-    void failingCallLeavesOldOrNewBytes();
+    void leaveOldOrNewBytesInAKilledProcess_data();
+    void leaveOldOrNewBytesInAKilledProcess();
+    void leaveOldOrNewBytesInAFailingCall_data();
+    void leaveOldOrNewBytesInAFailingCall();
 
 private:
-    /// The system calls of a whole run that lie between its marks: name, and how many of that name
-    /// there have been since the process began.
+    /// The system calls of a complete run between its marks: name, and the number of calls with
+    /// that name since the process began.
     QVector<QPair<QString, int>> callsOf(const QString &operation);
-    /// Runs the tool under the tracer, which gets @p options; answers the exit status, or -1 if a
-    /// signal ended it.
+    /// Runs the tool under the tracer with @p options; returns the exit status, or -1 if a signal
+    /// ended it.
     int run(const QStringList &options, const QString &operation);
 
     QString fileFolder() const { return m_sandbox.path(QStringLiteral("config")); }
@@ -35,7 +35,7 @@ private:
 
 namespace {
 
-// Longer than the buffer of a file, so that there is more than one way to lose a part of it.
+// Larger than a file's buffer, so that writing it can be interrupted at several points.
 const QByteArray foreign
     = "<R>\r\n" + QByteArray("  <Addon>\r\n    <Name>Else</Name>\r\n  </Addon>\r\n").repeated(600);
 const QByteArray entry = "  <Addon>\r\n    <Name>Tide</Name>\r\n  </Addon>\r\n";
@@ -52,7 +52,7 @@ void TestXmlFaults::initTestCase()
         QSKIP("needs strace, and the right to trace a process");
 }
 
-void TestXmlFaults::killedProcessLeavesOldOrNewBytes_data()
+void TestXmlFaults::leaveOldOrNewBytesInAKilledProcess_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<QByteArray>("before");
@@ -61,7 +61,7 @@ void TestXmlFaults::killedProcessLeavesOldOrNewBytes_data()
     QTest::newRow("removal") << QStringLiteral("remove") << with << without;
 }
 
-void TestXmlFaults::killedProcessLeavesOldOrNewBytes()
+void TestXmlFaults::leaveOldOrNewBytesInAKilledProcess()
 {
     QFETCH(const QString, operation);
     QFETCH(const QByteArray, before);
@@ -83,7 +83,7 @@ void TestXmlFaults::killedProcessLeavesOldOrNewBytes()
         QVERIFY2(left == before || left == after, qPrintable(fault));
         old += left == before ? 1 : 0;
 
-        // What the killed process may have left does not disturb the next one.
+        // Leftovers of the killed process do not disturb the next one.
         QCOMPARE(run({}, operation), 0);
         QCOMPARE(Tests::readFile(filePath()), after);
         QVERIFY(files().size() <= 2);
@@ -98,19 +98,20 @@ void TestXmlFaults::killedProcessLeavesOldOrNewBytes()
     QVERIFY(killed > calls.size() * 3 / 4);
 }
 
-void TestXmlFaults::failingCallLeavesOldOrNewBytes_data()
+void TestXmlFaults::leaveOldOrNewBytesInAFailingCall_data()
 {
-    killedProcessLeavesOldOrNewBytes_data();
+    leaveOldOrNewBytesInAKilledProcess_data();
 }
 
-void TestXmlFaults::failingCallLeavesOldOrNewBytes()
+void TestXmlFaults::leaveOldOrNewBytesInAFailingCall()
 {
     if (ORBWELL_SANITIZERS != 0)
         QSKIP("a sanitizer makes calls of its own, and ends the process when they fail");
     QFETCH(const QString, operation);
     QFETCH(const QByteArray, before);
     QFETCH(const QByteArray, after);
-    // Calls that really fail on real systems; nobody can do without the others, memory say.
+    // Calls that fail on real systems; no program can do without the others, such as memory
+    // allocation.
     static const QStringList fallible{QStringLiteral("openat"),
                                       QStringLiteral("read"),
                                       QStringLiteral("write"),
@@ -145,7 +146,7 @@ void TestXmlFaults::failingCallLeavesOldOrNewBytes()
             const QByteArray left = Tests::readFile(filePath());
             QVERIFY2(status == 0 ? left == after : status == 1 && left == before,
                      qPrintable(fault));
-            // Whoever may have been on a list that cannot be read has no rights any more.
+            // If the access list cannot be read, only the owner keeps rights.
             QCOMPARE(Tests::modeOf(filePath()), name == QLatin1String("fgetxattr") ? 0600U : 0640U);
             QVERIFY2(files() == QStringList{QStringLiteral("exe.xml")}, qPrintable(fault));
             failed += status;
@@ -183,7 +184,7 @@ int TestXmlFaults::run(const QStringList &options, const QString &operation)
         arguments << QStringLiteral("-o") << QStringLiteral("/dev/null");
     arguments << options << QStringLiteral(ORBWELL_EDIT_TOOL) << operation << filePath();
     QProcess process;
-    // A leak checker is a tracer too, and a process has one at most.
+    // A leak checker is also a tracer, and a process can have only one.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     process.setProcessEnvironment(environment);

@@ -6,45 +6,45 @@
 #include <QFileInfo>
 #include <QtTest>
 
-/// What the helper promises of an entry: where it goes, what is changed in it, what is taken out.
+/// Where an entry is inserted, what is changed in it, and what is removed.
 class TestXmlHelper : public Tests::XmlEditTest
 {
     Q_OBJECT
 
 private slots:
-    void newEntryLooksLikeItsNeighbours_data();
-    void newEntryLooksLikeItsNeighbours();
-    void entryIsBroughtInLine_data();
-    void entryIsBroughtInLine();
-    void entryThatIsRightIsNotWritten_data();
-    void entryThatIsRightIsNotWritten();
-    void entryElsewhereIsNotOurs_data();
-    void entryElsewhereIsNotOurs();
-    void valueIsText_data();
-    void valueIsText();
-    void whatXmlCannotHoldIsRefused_data();
-    void whatXmlCannotHoldIsRefused();
-    void referenceByNumberIsAsXmlWantsIt_data();
-    void referenceByNumberIsAsXmlWantsIt();
-    void removalTakesOut_data();
-    void removalTakesOut();
-    void removalOfWhatIsNotThereWritesNothing();
-    void keyAloneGoes_data();
-    void keyAloneGoes();
-    void entryOutOfAnEntityIsRefused_data();
-    void entryOutOfAnEntityIsRefused();
-    void completeButForeignEntriesStay();
-    void foreignBlanksAreNoWhiteSpace();
-    void removalNeverBreaksADocument();
-    void selfClosedRootIsOpened();
-    void modelThatRecognisesSomethingElseIsWrittenOnce();
-    void modelThatDescribesNothingSucceeds_data();
-    void modelThatDescribesNothingSucceeds();
-    void missingFileIsNotCreated();
-    void refusalSaysWhere();
+    void formatsANewEntryLikeItsNeighbours_data();
+    void formatsANewEntryLikeItsNeighbours();
+    void updatesADifferingEntry_data();
+    void updatesADifferingEntry();
+    void doesNotRewriteACorrectEntry_data();
+    void doesNotRewriteACorrectEntry();
+    void ignoresEntriesElsewhereInTheDocument_data();
+    void ignoresEntriesElsewhereInTheDocument();
+    void escapesValues_data();
+    void escapesValues();
+    void refusesWhatXmlCannotRepresent_data();
+    void refusesWhatXmlCannotRepresent();
+    void refusesMalformedCharacterReferences_data();
+    void refusesMalformedCharacterReferences();
+    void removesOnlyOurEntry_data();
+    void removesOnlyOurEntry();
+    void writesNothingIfThereIsNothingToRemove();
+    void removesOnlyTheKey_data();
+    void removesOnlyTheKey();
+    void refusesAnEntryFromAnEntity_data();
+    void refusesAnEntryFromAnEntity();
+    void keepsCompleteEntriesThatAreNotOurs();
+    void takesOnlyXmlWhiteSpaceAsWhiteSpace();
+    void neverBreaksADocumentByRemoving();
+    void opensASelfClosedRoot();
+    void addsOneEntryForAModelThatRecognisesAnother();
+    void succeedsForAModelThatDescribesNothing_data();
+    void succeedsForAModelThatDescribesNothing();
+    void doesNotCreateAMissingFile();
+    void logsThePlaceOfARefusal();
 };
 
-void TestXmlHelper::newEntryLooksLikeItsNeighbours_data()
+void TestXmlHelper::formatsANewEntryLikeItsNeighbours_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
@@ -74,14 +74,14 @@ void TestXmlHelper::newEntryLooksLikeItsNeighbours_data()
     row("no line end",
         "<R><A><B/></A></R>",
         "<R><A><B/></A><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon></R>");
-    row("no line end in the root",
+    row("no line end inside the root",
         "<?xml version='1.0'?>\n<R> <A/> </R>\n",
         "<?xml version='1.0'?>\n<R> <A/> <Addon><Name>Tide</Name><Path>tide.exe</Path></Addon> "
         "</R>\n");
     row("entries of one line each",
         "<R>\n  <A><B/><C/></A>\n</R>",
         "<R>\n  <A><B/><C/></A>\n  <Addon><Name>Tide</Name><Path>tide.exe</Path></Addon>\n</R>");
-    row("last one not on a line of its own",
+    row("last entry not on its own line",
         "<R>\n  <A>\n    <B/>\n  </A><A>\n<B/></A>\n</R>",
         "<R>\n  <A>\n    <B/>\n  </A><A>\n<B/></A>\n  <Addon>\n    <Name>Tide</Name>\n"
         "    <Path>tide.exe</Path>\n  </Addon>\n</R>");
@@ -93,11 +93,11 @@ void TestXmlHelper::newEntryLooksLikeItsNeighbours_data()
         "<R>\n\n\n  <A>\n\n    <B/>\n\n  </A>\n  <Addon>\n    <Name>Tide</Name>\n"
         "    <Path>tide.exe</Path>\n  </Addon>\n\n</R>");
     row("empty root", "<R></R>", "<R><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon></R>");
-    row("root of an empty line",
+    row("root with an empty line",
         "<R>\n</R>",
         "<R>\n    <Addon>\n        <Name>Tide</Name>\n        <Path>tide.exe</Path>\n    "
         "</Addon>\n</R>");
-    row("indented root of an empty line",
+    row("indented root with an empty line",
         "<!-- -->\n  <R>\r\n  </R>",
         "<!-- -->\n  <R>\r\n      <Addon>\r\n          <Name>Tide</Name>\r\n"
         "          <Path>tide.exe</Path>\r\n      </Addon>\r\n  </R>");
@@ -105,25 +105,25 @@ void TestXmlHelper::newEntryLooksLikeItsNeighbours_data()
         "<R>\n\t<!-- none -->\n</R>",
         "<R>\n\t<!-- none "
         "-->\n\t<Addon>\n\t\t<Name>Tide</Name>\n\t\t<Path>tide.exe</Path>\n\t</Addon>\n</R>");
-    row("behind a comment that is last",
+    row("after a comment that is last",
         "<R>\n <A>x</A>\n <!-- </R> --></R>",
         "<R>\n <A>x</A>\n <!-- </R> -->\n <Addon>\n  <Name>Tide</Name>\n  <Path>tide.exe</Path>\n "
         "</Addon></R>");
-    row("behind text that is last",
+    row("after text that is last",
         "<R>\n <A>x</A>\n  text  </R>",
         "<R>\n <A>x</A>\n  text\n <Addon>\n  <Name>Tide</Name>\n  <Path>tide.exe</Path>\n </Addon> "
         " </R>");
-    row("line end deep inside only",
+    row("line end only in a grandchild",
         "<R><A>\n</A></R>",
         "<R><A>\n</A>\n    <Addon>\n        <Name>Tide</Name>\n        <Path>tide.exe</Path>\n    "
         "</Addon></R>");
-    row("neighbour out of an entity",
+    row("neighbour from an entity",
         "<!DOCTYPE R [<!ENTITY e \"<A>\n\n<B/></A>\">]>\n<R>\n  <C>x</C>\n  &e;\n</R>",
         "<!DOCTYPE R [<!ENTITY e \"<A>\n\n<B/></A>\">]>\n<R>\n  <C>x</C>\n  &e;\n  <Addon>\n"
         "    <Name>Tide</Name>\n    <Path>tide.exe</Path>\n  </Addon>\n</R>");
 }
 
-void TestXmlHelper::newEntryLooksLikeItsNeighbours()
+void TestXmlHelper::formatsANewEntryLikeItsNeighbours()
 {
     QFETCH(const QByteArray, before);
     QFETCH(const QByteArray, after);
@@ -139,7 +139,7 @@ void TestXmlHelper::newEntryLooksLikeItsNeighbours()
     QCOMPARE(content(), before);
 }
 
-void TestXmlHelper::entryIsBroughtInLine_data()
+void TestXmlHelper::updatesADifferingEntry_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
@@ -149,7 +149,7 @@ void TestXmlHelper::entryIsBroughtInLine_data()
     row("differing text",
         "<R><Addon><Name>Tide</Name><Path a='1'>old &amp; gone</Path></Addon></R>",
         "<R><Addon><Name>Tide</Name><Path a='1'>tide.exe</Path></Addon></R>");
-    row("text of several kinds",
+    row("text and CDATA sections",
         "<R><Addon><Name>Tide</Name><Path>ti<!-- -->de<![CDATA[.]]>e<b/>xe</Path></Addon></R>",
         "<R><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon></R>");
     row("empty child",
@@ -158,34 +158,34 @@ void TestXmlHelper::entryIsBroughtInLine_data()
     row("self-closed child",
         "<R><Addon><Name>Tide</Name><Path b=\"/>\"/></Addon></R>",
         "<R><Addon><Name>Tide</Name><Path b=\"/>\">tide.exe</Path></Addon></R>");
-    row("missing child behind the one before it",
+    row("missing child after the preceding one",
         "<R>\n <Addon>\n  <Name>Tide</Name>\n  <Disabled>No</Disabled>\n </Addon>\n</R>",
         "<R>\n <Addon>\n  <Name>Tide</Name>\n  <Path>tide.exe</Path>\n  <Disabled>No</Disabled>\n"
         " </Addon>\n</R>");
     row("missing child on one line",
         "<R><Addon> <Name>Tide</Name> </Addon></R>",
         "<R><Addon> <Name>Tide</Name> <Path>tide.exe</Path> </Addon></R>");
-    row("anything else stays",
+    row("other content is kept",
         "<R><Addon x='1'> <!-- mine --> <Name>Tide</Name><Hotkey>F5</Hotkey>text"
         "<Path>x</Path></Addon></R>",
         "<R><Addon x='1'> <!-- mine --> <Name>Tide</Name><Hotkey>F5</Hotkey>text"
         "<Path>tide.exe</Path></Addon></R>");
-    row("further ones of ours go",
+    row("further entries of ours are removed",
         "<R>\n <Addon><Path>tide.exe</Path><Name>Tide</Name></Addon>\n "
         "<Addon><Name>Else</Name></Addon>\n"
         " <Addon><Name>Tide</Name></Addon>  <Addon><Name> Tide </Name></Addon>\n</R>",
         "<R>\n <Addon><Path>tide.exe</Path><Name>Tide</Name></Addon>\n "
         "<Addon><Name>Else</Name></Addon>\n</R>");
-    row("first of ours is changed and the further ones go",
+    row("first entry of ours is changed, further ones are removed",
         "<R><Addon><Name>Tide</Name></Addon><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon></"
         "R>",
         "<R><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon></R>");
-    row("second namesake is the one that is right",
+    row("second child of that name is correct",
         "<R><Addon><Name>Else</Name><Name>Tide</Name><Path>x</Path></Addon></R>",
         "<R><Addon><Name>Else</Name><Name>Tide</Name><Path>tide.exe</Path></Addon></R>");
 }
 
-void TestXmlHelper::entryIsBroughtInLine()
+void TestXmlHelper::updatesADifferingEntry()
 {
     QFETCH(const QByteArray, before);
     QFETCH(const QByteArray, after);
@@ -198,7 +198,7 @@ void TestXmlHelper::entryIsBroughtInLine()
     QCOMPARE(identity(), written);
 }
 
-void TestXmlHelper::entryThatIsRightIsNotWritten_data()
+void TestXmlHelper::doesNotRewriteACorrectEntry_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const auto row = [](const char *name, const char *bytes) {
@@ -206,23 +206,23 @@ void TestXmlHelper::entryThatIsRightIsNotWritten_data()
     };
     row("as we write it", "<R><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon></R>");
     row("in another order", "<R><Addon><Path>tide.exe</Path><Name>Tide</Name></Addon></R>");
-    row("with blanks around",
+    row("with white space around",
         "<R><Addon><Name>\n Tide\t</Name><Path> tide.exe </Path></Addon></R>");
     row("in CDATA sections and references",
         "<R><Addon><Name>T<![CDATA[i]]>de</Name><Path>tide&#46;exe</Path></Addon></R>");
     row("around a comment", "<R><Addon><Name>Ti<!-- -->de</Name><Path>tide.exe</Path></Addon></R>");
-    row("with text out of an entity",
+    row("with text from an entity",
         "<!DOCTYPE R [<!ENTITY t "
         "'Tide'>]><R><Addon><Name>&t;</Name><Path>tide.exe</Path></Addon></R>");
-    row("with children out of an entity",
+    row("with children from an entity",
         "<!DOCTYPE R [<!ENTITY t "
         "'<Name>Tide</Name><Path>tide.exe</Path>'>]><R><Addon>&t;</Addon></R>");
-    row("all of it out of an entity",
+    row("entirely from an entity",
         "<!DOCTYPE R [<!ENTITY t "
         "'<Addon><Name>Tide</Name><Path>tide.exe</Path></Addon>'>]><R>&t;</R>");
 }
 
-void TestXmlHelper::entryThatIsRightIsNotWritten()
+void TestXmlHelper::doesNotRewriteACorrectEntry()
 {
     QFETCH(const QByteArray, bytes);
     Tests::writeFile(path(), bytes);
@@ -232,7 +232,7 @@ void TestXmlHelper::entryThatIsRightIsNotWritten()
     QCOMPARE(content(), bytes);
 }
 
-void TestXmlHelper::entryElsewhereIsNotOurs_data()
+void TestXmlHelper::ignoresEntriesElsewhereInTheDocument_data()
 {
     QTest::addColumn<QByteArray>("body");
     const auto row = [](const char *name, const char *body) {
@@ -245,7 +245,7 @@ void TestXmlHelper::entryElsewhereIsNotOurs_data()
     row("one level down", "<A><Addon><Name>Tide</Name></Addon></A>");
     row("key one level down", "<Addon><A><Name>Tide</Name></A></Addon>");
     row("key with an element in it", "<Addon><Name>Ti<b/>de</Name></Addon>");
-    row("key with an element behind its text", "<Addon><Name>Tide<b/></Name></Addon>");
+    row("key with an element after its text", "<Addon><Name>Tide<b/></Name></Addon>");
     row("key in a comment", "<Addon><!--<Name>Tide</Name>--></Addon>");
     row("key in an attribute", "<Addon Name='Tide'/>");
     row("another element's name", "<addon><Name>Tide</Name></addon>");
@@ -254,10 +254,10 @@ void TestXmlHelper::entryElsewhereIsNotOurs_data()
     row("another key", "<Addon><name>Tide</name></Addon>");
     row("a text of another case", "<Addon><Name>tide</Name></Addon>");
     row("a longer text", "<Addon><Name>Tide 2</Name></Addon>");
-    row("a text with a blank in it", "<Addon><Name>Ti de</Name></Addon>");
+    row("a text with a space in it", "<Addon><Name>Ti de</Name></Addon>");
 }
 
-void TestXmlHelper::entryElsewhereIsNotOurs()
+void TestXmlHelper::ignoresEntriesElsewhereInTheDocument()
 {
     QFETCH(const QByteArray, body);
     const QByteArray ours = "<Addon><Name>Tide</Name><Path>tide.exe</Path></Addon>";
@@ -272,7 +272,7 @@ void TestXmlHelper::entryElsewhereIsNotOurs()
     QCOMPARE(identity(), before);
 }
 
-void TestXmlHelper::valueIsText_data()
+void TestXmlHelper::escapesValues_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("written");
@@ -283,14 +283,14 @@ void TestXmlHelper::valueIsText_data()
     row("reference", "&amp;", "&amp;amp;");
     row("line ends", R"(a\nb\r\nc\rd)", "a&#10;b&#xd;&#10;c&#xd;d");
     row("tab", R"(a\tb)", "a\tb");
-    row("blanks around", R"(  x\n)", "  x&#10;");
-    row("blanks only", "  ", "  ");
+    row("spaces around", R"(  x\n)", "  x&#10;");
+    row("only spaces", "  ", "  ");
     row("nothing", "", "");
     row("backslashes", R"(C:\\a\\b.exe)", "C:\\a\\b.exe");
     row("scripts", "ü 日本 \xf0\x9f\x8c\x8a", "ü 日本 \xf0\x9f\x8c\x8a");
 }
 
-void TestXmlHelper::valueIsText()
+void TestXmlHelper::escapesValues()
 {
     QFETCH(const QByteArray, value);
     QFETCH(const QByteArray, written);
@@ -311,7 +311,7 @@ void TestXmlHelper::valueIsText()
     QCOMPARE(content(), QByteArray("<R></R>"));
 }
 
-void TestXmlHelper::whatXmlCannotHoldIsRefused_data()
+void TestXmlHelper::refusesWhatXmlCannotRepresent_data()
 {
     QTest::addColumn<QByteArray>("config");
     const auto row = [](const char *name, const char *config) {
@@ -320,10 +320,11 @@ void TestXmlHelper::whatXmlCannotHoldIsRefused_data()
     row("control character",
         R"({"parent": "Addon", "values": [{"key": "Name", "value": "a\u0001"}]})");
     row("zero", R"({"parent": "Addon", "values": [{"key": "Name", "value": "a\u0000b"}]})");
-    row("no character", R"({"parent": "Addon", "values": [{"key": "Name", "value": "\uffff"}]})");
+    row("not a character",
+        R"({"parent": "Addon", "values": [{"key": "Name", "value": "\uffff"}]})");
     row("half a character",
         R"({"parent": "Addon", "values": [{"key": "Name", "value": "\ud83cx"}]})");
-    row("name with a blank", R"({"parent": "Add on", "values": [{"key": "Name", "value": "a"}]})");
+    row("name with a space", R"({"parent": "Add on", "values": [{"key": "Name", "value": "a"}]})");
     row("name with a digit first", R"({"parent": "1", "values": [{"key": "Name", "value": "a"}]})");
     row("name with markup", R"({"parent": "Addon", "values": [{"key": "N><M", "value": "a"}]})");
     row("name with an attribute",
@@ -332,7 +333,7 @@ void TestXmlHelper::whatXmlCannotHoldIsRefused_data()
         R"({"parent": "Addon", "values": [{"key": "a:b:c", "value": "a"}]})");
 }
 
-void TestXmlHelper::whatXmlCannotHoldIsRefused()
+void TestXmlHelper::refusesWhatXmlCannotRepresent()
 {
     QFETCH(const QByteArray, config);
     const Tests::LogCatcher log;
@@ -341,7 +342,7 @@ void TestXmlHelper::whatXmlCannotHoldIsRefused()
     QVERIFY(log.hasDebugLineWith(QStringLiteral("XML can hold")));
 }
 
-void TestXmlHelper::referenceByNumberIsAsXmlWantsIt_data()
+void TestXmlHelper::refusesMalformedCharacterReferences_data()
 {
     QTest::addColumn<QByteArray>("root");
     QTest::addColumn<bool>("isWellFormed");
@@ -357,7 +358,7 @@ void TestXmlHelper::referenceByNumberIsAsXmlWantsIt_data()
     row("<!-- &#; --><R>&#x0x41;</R>", false);
 }
 
-void TestXmlHelper::referenceByNumberIsAsXmlWantsIt()
+void TestXmlHelper::refusesMalformedCharacterReferences()
 {
     QFETCH(const QByteArray, root);
     QFETCH(const bool, isWellFormed);
@@ -366,32 +367,32 @@ void TestXmlHelper::referenceByNumberIsAsXmlWantsIt()
     QCOMPARE(content() == root, !isWellFormed);
 }
 
-void TestXmlHelper::removalTakesOut_data()
+void TestXmlHelper::removesOnlyOurEntry_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
     const auto row = [](const char *name, const char *before, const char *after) {
         QTest::newRow(name) << QByteArray(before) << QByteArray(after);
     };
-    row("with the white space in front",
+    row("with the white space before it",
         "<R>\n <A/>\n\n\t <Addon>\n<Name>Tide</Name></Addon>\n</R>",
         "<R>\n <A/>\n</R>");
-    row("every one",
+    row("every entry of ours",
         "<R> <Addon><Name>Tide</Name></Addon><A/><Addon><Name>Tide</Name></Addon> "
         "<Addon><Name>Tide</Name></Addon><Addon><Name>Else</Name></Addon></R>",
         "<R><A/><Addon><Name>Else</Name></Addon></R>");
-    row("what was added to it",
+    row("with content added by others",
         "<R><Addon a='1'>text<!-- --><Name>Tide</Name><More><of/>it</More></Addon ></R>",
         "<R></R>");
-    row("no text in front",
+    row("not the text before it",
         "<R>text <Addon><Name>Tide</Name></Addon> text</R>",
         "<R>text text</R>");
-    row("no comment in front",
+    row("not the comment before it",
         "<R><!-- --> <Addon><Name>Tide</Name></Addon></R>",
         "<R><!-- --></R>");
 }
 
-void TestXmlHelper::removalTakesOut()
+void TestXmlHelper::removesOnlyOurEntry()
 {
     QFETCH(const QByteArray, before);
     QFETCH(const QByteArray, after);
@@ -402,7 +403,7 @@ void TestXmlHelper::removalTakesOut()
     QCOMPARE(identity(), written);
 }
 
-void TestXmlHelper::removalOfWhatIsNotThereWritesNothing()
+void TestXmlHelper::writesNothingIfThereIsNothingToRemove()
 {
     Tests::writeFile(path(), "<R>\r\n <Addon><Name>Else</Name></Addon>\n</R>");
     const QByteArray before = identity();
@@ -410,7 +411,7 @@ void TestXmlHelper::removalOfWhatIsNotThereWritesNothing()
     QCOMPARE(identity(), before);
 }
 
-void TestXmlHelper::keyAloneGoes_data()
+void TestXmlHelper::removesOnlyTheKey_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::addColumn<QByteArray>("after");
@@ -428,7 +429,7 @@ void TestXmlHelper::keyAloneGoes_data()
         "<R><Other><File>b</File></Other></R>");
 }
 
-void TestXmlHelper::keyAloneGoes()
+void TestXmlHelper::removesOnlyTheKey()
 {
     QFETCH(const QByteArray, before);
     QFETCH(const QByteArray, after);
@@ -438,7 +439,7 @@ void TestXmlHelper::keyAloneGoes()
     QCOMPARE(content(), after);
 }
 
-void TestXmlHelper::entryOutOfAnEntityIsRefused_data()
+void TestXmlHelper::refusesAnEntryFromAnEntity_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("the entry") << QByteArray(
@@ -451,7 +452,7 @@ void TestXmlHelper::entryOutOfAnEntityIsRefused_data()
                       "<R><Addon><Name>Tide</Name><Path>tide.exe</Path></Addon>&t;</R>");
 }
 
-void TestXmlHelper::entryOutOfAnEntityIsRefused()
+void TestXmlHelper::refusesAnEntryFromAnEntity()
 {
     QFETCH(const QByteArray, bytes);
     const Tests::LogCatcher log;
@@ -461,7 +462,7 @@ void TestXmlHelper::entryOutOfAnEntityIsRefused()
 }
 
 // A model need not recognise what it writes; what it does not recognise is not ours to remove.
-void TestXmlHelper::completeButForeignEntriesStay()
+void TestXmlHelper::keepsCompleteEntriesThatAreNotOurs()
 {
     const char *const config = R"({"parent": "Addon", "values": [{"key": "Name", "value": "Tide"}],
         "remove": {"key": "Id", "value": "7", "delete_parent": true}})";
@@ -471,14 +472,14 @@ void TestXmlHelper::completeButForeignEntriesStay()
     QCOMPARE(content(), bytes);
 }
 
-void TestXmlHelper::foreignBlanksAreNoWhiteSpace()
+void TestXmlHelper::takesOnlyXmlWhiteSpaceAsWhiteSpace()
 {
     const QByteArray bytes = "<R><Addon><Name>\xc2\xa0Tide</Name></Addon></R>";
     QVERIFY(removeFrom(bytes));
     QCOMPARE(content(), bytes);
 }
 
-void TestXmlHelper::removalNeverBreaksADocument()
+void TestXmlHelper::neverBreaksADocumentByRemoving()
 {
     const QByteArray bytes = "<R>]]<Addon><Name>Tide</Name></Addon>></R>";
     QVERIFY(!removeFrom(bytes));
@@ -486,7 +487,7 @@ void TestXmlHelper::removalNeverBreaksADocument()
     QVERIFY(removeFrom("<R>]]<Addon><Name>Tide</Name></Addon> ></R>"));
 }
 
-void TestXmlHelper::selfClosedRootIsOpened()
+void TestXmlHelper::opensASelfClosedRoot()
 {
     QVERIFY(insertInto("<R a='/>' />\r\n"));
     QCOMPARE(
@@ -496,7 +497,7 @@ void TestXmlHelper::selfClosedRootIsOpened()
     QCOMPARE(content(), QByteArray("<R a='/>' ></R>\r\n"));
 }
 
-void TestXmlHelper::modelThatRecognisesSomethingElseIsWrittenOnce()
+void TestXmlHelper::addsOneEntryForAModelThatRecognisesAnother()
 {
     const char *const renaming = R"({"parent": "Addon", "values": [{"key": "Name", "value": "New"}],
         "remove": {"key": "Name", "value": "Old", "delete_parent": true}})";
@@ -506,7 +507,7 @@ void TestXmlHelper::modelThatRecognisesSomethingElseIsWrittenOnce()
     QCOMPARE(content(), QByteArray("<R><Addon><Name>New</Name></Addon></R>"));
 }
 
-void TestXmlHelper::modelThatDescribesNothingSucceeds_data()
+void TestXmlHelper::succeedsForAModelThatDescribesNothing_data()
 {
     QTest::addColumn<QByteArray>("config");
     QTest::newRow("nothing") << QByteArray("{}");
@@ -515,7 +516,7 @@ void TestXmlHelper::modelThatDescribesNothingSucceeds_data()
         "value": "Tide", "delete_parent": true}})");
 }
 
-void TestXmlHelper::modelThatDescribesNothingSucceeds()
+void TestXmlHelper::succeedsForAModelThatDescribesNothing()
 {
     QFETCH(const QByteArray, config);
     QFile::remove(path());
@@ -529,7 +530,7 @@ void TestXmlHelper::modelThatDescribesNothingSucceeds()
     }
 }
 
-void TestXmlHelper::missingFileIsNotCreated()
+void TestXmlHelper::doesNotCreateAMissingFile()
 {
     QFile::remove(path());
     const Tests::LogCatcher log;
@@ -538,11 +539,11 @@ void TestXmlHelper::missingFileIsNotCreated()
     QVERIFY(!insert());
     QCOMPARE(log.debugLines().size(), 1);
     QVERIFY(!QFileInfo::exists(path()));
-    // What the system refuses to look for may be there.
+    // A file that the system refuses to look up may exist.
     QVERIFY(!removeAt(path() + QString(300, u'x')));
 }
 
-void TestXmlHelper::refusalSaysWhere()
+void TestXmlHelper::logsThePlaceOfARefusal()
 {
     const Tests::LogCatcher log;
     QVERIFY(!insertInto("<R>\r\n  <A>\r\n  </B>\r\n</R>"));

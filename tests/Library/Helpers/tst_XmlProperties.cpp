@@ -10,15 +10,15 @@
 using Tests::XmlGenerator;
 using Tests::XmlPromises;
 
-/// Holds the promises against very many documents, good and broken ones.
+/// Checks the promises with very many documents, well formed and broken.
 class TestXmlProperties : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void wellFormedDocumentsComeBackIdentical();
-    void brokenDocumentsStayOrComeBackIdentical();
-    void filesDoLikeBytes();
+    void restoreWellFormedDocumentsExactly();
+    void keepOrRestoreBrokenDocumentsExactly();
+    void treatFilesLikeBytes();
 
 private:
     Tests::Sandbox m_sandbox;
@@ -38,7 +38,7 @@ QVector<QByteArray> corpus()
                     QDirIterator::Subdirectories);
     while (it.hasNext())
         paths.append(it.next());
-    // A folder has no order, but the documents are to be the same in every run.
+    // Folders are listed in any order, but the documents must be the same in every run.
     paths.sort();
     for (const QString &path : paths)
         files.append(Tests::readFile(path));
@@ -47,7 +47,7 @@ QVector<QByteArray> corpus()
 
 } // namespace
 
-void TestXmlProperties::wellFormedDocumentsComeBackIdentical()
+void TestXmlProperties::restoreWellFormedDocumentsExactly()
 {
     XmlGenerator generator(seed);
     for (int i = 0; i < 8000; ++i) {
@@ -59,7 +59,7 @@ void TestXmlProperties::wellFormedDocumentsComeBackIdentical()
     }
 }
 
-void TestXmlProperties::brokenDocumentsStayOrComeBackIdentical()
+void TestXmlProperties::keepOrRestoreBrokenDocumentsExactly()
 {
     const QVector<QByteArray> files = corpus();
     XmlGenerator generator(seed);
@@ -77,7 +77,7 @@ void TestXmlProperties::brokenDocumentsStayOrComeBackIdentical()
     qInfo("%d of 20000 broken documents are documents still", accepted);
 }
 
-void TestXmlProperties::filesDoLikeBytes()
+void TestXmlProperties::treatFilesLikeBytes()
 {
     XmlGenerator generator(seed);
     Tests::RoundTrip roundTrip(m_sandbox.path(QStringLiteral("exe.xml")));

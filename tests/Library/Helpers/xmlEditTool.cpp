@@ -7,8 +7,8 @@
 
 #include <unistd.h>
 
-// Adds an entry to a file, or takes it out: the process that a test ends at every one of its
-// system calls. Arguments: "insert" or "remove", and the file.
+// Adds an entry to a file, or removes it: the process that a test kills at each of its system
+// calls. Arguments: "insert" or "remove", and the file.
 
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Library::Models::XmlInsertionModel;
@@ -25,7 +25,7 @@ int main(int argc, char **argv)
                                  {QStringLiteral("value"), QStringLiteral("Tide")}}}}});
     XmlHelper helper(nullptr, arguments.value(2));
 
-    // Nothing else here asks for it, so it tells a tracer that the work begins.
+    // Nothing else here makes this call, so it marks the begin of the work for the tracer.
     [[maybe_unused]] const pid_t begin = getpgrp();
     const bool isInsertion = arguments.value(1) == QLatin1String("insert");
     const bool isDone = isInsertion ? helper.insertValues(&model) : helper.removeConfig(&model);

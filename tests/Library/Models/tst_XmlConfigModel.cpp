@@ -8,14 +8,14 @@
 using namespace Quillmont::Library::Models;
 using namespace Tests;
 
-/// What a "config" object of the catalogue means.
+/// How a "config" object of the catalogue is read.
 class TestXmlConfigModel : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void keepsThePathWithSlashes()
+    void convertsThePathToSlashes()
     {
         QObject owner;
         auto *model = new XmlInsertionModel(&owner, json(R"({"path": "Maker\\Sim/exe.xml"})"));
@@ -24,7 +24,7 @@ private slots:
         QCOMPARE(XmlConfigModel(nullptr, json(R"({"path": "a\\b"})")).path, "a/b"_s);
     }
 
-    void takesTheGameFromAWholeNumber_data()
+    void readsTheGameOnlyFromAnInteger_data()
     {
         QTest::addColumn<qint64>("steam");
         QTest::newRow(R"({"steam": 314160})") << 314160LL;
@@ -35,13 +35,13 @@ private slots:
             QTest::addRow(R"({"steam": %s})", value) << -1LL;
     }
 
-    void takesTheGameFromAWholeNumber()
+    void readsTheGameOnlyFromAnInteger()
     {
         QTEST(XmlConfigModel(nullptr, json(QTest::currentDataTag())).steam, "steam");
     }
 
-    // Element, key and value that make an element ours; nothing where there is none to speak of.
-    void saysHowOurElementIsRecognised_data()
+    // Element, key and value that make an element ours; empty if none is described.
+    void readsHowOurElementIsRecognised_data()
     {
         QTest::addColumn<QString>("ours");
         const auto row = [](const QByteArray &config, const char *ours) {
@@ -68,7 +68,7 @@ private slots:
         row(parent + R"("values": [{}, 1, {"value": "x"}])", "");
     }
 
-    void saysHowOurElementIsRecognised()
+    void readsHowOurElementIsRecognised()
     {
         const XmlConfigModel model(nullptr, json(QTest::currentDataTag()));
         QTEST(model.describesEntry() ? model.element + u' ' + model.key + u'=' + model.value
@@ -76,7 +76,7 @@ private slots:
               "ours");
     }
 
-    void takesTheWholeElementOutUnlessItsRemovalSaysOtherwise_data()
+    void removesTheWholeElementUnlessToldOtherwise_data()
     {
         QTest::addColumn<bool>("whole");
         QTest::newRow("{}") << true;
@@ -87,7 +87,7 @@ private slots:
         QTest::newRow(R"({"remove": {"delete_parent": "true"}})") << false;
     }
 
-    void takesTheWholeElementOutUnlessItsRemovalSaysOtherwise()
+    void removesTheWholeElementUnlessToldOtherwise()
     {
         QTEST(XmlConfigModel(nullptr, json(QTest::currentDataTag())).deleteParent, "whole");
     }
