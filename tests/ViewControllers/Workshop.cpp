@@ -17,7 +17,7 @@ namespace Tests {
 
 Workshop::Workshop()
 {
-    // As the program itself does at its start.
+    // As the program does at its start.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     clearFolder();
 }

@@ -21,9 +21,9 @@ using Quillmont::Utility::Models::FlightSimScan;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::ViewControllers::ScanController;
 
-/// A controller with a home of its own, whose boxes are answered and whose log is caught, and
-/// what lies beside the executable: catalogue and payload, both gone afterwards. In JSON texts
-/// "$ROOT" stands for the sandbox's folder.
+/// A controller with its own home, whose boxes are answered and whose log is captured, with
+/// catalogue and payload beside the executable, both deleted afterwards. In JSON texts "$ROOT" is
+/// the sandbox's folder.
 class Workshop
 {
 public:
@@ -32,7 +32,7 @@ public:
     Workshop(const Workshop &) = delete;
     Workshop &operator=(const Workshop &) = delete;
 
-    /// Made on the first call, so that a test can prepare what its constructor meets.
+    /// Created by the first call, so that a test can prepare the files for its constructor.
     ScanController &controller();
     void dropController();
 
@@ -40,12 +40,12 @@ public:
     QString path(const QByteArray &relative) const;
     QString dataPath(const QByteArray &relative) const;
     static QString beside(const QByteArray &relative);
-    /// Makes the folder and answers its path.
+    /// Creates the folder and returns its path.
     QString folder(const QByteArray &relative) const;
 
     void writePayload(const QByteArray &relative, const QByteArray &content) const;
     void writeCatalogue(const QByteArray &json) const;
-    /// Makes a simulator in a folder that the detection library reports as "XP12".
+    /// Creates a simulator in a folder that the detection library reports as "XP12".
     QString makeDetectedSimulator(const QByteArray &relative) const;
 
     /// A catalogue entry in JSON: "Sim NAME" in the sandbox's folder NAME, without a configuration
@@ -59,7 +59,7 @@ public:
     QJsonArray record() const;
     void writeRecord(const QByteArray &json) const;
 
-    /// Everything in the sandbox but caches; the times in the names of backups read "TIME".
+    /// Everything in the sandbox except caches; the times in the names of backups become "TIME".
     QMap<QString, QByteArray> disk() const;
     /// The native paths of the backups in the sandbox.
     QStringList backups() const;
@@ -67,18 +67,18 @@ public:
     /// The names and the folders that the window's rows show, from top to bottom.
     QStringList rowNames();
     QStringList rowPaths();
-    /// How many catalogue entries the controller has made so far.
+    /// How many catalogue entries the controller has created so far.
     int entryCount();
 
     Sandbox sandbox;
     LogCatcher log;
     BoxAnswerer answerer;
 
-    /// What the boxes so far said, as box() puts it. One that is not an information box with one
-    /// Ok button and no parent, open under the ordinary pointer, is marked as odd.
+    /// The boxes so far, in the form of box(). One that is not an information box with one Ok
+    /// button, without a parent and with the normal pointer is marked as odd.
     QStringList boxes() const;
     int countOfLine(const QString &line) const;
-    /// The toolkit's warnings so far, without those of the platform that shows windows nowhere.
+    /// Qt's warnings so far, without those of the offscreen platform.
     QString warnings() const;
 
 private:
@@ -87,8 +87,8 @@ private:
     std::unique_ptr<ScanController> m_controller;
 };
 
-/// A home for the settings, which keep the place that they had when they were first asked for.
-/// A test program that looks at them holds one from its start to its end.
+/// A home for the settings, whose path is fixed by their first use. A test program that uses them
+/// keeps one from its start to its end.
 class SettingsHome : public Sandbox
 {
 public:

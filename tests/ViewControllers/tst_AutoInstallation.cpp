@@ -11,8 +11,8 @@ namespace {
 
 using Mappings = QList<FlightSimulatorMapping *>;
 
-// A simulator's name, and behind it "+" if it has the plugin, "!" if the payload lacks it, "-" if
-// the simulator was not found, and "0" if that one has no plugin files either.
+// A simulator's name, followed by "+" if it has the plugin, "!" if the payload lacks it, "-" if the
+// simulator was not found, or "0" if it was not found and has no plugin files.
 FlightSimulatorMapping *mapping(Workshop &shop, const QString &word)
 {
     const QByteArray name = word.left(1).toUtf8();
@@ -48,7 +48,7 @@ QByteArray launcher()
     return QCoreApplication::applicationDirPath().toUtf8() + "/QuillmontOrbwell.exe";
 }
 
-// The records' names and folders, and below each the plugin's file there, if it is.
+// The records' names and folders, each with the plugin's file there, if it exists.
 QString recorded(const Workshop &shop)
 {
     QStringList lines;
@@ -89,7 +89,7 @@ private slots:
             autoInstalledBox({"Sim B"_s, "Sim A"_s}),
             "Sim B in $ROOT/B: new|Sim A in $ROOT/A: new"_s);
         row("B+ A+", allInstalledBox(), "Sim B in $ROOT/B: complete|Sim A in $ROOT/A: complete"_s);
-        // A failed installation is named and recorded like any other.
+        // A failed installation is reported and recorded like any other.
         row("B!", autoInstalledBox({"Sim B"_s}), "Sim A in old: none|Sim B in $ROOT/B: none"_s);
     }
 
@@ -115,7 +115,7 @@ private slots:
         }
     }
 
-    void namesSimulatorsAsTheyAreCalled()
+    void namesSimulatorsAsInTheCatalogue()
     {
         Workshop shop;
         shop.writePayload("x", "new");
@@ -125,7 +125,7 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList(autoInstalledBox({"%1 %0"_s, "Sim A"_s})));
     }
 
-    void clearsAPartialInstallationFirst()
+    void removesAPartialInstallationFirst()
     {
         Workshop shop;
         shop.writePayload("one", "new");
@@ -150,7 +150,7 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList());
     }
 
-    void saysEvenSilentlyWhatCannotBeCleared()
+    void reportsEvenSilentlyWhatCannotBeRemoved()
     {
         Workshop shop;
         shop.writePayload("x", "new");
@@ -166,8 +166,8 @@ private slots:
         QCOMPARE(readFile(shop.path("A/q/y")), QByteArray("new"));
     }
 
-    // The line of B itself waits for whoever shows it.
-    void showsAFailedCopyWithTheNextClearing()
+    // B's own error line is shown by the next box.
+    void showsAFailedCopyWithTheNextRemoval()
     {
         Workshop shop;
         const auto line = [&shop](const QByteArray &name) {
@@ -206,7 +206,7 @@ private slots:
         });
         shop.controller().autoInstall(
             all, false, static_cast<ScanController::InstallationMode>(mode));
-        // The catalogue has two.
+        // Each scan adds the catalogue's two entries.
         QCOMPARE(whileOpen, "%1 entries, %2 rows"_s.arg(2 * scans).arg(scans > 0 ? 2 : 0));
         QCOMPARE(shop.entryCount() - before, 2 * scans);
         QCOMPARE(shop.boxes(), QStringList(autoInstalledBox({"Sim A"_s, "Sim B"_s, "Sim C"_s})));
@@ -219,7 +219,7 @@ private slots:
         Workshop shop;
         shop.writePayload("x", "new");
         shop.controller().autoInstall(mappings(shop, "A B+"_s), true, ScanController::ModeNone);
-        // For A by the removal, by the installation and once more; for B once.
+        // A is recorded by the removal, by the installation and once more; B once.
         QCOMPARE(shop.log.debugLines().filter("mapping path: "_s).size(), 4);
     }
 
@@ -242,7 +242,7 @@ private slots:
         QCOMPARE(readFile(launcherPath(shop)), launcher());
     }
 
-    void doesNotReportALauncherPathThatCannotBeWritten()
+    void ignoresALauncherPathThatCannotBeWritten()
     {
         Workshop shop;
         shop.controller();

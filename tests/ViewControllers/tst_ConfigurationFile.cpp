@@ -7,7 +7,7 @@ using Tests::readFile;
 using Tests::Workshop;
 using Tests::writeFile;
 
-// Which of the files on the disk is the simulator's configuration file.
+// Which file on the disk is the simulator's configuration file.
 class TestConfigurationFile : public QObject
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ class TestConfigurationFile : public QObject
 private slots:
     void isFoundInAnyLetterCase_data();
     void isFoundInAnyLetterCase();
-    void isOneHoweverManyWaysLeadToIt();
-    void isNotLookedForInMoreFoldersThanMakeSense_data();
-    void isNotLookedForInMoreFoldersThanMakeSense();
-    void isWhereADeadLinkOfItsNameLeads();
-    void namesTheFilesOfWhichNoneIsTaken();
+    void isFoundOnceByWhateverPath();
+    void isSearchedInALimitedNumberOfFolders_data();
+    void isSearchedInALimitedNumberOfFolders();
+    void isTheTargetOfADanglingLink();
+    void isNoneOfSeveralWhichAreLogged();
 };
 
 static const char *const entry = R"({"name": "Sim A",
@@ -35,7 +35,7 @@ void TestConfigurationFile::isFoundInAnyLetterCase_data()
 {
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("expected");
-    QTest::addColumn<QByteArray>("path"); // as the catalogue has it
+    QTest::addColumn<QByteArray>("path"); // as in the catalogue
     const QString exact = QStringLiteral("Maker/FSX/dll.xml");
     const auto row = [](const char *name,
                         const QStringList &files,
@@ -62,9 +62,9 @@ void TestConfigurationFile::isFoundInAnyLetterCase_data()
     row("folder of that name", {QStringLiteral("Maker/FSX/DLL.XML/readme.txt")}, exact);
     const QString other = QStringLiteral("maker/fsx/dll.xml");
     row("two slashes", {other}, other, "Maker//FSX/dll.xml");
-    row("a step that stays", {other}, other, "Maker/./FSX/dll.xml");
-    row("a step up", {other}, other, "Maker/../Maker/FSX/dll.xml");
-    row("a step up from the folder that is there",
+    row("a \".\" component", {other}, other, "Maker/./FSX/dll.xml");
+    row("a \"..\" component", {other}, other, "Maker/../Maker/FSX/dll.xml");
+    row("a \"..\" component after an existing folder",
         {QStringLiteral("Maker/x"), QStringLiteral("maker/x"), QStringLiteral("fsx/dll.xml")},
         QStringLiteral("fsx/dll.xml"),
         "Maker/../FSX/dll.xml");
@@ -103,8 +103,8 @@ void TestConfigurationFile::isFoundInAnyLetterCase()
     QCOMPARE(left, files.size());
 }
 
-// At each step up the ways to it double.
-void TestConfigurationFile::isOneHoweverManyWaysLeadToIt()
+// Each ".." component doubles the number of possible paths.
+void TestConfigurationFile::isFoundOnceByWhateverPath()
 {
     Workshop shop;
     writeFile(shop.dataPath("maker/DLL.XML"), others);
@@ -116,7 +116,7 @@ void TestConfigurationFile::isOneHoweverManyWaysLeadToIt()
     QVERIFY(readFile(shop.dataPath("maker/DLL.XML")).contains("Our entry"));
 }
 
-void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense_data()
+void TestConfigurationFile::isSearchedInALimitedNumberOfFolders_data()
 {
     QTest::addColumn<int>("folders");
     QTest::addColumn<bool>("isFound");
@@ -124,8 +124,8 @@ void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense_data()
     QTest::newRow("101 folders") << 101 << false;
 }
 
-// All are of one name in other letter case.
-void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense()
+// All have one name in different letter case.
+void TestConfigurationFile::isSearchedInALimitedNumberOfFolders()
 {
     QFETCH(const int, folders);
     QFETCH(const bool, isFound);
@@ -145,7 +145,7 @@ void TestConfigurationFile::isNotLookedForInMoreFoldersThanMakeSense()
     QCOMPARE(readFile(file).contains("Our entry"), isFound);
 }
 
-void TestConfigurationFile::isWhereADeadLinkOfItsNameLeads()
+void TestConfigurationFile::isTheTargetOfADanglingLink()
 {
     Workshop shop;
     shop.writePayload("A/one.dll", "one");
@@ -157,7 +157,7 @@ void TestConfigurationFile::isWhereADeadLinkOfItsNameLeads()
     QCOMPARE(readFile(shop.dataPath("Maker/FSX/DLL.XML")), QByteArray(others));
 }
 
-void TestConfigurationFile::namesTheFilesOfWhichNoneIsTaken()
+void TestConfigurationFile::isNoneOfSeveralWhichAreLogged()
 {
     Workshop shop;
     shop.writePayload("A/one.dll", "one");

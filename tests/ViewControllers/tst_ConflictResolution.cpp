@@ -7,24 +7,24 @@
 
 using namespace Tests;
 
-/// What becomes of simulators that were found in one place, or in several.
+/// What happens to simulators that were found in one folder, or in several.
 class TestConflictResolution : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    // A simulator's line: its group, the folder that was found, whether it gives way, and its
-    // solution; behind "=" its folder and its configuration file afterwards. A group may also be
-    // "none", for an entry without a conflict, and a solution "none", for one without a
-    // configuration. The word "default" for giving way leaves it out.
-    void settlesWhoKeepsWhichFolderAndFile_data()
+    // A simulator's line: its group, the folder found, whether it gives up its folder, and its
+    // solution; after "=" the resulting folder and configuration file. The group "none" is an entry
+    // without a conflict, the solution "none" one without a configuration. "default" omits whether
+    // it gives up its folder.
+    void decidesWhichEntryKeepsWhichFolderAndFile_data()
     {
         QTest::addColumn<QStringList>("lines");
         const auto row = [](const char *name, const QStringList &lines) {
             QTest::newRow(name) << lines;
         };
-        row("entries without a conflict are left alone",
+        row("entries without a conflict are unchanged",
             {"none /F - - = /F own.xml"_s,
              "none /F - - = /F own.xml"_s,
              "none /G - - = /G own.xml"_s});
@@ -32,46 +32,46 @@ private slots:
             {"a /F true 1.xml = /F own.xml"_s,
              "a /F true 2.xml = - own.xml"_s,
              "a /F true 3.xml = - own.xml"_s});
-        row("the first gives it up to every later one",
+        row("the first gives up its folder to every later one",
             {"a /F false 1.xml = - own.xml"_s,
              "a /F false 2.xml = /F own.xml"_s,
              "a /F false 3.xml = /F own.xml"_s});
-        row("the second entry decides, and gives way",
+        row("the second entry decides, and gives up its folder",
             {"a /F false - = /F own.xml"_s, "a /F true - = - own.xml"_s});
         row("the second entry decides, and keeps the folder",
             {"a /F true - = - own.xml"_s, "a /F false - = /F own.xml"_s});
-        row("giving way is the default",
+        row("giving up the folder is the default",
             {"a /F default - = /F own.xml"_s, "a /F default - = - own.xml"_s});
         row("different folders get their solutions, as written",
             {"a /B true 1/1.xml = /B 1/1.xml"_s,
              R"(a /A true 2\2.xml = /A 2\2.xml)"_s,
              "a /C true - = /C own.xml"_s});
-        row("an entry without a configuration is passed over",
+        row("an entry without a configuration is ignored",
             {"a /A true none = /A none"_s, "a /B true 2.xml = /B 2.xml"_s});
         row("an emptied entry is still part of its group",
             {"a /F false 1.xml = - 1.xml"_s,
              "a /F false 2.xml = /F own.xml"_s,
              "a /G false 3.xml = /G 3.xml"_s});
-        row("an entry that gave way is no part of its group",
+        row("an entry that gave up its folder leaves its group",
             {"a /F true 1.xml = /F 1.xml"_s,
              "a /F true 2.xml = - own.xml"_s,
              "a /G true 3.xml = /G 3.xml"_s});
-        row("not found counts as a folder",
+        row("an empty folder counts as a folder",
             {"a /A true 1.xml = /A 1.xml"_s, "a - true 2.xml = - 2.xml"_s});
-        row("two that were not found are one folder",
+        row("two entries that were not found share a folder",
             {"a - true 1.xml = - own.xml"_s, "a - false 2.xml = - own.xml"_s});
-        row("groups are told apart by letter case",
+        row("group names are case-sensitive",
             {"a /F true 1.xml = /F own.xml"_s, "A /F true 2.xml = /F own.xml"_s});
-        row("folders are told apart by letter case",
+        row("folders are case-sensitive",
             {"a /F true 1.xml = /F 1.xml"_s, "a /f true 2.xml = /f 2.xml"_s});
-        row("groups do not mix, and one has no name",
+        row("groups are separate, including the unnamed one",
             {"a /F true 1.xml = /F own.xml"_s,
              "b /G true 2.xml = /G own.xml"_s,
              "- /F true 3.xml = /F 3.xml"_s,
              "- /H true 4.xml = /H 4.xml"_s});
     }
 
-    void settlesWhoKeepsWhichFolderAndFile()
+    void decidesWhichEntryKeepsWhichFolderAndFile()
     {
         QFETCH(const QStringList, lines);
         Workshop shop;
@@ -87,7 +87,7 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 
-    void seesTheEmptiedFoldersAtASecondCall()
+    void seesTheEmptiedFoldersInASecondCall()
     {
         Workshop shop;
         const auto both = simulators(shop, {"a /F true 1.xml"_s, "a /F true 2.xml"_s});

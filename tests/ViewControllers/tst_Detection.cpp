@@ -13,7 +13,7 @@ void addRow(const char *name, int location, const QStringList &texts)
     QTest::newRow(name) << location << texts;
 }
 
-// An entry with this path and key, where the strategy looks then, and whether that exists.
+// An entry with this path and key, the file that the strategy looks for, and whether it exists.
 void addFile(
     const char *name, const QString &path, const QString &key, const QString &file, bool exists)
 {
@@ -33,14 +33,14 @@ void addNothing(const char *name, int location, const QString &lines = {})
 
 } // namespace
 
-/// Whether an entry's simulator is here, by the strategy that the entry names.
+/// Whether an entry's simulator is found by the strategy that the entry names.
 class TestDetection : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void findsASimulatorByTheStrategyOfItsEntry_data()
+    void findsASimulatorByItsEntrysStrategy_data()
     {
         QTest::addColumn<int>("location");
         QTest::addColumn<QStringList>("texts");
@@ -75,7 +75,7 @@ private slots:
         addNothing("minus one", -1);
     }
 
-    void findsASimulatorByTheStrategyOfItsEntry()
+    void findsASimulatorByItsEntrysStrategy()
     {
         QFETCH(const int, location);
         QFETCH(QStringList, texts);
@@ -102,7 +102,7 @@ private slots:
         QCOMPARE(shop.controller().simPaths, simPaths);
     }
 
-    void asksOneStrategyWhateverTheEntrySays()
+    void usesOneStrategyWhateverTheEntrySays()
     {
         Workshop shop;
         makeFiles(shop);

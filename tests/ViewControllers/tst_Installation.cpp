@@ -24,7 +24,7 @@ const char *const plainSimulator = R"({"name": "Sim A", "type": 1, "files": [
     {"source": "A\\one.dll", "destination": "Modules\\one.dll"},
     {"source": "A/two.dat", "destination": "data/deep er/two.dat"}]})";
 
-// Two files and a configuration file, in which nothing of ours is described.
+// Two files and a configuration file, without a description of our entry.
 const char *const configuredSimulator = R"({"name": "Sim A", "files": [
     {"source": "A/one.dll", "destination": "a/one.dll"},
     {"source": "A/two.dat", "destination": "b/two.dat"}], "config": {"path": "Vendor\\dll.xml"}})";
@@ -79,15 +79,15 @@ class TestInstallation : public QObject
 
 private slots:
 
-    // First of all: a process waits only once for who does not end.
-    void waitsForNobodyWhoIsNotThere_data()
+    // This test comes first, since a process waits only once for a hanging copy.
+    void doesNotWaitWithoutAnotherCopy_data()
     {
         QTest::addColumn<bool>("isLockable");
         QTest::newRow("with a lock") << true;
-        QTest::newRow("where no lock can be had") << false;
+        QTest::newRow("where locks are not supported") << false;
     }
 
-    void waitsForNobodyWhoIsNotThere()
+    void doesNotWaitWithoutAnotherCopy()
     {
         QFETCH(bool, isLockable);
         Workshop shop;
@@ -101,7 +101,7 @@ private slots:
         QCOMPARE(shop.log.actions().filter(QStringLiteral("waiting")), QStringList());
     }
 
-    void withoutAFolderNothingHappens()
+    void doesNothingWithoutAFolder()
     {
         Workshop shop;
         writePayload(shop);
@@ -117,7 +117,7 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
-    void copiesEveryFileMakingItsFolder()
+    void copiesEveryFileAndCreatesItsFolder()
     {
         Workshop shop;
         writePayload(shop);
@@ -135,8 +135,8 @@ private slots:
         QVERIFY(shop.controller().m_errorMessage.isEmpty());
     }
 
-    // The empty folder of that name beside the link is somebody else's.
-    void goesWhereTheSystemSaysBehindALinkedFolder()
+    // The empty folder of that name beside the link must not be used.
+    void resolvesLinkedFoldersAsTheSystemDoes()
     {
         Workshop shop;
         writePayload(shop);
@@ -161,7 +161,7 @@ private slots:
         QCOMPARE(diskWithoutRecord(shop), disk);
     }
 
-    void makesTheSimulatorsFolderToo()
+    void createsTheSimulatorsFolderToo()
     {
         Workshop shop;
         writePayload(shop);
@@ -188,7 +188,7 @@ private slots:
         QVERIFY(written.contains(QStringLiteral("/Vendor/dll.xml")));
     }
 
-    void replacesWhatIsThere()
+    void replacesExistingFiles()
     {
         Workshop shop;
         writePayload(shop);
@@ -219,7 +219,7 @@ private slots:
                                                           + QStringLiteral("'.\r\n")));
     }
 
-    void turnsBackslashesOfTheWholeTargetRound()
+    void convertsBackslashesInTheWholeTarget()
     {
         Workshop shop;
         writePayload(shop);
@@ -245,7 +245,7 @@ private slots:
         QCOMPARE(shop.record().size(), 1);
     }
 
-    void silentlyKeepsTheLines()
+    void keepsTheErrorLinesWhenSilent()
     {
         Workshop shop;
         auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
@@ -260,7 +260,7 @@ private slots:
         QVERIFY(shop.boxes().isEmpty());
     }
 
-    void oneFailureDoesNotStopTheOthers()
+    void continuesAfterAFailure()
     {
         Workshop shop;
         shop.writePayload("A/two.dat", "two");
@@ -272,15 +272,15 @@ private slots:
         QCOMPARE(shop.record().size(), 1);
     }
 
-    void namesADeadLinkInAPathThatSystemsTake_data()
+    void logsADanglingLinkInAPathOfValidLength_data()
     {
         QTest::addColumn<int>("size");
         QTest::addColumn<bool>("isNamed");
-        QTest::newRow("the longest") << 4096 << true;
-        QTest::newRow("a longer one") << 4097 << false;
+        QTest::newRow("maximum length") << 4096 << true;
+        QTest::newRow("one character longer") << 4097 << false;
     }
 
-    void namesADeadLinkInAPathThatSystemsTake()
+    void logsADanglingLinkInAPathOfValidLength()
     {
         QFETCH(int, size);
         QFETCH(bool, isNamed);
@@ -298,7 +298,7 @@ private slots:
                  isNamed ? 1 : 0);
     }
 
-    void aFailedCopyHasAlreadyRemovedTheOldFile()
+    void removesTheOldFileBeforeAFailedCopy()
     {
         Workshop shop;
         writeFile(shop.path("A/Modules/one.dll"), "old");
@@ -313,19 +313,20 @@ private slots:
                      QStringLiteral("A/one.dll"), shop.path("A/Modules/one.dll"), shop.path("A/")));
     }
 
-    void leavesObstaclesAsTheyAre_data()
+    void keepsObstacles_data()
     {
         QTest::addColumn<QString>("obstacle");
-        QTest::addColumn<QByteArray>("deadLink"); // as the log names it
-        QTest::newRow("a folder in the file's place") << "folder" << QByteArray();
-        QTest::newRow("a folder behind a link") << "folder link" << QByteArray();
-        QTest::newRow("a file in the folder's place") << "file" << QByteArray();
-        QTest::newRow("a dangling link in the folder's place") << "link" << QByteArray("A/Modules");
-        QTest::newRow("a dangling link in the file's place")
+        QTest::addColumn<QByteArray>("deadLink"); // as in the log
+        QTest::newRow("a folder in place of the file") << "folder" << QByteArray();
+        QTest::newRow("a link to a folder") << "folder link" << QByteArray();
+        QTest::newRow("a file in place of the folder") << "file" << QByteArray();
+        QTest::newRow("a dangling link in place of the folder")
+            << "link" << QByteArray("A/Modules");
+        QTest::newRow("a dangling link in place of the file")
             << "file link" << QByteArray("A/Modules/one.dll");
     }
 
-    void leavesObstaclesAsTheyAre()
+    void keepsObstacles()
     {
         QFETCH(QString, obstacle);
         QFETCH(QByteArray, deadLink);
@@ -361,14 +362,14 @@ private slots:
                      : QStringLiteral("this link leads nowhere: \"%1\"").arg(shop.path(deadLink)));
     }
 
-    void aSimulatorFolderThatIsNoneIsLeftAlone_data()
+    void keepsAFileInPlaceOfTheSimulatorsFolder_data()
     {
         QTest::addColumn<bool>("isFile");
         QTest::newRow("file") << true;
         QTest::newRow("dangling link") << false;
     }
 
-    void aSimulatorFolderThatIsNoneIsLeftAlone()
+    void keepsAFileInPlaceOfTheSimulatorsFolder()
     {
         QFETCH(bool, isFile);
         Workshop shop;
@@ -386,7 +387,7 @@ private slots:
         QCOMPARE(diskWithoutRecord(shop), disk);
     }
 
-    void aFolderThatIsNotWritableIsNamed()
+    void reportsAFolderThatIsNotWritable()
     {
         Workshop shop;
         writePayload(shop);
@@ -403,7 +404,7 @@ private slots:
         QCOMPARE(shop.record().size(), 1);
     }
 
-    void aFailureToRecordIsAFailure()
+    void failsIfItCannotWriteTheRecord()
     {
         Workshop shop;
         writePayload(shop);
@@ -416,7 +417,7 @@ private slots:
         QCOMPARE(readFile(shop.path("A/Modules/one.dll")), QByteArray("one"));
     }
 
-    void entersTheConfigurationAfterEachFile()
+    void editsTheConfigurationAfterEachFile()
     {
         Workshop shop;
         writePayload(shop);
@@ -436,7 +437,7 @@ private slots:
         QCOMPARE(shop.record().size(), 1);
     }
 
-    void makesTheLaunchDocumentWhereThereIsNoConfiguration()
+    void createsAMissingLaunchDocument()
     {
         Workshop shop;
         writePayload(shop);
@@ -444,7 +445,7 @@ private slots:
         QVERIFY(shop.controller().install(mapping, true, false));
         QCOMPARE(readFile(shop.dataPath("Vendor/dll.xml")), QByteArray(launchDocument));
         QCOMPARE(readFile(shop.dataPath("Vendor/dll.xml")).size(), 428);
-        // The second of the two files found the document that the first one made.
+        // The step for the second file backs up the document created for the first one.
         QCOMPARE(shop.backups().size(), 1);
         QCOMPARE(readFile(shop.backups().constFirst()), QByteArray(launchDocument));
     }
@@ -469,7 +470,7 @@ private slots:
         QCOMPARE(readFile(shop.backups().constFirst()), before);
     }
 
-    void editsTheConfigurationOnlyWhereItIsWanted_data()
+    void editsTheConfigurationOnlyOnRequest_data()
     {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<int>("steps");
@@ -482,7 +483,7 @@ private slots:
         QTest::newRow("type -1") << QByteArray(R"("type": -1, )") << 0;
     }
 
-    void editsTheConfigurationOnlyWhereItIsWanted()
+    void editsTheConfigurationOnlyOnRequest()
     {
         QFETCH(QByteArray, keys);
         QFETCH(int, steps);
@@ -499,7 +500,7 @@ private slots:
         QCOMPARE(readFile(shop.path("A/one.dll")), QByteArray("one"));
     }
 
-    void withoutAConfigurationEntryThereIsNothingToEdit()
+    void editsNothingWithoutAConfigurationEntry()
     {
         Workshop shop;
         writePayload(shop);
@@ -514,7 +515,7 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
     }
 
-    void withoutFilesThereIsStillARecord()
+    void recordsAnEntryWithoutFiles()
     {
         Workshop shop;
         auto *mapping
@@ -526,16 +527,16 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
     }
 
-    void aConfigurationThatCannotBeEditedIsNoError_data()
+    void succeedsIfTheConfigurationCannotBeEdited_data()
     {
         QTest::addColumn<QString>("obstacle");
         QTest::newRow("not XML") << "not XML";
         QTest::newRow("empty") << "empty";
         QTest::newRow("folder") << "folder";
-        QTest::newRow("no folder for it") << "no folder";
+        QTest::newRow("missing folder") << "no folder";
     }
 
-    void aConfigurationThatCannotBeEditedIsNoError()
+    void succeedsIfTheConfigurationCannotBeEdited()
     {
         QFETCH(QString, obstacle);
         Workshop shop;
@@ -564,7 +565,7 @@ private slots:
         QCOMPARE(shop.backups().size(), isFile ? 1 : 0);
     }
 
-    void aReadOnlyConfigurationIsNoError()
+    void succeedsWithAReadOnlyConfiguration()
     {
         Workshop shop;
         writePayload(shop);
@@ -580,14 +581,14 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
     }
 
-    void scansAgainBeforeItTells_data()
+    void scansAgainBeforeItShowsTheResult_data()
     {
         QTest::addColumn<bool>("payload");
         QTest::newRow("success") << true;
         QTest::newRow("failure") << false;
     }
 
-    void scansAgainBeforeItTells()
+    void scansAgainBeforeItShowsTheResult()
     {
         QFETCH(bool, payload);
         Workshop shop;
@@ -615,7 +616,7 @@ private slots:
         QVERIFY(shop.controller().mappings.isEmpty());
     }
 
-    void silentOrNotTheNewScanIsForTheWindow()
+    void scansForTheWindowEvenWhenSilent()
     {
         Workshop shop;
         writePayload(shop);
@@ -625,14 +626,14 @@ private slots:
         settings->saveSettings(QStringLiteral("flightsim/Row"), chosen);
         auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
         QVERIFY(shop.controller().install(mapping, true, true));
-        // A folder that the user picked stays picked.
+        // A folder that the user picked is kept.
         QCOMPARE(shop.rowPaths(), QStringList(chosen));
         QCOMPARE(settings->getSettings(QStringLiteral("flightsim/Row")).toString(), chosen);
         QVERIFY(shop.controller().mappings.isEmpty());
         QVERIFY(shop.boxes().isEmpty());
     }
 
-    void scansOnlyWhenAsked()
+    void scansOnlyOnRequest()
     {
         Workshop shop;
         writePayload(shop);
@@ -666,7 +667,7 @@ private slots:
         QVERIFY(!QApplication::overrideCursor());
     }
 
-    void installingTwiceChangesNothingMore()
+    void changesNothingMoreTheSecondTime()
     {
         Workshop shop;
         writePayload(shop);
@@ -693,7 +694,7 @@ private:
         return disk;
     }
 
-    // What is said of the plain simulator in a folder that takes none of its files.
+    // The error lines for the plain simulator in a folder that takes none of its files.
     static QString missingLines(const QString &folder)
     {
         return unableToCopyLine(QStringLiteral("A/one.dll"),

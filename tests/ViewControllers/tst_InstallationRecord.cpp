@@ -16,7 +16,7 @@ namespace {
 const char *const simulator = R"({"name": "Sim A", "files": [
     {"source": "z", "destination": "plugins\\file.dll"}, {"source": "a", "destination": "b.dat"}]})";
 
-// The record of that simulator in the folder "/Sims/Спутник A", as the file has it.
+// The record of that simulator in the folder "/Sims/Спутник A", as it is written.
 const char *const newRecord = "    {\n"
                               "        \"files\": [\n"
                               "            \"/Sims/Спутник A/b.dat\",\n"
@@ -26,7 +26,7 @@ const char *const newRecord = "    {\n"
                               "        \"path\": \"/Sims/Спутник A\"\n"
                               "    }\n";
 
-// An installation of that simulator, or its removal.
+// Records an installation of that simulator, or its removal.
 void save(Workshop &shop, bool uninstalled)
 {
     auto *mapping = shop.mapping(simulator, "/Sims/Спутник A"_s);
@@ -35,14 +35,14 @@ void save(Workshop &shop, bool uninstalled)
 
 } // namespace
 
-/// What went where, for later runs.
+/// The record of installed files for later runs.
 class TestInstallationRecord : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void isMadeEmptyAtTheFirstStart()
+    void isCreatedEmptyAtTheFirstStart()
     {
         Workshop shop;
         QVERIFY(!QFile::exists(shop.dataPath("Quillmont")));
@@ -53,7 +53,7 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 
-    void isMadeEmptyWhereALinkLeads()
+    void isCreatedEmptyAtTheTargetOfALink()
     {
         Workshop shop;
         QVERIFY(QDir().mkpath(shop.dataPath("Quillmont/Orbwell")));
@@ -77,7 +77,7 @@ private slots:
         QCOMPARE(QFileInfo(file).lastModified(), longAgo);
     }
 
-    void isNotReportedWhereItCannotBeMade()
+    void isNotReportedIfItCannotBeCreated()
     {
         for (const char *obstacle : {"Quillmont/Orbwell/.mapping/inside", "Quillmont"}) {
             Workshop shop;
@@ -91,7 +91,7 @@ private slots:
     }
 
     // The scan found each in the folder "old".
-    void givesItsFoldersToTheSimulatorsOfItsNames_data()
+    void givesItsFoldersToTheSimulatorsThatItNames_data()
     {
         QTest::addColumn<QByteArray>("record");
         QTest::addColumn<QString>("paths");
@@ -118,14 +118,18 @@ private slots:
             "old");
         row("empty files", R"([{"name": "Sim A", "path": "new", "files": []}])", "new");
         row("no files", R"([{"name": "Sim A", "path": "new"}])", "new");
-        row("files no array", R"([{"name": "Sim A", "path": "new", "files": "$ROOT/no"}])", "new");
-        row("files no text", R"([{"name": "Sim A", "path": "new", "files": [5]}])", "old");
+        row("files not an array",
+            R"([{"name": "Sim A", "path": "new", "files": "$ROOT/no"}])",
+            "new");
+        row("file not a string", R"([{"name": "Sim A", "path": "new", "files": [5]}])", "old");
         row("empty path", R"([{"name": "Sim A", "path": ""}])", "");
         row("no path", R"([{"name": "Sim A"}])", "");
-        row("path no text", R"([{"name": "Sim A", "path": 5}])", "");
+        row("path not a string", R"([{"name": "Sim A", "path": 5}])", "");
         row("other letter case", R"([{"name": "sim a", "path": "new"}])", "old");
-        row("foreign", R"([{"name": "Sim A2", "path": "new"}])", "old");
-        row("name no text", R"([{"name": 5, "path": "new"}, 7, "Sim A", null, ["Sim A"]])", "old");
+        row("another simulator", R"([{"name": "Sim A2", "path": "new"}])", "old");
+        row("name not a string",
+            R"([{"name": 5, "path": "new"}, 7, "Sim A", null, ["Sim A"]])",
+            "old");
         row("neither has a name", R"([{"name": 5, "path": "new"}])", "new", {});
         row("a later one",
             R"([{"name": "Sim A", "path": "new"}, {"name": "Sim A", "path": "newer"}])",
@@ -134,19 +138,19 @@ private slots:
             R"([{"name": "Sim A", "path": "new"},
                 {"name": "Sim A", "path": "newer", "files": ["$ROOT/no"]}])",
             "new");
-        row("after wrong ones", R"([[], {}, 1, {"name": "Sim A", "path": "new"}])", "new");
+        row("after invalid records", R"([[], {}, 1, {"name": "Sim A", "path": "new"}])", "new");
         const auto beside = [](int depth) {
             return "[" + QByteArray(depth, '[') + QByteArray(depth, ']')
                 + R"(, {"name": "Sim A", "path": "new"}])";
         };
-        row("as deep as it may be", beside(1023).constData(), "new");
-        row("deeper than it may be", beside(1024).constData(), "old");
+        row("maximum depth", beside(1023).constData(), "new");
+        row("one level too deep", beside(1024).constData(), "old");
         row("cut off", R"([{"name": "Sim A", "path": "new"})", "old");
         row("an object", R"({"name": "Sim A", "path": "new"})", "old");
         row("not JSON", "\xff\xfe\x01 anything", "old");
     }
 
-    void givesItsFoldersToTheSimulatorsOfItsNames()
+    void givesItsFoldersToTheSimulatorsThatItNames()
     {
         QFETCH(const QByteArray, record);
         QFETCH(const QString, names);
@@ -171,7 +175,7 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 
-    // "+" is an installation into the simulator, "-" a removal from it, and "$NEW" its record.
+    // "+" installs into the simulator, "-" removes from it, and "$NEW" is its record.
     void followsInstallationsAndRemovals_data()
     {
         QTest::addColumn<QByteArray>("before");
@@ -196,16 +200,16 @@ private slots:
             R"([{"name": "Other"}, $NEW])");
         const char *const two = R"([{"name": "Sim A", "path": "first"}, {"name": "Other"},
             {"name": "Sim A", "path": "last"}])";
-        row("a removal takes the last of its name out",
+        row("a removal removes the last record of its name",
             two,
             "-",
             R"([{"name": "Sim A", "path": "first"}, {"name": "Other"}])");
-        row("another takes out the one before", two, "--", R"([{"name": "Other"}])");
-        row("one more finds none", two, "---", R"([{"name": "Other"}])");
+        row("a second removal removes the one before", two, "--", R"([{"name": "Other"}])");
+        row("a third removal finds none", two, "---", R"([{"name": "Other"}])");
         row("an empty record stays a list", "", "-", "[]");
         row("a removal undoes an installation", "", "+-", "[]");
         row("an empty record", "", "+", "[$NEW]");
-        row("one that is cut off", R"([{"name": "Sim B"})", "+", "[$NEW]");
+        row("a truncated record", R"([{"name": "Sim B"})", "+", "[$NEW]");
         row("an object", R"({"name": "Sim A"})", "+", "[$NEW]");
         row("binary data", QByteArray("\x00\xff\xfe[", 4), "+", "[$NEW]");
     }
@@ -234,7 +238,7 @@ private slots:
         QCOMPARE(readFile(shop.recordPath()), QByteArray("[\n]\n"));
     }
 
-    void keepsThePathAsItIsHeld()
+    void keepsThePathUnchanged()
     {
         Workshop shop;
         shop.controller().saveInstallationInfo(shop.mapping(simulator, R"(/Sims/A\/)"_s), false);
@@ -243,7 +247,7 @@ private slots:
         QCOMPARE(record["files"_s][0].toString(), R"(/Sims/A\//b.dat)"_s);
     }
 
-    void keepsRecordsWhoseNameIsNoText()
+    void keepsRecordsWhoseNameIsNotAString()
     {
         Workshop shop;
         shop.writeRecord(R"([{"name": 5}, {}])");
@@ -269,7 +273,7 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
-    void isMadeWhenItIsMissingAndThatIsReported()
+    void isCreatedAndReportedIfMissing()
     {
         Workshop shop;
         shop.controller();
@@ -280,7 +284,7 @@ private slots:
                  cannotRead(shop.sandbox.dataRoot() + "/Quillmont/Orbwell/.mapping"_s));
     }
 
-    void staysAsItIsWhereItIsReadOnly()
+    void isKeptIfReadOnly()
     {
         Workshop shop;
         shop.writeRecord(R"([{"name": "Other"}])");
@@ -293,17 +297,17 @@ private slots:
                  cannotWrite(shop.sandbox.dataRoot() + "/Quillmont/Orbwell/.mapping"_s));
     }
 
-    void isNotWrittenIfItWasNotRead_data()
+    void isNotWrittenIfItCannotBeRead_data()
     {
         QTest::addColumn<qint64>("size");
         QTest::addColumn<bool>("isWritten");
         constexpr qint64 bound = 96LL * 1024 * 1024;
-        QTest::newRow("the biggest that is read") << bound << true;
-        QTest::newRow("one byte more") << bound + 1 << false;
+        QTest::newRow("maximum size") << bound << true;
+        QTest::newRow("one byte larger") << bound + 1 << false;
     }
 
-    // What is read here is no list of records, and as such makes room for a new one.
-    void isNotWrittenIfItWasNotRead()
+    // A readable file that is not a list of records is replaced.
+    void isNotWrittenIfItCannotBeRead()
     {
         QFETCH(qint64, size);
         QFETCH(bool, isWritten);
@@ -318,7 +322,7 @@ private slots:
         QCOMPARE(shop.log.actions().filter(QStringLiteral("is in")).size(), isWritten ? 1 : 0);
     }
 
-    void isRidOfWhatAKilledRunLeftAtTheNextStart()
+    void isClearedOfUnfinishedFilesAtTheNextStart()
     {
         Workshop shop;
         shop.writeRecord("[]");
@@ -341,7 +345,7 @@ private slots:
         QCOMPARE(mapping->path, shop.path("My Sims/плагин"));
     }
 
-    // Fifty megabytes of short ones, written closer than the program does, become so many.
+    // Fifty megabytes of short records without indentation become eighty when indented.
     void keepsEightyMegabytesOfRecords()
     {
         Workshop shop;

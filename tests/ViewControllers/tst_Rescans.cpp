@@ -24,7 +24,7 @@ namespace {
 
 constexpr int scans = 1000;
 
-/// The bytes that the process has allocated; 0 where nobody counts them.
+/// The bytes that the process has allocated; 0 if the system does not count them.
 size_t allocatedBytes()
 {
 #if defined(__GLIBC__) && (__GLIBC__ > 2 || __GLIBC_MINOR__ >= 33)
@@ -34,10 +34,10 @@ size_t allocatedBytes()
 #endif
 }
 
-/// What each of a thousand rounds of @p work leaves allocated, in bytes.
+/// The bytes that each of a thousand rounds of @p work leaves allocated, on average.
 double growthOf(const std::function<void()> &work)
 {
-    // The first rounds fill the toolkit's caches.
+    // The first rounds fill Qt's caches.
     for (int i = 0; i < 20; ++i)
         work();
     const size_t before = allocatedBytes();
@@ -48,8 +48,8 @@ double growthOf(const std::function<void()> &work)
 
 } // namespace
 
-/// Nothing is deleted between scans, as a row or a box may hold a mapping of an earlier one. What
-/// a scan adds is its entries with their mappings, and no more than these.
+/// Nothing is deleted between scans, since a row or a box may hold a mapping from an earlier one. A
+/// scan adds only its entries with their mappings.
 class TestRescans : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ private slots:
 
     void initTestCase()
     {
-        // A log that is kept would count as growth.
+        // The captured log would count as growth.
         m_shop.controller();
         m_handler
             = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
@@ -67,7 +67,7 @@ private slots:
 
     void cleanupTestCase() { qInstallMessageHandler(m_handler); }
 
-    void addNothingButTheFreshModels()
+    void addOnlyTheNewModels()
     {
         if (allocatedBytes() == 0)
             QSKIP("nobody counts the allocated bytes here");
@@ -80,11 +80,11 @@ private slots:
                                    .arg(growth, 0, 'f', 0)
                                    .arg(models, 0, 'f', 0);
         fprintf(stderr, "%s\n", qPrintable(report));
-        // The same objects take up a little more or less, depending on what lay there before.
+        // The allocator's overhead for the same objects varies a little.
         QVERIFY2(growth < models * 1.15, qPrintable(report));
     }
 
-    void keepOneRowAnEntry()
+    void keepOneRowPerEntry()
     {
         rescan();
         const int widgets = QApplication::allWidgets().size();
@@ -96,7 +96,7 @@ private:
     void rescan()
     {
         m_shop.controller().startScan(true, false, ScanController::ModeNone);
-        // The list lets go of its old rows when the event loop is next idle.
+        // The list deletes its old rows with the next deferred-delete events.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

@@ -13,7 +13,7 @@
 
 using Quillmont::Utility::Widgets::showInformation;
 
-// Without what breaks lines.
+// The text without spaces and line ends.
 static QString bare(const QString &text)
 {
     return QString(text).remove(u'\r').remove(u'\n');
@@ -25,7 +25,7 @@ class TestResultBox : public QObject
 
 private slots:
 
-    void saysWhatItIsTold()
+    void showsItsTitleAndText()
     {
         const QString text
             = QStringLiteral("One line %1.\r\n\r\n'/sims/<b>x</b>'\r\n").repeated(50);
@@ -34,11 +34,11 @@ private slots:
         QCOMPARE(answerer.boxes().size(), 1);
         QCOMPARE(answerer.boxes().constFirst().title, QStringLiteral("Title"));
         QCOMPARE(answerer.boxes().constFirst().text, text);
-        // Paths stand behind the first line, where the toolkit looks for no markup.
+        // Paths are after the first line, where Qt does not look for markup.
         QVERIFY(!Qt::mightBeRichText(text));
     }
 
-    void saysEveryLineOfMany()
+    void showsEveryLineOfALongText()
     {
         const QString text
             = QStringLiteral("Unable to copy '/sims/a' to '/sims/b'.\r\n").repeated(2000);
@@ -61,7 +61,7 @@ private slots:
             << true;
         QTest::newRow("one line of many words")
             << QStringLiteral("Simulator ").repeated(1000) << true;
-        QTest::newRow("one line without a blank")
+        QTest::newRow("one line without a space")
             << QStringLiteral("Unable to copy '%1'.").arg(QString(200000, u'p')) << true;
         QTest::newRow("forty million characters")
             << QStringLiteral("a/").repeated(20 * 1024 * 1024) << true;

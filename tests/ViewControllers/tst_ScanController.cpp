@@ -38,7 +38,7 @@ public:
 
 } // namespace
 
-/// What the controller is from its start on, and how it serves its window.
+/// The controller's state after its start, and how it handles its window's requests.
 class TestScanController : public QObject
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ private slots:
         QCOMPARE(shop.rowPaths(), QStringList(QString()));
     }
 
-    void belongsToItsParentAndItsWindowToTheParentWidget()
+    void isOwnedByItsParentAndItsWindowByTheParentWidget()
     {
         const Workshop shop;
         QWidget parentWidget;
@@ -86,7 +86,7 @@ private slots:
         QCOMPARE(controller->view->parentWidget(), &parentWidget);
     }
 
-    void takesItsMappingsWithItButNotItsWindow()
+    void deletesItsMappingsButNotItsWindow()
     {
         const SimulatorShop shop;
         auto controller = std::make_unique<ScanController>(nullptr, nullptr);
@@ -110,7 +110,7 @@ private slots:
         QCOMPARE(readFile(shop.path("A/p/x")), QByteArray("new"));
     }
 
-    void installsTellsAndScansWhenTheWindowAsks()
+    void installsScansAndShowsTheResultOnRequest()
     {
         SimulatorShop shop;
         emit shop.view()->install(shop.simulatorInItsFolder());
@@ -120,7 +120,7 @@ private slots:
         QVERIFY(shop.controller().mappings.isEmpty());
     }
 
-    void uninstallsTellsAndScansWhenTheWindowAsks()
+    void uninstallsScansAndShowsTheResultOnRequest()
     {
         SimulatorShop shop;
         writeFile(shop.path("A/p/x"), "old");
@@ -131,9 +131,9 @@ private slots:
         QVERIFY(shop.controller().mappings.isEmpty());
     }
 
-    // Seen by a request from another thread: the catalogue is a pipe, and somebody reads from it
-    // while this thread handles no events.
-    void servesARequestAtOnceWhereItIsMade()
+    // Requested from another thread while this one handles no events; the catalogue is a pipe,
+    // which shows that it is being read.
+    void handlesARequestSynchronously()
     {
         Workshop shop;
         auto *view = shop.controller().view;
@@ -153,7 +153,7 @@ private slots:
         QVERIFY(writer >= 0);
     }
 
-    void makesQtWarnOfNothingInADayOfWork()
+    void causesNoQtWarningInADayOfWork()
     {
         SimulatorShop shop;
         auto *mapping = shop.simulatorInItsFolder();

@@ -24,7 +24,7 @@ void scanForTheWindow(Workshop &shop)
     shop.controller().startScan(true, false, ScanController::ModeNone);
 }
 
-// What the window shows: names and folders, with "$ROOT" for the sandbox's.
+// The names and folders in the window, with "$ROOT" for the sandbox's folder.
 QString rows(Workshop &shop)
 {
     const QStringList names = shop.rowNames();
@@ -51,7 +51,7 @@ private slots:
         QCOMPARE(shop.controller().getJsonContent(), "[ ]\r\n\t\"Спутник\" 日\n"_s);
     }
 
-    void readsACatalogueThatCannotBeOpenedAsNothing()
+    void readsAnUnreadableCatalogueAsEmpty()
     {
         Workshop shop;
         QCOMPARE(shop.controller().getJsonContent(), QString());
@@ -61,7 +61,7 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList());
     }
 
-    void leavesEverythingAsItWasWithoutACatalogue()
+    void changesNothingWithoutACatalogue()
     {
         for (const bool isMissing : {true, false}) {
             Workshop shop;
@@ -92,7 +92,7 @@ private slots:
         }
     }
 
-    // On a computer with an X-Plane 12, which the detection library knows, and a folder "own".
+    // On a computer with an X-Plane 12, which the detection library finds, and a folder "own".
     void showsTheCataloguesEntries_data()
     {
         QTest::addColumn<QByteArray>("catalogue");
@@ -119,14 +119,14 @@ private slots:
                 {"name": "b", "location": 1, "path": "$ROOT/own", "config": null,
                     "conflict": {"name": "x"}}])",
             "b=$ROOT/own|a=");
-        row("behind a byte-order mark", "\xef\xbb\xbf[{\"name\": \"One\"}]", "One=");
-        row("not of an object", R"({"name": "One"})", "");
-        row("not of a list that is cut off", R"([{"name": "One"}, {"name":)", "");
-        row("not of a list with text behind it", R"([{"name": "One"}] x)", "");
-        row("not of what is no JSON", "simulators:\n- One\n", "");
-        row("not of a blank", " ", "");
-        row("not of binary data", QByteArray("\x00\x01\xff\xfe", 4), "");
-        row("not of lists nested too deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), "");
+        row("after a byte-order mark", "\xef\xbb\xbf[{\"name\": \"One\"}]", "One=");
+        row("none of an object", R"({"name": "One"})", "");
+        row("none of a truncated list", R"([{"name": "One"}, {"name":)", "");
+        row("none of a list with trailing text", R"([{"name": "One"}] x)", "");
+        row("none of a text that is not JSON", "simulators:\n- One\n", "");
+        row("none of a space", " ", "");
+        row("none of binary data", QByteArray("\x00\x01\xff\xfe", 4), "");
+        row("none of lists nested too deeply", QByteArray(5000, '[') + QByteArray(5000, ']'), "");
     }
 
     void showsTheCataloguesEntries()
@@ -149,7 +149,7 @@ private slots:
         }
     }
 
-    void asksAtEachScanWhatIsThere()
+    void detectsSimulatorsAnewInEachScan()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
@@ -163,7 +163,7 @@ private slots:
         QCOMPARE(rows(shop), "Two=$ROOT/X-Plane 12|Three=|One="_s);
     }
 
-    void clearsWhatAKilledRunLeftBesideAConfiguration()
+    void removesUnfinishedFilesBesideAConfiguration()
     {
         Workshop shop;
         const QString left = shop.dataPath("Maker/dll.xml_quillmont_unfinished");
@@ -182,7 +182,7 @@ private slots:
                  "Scanning multiple locations... Scanning folders... Scanning files..."_s);
     }
 
-    void leavesTheMappingsAloneInAScanForTheWindow()
+    void keepsTheMappingsInAScanForTheWindow()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
@@ -197,7 +197,7 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
-    void leavesTheWindowAloneInTheButtonsScan()
+    void keepsTheWindowInTheButtonsScan()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);
@@ -209,7 +209,7 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList(allInstalledBox()));
     }
 
-    // The button's scan scans again after each installation, and only then the window changes.
+    // The button's scan scans again after each installation; only these scans change the window.
     void installsInTheButtonsScanAndInEverySilentOne_data()
     {
         QTest::addColumn<int>("mode");
@@ -269,7 +269,7 @@ private slots:
         QCOMPARE(first.count(nullptr), 3);
     }
 
-    void tellsTheWindowWhetherToTakeUpChosenFoldersAndToBeQuiet()
+    void passesTheFlagsToTheWindow()
     {
         for (const bool updateDefault : {true, false}) {
             Workshop shop;
@@ -283,7 +283,7 @@ private slots:
         }
     }
 
-    void takesWrongTypesForDefaults()
+    void readsWrongTypesAsDefaults()
     {
         Workshop shop;
         shop.writePayload("x", "x");
@@ -320,10 +320,10 @@ private slots:
         QCOMPARE(mappings.constLast()->scan->name, "Simulator 0"_s);
     }
 
-    void hasTheBusyPointerUpWhileItWorks()
+    void showsTheBusyPointerWhileItWorks()
     {
         Workshop shop;
-        // A removal that fails opens a box in the midst of the scan.
+        // A removal that fails opens a box during the scan.
         writeFile(shop.path("A/x/inside"), "precious");
         shop.writeCatalogue(R"([{"location": 1, "path": "$ROOT/A", "type": 1,
             "files": [{"destination": "x"}, {"destination": "y"}]}])");
@@ -344,7 +344,7 @@ private slots:
         QVERIFY(!QApplication::overrideCursor());
     }
 
-    void makesQtWarnOfNothing()
+    void causesNoQtWarning()
     {
         Workshop shop;
         shop.writeCatalogue(threeSimulators);

@@ -60,12 +60,12 @@ private slots:
 #endif
     }
 
-    void editsTheFileInThePrefixAndNothingElse_data()
+    void editsOnlyTheFileInThePrefix_data()
     {
         QTest::addColumn<QByteArray>("steam"); // the root of Steam, in the sandbox
-        QTest::addColumn<QByteArray>("dataRoot"); // where the data root really is
+        QTest::addColumn<QByteArray>("dataRoot"); // the data root's real path
         QTest::addColumn<bool>("isLink"); // or $XDG_DATA_HOME
-        QTest::addColumn<QString>("way"); // where it does not matter how it is written, empty
+        QTest::addColumn<QString>("way"); // the expected relative path; empty if any will do
         const QByteArray usual = "home/.local/share";
         const auto row = [](const char *name,
                             const QByteArray &steam,
@@ -79,31 +79,27 @@ private slots:
             usual,
             false,
             "Steam/steamapps/compatdata/4711/pfx/drive_c/Roaming/launch.xml");
-        row("beside it", "home/.steam/debian-installation", usual, false, "");
+        row("beside the data root", "home/.steam/debian-installation", usual, false, "");
         row("the data root is elsewhere", "home/.steam/root", "far/away/and/deep", false, "");
-        row("the data root is elsewhere, and holds it",
+        row("the data root is elsewhere, and contains it",
             "far/share/Steam",
             "far/share",
             false,
             "Steam/steamapps/compatdata/4711/pfx/drive_c/Roaming/launch.xml");
-        row("the data root is a link to a place that is not as deep",
-            "home/.steam/root",
-            "share",
-            true,
-            "");
-        row("the data root is a link to a deeper place",
+        row("the data root is a link to a folder less deep", "home/.steam/root", "share", true, "");
+        row("the data root is a link to a deeper folder",
             "home/.steam/root",
             "far/away/and/much/deeper/than/that/share",
             true,
             "");
-        row("the data root is a link, and holds it",
+        row("the data root is a link, and contains it",
             "share/Steam",
             "share",
             true,
             "Steam/steamapps/compatdata/4711/pfx/drive_c/Roaming/launch.xml");
     }
 
-    void editsTheFileInThePrefixAndNothingElse()
+    void editsOnlyTheFileInThePrefix()
     {
         QFETCH(QByteArray, steam);
         QFETCH(QByteArray, dataRoot);
@@ -125,7 +121,7 @@ private slots:
             QCOMPARE(mapping->scan->config->path, way);
         const QString file = shop.path(steam + prefix + "/drive_c/Roaming/launch.xml");
         QVERIFY(readFile(file).contains("Quillmont Orbwell"));
-        // The way from the data root as the system takes it.
+        // The path from the data root, as the system resolves it.
         QVERIFY(QFile::exists(userDataRoot() + mapping->scan->config->path));
         auto after = before;
         const QString inside = QString::fromLatin1(steam + prefix);
@@ -141,7 +137,7 @@ private slots:
         QVERIFY(shop.backups().constFirst().startsWith(file));
     }
 
-    void takesTheFileThatIsThereInOtherLetterCase()
+    void usesAnExistingFileInOtherLetterCase()
     {
         Workshop shop;
         prepare(shop, "home/.steam/root");
@@ -155,7 +151,7 @@ private slots:
             paths(shop.disk()).filter(QRegularExpression(QStringLiteral("(?i)\\.xml$"))).size(), 1);
     }
 
-    void passesOverLeftoversInOtherLetterCase_data()
+    void ignoresLeftoversInOtherLetterCase_data()
     {
         QTest::addColumn<QByteArray>("steam");
         QTest::addColumn<QByteArray>("leftover");
@@ -167,8 +163,8 @@ private slots:
         }
     }
 
-    // As Wine does it: of each folder's names the exact one, with or without the file in it.
-    void passesOverLeftoversInOtherLetterCase()
+    // As Wine does it: an exact folder name has priority, even if the file is not in it.
+    void ignoresLeftoversInOtherLetterCase()
     {
         QFETCH(QByteArray, steam);
         QFETCH(QByteArray, leftover);
@@ -185,15 +181,15 @@ private slots:
         QCOMPARE(readFile(other), document);
     }
 
-    void withoutAPrefixOnlyFilesAreCopied_data()
+    void copiesOnlyFilesWithoutAPrefix_data()
     {
         QTest::addColumn<QByteArray>("game");
-        QTest::newRow("the game has none") << QByteArray("4712");
-        QTest::newRow("the game's number is a text") << QByteArray("\"4711\"");
-        QTest::newRow("the game's number is none of Steam's") << QByteArray("-4711");
+        QTest::newRow("the game has no prefix") << QByteArray("4712");
+        QTest::newRow("the app id is a string") << QByteArray("\"4711\"");
+        QTest::newRow("the app id is invalid") << QByteArray("-4711");
     }
 
-    void withoutAPrefixOnlyFilesAreCopied()
+    void copiesOnlyFilesWithoutAPrefix()
     {
         QFETCH(QByteArray, game);
         Workshop shop;
@@ -210,7 +206,7 @@ private slots:
         auto *mapping = shop.controller().mappings.constFirst();
         disk.insert(QStringLiteral("Kestrel/x"), {});
         disk.insert(QStringLiteral("Kestrel/y"), {});
-        disk.remove(QStringLiteral("home/extra")); // cleared before it is installed
+        disk.remove(QStringLiteral("home/extra")); // removed before the installation
         QCOMPARE(paths(shop.disk()), paths(disk));
         QCOMPARE(shop.record().size(), 1);
         QCOMPARE(mapping->scan->config->path, QString());
@@ -231,7 +227,7 @@ private slots:
         QVERIFY(!shop.log.hasDebugLineWith(QStringLiteral("file backups")));
     }
 
-    void aPrefixIsLookedForAtEachScanAndNotMadeAnew()
+    void isSearchedInEachScanAndNeverCreated()
     {
         Workshop shop;
         prepare(shop, "home/.local/share/Steam");
@@ -249,7 +245,7 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("home/.steam/root")));
     }
 
-    void aDataRootNeedNotEndInASlash()
+    void toleratesADataRootWithoutATrailingSlash()
     {
         const QString usual = QGuiApplication::applicationDisplayName();
         QGuiApplication::setApplicationDisplayName(QStringLiteral("no folder's name"));
@@ -263,7 +259,7 @@ private slots:
                     .contains("Quillmont Orbwell"));
     }
 
-    void withoutAPathThereIsNoFileInThePrefix()
+    void hasNoFileWithoutAPath()
     {
         Workshop shop;
         prepare(shop, "home/.steam/root");
@@ -272,8 +268,8 @@ private slots:
         QVERIFY(!shop.log.hasDebugLineWith(QStringLiteral("hit reg search")));
     }
 
-    // Here a folder in other letter case is another folder.
-    void aFileInAnotherPrefixIsNotTaken()
+    // On this file system, a folder in other letter case is another folder.
+    void usesNoFileInAnotherPrefix()
     {
         Workshop shop;
         prepare(shop, "home/.local/share/Steam");
@@ -285,7 +281,7 @@ private slots:
         QCOMPARE(readFile(shop.dataPath("STEAM" + file)), foreign);
     }
 
-    void aPrefixIsKnownForAFolderThatIsChosenLater()
+    void isKnownForAFolderChosenLater()
     {
         Workshop shop;
         prepare(shop, "home/.steam/root");
@@ -300,14 +296,14 @@ private slots:
                     .contains("Quillmont Orbwell"));
     }
 
-    void aSolutionIsRelativeToTheDataRoot_data()
+    void resolvesASolutionAgainstTheDataRoot_data()
     {
         QTest::addColumn<QByteArray>("steam");
         QTest::newRow("with a prefix") << QByteArray("home/.steam/root");
-        QTest::newRow("without one") << QByteArray("elsewhere");
+        QTest::newRow("without a prefix") << QByteArray("elsewhere");
     }
 
-    void aSolutionIsRelativeToTheDataRoot()
+    void resolvesASolutionAgainstTheDataRoot()
     {
         QFETCH(QByteArray, steam);
         Workshop shop;

@@ -19,14 +19,14 @@
 using Tests::Workshop;
 using Tests::writeFile;
 
-// The modes that files have been given by their names.
+// The modes that were set by path.
 static QVector<unsigned> s_modes;
 
-// How often the disk can still be read; below zero as often as one likes.
+// How many more reads succeed; unlimited if negative.
 static int s_reads = -1;
 
 #ifdef Q_OS_LINUX
-// Both stand in front of the C library's.
+// Both replace the C library's functions.
 extern "C" ssize_t read(int handle, void *bytes, size_t size)
 {
     errno = EIO;
@@ -81,14 +81,14 @@ private slots:
         QVERIFY(shop.controller().m_errorMessage.isEmpty());
     }
 
-    void knowsAByteOrderMark()
+    void recognisesAByteOrderMark()
     {
         Workshop shop;
         writeFile(shop.path("utf16"), QByteArray("\xff\xfe\x61\x00\x62\x00", 6));
         QCOMPARE(shop.controller().readFile(shop.path("utf16")), QStringLiteral("ab"));
     }
 
-    void readsAnEmptyFileWithoutAWord()
+    void readsAnEmptyFileSilently()
     {
         Workshop shop;
         writeFile(shop.path("empty"), {});
@@ -111,7 +111,7 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
-    void savesMakingMissingFolders()
+    void createsMissingFolders()
     {
         Workshop shop;
         const QString file = shop.path("a/b c/d/file.txt");
@@ -120,10 +120,10 @@ private slots:
         QVERIFY(shop.controller().m_errorMessage.isEmpty());
     }
 
-    void writesALongTextWithoutALossAtAnyPlace()
+    void writesALongTextCompletely()
     {
         Workshop shop;
-        // One character more in front moves the pairs over every possible joint.
+        // With one more character at the front, surrogate pairs cross every buffer boundary.
         for (const QString &begin : {QString(), QStringLiteral("-")}) {
             const QString text = begin + QStringLiteral(u"😀").repeated(20000);
             shop.controller().saveFile(shop.path("long"), text);
@@ -131,7 +131,7 @@ private slots:
         }
     }
 
-    void leavesNoTailOfALongerText()
+    void truncatesALongerText()
     {
         Workshop shop;
         writeFile(shop.path("file"), QByteArray(5000, 'x'));
@@ -164,17 +164,17 @@ private slots:
         QCOMPARE(Tests::readFile(shop.path("file")), QByteArray("\xfc?"));
     }
 
-    void keepsTheOldTextWhereTheNewOneFindsNoRoom_data()
+    void keepsTheOldTextOnAFullDisk_data()
     {
         QTest::addColumn<QByteArray>("before");
         QTest::addColumn<bool>("hasTwoNames");
         QTest::newRow("a text") << QByteArray("old") << false;
         QTest::newRow("a text under two names") << QByteArray("old") << true;
-        QTest::newRow("none") << QByteArray() << false;
+        QTest::newRow("no old text") << QByteArray() << false;
     }
 
-    // What was not there is there now, and empty.
-    void keepsTheOldTextWhereTheNewOneFindsNoRoom()
+    // A file that did not exist is now empty.
+    void keepsTheOldTextOnAFullDisk()
     {
         QFETCH(QByteArray, before);
         QFETCH(bool, hasTwoNames);
@@ -212,7 +212,7 @@ private slots:
                  (QMap<QString, QByteArray>{{QStringLiteral("file"), "new"}}));
     }
 
-    void waitsForNobodyAtAPipe()
+    void doesNotBlockOnAPipe()
     {
         Workshop shop;
         const QString pipe = shop.path("pipe");
@@ -222,7 +222,7 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(pipe) + unableToWriteLine(pipe));
     }
 
-    void readsNothingOfWhatIsReadInPart()
+    void readsNothingFromAPartlyReadableFile()
     {
         Workshop shop;
         const QString file = shop.path("file");
@@ -238,7 +238,7 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(file));
     }
 
-    void readsNothingThatHasNoEnd()
+    void readsNoFileThatNeverEnds()
     {
         const QString endless = QStringLiteral("/proc/self/pagemap");
         if (!QFile::exists(endless))
@@ -250,27 +250,27 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isEmptyLine(link));
     }
 
-    void readsNothingThatIsTooBig_data()
+    void readsNothingTooLarge_data()
     {
         QTest::addColumn<qint64>("size");
         QTest::addColumn<bool>("isRead");
         constexpr qint64 bound = 96LL * 1024 * 1024;
-        QTest::newRow("the biggest") << bound << true;
-        QTest::newRow("one byte more") << bound + 1 << false;
+        QTest::newRow("maximum size") << bound << true;
+        QTest::newRow("one byte larger") << bound + 1 << false;
         QTest::newRow("a gigabyte") << 1024LL * 1024 * 1024 << false;
     }
 
-    void writesNothingThatIsTooBigToRead_data()
+    void writesNothingTooLargeToRead_data()
     {
         QTest::addColumn<int>("characters");
         QTest::addColumn<bool>("isWritten");
         constexpr int bound = 96 * 1024 * 1024 / 2;
-        QTest::newRow("the biggest") << bound << true;
-        QTest::newRow("one character more") << bound + 1 << false;
+        QTest::newRow("maximum size") << bound << true;
+        QTest::newRow("one character larger") << bound + 1 << false;
     }
 
-    // Each character is of two bytes.
-    void writesNothingThatIsTooBigToRead()
+    // Each character takes two bytes.
+    void writesNothingTooLargeToRead()
     {
         QFETCH(int, characters);
         QFETCH(bool, isWritten);
@@ -282,8 +282,8 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, isWritten ? QString() : unableToWriteLine(file));
     }
 
-    // It takes no room on the disk.
-    void readsNothingThatIsTooBig()
+    // The file is sparse.
+    void readsNothingTooLarge()
     {
         QFETCH(qint64, size);
         QFETCH(bool, isRead);
@@ -308,7 +308,7 @@ private slots:
         QFETCH(bool, install);
         QFETCH(QString, occasion);
         Workshop shop;
-        // Far from Greenwich, where local time cannot be mistaken.
+        // A time zone far from UTC, so that local time is recognised.
         shop.sandbox.setVariable("TZ", "XYZ-11:30");
         const QString file = shop.dataPath("Vendor/dll.xml");
         writeFile(file, "not XML, \xff\r\n");
@@ -330,7 +330,7 @@ private slots:
                  1);
     }
 
-    void letsNobodyElseAtABackup_data()
+    void keepsABackupPrivateWhileCopying_data()
     {
         QTest::addColumn<unsigned>("mode");
         QTest::addColumn<QByteArray>("list");
@@ -339,7 +339,7 @@ private slots:
         QTest::newRow("a user who may only read") << 0640U << Tests::accessList(04, 0, 04, 0);
     }
 
-    void letsNobodyElseAtABackup()
+    void keepsABackupPrivateWhileCopying()
     {
         QFETCH(unsigned, mode);
         QFETCH(QByteArray, list);
@@ -358,14 +358,14 @@ private slots:
         }
         const QString backup = shop.backups().constFirst();
         QCOMPARE(Tests::modeOf(backup), mode);
-        // Nor for the moment before it has the list.
+        // Not even before the access list is set.
         if (!s_modes.isEmpty())
             QCOMPARE(s_modes, QVector<unsigned>{0600});
         QCOMPARE(Tests::attribute(backup, Tests::accessListName), list);
         QCOMPARE(Tests::attribute(backup, "user.note"), QByteArray(hasNote ? "mine" : ""));
     }
 
-    // Whoever runs the program cannot give the backup the file's group.
+    // The user cannot give the backup the file's group.
     void givesAnotherGroupNoMoreRightsToABackup()
     {
         Workshop shop;
@@ -383,9 +383,9 @@ private slots:
         QCOMPARE(Tests::modeOf(shop.backups().constFirst()), 0644U);
     }
 
-    void neverOverwritesABackupAndGoesOn_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
+    void neverOverwritesABackupAndContinues_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
 
-    void neverOverwritesABackupAndGoesOn()
+    void neverOverwritesABackupAndContinues()
     {
         QFETCH(bool, install);
         QFETCH(QString, occasion);
@@ -412,9 +412,9 @@ private slots:
         QVERIFY(shop.boxes().isEmpty());
     }
 
-    void doesNotBackUpWhatIsNoFile_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
+    void backsUpOnlyRegularFiles_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
 
-    void doesNotBackUpWhatIsNoFile()
+    void backsUpOnlyRegularFiles()
     {
         QFETCH(bool, install);
         Workshop shop;
@@ -429,9 +429,9 @@ private slots:
         QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
     }
 
-    void doesNotBackUpWhatIsNotThere_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
+    void doesNotBackUpAMissingFile_data() { backsUpBesideTheFileWithTheLocalTime_data(); }
 
-    void doesNotBackUpWhatIsNotThere()
+    void doesNotBackUpAMissingFile()
     {
         QFETCH(bool, install);
         Workshop shop;

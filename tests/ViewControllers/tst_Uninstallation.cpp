@@ -64,7 +64,7 @@ void writePlugin(const Workshop &shop)
     writeFile(shop.path("A/sim.exe"), "the simulator");
 }
 
-// A device is made like the empty one.
+// A device is created like /dev/null.
 bool makeNode(const QString &path, uint type)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -83,7 +83,7 @@ class TestUninstallation : public QObject
 
 private slots:
 
-    void withoutAFolderNothingHappens()
+    void doesNothingWithoutAFolder()
     {
         Workshop shop;
         shop.writeCatalogue("[{}]");
@@ -98,20 +98,20 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
-    void removesTheFilesAndTheFoldersThatTheyLeaveEmpty()
+    void removesFilesAndEmptiedFolders()
     {
         Workshop shop;
         writePlugin(shop);
         auto *mapping = shop.mapping(plainSimulator, shop.path("A"));
         mapping->scan->name = QStringLiteral("Sim %1");
         QVERIFY(shop.controller().uninstall(mapping, false, false));
-        // Never the folders above the one that held the file.
+        // Folders above the file's own are never removed.
         QCOMPARE(treeOf(shop.path("A")).keys(),
                  QStringList({QStringLiteral("data/"), QStringLiteral("sim.exe")}));
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim %1"))));
     }
 
-    void keepsAFolderThatHoldsSomethingVisible_data()
+    void keepsAFolderWithVisibleContent_data()
     {
         QTest::addColumn<QString>("other");
         QTest::newRow("file") << "A/Modules/other.dll";
@@ -119,7 +119,7 @@ private slots:
         QTest::newRow("folder with a hidden file") << "A/Modules/folder/.hidden";
     }
 
-    void keepsAFolderThatHoldsSomethingVisible()
+    void keepsAFolderWithVisibleContent()
     {
         QFETCH(QString, other);
         Workshop shop;
@@ -142,7 +142,7 @@ private slots:
         QVERIFY(!after.contains(QStringLiteral("A/data/deep/")));
     }
 
-    void aFolderWithHiddenFilesOnlyGoesWithThem()
+    void removesAFolderWithOnlyHiddenFiles()
     {
         Workshop shop;
         writePlugin(shop);
@@ -153,7 +153,7 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("A/Modules")));
     }
 
-    void keepsAFolderIfItsListingShowsSomething_data()
+    void keepsAFolderIfAFileManagerShowsSomething_data()
     {
         QTest::addColumn<uint>("type");
         QTest::addColumn<QString>("link");
@@ -183,7 +183,7 @@ private slots:
             QTest::addRow("a link to %s", name) << 0U << target << x << false;
     }
 
-    void keepsAFolderIfItsListingShowsSomething()
+    void keepsAFolderIfAFileManagerShowsSomething()
     {
         QFETCH(uint, type);
         QFETCH(QString, link);
@@ -206,7 +206,7 @@ private slots:
         QCOMPARE(QFileInfo::exists(entry), shown);
     }
 
-    void keepsAFolderWithSomethingThatCannotBeLookedAt_data()
+    void keepsAFolderWithInaccessibleContent_data()
     {
         QTest::addColumn<QByteArray>("closed");
         QTest::addColumn<QByteArray>("name");
@@ -215,11 +215,11 @@ private slots:
         QTest::newRow("the folder itself") << QByteArray("A/Modules") << none << none;
         QTest::newRow("a link into another folder")
             << QByteArray("closed") << QByteArray("link") << QByteArray("../../closed/file");
-        QTest::newRow("a name that is no text")
+        QTest::newRow("a name that cannot be decoded")
             << QByteArray("closed") << QByteArray("\xE9") << QByteArray("../sim.exe");
     }
 
-    void keepsAFolderWithSomethingThatCannotBeLookedAt()
+    void keepsAFolderWithInaccessibleContent()
     {
         QFETCH(QByteArray, closed);
         QFETCH(QByteArray, name);
@@ -240,7 +240,7 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("A/Modules/one.dll")));
     }
 
-    void aMissingFileIsNoErrorAndItsEmptyFolderGoes()
+    void removesTheEmptyFolderOfAMissingFile()
     {
         Workshop shop;
         shop.folder("A/Modules");
@@ -252,7 +252,7 @@ private slots:
         QCOMPARE(shop.boxes(), QStringList(successBox(QStringLiteral("Sim A"))));
     }
 
-    void aFileInTheSimulatorsFolderTakesThatFolderAlong()
+    void removesTheSimulatorsFolderIfItBecomesEmpty()
     {
         Workshop shop;
         writeFile(shop.path("sims/A/one.dll"), "one");
@@ -263,7 +263,7 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("sims/A")));
     }
 
-    void aSimulatorThatIsGoneIsUninstalled()
+    void uninstallsFromADeletedSimulator()
     {
         Workshop shop;
         QVERIFY(shop.controller().uninstall(
@@ -272,7 +272,7 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("gone")));
     }
 
-    void aSimulatorFolderThatIsAFileIsLeftAlone()
+    void keepsAFileInPlaceOfTheSimulatorsFolder()
     {
         Workshop shop;
         writeFile(shop.path("A"), "a file");
@@ -287,14 +287,14 @@ private slots:
         QCOMPARE(shop.boxes().size(), 2);
     }
 
-    void namesEveryFileThatItCouldNotRemoveSilentOrNot_data()
+    void reportsEveryFileThatCannotBeRemovedEvenWhenSilent_data()
     {
         QTest::addColumn<bool>("silent");
         QTest::newRow("silent") << true;
         QTest::newRow("not silent") << false;
     }
 
-    void namesEveryFileThatItCouldNotRemoveSilentOrNot()
+    void reportsEveryFileThatCannotBeRemovedEvenWhenSilent()
     {
         QFETCH(bool, silent);
         Workshop shop;
@@ -315,7 +315,7 @@ private slots:
         QCOMPARE(treeOf(shop.path("A %1")), sim);
     }
 
-    void oneFailureDoesNotStopTheOthers()
+    void continuesAfterAFailure()
     {
         Workshop shop;
         writeFile(shop.path("A/a/one.dll/inside"), "precious");
@@ -328,7 +328,7 @@ private slots:
         QVERIFY(shop.record().isEmpty());
     }
 
-    void aFileInTheFoldersPlaceIsLeftAlone()
+    void keepsAFileInPlaceOfAFolder()
     {
         Workshop shop;
         writeFile(shop.path("A/Modules"), "precious");
@@ -337,7 +337,7 @@ private slots:
         QCOMPARE(readFile(shop.path("A/Modules")), QByteArray("precious"));
     }
 
-    void aLinkInTheFoldersPlaceIsNotFollowedToItsParent()
+    void doesNotRemoveTheParentOfALinkedFolder()
     {
         Workshop shop;
         writeFile(shop.path("elsewhere/other"), "precious");
@@ -348,7 +348,7 @@ private slots:
         QVERIFY(QFile::exists(shop.path("A/Modules")));
     }
 
-    void aFolderThatIsNotWritableIsNamed()
+    void reportsAFolderThatIsNotWritable()
     {
         Workshop shop;
         writePlugin(shop);
@@ -382,7 +382,7 @@ private slots:
         QVERIFY(!QFile::exists(shop.path("A/Modules")));
     }
 
-    void saysNothingOfASilentSuccess()
+    void showsNothingAfterASilentSuccess()
     {
         Workshop shop;
         writePlugin(shop);
@@ -391,7 +391,7 @@ private slots:
         QVERIFY(shop.boxes().isEmpty());
     }
 
-    void takesItsRecordOut()
+    void removesItsRecord()
     {
         Workshop shop;
         writePlugin(shop);
@@ -403,7 +403,7 @@ private slots:
                  QStringLiteral("Other"));
     }
 
-    void aRecordThatCannotBeReadIsAFailure()
+    void failsIfTheRecordCannotBeRead()
     {
         Workshop shop;
         writePlugin(shop);
@@ -414,7 +414,7 @@ private slots:
         QVERIFY(shop.boxes().constFirst().contains(QStringLiteral(".mapping' is empty.")));
     }
 
-    void takesTheEntryOutOfTheConfigurationAfterEachFile()
+    void editsTheConfigurationAfterEachFile()
     {
         Workshop shop;
         writeFile(shop.path("A/a/one.dll"), "one");
@@ -453,7 +453,7 @@ private slots:
         QCOMPARE(readFile(shop.backups().constFirst()), before);
     }
 
-    void anotherFamilyHasNoConfigurationToEdit()
+    void editsNoConfigurationOfAnotherFamily()
     {
         Workshop shop;
         writeFile(shop.dataPath("Vendor/dll.xml"), "<a></a>");
@@ -466,7 +466,7 @@ private slots:
         QVERIFY(shop.backups().isEmpty());
     }
 
-    void withoutAConfigurationEntryThereIsNothingToEdit()
+    void editsNothingWithoutAConfigurationEntry()
     {
         Workshop shop;
         auto *mapping = shop.mapping(plainSimulator, shop.folder("A"));
@@ -475,7 +475,7 @@ private slots:
         QVERIFY(shop.controller().findChildren<XmlHelper *>().isEmpty());
     }
 
-    void toleratesAMissingConfigurationAndMakesNone()
+    void doesNotCreateAMissingConfiguration()
     {
         Workshop shop;
         writeFile(shop.path("home/extra"), "ours");
@@ -488,7 +488,7 @@ private slots:
         QCOMPARE(shop.controller().findChildren<XmlHelper *>().size(), 1);
     }
 
-    void aConfigurationThatCannotBeEditedIsNoError_data()
+    void succeedsIfTheConfigurationCannotBeEdited_data()
     {
         QTest::addColumn<QString>("obstacle");
         QTest::newRow("not XML") << "<a><b></a>&";
@@ -496,7 +496,7 @@ private slots:
         QTest::newRow("folder") << "folder";
     }
 
-    void aConfigurationThatCannotBeEditedIsNoError()
+    void succeedsIfTheConfigurationCannotBeEdited()
     {
         QFETCH(QString, obstacle);
         Workshop shop;
@@ -513,7 +513,7 @@ private slots:
         QCOMPARE(shop.backups().size(), isFolder ? 0 : 1);
     }
 
-    void aReadOnlyConfigurationIsNoError()
+    void succeedsWithAReadOnlyConfiguration()
     {
         Workshop shop;
         const QString file = shop.dataPath("Vendor/dll.xml");
@@ -537,18 +537,18 @@ private slots:
               };
         const Workshop shop;
         const QString data = shop.sandbox.dataRoot().mid(shop.sandbox.root().size() + 1);
-        row("joined by a backslash", "-1", "x.cfg", QStringLiteral("A\\x.cfg"));
-        row("backslashes stay", "-1", "s\\\\x.cfg", QStringLiteral("A\\s\\x.cfg"));
+        row("joined with a backslash", "-1", "x.cfg", QStringLiteral("A\\x.cfg"));
+        row("backslashes are kept", "-1", "s\\\\x.cfg", QStringLiteral("A\\s\\x.cfg"));
         row("data root", "17", "V/x.cfg", data + QStringLiteral("V/x.cfg"));
         row("home", "8", "/x.cfg", QStringLiteral("home/x.cfg"));
-        row("home, glued", "8", "-x.cfg", QStringLiteral("home-x.cfg"));
+        row("home, without a separator", "8", "-x.cfg", QStringLiteral("home-x.cfg"));
         const auto last = userDataRoot(QStandardPaths::AppConfigLocation);
-        row("last of all",
+        row("highest number",
             "18",
             "/x.cfg",
             QDir::cleanPath(last + QStringLiteral("/x.cfg")).mid(shop.sandbox.root().size() + 1));
         row("desktop", "0", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
-        row("no number", "abc", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
+        row("not a number", "abc", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
         row("no root", "", "/x.cfg", QStringLiteral("home/Desktop/x.cfg"));
     }
 
@@ -567,7 +567,7 @@ private slots:
         QCOMPARE(shop.disk(), disk);
     }
 
-    void aRootThatIsNotExactlyMinusOneIsANumber()
+    void readsAnyRootExceptMinusOneAsANumber()
     {
         Workshop shop;
         writeFile(shop.path("A\\x.cfg"), "foreign");
@@ -580,7 +580,7 @@ private slots:
         QCOMPARE(readFile(shop.path("A\\x.cfg")), QByteArray("foreign"));
     }
 
-    void theRecordsFolderTakesThePlaceOfTheMappings()
+    void prefersTheRecordsFolderToTheMappings()
     {
         Workshop shop;
         writeFile(shop.path("A\\x.cfg"), "foreign");
@@ -611,14 +611,14 @@ private slots:
         QVERIFY(!QFileInfo(shop.path("home/dead")).isSymLink());
     }
 
-    void scansAgainBeforeItTells_data()
+    void scansAgainBeforeItShowsTheResult_data()
     {
         QTest::addColumn<bool>("removable");
         QTest::newRow("success") << true;
         QTest::newRow("failure") << false;
     }
 
-    void scansAgainBeforeItTells()
+    void scansAgainBeforeItShowsTheResult()
     {
         QFETCH(bool, removable);
         Workshop shop;
@@ -641,7 +641,7 @@ private slots:
                 recorded = shop.record().size();
         });
         QCOMPARE(shop.controller().uninstall(mapping, false, true), removable);
-        // A folder that the user picked stays picked.
+        // A folder that the user picked is kept.
         QCOMPARE(rows, QStringList(chosen));
         QCOMPARE(recorded, 0);
         QCOMPARE(lines.isEmpty(), removable);
@@ -650,7 +650,7 @@ private slots:
         QVERIFY(shop.controller().mappings.isEmpty());
     }
 
-    void aSilentScanInstallsAgainIntoWhatItFinds()
+    void installsAgainInASilentRescan()
     {
         Workshop shop;
         writeFile(shop.path("A/Modules/one.dll"), "old");
@@ -667,7 +667,7 @@ private slots:
         QVERIFY(shop.boxes().isEmpty());
     }
 
-    void scansOnlyWhenAsked()
+    void scansOnlyOnRequest()
     {
         Workshop shop;
         shop.writeCatalogue("[{}]");

@@ -1,5 +1,5 @@
-// Takes pictures of the window and of every box, for a person to look at: how they come out
-// depends on the screen, the palette, the letters and the direction of writing.
+// Takes pictures of the window and of every box for visual review, with different screens,
+// palettes, fonts and writing directions.
 
 #include "Views/ScannerView.h"
 #include "Widgets/ResultBox.h"
@@ -54,7 +54,7 @@ QPalette darkPalette()
     return palette;
 }
 
-/// The pictures' folder, and how many there are.
+/// The pictures' folder and number.
 class Album
 {
 public:
@@ -78,7 +78,7 @@ private:
     int m_count = 0;
 };
 
-/// Goes through all that the program shows.
+/// Shows everything that the program can show.
 class Photographer
 {
 public:
@@ -248,7 +248,7 @@ void Photographer::photographScanning()
     m_name = QStringLiteral("box-scan-nothing");
     controller.autoInstall({}, false, automatic);
 
-    // A run of its own ends with it, and the process with the run.
+    // Last of all: this run ends the process.
     m_name = QStringLiteral("box-repaired");
     showInformation(QStringLiteral("Plugins updated"),
                     QStringLiteral("Quillmont Orbwell has updated plugins on your computer.\r\n\r\n"

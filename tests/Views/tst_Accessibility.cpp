@@ -58,7 +58,7 @@ QStringList walk(QAccessibleInterface *top)
 
 } // namespace
 
-// What the window is to somebody who does not see it.
+// The window as a screen reader presents it.
 class TestAccessibility : public QObject
 {
     Q_OBJECT
@@ -69,13 +69,13 @@ private slots:
 
     void namesEverythingInTheWindow();
     void namesEverythingInABox();
-    void leadsUpAsItLeadsDown();
+    void hasTheSameParentsAsChildren();
     void knowsTheCurrentRow();
-    void saysTheStateInWords_data();
-    void saysTheStateInWords();
-    void saysTheStateOfAChosenFolder();
+    void describesTheStateInWords_data();
+    void describesTheStateInWords();
+    void describesTheStateOfAChosenFolder();
     void pressesAButtonWithoutWaitingForTheWork();
-    void pressesNoButtonThatIsOff();
+    void pressesNoDisabledButton();
     void pressesNothingBehindADialog_data();
     void pressesNothingBehindADialog();
     void pressesNoButtonBehindADialog();
@@ -162,7 +162,7 @@ void TestAccessibility::namesEverythingInABox()
     QVERIFY(seen.contains(QStringLiteral("Button: OK")));
 }
 
-void TestAccessibility::leadsUpAsItLeadsDown()
+void TestAccessibility::hasTheSameParentsAsChildren()
 {
     m_view->setScanResult(
         {mapping(QStringLiteral("A"), QString()), mapping(QStringLiteral("B"), QString())},
@@ -202,7 +202,7 @@ void TestAccessibility::knowsTheCurrentRow()
     QVERIFY(!list->child(1)->state().focused);
 }
 
-void TestAccessibility::saysTheStateInWords_data()
+void TestAccessibility::describesTheStateInWords_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("words");
@@ -210,12 +210,12 @@ void TestAccessibility::saysTheStateInWords_data()
     QTest::newRow("installed") << installed << QStringLiteral("Orbwell is installed");
     QTest::newRow("not installed")
         << m_sandbox.root() << QStringLiteral("Orbwell is not installed");
-    QTest::newRow("gone") << m_sandbox.path(QStringLiteral("gone"))
-                          << QStringLiteral("Folder not found");
+    QTest::newRow("deleted folder")
+        << m_sandbox.path(QStringLiteral("gone")) << QStringLiteral("Folder not found");
     QTest::newRow("never set") << QString() << QStringLiteral("Folder not known");
 }
 
-void TestAccessibility::saysTheStateInWords()
+void TestAccessibility::describesTheStateInWords()
 {
     QFETCH(QString, path);
     QFETCH(QString, words);
@@ -229,7 +229,7 @@ void TestAccessibility::saysTheStateInWords()
     QCOMPARE(accessible(parts.path)->text(QAccessible::Value), path);
 }
 
-void TestAccessibility::saysTheStateOfAChosenFolder()
+void TestAccessibility::describesTheStateOfAChosenFolder()
 {
     Tests::writeFile(m_sandbox.path(QStringLiteral("installed/orbwell.dll")), "x");
     m_view->setScanResult({mapping(QStringLiteral("Skylark"), QString())}, false, true);
@@ -254,7 +254,7 @@ void TestAccessibility::pressesAButtonWithoutWaitingForTheWork()
     QVERIFY(row(0).action->hasFocus());
 }
 
-void TestAccessibility::pressesNoButtonThatIsOff()
+void TestAccessibility::pressesNoDisabledButton()
 {
     m_view->setScanResult({mapping(QStringLiteral("Skylark"), QString())}, false, true);
     auto *actions = accessible(row(0).action)->actionInterface();
@@ -283,7 +283,7 @@ void TestAccessibility::pressesNothingBehindADialog()
     const Tests::FolderPicker person({});
 
     QDialog dialog(m_view.get());
-    constexpr int leftOpen = 7; // closing the program would end it earlier, with none
+    constexpr int leftOpen = 7; // closing the program would end the loop earlier, with status 0
     QTimer::singleShot(0, &dialog, [&dialog, button] {
         const QSignalSpy clicked(button, &QAbstractButton::clicked);
         accessible(button)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -296,7 +296,7 @@ void TestAccessibility::pressesNothingBehindADialog()
     QCOMPARE(install.count() + scan.count() + person.pickers().size(), 0);
 }
 
-// One that has opened since it was asked to.
+// A dialog that has opened since the press was requested.
 void TestAccessibility::pressesNoButtonBehindADialog()
 {
     m_view->setScanResult({mapping(QStringLiteral("Skylark"), m_sandbox.root())}, false, true);
@@ -307,7 +307,7 @@ void TestAccessibility::pressesNoButtonBehindADialog()
     QSignalSpy scan(m_view.get(), &ScannerView::scanRequested);
     QDialog dialog(m_view.get());
     dialog.open();
-    // What closes the window would have the last word of the loop.
+    // Closing the window would end the loop.
     QEventLoop loop;
     QMetaObject::invokeMethod(
         &loop, [&loop] { loop.exit(7); }, Qt::QueuedConnection);
@@ -327,7 +327,7 @@ void TestAccessibility::showsAPathInTheToolTipAsItIs_data()
     QTest::newRow("long") << QStringLiteral("/very long folder").repeated(40);
     QTest::newRow("just short of wrapping") << QString(119, u'/');
     QTest::newRow("just long enough to wrap") << QString(120, u'/');
-    QTest::newRow("blanks") << QStringLiteral("/a   b").repeated(40);
+    QTest::newRow("repeated spaces") << QStringLiteral("/a   b").repeated(40);
 }
 
 void TestAccessibility::showsAPathInTheToolTipAsItIs()

@@ -24,7 +24,7 @@ using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Views::ScannerView;
 using Tests::RowParts;
 
-// The window for somebody without a mouse.
+// The window without a mouse.
 class TestKeyboard : public QObject
 {
     Q_OBJECT
@@ -36,25 +36,25 @@ private slots:
     void pressesEveryButtonByKey_data();
     void pressesEveryButtonByKey();
     void pressesAButtonThatIsOutOfSight();
-    void takesAKeyHeldDownForOnePress();
+    void treatsAKeyHeldDownAsOnePress();
     void actsOncePerPressHoweverLongTheKeyIsHeld_data();
     void actsOncePerPressHoweverLongTheKeyIsHeld();
-    void takesTheSecondClickOfADoubleClickInTheSameWindowOnly();
-    void tellsAPressFromARepeatByItsTime_data();
-    void tellsAPressFromARepeatByItsTime();
-    void clicksTwiceOnlyWhereTheFirstClickWas_data();
-    void clicksTwiceOnlyWhereTheFirstClickWas();
-    void leavesABoxByKey_data();
-    void leavesABoxByKey();
+    void acceptsADoubleClickOnlyInOneWindow();
+    void distinguishesAPressFromARepeatByItsTime_data();
+    void distinguishesAPressFromARepeatByItsTime();
+    void clicksTwiceOnlyInTheWindowOfTheFirstClick_data();
+    void clicksTwiceOnlyInTheWindowOfTheFirstClick();
+    void closesABoxByKey_data();
+    void closesABoxByKey();
     void bringsTheRowWithTheFocusIntoSight();
     void keepsTheFocusOnTheSameSimulator_data();
     void keepsTheFocusOnTheSameSimulator();
     void keepsTheFocusInTheRowOfAFolderThatIsGone();
-    void keepsTheFocusOnTheSecondOfOneName();
-    void leavesTheFocusOutsideTheListAlone();
-    void keepsTheListScrolled();
+    void keepsTheFocusOnTheSecondOfTwoWithOneName();
+    void keepsTheFocusOutsideTheList();
+    void keepsTheScrollPosition();
     void scrollsByARowPerNotchOfTheWheel();
-    void leadsFromTheLastRowToTheButtonsInAWindowOfMore();
+    void tabsFromTheLastRowToTheButtonsInALargerWindow();
 
 private:
     FlightSimulatorMapping *mapping(const QString &name, const QString &path);
@@ -138,7 +138,7 @@ void TestKeyboard::pressesEveryButtonByKey()
                                                   row(1).action,
                                                   button(QStringLiteral("Scan && Install")),
                                                   button(QStringLiteral("Close"))}) {
-        each->disconnect(); // what it does is another matter
+        each->disconnect(); // its action is tested elsewhere
         QSignalSpy clicked(each, &QAbstractButton::clicked);
         each->setFocus();
         QTest::keyClick(QApplication::focusWidget(), key);
@@ -165,8 +165,8 @@ static void send(QWidget *widget, QEvent::Type type, int key, ulong time, bool i
     QApplication::sendEvent(widget, &event);
 }
 
-// As a system repeats it that says so.
-void TestKeyboard::takesAKeyHeldDownForOnePress()
+// A repeat that the system marks as such.
+void TestKeyboard::treatsAKeyHeldDownAsOnePress()
 {
     showRows(numbered(1));
     QSignalSpy install(m_view.get(), &ScannerView::install);
@@ -177,7 +177,7 @@ void TestKeyboard::takesAKeyHeldDownForOnePress()
     QCOMPARE(install.count(), 1);
 }
 
-// As an X server repeats a key: both ends at one time, whether Qt notices or not.
+// Repeats a key like an X server: release and press at the same time, whether Qt marks it or not.
 static void repeat(QWidget *widget, int key, ulong *time, bool isMarked)
 {
     for (int i = 0; i < 20; ++i) {
@@ -211,7 +211,7 @@ void TestKeyboard::actsOncePerPressHoweverLongTheKeyIsHeld()
     QWidget *control
         = isRow ? static_cast<QWidget *>(row(0).action) : button(QStringLiteral("Scan && Install"));
     control->setFocus();
-    // These press a button when they are let go.
+    // These keys press a button when they are released.
     const bool isLetGo = key == Qt::Key_Space || key == Qt::Key_Select;
     ulong time = 1000;
     int started = 0;
@@ -258,7 +258,7 @@ static void doubleClick(QWidget *first, QWidget *second)
     }
 }
 
-void TestKeyboard::takesTheSecondClickOfADoubleClickInTheSameWindowOnly()
+void TestKeyboard::acceptsADoubleClickOnlyInOneWindow()
 {
     showRows(numbered(1));
     auto *scan = button(QStringLiteral("Scan && Install"));
@@ -274,18 +274,18 @@ void TestKeyboard::takesTheSecondClickOfADoubleClickInTheSameWindowOnly()
     QVERIFY(!box.isVisible());
 }
 
-void TestKeyboard::tellsAPressFromARepeatByItsTime_data()
+void TestKeyboard::distinguishesAPressFromARepeatByItsTime_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("later");
     QTest::addColumn<bool>("isPress");
     QTest::newRow("at once") << int(Qt::Key_Return) << 0 << false;
-    QTest::newRow("quicker than a finger") << int(Qt::Key_Return) << 2 << false;
-    QTest::newRow("as quick as a finger") << int(Qt::Key_Return) << 3 << true;
+    QTest::newRow("faster than a finger") << int(Qt::Key_Return) << 2 << false;
+    QTest::newRow("as fast as a finger") << int(Qt::Key_Return) << 3 << true;
     QTest::newRow("another key at once") << int(Qt::Key_Enter) << 0 << true;
 }
 
-void TestKeyboard::tellsAPressFromARepeatByItsTime()
+void TestKeyboard::distinguishesAPressFromARepeatByItsTime()
 {
     QFETCH(const int, key);
     QFETCH(const int, later);
@@ -300,17 +300,17 @@ void TestKeyboard::tellsAPressFromARepeatByItsTime()
     send(row(0).action, QEvent::KeyRelease, key, 3000);
 }
 
-void TestKeyboard::clicksTwiceOnlyWhereTheFirstClickWas_data()
+void TestKeyboard::clicksTwiceOnlyInTheWindowOfTheFirstClick_data()
 {
     QTest::addColumn<bool>("isSame");
     QTest::addColumn<Qt::WindowType>("type");
     QTest::addColumn<int>("clicks");
     QTest::newRow("in one window") << true << Qt::Window << 1;
-    QTest::newRow("in a window that came up") << false << Qt::Window << 0;
-    QTest::newRow("in a menu that came up") << false << Qt::Popup << 1;
+    QTest::newRow("in a window that has opened") << false << Qt::Window << 0;
+    QTest::newRow("in a menu that has opened") << false << Qt::Popup << 1;
 }
 
-void TestKeyboard::clicksTwiceOnlyWhereTheFirstClickWas()
+void TestKeyboard::clicksTwiceOnlyInTheWindowOfTheFirstClick()
 {
     QFETCH(const bool, isSame);
     QFETCH(const Qt::WindowType, type);
@@ -328,7 +328,7 @@ void TestKeyboard::clicksTwiceOnlyWhereTheFirstClickWas()
     QCOMPARE(clicked.count(), clicks);
 }
 
-void TestKeyboard::leavesABoxByKey_data()
+void TestKeyboard::closesABoxByKey_data()
 {
     QTest::addColumn<Qt::Key>("key");
     QTest::newRow("escape") << Qt::Key_Escape;
@@ -336,7 +336,7 @@ void TestKeyboard::leavesABoxByKey_data()
     QTest::newRow("space bar") << Qt::Key_Space;
 }
 
-void TestKeyboard::leavesABoxByKey()
+void TestKeyboard::closesABoxByKey()
 {
     QFETCH(Qt::Key, key);
     int boxes = 0;
@@ -368,7 +368,7 @@ void TestKeyboard::keepsTheFocusOnTheSameSimulator_data()
     QTest::newRow("installing") << QStringLiteral("action");
 }
 
-// All rows are new then.
+// All rows are replaced meanwhile.
 void TestKeyboard::keepsTheFocusOnTheSameSimulator()
 {
     QFETCH(QString, control);
@@ -398,7 +398,7 @@ void TestKeyboard::keepsTheFocusInTheRowOfAFolderThatIsGone()
     QCOMPARE(QApplication::focusWidget(), row(1).browse);
 }
 
-void TestKeyboard::keepsTheFocusOnTheSecondOfOneName()
+void TestKeyboard::keepsTheFocusOnTheSecondOfTwoWithOneName()
 {
     const QStringList names{QStringLiteral("Kestrel"), QStringLiteral("Kestrel")};
     showRows(names);
@@ -407,7 +407,7 @@ void TestKeyboard::keepsTheFocusOnTheSecondOfOneName()
     QVERIFY(row(1).action->hasFocus());
 }
 
-void TestKeyboard::leavesTheFocusOutsideTheListAlone()
+void TestKeyboard::keepsTheFocusOutsideTheList()
 {
     showRows(numbered(3));
     auto *scan = button(QStringLiteral("Scan && Install"));
@@ -416,7 +416,7 @@ void TestKeyboard::leavesTheFocusOutsideTheListAlone()
     QCOMPARE(QApplication::focusWidget(), scan);
 }
 
-void TestKeyboard::keepsTheListScrolled()
+void TestKeyboard::keepsTheScrollPosition()
 {
     showRows(numbered(50));
     QScrollBar *bar = m_list->verticalScrollBar();
@@ -440,7 +440,7 @@ void TestKeyboard::scrollsByARowPerNotchOfTheWheel()
     QCOMPARE(m_list->verticalScrollBar()->value(), 3 * 21); // of 64
 }
 
-void TestKeyboard::leadsFromTheLastRowToTheButtonsInAWindowOfMore()
+void TestKeyboard::tabsFromTheLastRowToTheButtonsInALargerWindow()
 {
     QWidget window;
     QLineEdit others(&window);

@@ -86,7 +86,7 @@ QStringList namesIn(const ScannerView &view)
 
 } // namespace
 
-// The settings keep the place that they were first used with, so all tests share one home.
+// The settings keep their first path, so all tests share one home.
 class TestScannerView : public QObject
 {
     Q_OBJECT
@@ -96,29 +96,29 @@ private slots:
     void cleanup();
 
     void showsAnIntroductionAListAndTwoButtons();
-    void hasItsTitleAndLeastSize();
+    void hasItsTitleAndMinimumSize();
     void ownsItsParts();
     void givesTheListItsRowHeight();
     void showsARowForEachMappingInOrder();
-    void keepsEveryRowOfOneHeight();
-    void putsPlainItemsUnderTheRows();
+    void givesEveryRowTheSameHeight();
+    void hasEmptyItemsBehindTheRows();
     void replacesAllRows();
     void clearsTheListForAnEmptyResult();
     void explainsAnEmptyList();
-    void handsTheFlagToItsRows();
-    void saysHowManyFoldersThereAre_data();
-    void saysHowManyFoldersThereAre();
-    void countsFoldersAndNotWhetherTheyExist();
+    void passesTheFlagToItsRows();
+    void reportsTheNumberOfFolders_data();
+    void reportsTheNumberOfFolders();
+    void countsFoldersEvenIfTheyDoNotExist();
     void showsTheRowsBeforeTheBox();
-    void keepsQuiet_data();
-    void keepsQuiet();
-    void asksForAScan();
-    void passesOnWhatARowAsksFor();
-    void survivesAScanFromARowsOwnRequest();
+    void showsNoBoxWhenQuiet_data();
+    void showsNoBoxWhenQuiet();
+    void requestsAScan();
+    void passesOnTheRequestsOfRows();
+    void survivesAScanDuringARowsRequest();
     void endsTheProgramWithSuccess();
     void translatesItsTextsInItsOwnContext();
-    void takesTenTimesAsLongForTenTimesTheRows_data();
-    void takesTenTimesAsLongForTenTimesTheRows();
+    void growsLinearlyWithTheRows_data();
+    void growsLinearlyWithTheRows();
     void isBuiltWithoutAWarning();
     void namesItsSignalsInOrder();
 
@@ -176,7 +176,7 @@ void TestScannerView::showsAnIntroductionAListAndTwoButtons()
              QStringLiteral("Close"));
 }
 
-void TestScannerView::hasItsTitleAndLeastSize()
+void TestScannerView::hasItsTitleAndMinimumSize()
 {
     const ScannerView view(nullptr);
     QCOMPARE(view.windowTitle(), QStringLiteral("Quillmont Orbwell Settings"));
@@ -222,7 +222,7 @@ void TestScannerView::showsARowForEachMappingInOrder()
         QVERIFY(listOf(view)->isAncestorOf(rowOf(view, i)));
 }
 
-void TestScannerView::keepsEveryRowOfOneHeight()
+void TestScannerView::givesEveryRowTheSameHeight()
 {
     ScannerView view(nullptr);
     view.setScanResult({mapping(QStringLiteral("A")),
@@ -240,7 +240,7 @@ void TestScannerView::keepsEveryRowOfOneHeight()
     }
 }
 
-void TestScannerView::putsPlainItemsUnderTheRows()
+void TestScannerView::hasEmptyItemsBehindTheRows()
 {
     ScannerView view(nullptr);
     view.setScanResult({mapping(QStringLiteral("A"))}, false, true);
@@ -297,7 +297,7 @@ void TestScannerView::explainsAnEmptyList()
     QVERIFY(text->text().contains(QStringLiteral("flightsims.json")));
 }
 
-void TestScannerView::handsTheFlagToItsRows()
+void TestScannerView::passesTheFlagToItsRows()
 {
     const QString key = QStringLiteral("flightsim/Example_Sim");
     ConfigurationController *settings = ConfigurationController::instance();
@@ -314,7 +314,7 @@ void TestScannerView::handsTheFlagToItsRows()
     QVERIFY(!settings->getSettings(key).isValid());
 }
 
-void TestScannerView::saysHowManyFoldersThereAre_data()
+void TestScannerView::reportsTheNumberOfFolders_data()
 {
     QTest::addColumn<int>("withFolder");
     QTest::addColumn<int>("without");
@@ -332,7 +332,7 @@ void TestScannerView::saysHowManyFoldersThereAre_data()
                             << QStringLiteral("Scan found 12 flight simulators installed.");
 }
 
-void TestScannerView::saysHowManyFoldersThereAre()
+void TestScannerView::reportsTheNumberOfFolders()
 {
     QFETCH(int, withFolder);
     QFETCH(int, without);
@@ -354,7 +354,7 @@ void TestScannerView::saysHowManyFoldersThereAre()
     QCOMPARE(box.parent, &view);
 }
 
-void TestScannerView::countsFoldersAndNotWhetherTheyExist()
+void TestScannerView::countsFoldersEvenIfTheyDoNotExist()
 {
     const BoxAnswerer boxes;
     ScannerView view(nullptr);
@@ -374,16 +374,16 @@ void TestScannerView::showsTheRowsBeforeTheBox()
     QCOMPARE(rows, 2);
 }
 
-void TestScannerView::keepsQuiet_data()
+void TestScannerView::showsNoBoxWhenQuiet_data()
 {
     QTest::addColumn<bool>("updateDefault");
     QTest::addColumn<bool>("quiet");
-    QTest::newRow("at start") << true << false;
-    QTest::newRow("when told") << false << true;
-    QTest::newRow("at start and told") << true << true;
+    QTest::newRow("at the start") << true << false;
+    QTest::newRow("when quiet") << false << true;
+    QTest::newRow("at the start and quiet") << true << true;
 }
 
-void TestScannerView::keepsQuiet()
+void TestScannerView::showsNoBoxWhenQuiet()
 {
     QFETCH(bool, updateDefault);
     QFETCH(bool, quiet);
@@ -394,7 +394,7 @@ void TestScannerView::keepsQuiet()
     QVERIFY(boxes.boxes().isEmpty());
 }
 
-void TestScannerView::asksForAScan()
+void TestScannerView::requestsAScan()
 {
     const ScannerView view(nullptr);
     QSignalSpy scanRequested(&view, &ScannerView::scanRequested);
@@ -404,7 +404,7 @@ void TestScannerView::asksForAScan()
     QCOMPARE(scanRequested.count(), 1);
 }
 
-void TestScannerView::passesOnWhatARowAsksFor()
+void TestScannerView::passesOnTheRequestsOfRows()
 {
     const QString installed = m_sandbox.path(QStringLiteral("installed"));
     Tests::writeFile(installed + QLatin1String("/orbwell.dll"), "x");
@@ -426,7 +426,7 @@ void TestScannerView::passesOnWhatARowAsksFor()
     QCOMPARE(uninstall.first().first().value<FlightSimulatorMapping *>(), second);
 }
 
-void TestScannerView::survivesAScanFromARowsOwnRequest()
+void TestScannerView::survivesAScanDuringARowsRequest()
 {
     FlightSimulatorMapping *shown = mapping(QStringLiteral("A"), m_sandbox.root());
     ScannerView view(nullptr);
@@ -446,7 +446,7 @@ void TestScannerView::endsTheProgramWithSuccess()
     ScannerView view(nullptr);
     view.setScanResult({mapping(QStringLiteral("A"), gone())}, false, true);
     view.show();
-    // Another window is open too: closing this one alone would not end the loop.
+    // Another window is open, so closing this one alone would not end the loop.
     QWidget other;
     other.show();
     QTimer::singleShot(0, closeButtonOf(view), &QPushButton::click);
@@ -489,7 +489,7 @@ void TestScannerView::pickFolders(int rows) const
     QTRY_VERIFY(!fileStamp(file).isEmpty());
 }
 
-// The processor's time for that many windows of that many rows, shown and scanned again.
+// The processor time for that many windows of that many rows, shown and scanned again.
 double TestScannerView::secondsFor(int windows, int rows)
 {
     Mappings mappings;
@@ -502,27 +502,27 @@ double TestScannerView::secondsFor(int windows, int rows)
         view.setScanResult(mappings, true, true);
         view.show();
         QCoreApplication::processEvents();
-        view.setScanResult(mappings, true, true); // as another scan does
+        view.setScanResult(mappings, true, true); // like another scan
         QCoreApplication::processEvents();
         taken += std::clock() - begin;
     }
     return double(taken) / CLOCKS_PER_SEC;
 }
 
-void TestScannerView::takesTenTimesAsLongForTenTimesTheRows_data()
+void TestScannerView::growsLinearlyWithTheRows_data()
 {
     QTest::addColumn<bool>("areStored");
     QTest::newRow("without settings") << false;
     QTest::newRow("with a folder picked for each") << true;
 }
 
-void TestScannerView::takesTenTimesAsLongForTenTimesTheRows()
+void TestScannerView::growsLinearlyWithTheRows()
 {
     QFETCH(const bool, areStored);
     constexpr int rows = 300;
-    secondsFor(1, rows); // what only the first window takes
+    secondsFor(1, rows); // costs of the first window only
     double ratio = 0;
-    // A busy machine may take longer for either.
+    // Either may take longer on a busy machine.
     for (int attempt = 0; attempt < 5 && (attempt == 0 || ratio > 12); ++attempt) {
         if (areStored)
             pickFolders(rows);

@@ -27,7 +27,7 @@ QVector<QWidget *> controlsOf(const RowParts &parts)
 
 } // namespace
 
-// What fits where, in the window as small as it gets.
+// The layout of the window at its minimum size.
 class TestScannerViewLayout : public QObject
 {
     Q_OBJECT
@@ -39,12 +39,12 @@ private slots:
 
     void keepsEveryControlInSight_data();
     void keepsEveryControlInSight();
-    void givesEveryTextItsRoom_data();
-    void givesEveryTextItsRoom();
+    void showsEveryTextInFull_data();
+    void showsEveryTextInFull();
     void givesSpareWidthToThePath();
     void showsTheIconAsSharpAsTheScreen();
-    void isWalkedThroughFromTopToBottom();
-    void isWalkedThroughInOrderAfterASecondResult();
+    void hasItsTabOrderFromTopToBottom();
+    void keepsItsTabOrderAfterASecondResult();
 
 private:
     void showRows(const QString &name, const QString &path, int count);
@@ -114,7 +114,7 @@ void TestScannerViewLayout::keepsEveryControlInSight_data()
     QTest::newRow("an unbroken name") << unbrokenName << path << 2 << 1.0 << Qt::LeftToRight;
     QTest::newRow("a long path") << name << longPath << 2 << 1.0 << Qt::LeftToRight;
     QTest::newRow("with a scroll bar") << longName << longPath << 30 << 1.0 << Qt::LeftToRight;
-    QTest::newRow("large letters") << longName << longPath << 30 << 1.5 << Qt::LeftToRight;
+    QTest::newRow("a large font") << longName << longPath << 30 << 1.5 << Qt::LeftToRight;
     QTest::newRow("right to left") << longName << longPath << 30 << 1.0 << Qt::RightToLeft;
 }
 
@@ -149,14 +149,14 @@ void TestScannerViewLayout::keepsEveryControlInSight()
     QVERIFY(parts.name->width() >= 320);
 }
 
-void TestScannerViewLayout::givesEveryTextItsRoom_data()
+void TestScannerViewLayout::showsEveryTextInFull_data()
 {
     QTest::addColumn<qreal>("fontScale");
-    QTest::newRow("usual letters") << 1.0;
-    QTest::newRow("larger letters") << 1.25;
+    QTest::newRow("the usual font size") << 1.0;
+    QTest::newRow("a larger font") << 1.25;
 }
 
-void TestScannerViewLayout::givesEveryTextItsRoom()
+void TestScannerViewLayout::showsEveryTextInFull()
 {
     QFETCH(qreal, fontScale);
     QFont font = m_font;
@@ -218,13 +218,13 @@ QVector<QWidget *> TestScannerViewLayout::expectedWalk() const
     return walk;
 }
 
-void TestScannerViewLayout::isWalkedThroughFromTopToBottom()
+void TestScannerViewLayout::hasItsTabOrderFromTopToBottom()
 {
     showRows(QStringLiteral("Simulator"), QStringLiteral("/"), 3);
     QCOMPARE(walk(), expectedWalk());
 }
 
-void TestScannerViewLayout::isWalkedThroughInOrderAfterASecondResult()
+void TestScannerViewLayout::keepsItsTabOrderAfterASecondResult()
 {
     showRows(QStringLiteral("Simulator"), QStringLiteral("/"), 3);
     showRows(QStringLiteral("Simulator"), QStringLiteral("/"), 2);

@@ -9,8 +9,8 @@ class QWidget;
 
 namespace Tests {
 
-/// What a person sees in a row of the simulator list, found by where it stands. A part that is
-/// not there is null.
+/// The visible parts of a row in the simulator list, found by their position. A missing part is
+/// null.
 struct RowParts
 {
     explicit RowParts(const QWidget *row);

@@ -57,7 +57,7 @@ void save(const QString &key, const QString &value)
 
 } // namespace
 
-// The settings keep the place that they were first used with, so all tests share one home.
+// The settings keep their first path, so all tests share one home.
 class TestAddonListItem : public QObject
 {
     Q_OBJECT
@@ -66,27 +66,27 @@ private slots:
     void init();
     void cleanup();
 
-    void standsInOneLineBesideItsIcon();
-    void sharesTheWidthAsLaidDown();
-    void keepsTheToolkitsSpacing();
+    void alignsItsPartsBesideTheIcon();
+    void distributesTheWidthAsSpecified();
+    void keepsQtsSpacing();
     void givesItsPartsTheirSizes();
     void ownsItsPartsAndNotTheMapping();
     void showsTheNameInBold_data();
     void showsTheNameInBold();
     void showsThePathFromItsStart();
-    void takesNoPathForMarkup();
-    void showsWhatFitsOfAnEndlessPath();
+    void neverShowsAPathAsMarkup();
+    void showsTheBeginningOfAVeryLongPath();
     void showsAPlaceholderWithoutAPath();
-    void takesThePathFromSettingsOrScan_data();
-    void takesThePathFromSettingsOrScan();
-    void judgesTheSavedFolder();
-    void keysTheSettingsByName_data();
-    void keysTheSettingsByName();
+    void usesThePathFromSettingsOrScan_data();
+    void usesThePathFromSettingsOrScan();
+    void showsTheStateOfTheSavedFolder();
+    void storesTheSettingsByName_data();
+    void storesTheSettingsByName();
     void showsTheState_data();
     void showsTheState();
-    void takesARelativePathAgainstTheWorkingFolder();
-    void asksForWhatTheDiskCallsForAtEachClick();
-    void asksForNothingWithoutAFolder();
+    void resolvesARelativePathAgainstTheWorkingFolder();
+    void requestsTheActionByTheDisksStateAtEachClick();
+    void requestsNothingWithoutAFolder();
     void translatesItsTextsInItsOwnContext();
     void givesItsNameRoomAbove_data();
     void givesItsNameRoomAbove();
@@ -129,7 +129,7 @@ FlightSimulatorMapping *TestAddonListItem::mapping(const QString &path)
     return new FlightSimulatorMapping(entry(QStringLiteral("Example Sim")), path);
 }
 
-void TestAddonListItem::standsInOneLineBesideItsIcon()
+void TestAddonListItem::alignsItsPartsBesideTheIcon()
 {
     const AddonListItem row(nullptr, mapping(folder()), false);
     const RowParts parts(&row);
@@ -139,7 +139,7 @@ void TestAddonListItem::standsInOneLineBesideItsIcon()
     QCOMPARE(parts.line->count(), 3);
 }
 
-void TestAddonListItem::sharesTheWidthAsLaidDown()
+void TestAddonListItem::distributesTheWidthAsSpecified()
 {
     const AddonListItem row(nullptr, mapping(folder()), false);
     const RowParts parts(&row);
@@ -152,7 +152,7 @@ void TestAddonListItem::sharesTheWidthAsLaidDown()
     QCOMPARE(parts.line->stretch(2), 2);
 }
 
-void TestAddonListItem::keepsTheToolkitsSpacing()
+void TestAddonListItem::keepsQtsSpacing()
 {
     const AddonListItem row(nullptr, mapping(folder()), false);
     const RowParts parts(&row);
@@ -234,7 +234,7 @@ void TestAddonListItem::showsThePathFromItsStart()
     QVERIFY(parts.path->isEnabled());
 }
 
-void TestAddonListItem::takesNoPathForMarkup()
+void TestAddonListItem::neverShowsAPathAsMarkup()
 {
     const QString path = QStringLiteral("/sims/<b>bold</b> &lt; <img src=/x>");
     const AddonListItem row(nullptr, mapping(path), false);
@@ -243,8 +243,8 @@ void TestAddonListItem::takesNoPathForMarkup()
     QCOMPARE(QTextDocumentFragment::fromHtml(parts.path->toolTip()).toPlainText(), path);
 }
 
-// A tool tip of that length would keep the toolkit busy for minutes.
-void TestAddonListItem::showsWhatFitsOfAnEndlessPath()
+// A tool tip of that length would keep Qt busy for minutes.
+void TestAddonListItem::showsTheBeginningOfAVeryLongPath()
 {
     const QString path = QStringLiteral("/a").repeated(4 * 1024 * 1024);
     const AddonListItem row(nullptr, mapping(path), false);
@@ -270,7 +270,7 @@ void TestAddonListItem::showsAPlaceholderWithoutAPath()
     QCOMPARE(shownIcon(row), artwork(QStringLiteral("icon-minus-grey-44.png")));
 }
 
-void TestAddonListItem::takesThePathFromSettingsOrScan_data()
+void TestAddonListItem::usesThePathFromSettingsOrScan_data()
 {
     QTest::addColumn<QString>("savedPath");
     QTest::addColumn<QString>("detected");
@@ -290,7 +290,7 @@ void TestAddonListItem::takesThePathFromSettingsOrScan_data()
     QTest::newRow("both, rescan") << chosen << found << false << found << QVariant();
 }
 
-void TestAddonListItem::takesThePathFromSettingsOrScan()
+void TestAddonListItem::usesThePathFromSettingsOrScan()
 {
     QFETCH(QString, savedPath);
     QFETCH(QString, detected);
@@ -310,7 +310,7 @@ void TestAddonListItem::takesThePathFromSettingsOrScan()
     QCOMPARE(saved(other).toString(), QStringLiteral("/other"));
 }
 
-void TestAddonListItem::judgesTheSavedFolder()
+void TestAddonListItem::showsTheStateOfTheSavedFolder()
 {
     writeFile(folder() + QLatin1String("/orbwell.dll"), "x");
     save(QStringLiteral("flightsim/Example_Sim"), folder());
@@ -320,23 +320,24 @@ void TestAddonListItem::judgesTheSavedFolder()
     QVERIFY(RowParts(&row).action->isEnabled());
 }
 
-void TestAddonListItem::keysTheSettingsByName_data()
+void TestAddonListItem::storesTheSettingsByName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("key");
-    QTest::newRow("blanks") << QStringLiteral("Flight Sim X")
+    QTest::newRow("spaces") << QStringLiteral("Flight Sim X")
                             << QStringLiteral("flightsim/Flight_Sim_X");
-    QTest::newRow("two blanks in a row")
+    QTest::newRow("two spaces in a row")
         << QStringLiteral("A B  C") << QStringLiteral("flightsim/A_B__C");
-    QTest::newRow("blanks outside") << QStringLiteral(" A ") << QStringLiteral("flightsim/_A_");
-    QTest::newRow("no blank") << QStringLiteral("Sim") << QStringLiteral("flightsim/Sim");
-    QTest::newRow("a tab stays") << QStringLiteral("A\tB") << QStringLiteral("flightsim/A\tB");
+    QTest::newRow("leading and trailing spaces")
+        << QStringLiteral(" A ") << QStringLiteral("flightsim/_A_");
+    QTest::newRow("no space") << QStringLiteral("Sim") << QStringLiteral("flightsim/Sim");
+    QTest::newRow("a tab is kept") << QStringLiteral("A\tB") << QStringLiteral("flightsim/A\tB");
     QTest::newRow("other scripts")
         << QStringLiteral("飛行 Símulátor") << QStringLiteral("flightsim/飛行_Símulátor");
     QTest::newRow("placeholders") << QStringLiteral("A %1") << QStringLiteral("flightsim/A_%1");
 }
 
-void TestAddonListItem::keysTheSettingsByName()
+void TestAddonListItem::storesTheSettingsByName()
 {
     QFETCH(QString, name);
     QFETCH(QString, key);
@@ -363,8 +364,9 @@ void TestAddonListItem::showsTheState_data()
     QTest::newRow("installed") << true << true << true << green << uninstall;
     QTest::newRow("not installed") << true << true << false << grey << install;
     QTest::newRow("no folder") << false << true << false << minus << install;
-    QTest::newRow("no files to place") << true << false << false << green << uninstall;
-    QTest::newRow("no files to place, no folder") << false << false << false << minus << uninstall;
+    QTest::newRow("no files to install") << true << false << false << green << uninstall;
+    QTest::newRow("no files to install, no folder")
+        << false << false << false << minus << uninstall;
 }
 
 void TestAddonListItem::showsTheState()
@@ -388,7 +390,7 @@ void TestAddonListItem::showsTheState()
     QVERIFY(RowParts(&row).browse->isEnabled());
 }
 
-void TestAddonListItem::takesARelativePathAgainstTheWorkingFolder()
+void TestAddonListItem::resolvesARelativePathAgainstTheWorkingFolder()
 {
     const QString before = QDir::currentPath();
     QDir(folder()).mkdir(QStringLiteral("relative"));
@@ -398,7 +400,7 @@ void TestAddonListItem::takesARelativePathAgainstTheWorkingFolder()
     QVERIFY(RowParts(&row).action->isEnabled());
 }
 
-void TestAddonListItem::asksForWhatTheDiskCallsForAtEachClick()
+void TestAddonListItem::requestsTheActionByTheDisksStateAtEachClick()
 {
     const QString file = folder() + QLatin1String("/orbwell.dll");
     FlightSimulatorMapping *shown = mapping(folder());
@@ -426,7 +428,7 @@ void TestAddonListItem::asksForWhatTheDiskCallsForAtEachClick()
     QCOMPARE(uninstall.count(), 1);
 }
 
-void TestAddonListItem::asksForNothingWithoutAFolder()
+void TestAddonListItem::requestsNothingWithoutAFolder()
 {
     const AddonListItem row(nullptr, mapping(QString()), false);
     const Tests::FolderPicker nobody{QString()};
@@ -458,10 +460,10 @@ void TestAddonListItem::givesItsNameRoomAbove_data()
     QTest::addColumn<int>("top");
     QTest::addColumn<int>("lacking");
     QTest::addColumn<int>("expected");
-    QTest::newRow("more than enough") << 10 << -5 << 10;
-    QTest::newRow("enough") << 10 << 0 << 10;
-    QTest::newRow("too little") << 10 << 3 << 7;
-    QTest::newRow("too little in all") << 2 << 3 << 0;
+    QTest::newRow("more room than needed") << 10 << -5 << 10;
+    QTest::newRow("enough room") << 10 << 0 << 10;
+    QTest::newRow("too little room") << 10 << 3 << 7;
+    QTest::newRow("less room than the margin needs") << 2 << 3 << 0;
 }
 
 void TestAddonListItem::givesItsNameRoomAbove()
@@ -471,7 +473,7 @@ void TestAddonListItem::givesItsNameRoomAbove()
     QFETCH(const int, expected);
     QWidget row;
     QLabel label(QStringLiteral("Name"), &row);
-    label.show(); // a layout passes over what is hidden
+    label.show(); // a layout ignores hidden widgets
     const int height = label.sizeHint().height() - lacking;
     NameItem(&label).setGeometry(QRect(0, top, 200, height));
     QCOMPARE(label.geometry(), QRect(0, expected, 200, top + height - expected));

@@ -27,7 +27,7 @@ using Tests::readFile;
 using Tests::RowParts;
 using Tests::writeFile;
 
-// The settings keep the place that they were first used with, so all tests share one home.
+// The settings keep their first path, so all tests share one home.
 class TestAddonListItemBrowsing : public QObject
 {
     Q_OBJECT
@@ -38,16 +38,16 @@ private slots:
 
     void opensAFolderChooserAtTheFolder();
     void opensAFolderChooserWithoutAFolder();
-    void takesTheChosenFolder();
+    void usesTheChosenFolder();
     void keepsALinkAsItWasChosen();
     void showsTheStateOfTheChosenFolder();
     void remembersTheChoiceForTheNextStart();
     void changesNothingWhenCancelled();
     void changesNothingForAFolderThatTheChooserRefuses();
-    void rejectsAFolderThatIsGone_data();
-    void rejectsAFolderThatIsGone();
-    void savesAnEmptyPathBesideAFolderThatIsGone();
-    void seesTheDiskAnewAfterAFolderThatIsGone();
+    void rejectsADeletedFolder_data();
+    void rejectsADeletedFolder();
+    void storesAnEmptyPathAfterADeletedFolder();
+    void checksTheDiskAfterADeletedFolder();
     void translatesItsTextsInItsOwnContext();
 
 private:
@@ -115,7 +115,7 @@ void TestAddonListItemBrowsing::opensAFolderChooserWithoutAFolder()
     QCOMPARE(mapping.path, chosen);
 }
 
-void TestAddonListItemBrowsing::takesTheChosenFolder()
+void TestAddonListItemBrowsing::usesTheChosenFolder()
 {
     const QString chosen = folder(QStringLiteral("new"));
     FlightSimulatorMapping mapping(m_scan.get(), folder(QStringLiteral("old")));
@@ -206,14 +206,14 @@ void TestAddonListItemBrowsing::changesNothingForAFolderThatTheChooserRefuses()
     QVERIFY(!isSaved());
 }
 
-void TestAddonListItemBrowsing::rejectsAFolderThatIsGone_data()
+void TestAddonListItemBrowsing::rejectsADeletedFolder_data()
 {
     QTest::addColumn<bool>("isFile");
-    QTest::newRow("a folder that is gone") << false;
-    QTest::newRow("a file in its place") << true;
+    QTest::newRow("a deleted folder") << false;
+    QTest::newRow("a file in place of the folder") << true;
 }
 
-void TestAddonListItemBrowsing::rejectsAFolderThatIsGone()
+void TestAddonListItemBrowsing::rejectsADeletedFolder()
 {
     QFETCH(const bool, isFile);
     const QString old = folder(QStringLiteral("old"));
@@ -243,7 +243,7 @@ void TestAddonListItemBrowsing::rejectsAFolderThatIsGone()
     QCOMPARE(settings(), "[flightsim]\nExample_Sim=" + old.toUtf8() + '\n');
 }
 
-void TestAddonListItemBrowsing::savesAnEmptyPathBesideAFolderThatIsGone()
+void TestAddonListItemBrowsing::storesAnEmptyPathAfterADeletedFolder()
 {
     const QString chosen = folder(QStringLiteral("new"));
     FlightSimulatorMapping mapping(m_scan.get(), QString());
@@ -256,7 +256,7 @@ void TestAddonListItemBrowsing::savesAnEmptyPathBesideAFolderThatIsGone()
     QCOMPARE(settings(), QByteArray("[flightsim]\nExample_Sim=\n"));
 }
 
-void TestAddonListItemBrowsing::seesTheDiskAnewAfterAFolderThatIsGone()
+void TestAddonListItemBrowsing::checksTheDiskAfterADeletedFolder()
 {
     const QString old = folder(QStringLiteral("old"));
     const QString chosen = folder(QStringLiteral("new"));
@@ -264,7 +264,7 @@ void TestAddonListItemBrowsing::seesTheDiskAnewAfterAFolderThatIsGone()
     AddonListItem row(nullptr, &mapping, false);
     QCOMPARE(RowParts(&row).action->text(), QStringLiteral("Install Orbwell"));
     BoxAnswerer boxes;
-    // Only once the box is closed does the row look at the disk and save.
+    // The row checks the disk and saves only when the box is closed.
     boxes.whileOpen([this, old] {
         QVERIFY(!isSaved());
         writeFile(old + QLatin1String("/orbwell.dll"), "x");

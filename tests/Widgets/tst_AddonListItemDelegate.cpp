@@ -12,13 +12,13 @@ class TestAddonListItemDelegate : public QObject
     Q_OBJECT
 
 private slots:
-    void isARowHighAndAsWideAsItsContent_data();
-    void isARowHighAndAsWideAsItsContent();
+    void isAsHighAsARowAndAsWideAsItsContent_data();
+    void isAsHighAsARowAndAsWideAsItsContent();
     void belongsToItsParent();
     void isAPlainDelegateToTheMetaSystem();
 };
 
-void TestAddonListItemDelegate::isARowHighAndAsWideAsItsContent_data()
+void TestAddonListItemDelegate::isAsHighAsARowAndAsWideAsItsContent_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("fontSize");
@@ -26,10 +26,10 @@ void TestAddonListItemDelegate::isARowHighAndAsWideAsItsContent_data()
     QTest::newRow("a word") << QStringLiteral("word") << 10;
     QTest::newRow("a long line") << QString(500, u'x') << 10;
     QTest::newRow("many lines") << QStringLiteral("line\n").repeated(50) << 10;
-    QTest::newRow("large letters") << QStringLiteral("word") << 90;
+    QTest::newRow("a large font") << QStringLiteral("word") << 90;
 }
 
-void TestAddonListItemDelegate::isARowHighAndAsWideAsItsContent()
+void TestAddonListItemDelegate::isAsHighAsARowAndAsWideAsItsContent()
 {
     QFETCH(QString, text);
     QFETCH(int, fontSize);

@@ -1,7 +1,7 @@
 #include <QFile>
 #include <QTest>
 
-// Refers to nothing of the program, which it is only linked to.
+// Uses nothing of the program, but is linked to it.
 class TestArtwork : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Whether green leads among the visible pixels, or no colour does.
+// Whether green predominates among the visible pixels, rather than no colour.
 bool isGreen(const QImage &image)
 {
     qint64 green = 0;
@@ -41,12 +41,12 @@ private slots:
     void areLargeEnoughForEveryScreen_data();
     void areLargeEnoughForEveryScreen();
     void differFromEachOther();
-    void canBeTakenOutAndPutBack();
+    void canBeUnregisteredAndRegisteredAgain();
 };
 
 void TestStateIcons::areRegisteredAtStartUp()
 {
-    // Linking the row in is what brings the icons.
+    // The icons are registered because the row is linked in.
     QVERIFY(Quillmont::Utility::Widgets::AddonListItem::staticMetaObject.className());
     QVERIFY(QFile::exists(QStringLiteral(":/assets/Quillmont Orbwell/icon-check-green-44.png")));
 }
@@ -82,7 +82,7 @@ void TestStateIcons::differFromEachOther()
     QVERIFY(check != minus);
 }
 
-void TestStateIcons::canBeTakenOutAndPutBack()
+void TestStateIcons::canBeUnregisteredAndRegisteredAgain()
 {
     const QString icon = QStringLiteral(":/assets/Quillmont Orbwell/icon-minus-grey-44.png");
     Q_CLEANUP_RESOURCE(quillmontorbwellsetup);
