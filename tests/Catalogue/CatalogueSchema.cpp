@@ -7,7 +7,7 @@ namespace Tests {
 
 CatalogueSchema::CatalogueSchema(const QString &schema)
 {
-    // The first Python on the path may be one that the distribution's modules are not made for.
+    // The first Python on the path may lack the distribution's modules.
     for (const char *python : {"python3", "/usr/bin/python3"}) {
         if (start(QLatin1String(python), schema))
             return;

@@ -9,7 +9,7 @@ class QByteArray;
 
 namespace Tests {
 
-/// A JSON Schema, the catalogue's or another, and Python's reading of it.
+/// Validates against a JSON Schema, the catalogue's or another, with Python's module.
 class CatalogueSchema
 {
 public:
@@ -18,16 +18,16 @@ public:
     CatalogueSchema(const CatalogueSchema &) = delete;
     CatalogueSchema &operator=(const CatalogueSchema &) = delete;
 
-    /// Where the catalogue's schema is.
+    /// The path of the catalogue's schema.
     static QString path();
 
-    /// Why it cannot be asked: no Python, or one that lacks its module. Empty if it can.
+    /// Why validation is not possible: no Python, or no such module. Empty if it is.
     QString problem() const { return m_problem; }
 
-    /// Whether doing without is all right. On a build machine it is not.
+    /// Whether tests may be skipped without it: not on a build machine.
     static bool maySkip() { return !qEnvironmentVariableIsSet("CI"); }
 
-    /// What it has to say against a document, given as JSON text.
+    /// The errors in a document, given as JSON text.
     QStringList complaints(const QByteArray &json);
 
 private:

@@ -8,19 +8,19 @@
 
 namespace Tests {
 
-/// The catalogue as a user gets it.
+/// The catalogue as shipped.
 QByteArray shippedCatalogue();
 
-/// The sample's, with its simulators below @p simulators.
+/// The sample's catalogue, with its simulators below @p simulators.
 QByteArray sampleCatalogue(const QString &simulators);
 
 /// The JSON blocks of a document in the source tree, "docs/catalogue.md", in order.
 QVector<QByteArray> jsonBlocks(const QString &document);
 
-/// The folder of the payload, without a slash at its end.
+/// The folder of the payload, without a trailing slash.
 QString payloadFolder();
 
-/// The entries of a catalogue that is known to be sound.
+/// The entries of a valid catalogue.
 QJsonArray entriesOf(const QByteArray &catalogue);
 
 } // namespace Tests

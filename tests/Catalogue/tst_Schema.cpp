@@ -18,7 +18,7 @@ QJsonObject object(const QByteArray &json)
     return QJsonDocument::fromJson(json).object();
 }
 
-// A sound entry that makes use of every key.
+// A valid entry that uses every key.
 QJsonObject soundEntry()
 {
     return object(R"({
@@ -62,10 +62,10 @@ private slots:
     void acceptsEveryCatalogueOfOurs_data();
     void acceptsEveryCatalogueOfOurs();
     void acceptsEveryKey();
-    void refusesWhatTheProgramWouldPassOver_data();
-    void refusesWhatTheProgramWouldPassOver();
-    void refusesWhatLacksItsCounterpart_data();
-    void refusesWhatLacksItsCounterpart();
+    void refusesWhatTheProgramWouldIgnore_data();
+    void refusesWhatTheProgramWouldIgnore();
+    void refusesAKeyWithoutItsCounterpart_data();
+    void refusesAKeyWithoutItsCounterpart();
     void describesEveryKey();
 
 private:
@@ -107,9 +107,9 @@ void TestSchema::acceptsEveryKey()
     QCOMPARE(m_schema.complaints(QJsonDocument(catalogue).toJson()), QStringList());
 }
 
-void TestSchema::refusesWhatTheProgramWouldPassOver_data()
+void TestSchema::refusesWhatTheProgramWouldIgnore_data()
 {
-    QTest::addColumn<QByteArray>("slip"); // what stands in the entry instead
+    QTest::addColumn<QByteArray>("slip"); // the faulty member of the entry
     QTest::addColumn<QString>("where");
 
     const auto row = [](const char *what, const char *slip, const char *where) {
@@ -120,7 +120,7 @@ void TestSchema::refusesWhatTheProgramWouldPassOver_data()
     row("unknown simcode", R"({"simcode": "XP13"})", "$[0].simcode:");
     row("location as a string", R"({"location": "1"})", "$[0].location:");
     row("broken location", R"({"location": 1.5})", "$[0].location:");
-    row("folder not named", R"({"path": ""})", "$[0].path:");
+    row("empty folder", R"({"path": ""})", "$[0].path:");
     row("type as a string", R"({"type": "0"})", "$[0].type:");
     row("root as a number", R"({"root": 1})", "$[0].root:");
     row("root as a word", R"({"root": "one"})", "$[0].root:");
@@ -138,7 +138,7 @@ void TestSchema::refusesWhatTheProgramWouldPassOver_data()
     row("configuration without file",
         R"({"config": {"parent": "A", "values": [{"key": "N", "value": "O"}]}})",
         "$[0].config:");
-    row("removal that does not say how much",
+    row("removal without delete_parent",
         R"({"config": {"path": "a.xml", "parent": "A", "values": [{"key": "N", "value": "O"}],
                        "remove": {"key": "N", "value": "O"}}})",
         "$[0].config:");
@@ -171,7 +171,7 @@ void TestSchema::refusesWhatTheProgramWouldPassOver_data()
         "$[0].conflict:");
 }
 
-void TestSchema::refusesWhatTheProgramWouldPassOver()
+void TestSchema::refusesWhatTheProgramWouldIgnore()
 {
     QFETCH(QByteArray, slip);
     QFETCH(QString, where);
@@ -185,9 +185,10 @@ void TestSchema::refusesWhatTheProgramWouldPassOver()
     QVERIFY2(complaints.first().startsWith(where), qPrintable(complaints.join(u'\n')));
 }
 
-void TestSchema::refusesWhatLacksItsCounterpart_data()
+void TestSchema::refusesAKeyWithoutItsCounterpart_data()
 {
-    QTest::addColumn<QByteArray>("entry"); // beside a name, files, and a type that edits nothing
+    QTest::addColumn<QByteArray>(
+        "entry"); // in addition to a name, files, and a type that edits nothing
     QTest::addColumn<QString>("complaint");
     const auto row = [](const char *entry, const char *complaint) {
         QTest::newRow(entry) << QByteArray(entry) << QString::fromLatin1(complaint);
@@ -202,7 +203,7 @@ void TestSchema::refusesWhatLacksItsCounterpart_data()
     row(R"("location": 3, "simcode": "FSXSE", "type": 0)", "'config' is a required property");
 }
 
-void TestSchema::refusesWhatLacksItsCounterpart()
+void TestSchema::refusesAKeyWithoutItsCounterpart()
 {
     QFETCH(QByteArray, entry);
     QFETCH(QString, complaint);

@@ -47,7 +47,7 @@ QString slashed(const QJsonValue &path)
     return path.toString().replace(u'\\', u'/');
 }
 
-// What the program made of an entry, as the entry would say it.
+// The object that the program read, converted back to JSON.
 QJsonObject readBack(const FlightSimRemoval *removal)
 {
     return {{QStringLiteral("parent"), removal->parent},
@@ -94,7 +94,7 @@ QJsonObject readBack(const FlightSimScan &scan)
             {QStringLiteral("conflict"), readBackConflict(scan.conflict)}};
 }
 
-// The same entry with what the program is known to change: separators, and files by destination.
+// The same entry with the program's normalisation: separators, and files by destination.
 QJsonObject expected(QJsonObject entry)
 {
     QJsonObject files;
@@ -124,7 +124,7 @@ QSet<QString> sourcesOf(const QByteArray &catalogue)
     return sources;
 }
 
-// What a simulator has of its own where the plugin's files go.
+// A file of the simulator's own in the folder of the plugin's files.
 QString ownFile(const QString &simcode)
 {
     if (simcode.startsWith(QLatin1String("XP")))
@@ -147,20 +147,20 @@ class TestShippedCatalogue : public QObject
 private slots:
     void initTestCase();
 
-    void knowsEachSimulatorInTheWindowsOrder();
-    void putsEachFileWhereItsSimulatorLooks_data();
-    void putsEachFileWhereItsSimulatorLooks();
-    void namesWhatDetectionKnows();
-    void isReadAsItIsWritten_data();
-    void isReadAsItIsWritten();
+    void listsEachSimulatorInTheWindowsOrder();
+    void installsEachFileWhereItsSimulatorLooks_data();
+    void installsEachFileWhereItsSimulatorLooks();
+    void usesTheSimulatorCodesOfDetection();
+    void readsEveryValueAsWritten_data();
+    void readsEveryValueAsWritten();
 
-    void givesEachFileAPlaceOfItsOwn_data() { isReadAsItIsWritten_data(); }
+    void givesEachFileItsOwnDestination_data() { readsEveryValueAsWritten_data(); }
 
-    void givesEachFileAPlaceOfItsOwn();
-    void hasAFileForEachSourceAndNoneWithoutUse();
-    void leavesEachSimulatorAsItWas_data();
-    void leavesEachSimulatorAsItWas();
-    void recognisesTheEntryOfANewLaunchDocument();
+    void givesEachFileItsOwnDestination();
+    void hasAPayloadFileForEachSourceAndNoOthers();
+    void restoresEachSimulatorByUninstalling_data();
+    void restoresEachSimulatorByUninstalling();
+    void recognisesTheEntryInANewLaunchDocument();
     void listsTheFilesOfThePackage();
 };
 
@@ -173,7 +173,7 @@ void TestShippedCatalogue::initTestCase()
     QVERIFY(QFile::link(payloadFolder(), beside));
 }
 
-void TestShippedCatalogue::knowsEachSimulatorInTheWindowsOrder()
+void TestShippedCatalogue::listsEachSimulatorInTheWindowsOrder()
 {
     QStringList codes;
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -182,9 +182,9 @@ void TestShippedCatalogue::knowsEachSimulatorInTheWindowsOrder()
     QCOMPARE(codes.join(u' '), QStringLiteral("XP12 XP11 XP10 MSFS2024 MSFS2020 FSXSE FGFS AFS4"));
 }
 
-void TestShippedCatalogue::putsEachFileWhereItsSimulatorLooks_data()
+void TestShippedCatalogue::installsEachFileWhereItsSimulatorLooks_data()
 {
-    QTest::addColumn<QString>("placed"); // each source and where it goes
+    QTest::addColumn<QString>("placed"); // each source with its destination
     const auto row = [](const char *code, const QStringList &placed) {
         QTest::newRow(code) << placed.join(u'\n');
     };
@@ -210,7 +210,7 @@ void TestShippedCatalogue::putsEachFileWhereItsSimulatorLooks_data()
     }
 }
 
-void TestShippedCatalogue::putsEachFileWhereItsSimulatorLooks()
+void TestShippedCatalogue::installsEachFileWhereItsSimulatorLooks()
 {
     QFETCH(QString, placed);
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -224,7 +224,7 @@ void TestShippedCatalogue::putsEachFileWhereItsSimulatorLooks()
     QCOMPARE(found.join(u'\n'), placed);
 }
 
-void TestShippedCatalogue::namesWhatDetectionKnows()
+void TestShippedCatalogue::usesTheSimulatorCodesOfDetection()
 {
     DescribedComputer computer(Quillmont::SimDetect::Environment::Linux);
     computer.make(QLatin1String(everySimulator));
@@ -237,7 +237,7 @@ void TestShippedCatalogue::namesWhatDetectionKnows()
     for (const QJsonValue &entry : entries) {
         const QString code = entry[QLatin1String("simcode")].toString();
         QVERIFY2(detected.contains(code), qPrintable(code));
-        // A fixed folder would beat it, left over or not.
+        // A fixed folder would have priority over detection, even if it is a leftover.
         QCOMPARE(entry[QLatin1String("location")].toInt(), 3);
     }
 
@@ -247,7 +247,7 @@ void TestShippedCatalogue::namesWhatDetectionKnows()
     QCOMPARE(simcode[QLatin1String("enum")].toArray(), QJsonArray::fromStringList(detected));
 }
 
-void TestShippedCatalogue::isReadAsItIsWritten_data()
+void TestShippedCatalogue::readsEveryValueAsWritten_data()
 {
     QTest::addColumn<QJsonObject>("entry");
     const auto add = [](const char *catalogue, const QByteArray &text) {
@@ -261,7 +261,7 @@ void TestShippedCatalogue::isReadAsItIsWritten_data()
     add("sample", sampleCatalogue(QStringLiteral("/sample/simulators")));
 }
 
-void TestShippedCatalogue::isReadAsItIsWritten()
+void TestShippedCatalogue::readsEveryValueAsWritten()
 {
     QFETCH(QJsonObject, entry);
     const QJsonObject read = readBack(FlightSimScan(nullptr, entry));
@@ -272,7 +272,7 @@ void TestShippedCatalogue::isReadAsItIsWritten()
     }
 }
 
-void TestShippedCatalogue::givesEachFileAPlaceOfItsOwn()
+void TestShippedCatalogue::givesEachFileItsOwnDestination()
 {
     QFETCH(QJsonObject, entry);
     const FlightSimScan scan(nullptr, entry);
@@ -280,7 +280,7 @@ void TestShippedCatalogue::givesEachFileAPlaceOfItsOwn()
     QVERIFY(!scan.files.isEmpty());
 }
 
-void TestShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
+void TestShippedCatalogue::hasAPayloadFileForEachSourceAndNoOthers()
 {
     const QSet<QString> wanted = sourcesOf(shippedCatalogue());
     QSet<QString> there;
@@ -288,7 +288,7 @@ void TestShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
     for (auto it = payload.begin(); it != payload.end(); ++it) {
         if (!it.key().endsWith(u'/'))
             there.insert(it.key());
-        // A layout has no room for words.
+        // A layout file cannot contain a text.
         const bool speaks
             = !it.key().endsWith(u'/') && !it.key().endsWith(QLatin1String("layout.json"));
         QVERIFY2(!speaks || it->contains("stand-in"), qPrintable(it.key()));
@@ -297,7 +297,7 @@ void TestShippedCatalogue::hasAFileForEachSourceAndNoneWithoutUse()
     QVERIFY(there.contains(sourcesOf(sampleCatalogue({}))));
 }
 
-void TestShippedCatalogue::leavesEachSimulatorAsItWas_data()
+void TestShippedCatalogue::restoresEachSimulatorByUninstalling_data()
 {
     QTest::addColumn<QJsonObject>("entry");
     const QJsonArray entries = entriesOf(shippedCatalogue());
@@ -305,7 +305,7 @@ void TestShippedCatalogue::leavesEachSimulatorAsItWas_data()
         QTest::newRow(qPrintable(entry[QLatin1String("simcode")].toString())) << entry.toObject();
 }
 
-void TestShippedCatalogue::leavesEachSimulatorAsItWas()
+void TestShippedCatalogue::restoresEachSimulatorByUninstalling()
 {
     QFETCH(QJsonObject, entry);
     const Sandbox sandbox;
@@ -323,7 +323,7 @@ void TestShippedCatalogue::leavesEachSimulatorAsItWas()
     QCOMPARE(treeOf(folder), before);
 }
 
-void TestShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
+void TestShippedCatalogue::recognisesTheEntryInANewLaunchDocument()
 {
     const Sandbox sandbox;
     const QString prefix
@@ -333,7 +333,7 @@ void TestShippedCatalogue::recognisesTheEntryOfANewLaunchDocument()
               shippedCatalogue());
     ScanController controller(nullptr, nullptr);
     const QScopedPointer<ScannerView> window(controller.view);
-    // Not a silent one, which would install into what the test's own computer has.
+    // Not a silent scan, which would install into simulators on the test's own computer.
     controller.startScan(false, false, ScanController::ModeNone);
     const auto mappings = controller.findChildren<FlightSimulatorMapping *>();
     auto *mapping = *std::find_if(mappings.begin(), mappings.end(), [](const auto *one) {

@@ -16,7 +16,7 @@ constexpr auto othersEntry = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                              "    </Launch.Addon>\n"
                              "</SimBase.Document>\n";
 
-// The block of the guide that is no JSON: what the example says is added.
+// The block of the guide that is not JSON: the entry that the example says is added.
 QByteArray promisedEntry()
 {
     const QByteArray guide = readFile(QStringLiteral(ORBWELL_SOURCE "/docs/catalogue.md"));
@@ -35,10 +35,10 @@ private slots:
     void cleanup();
 
     void installsWhatTheGuidePromises();
-    void takesEverythingOutAgain();
-    void leavesTheEmptyFolderThatTheGuideWarnsOf();
+    void removesEverythingAgain();
+    void leavesTheEmptyFolderThatTheGuideMentions();
     void editsTheFileInThePrefixOfAGame();
-    void givesTheSecondEditionAFileOfItsOwn();
+    void givesTheSecondEditionItsOwnFile();
     void installsIntoTheSecondCopyOfASimulator();
 
 private:
@@ -106,7 +106,7 @@ void TestWorkedExample::installsWhatTheGuidePromises()
     QCOMPARE(readFile(data("Kestrel/launch.xml")), withOurs);
 }
 
-void TestWorkedExample::takesEverythingOutAgain()
+void TestWorkedExample::removesEverythingAgain()
 {
     const auto before = treeOf(simulator("Kestrel Flight Deck"));
     start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(0));
@@ -120,7 +120,7 @@ void TestWorkedExample::takesEverythingOutAgain()
     QVERIFY(!QFile::exists(data("Kestrel/orbwell-settings.ini")));
 }
 
-void TestWorkedExample::leavesTheEmptyFolderThatTheGuideWarnsOf()
+void TestWorkedExample::leavesTheEmptyFolderThatTheGuideMentions()
 {
     QByteArray catalogue = jsonBlocks(QStringLiteral("docs/catalogue.md")).value(0);
     catalogue.replace("Panels/Orbwell/panel.cfg", "Panels/Orbwell/about.txt");
@@ -145,7 +145,7 @@ void TestWorkedExample::editsTheFileInThePrefixOfAGame()
     QCOMPARE(readFile(file), QByteArray(othersEntry));
 }
 
-void TestWorkedExample::givesTheSecondEditionAFileOfItsOwn()
+void TestWorkedExample::givesTheSecondEditionItsOwnFile()
 {
     QDir().mkpath(simulator("Kestrel Flight Deck 2"));
     start(jsonBlocks(QStringLiteral("docs/catalogue.md")).value(2));

@@ -19,7 +19,7 @@ QStringList &lookedUpPaths()
 } // namespace
 
 #ifdef Q_OS_LINUX
-// Stands in front of the C library's, which Qt calls to see whether a file exists.
+// Replaces the C library's function, which Qt calls to check whether a file exists.
 extern "C" int access(const char *name, int type) noexcept
 {
     lookedUpPaths().append(QFile::decodeName(name));

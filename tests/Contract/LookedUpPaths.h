@@ -5,10 +5,10 @@
 
 namespace Tests {
 
-/// Whether this system lets the test see which files are asked for.
+/// Whether the test can see on this system which files are looked up.
 bool canSeeLookUps();
 
-/// The paths whose existence was asked for since the last call, in order.
+/// The paths that were looked up since the last call, in order.
 QStringList takeLookedUpPaths();
 
 } // namespace Tests

@@ -1,5 +1,5 @@
-// These are promises to other programs: they build against these headers, call the slot by its
-// name, and watch which files are looked at. Nothing here may change for the sake of tidier code.
+// These are promises to other programs, which build against these headers, invoke the slot by its
+// name, and watch which files are looked up. Nothing here may change only for tidier code.
 
 #include "Controllers/ConfigurationController.h"
 #include "Library/Helpers/XmlHelper.h"
@@ -59,7 +59,7 @@ class TestContract : public QObject
 
 private slots:
 
-    // "*" is a pointer to a mapping.
+    // "*" means a pointer to a mapping.
     void declaresItsClassesToTheMetaSystem_data()
     {
         QTest::addColumn<const QMetaObject *>("meta");
@@ -139,14 +139,14 @@ private slots:
             controller.m_errorMessage, controller.view, controller.mappings, controller.simPaths));
     }
 
-    void letsThePathOfAnInsertionModelBeSetAsThatOfAnyModel()
+    void hasASettablePathInTheInsertionModel()
     {
         XmlInsertionModel model(nullptr, {});
         static_cast<XmlConfigModel &>(model).path = "other.xml"_s;
         QCOMPARE(model.path, "other.xml"_s);
     }
 
-    void sendsMappingsThroughSignalsAsARegisteredPointer()
+    void registersTheMappingPointerForSignals()
     {
         const int id = qMetaTypeId<FlightSimulatorMapping *>();
         const char *const name = "Quillmont::Utility::Models::FlightSimulatorMapping*";
@@ -175,7 +175,7 @@ private slots:
                             "4 ModeScanAndInstall "));
     }
 
-    void letsAScanBeStartedByName()
+    void letsTheScanSlotBeInvokedByName()
     {
         Workshop shop;
         shop.writeCatalogue("[{}]");
@@ -198,7 +198,7 @@ private slots:
         QCOMPARE(shop.rowNames().size(), 1);
     }
 
-    void hasWhatOtherPlatformsCallAndDoesNothingThere()
+    void hasEmptyFunctionsForOtherPlatforms()
     {
         Workshop shop;
         auto *mapping = shop.mapping(R"({"name": "Sim A", "files": [{"destination": "x"}]})",
@@ -212,7 +212,7 @@ private slots:
         QCOMPARE(shop.controller().m_errorMessage, QString());
     }
 
-    // Also behind one that is missing.
+    // Also after a missing one.
     void looksUpEveryPluginFileInOrder()
     {
         if (!canSeeLookUps())

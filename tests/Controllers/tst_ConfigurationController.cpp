@@ -13,7 +13,7 @@ using Quillmont::Utility::Controllers::ConfigurationController;
 using Tests::readFile;
 using Tests::writeFile;
 
-// The one instance keeps the place that it was made with, so all tests share one home.
+// The single instance keeps its first path, so all tests share one home.
 class TestConfigurationController : public QObject
 {
     Q_OBJECT
@@ -22,20 +22,20 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void isOneObjectWithoutAParent();
-    void makesNoFolderUntilItWrites();
+    void isASingleObjectWithoutAParent();
+    void createsNoFolderUntilItWrites();
     void writesTheKeyIntoItsSection();
-    void keepsWhatItIsGiven_data();
-    void keepsWhatItIsGiven();
-    void answersTheDefaultForWhatIsNotThere();
-    void answersTheDefaultForANullOnly();
-    void seesWhatOthersWrite();
-    void leavesOtherProgramsSettingsAlone();
-    void removesAKeyAndWhatIsBelowIt();
-    void readsAForeignFileAsEmpty();
-    void tellsOfAWriteThatFailsInTheLogAlone();
-    void answersTheSharedDataFolder();
-    void startsNothingWithTheSystem();
+    void returnsWhatWasSaved_data();
+    void returnsWhatWasSaved();
+    void returnsTheDefaultForAMissingKey();
+    void returnsTheDefaultOnlyForANull();
+    void readsWhatOtherProgramsWrite();
+    void keepsOtherProgramsSettings();
+    void removesAKeyWithEverythingBelowIt();
+    void readsAFileThatIsNotSettingsAsEmpty();
+    void reportsAFailedWriteOnlyInTheLog();
+    void returnsTheSharedDataFolder();
+    void neverStartsWithTheSystem();
     void isAPlainObjectToTheMetaSystem();
 
 private:
@@ -57,14 +57,14 @@ void TestConfigurationController::cleanup()
     QDir(settingsFolder()).removeRecursively();
 }
 
-void TestConfigurationController::isOneObjectWithoutAParent()
+void TestConfigurationController::isASingleObjectWithoutAParent()
 {
     QVERIFY(m_settings);
     QCOMPARE(ConfigurationController::instance(), m_settings);
     QVERIFY(!m_settings->parent());
 }
 
-void TestConfigurationController::makesNoFolderUntilItWrites()
+void TestConfigurationController::createsNoFolderUntilItWrites()
 {
     m_settings->getSettings(QStringLiteral("flightsim/A"));
     QVERIFY(!QFile::exists(settingsFolder()));
@@ -80,13 +80,13 @@ void TestConfigurationController::writesTheKeyIntoItsSection()
              QByteArray("[flightsim]\nExample_Sim_2020=/games/Example Sim\n"));
 }
 
-void TestConfigurationController::keepsWhatItIsGiven_data()
+void TestConfigurationController::returnsWhatWasSaved_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
     QTest::newRow("plain") << QStringLiteral("flightsim/A") << QStringLiteral("/a");
     QTest::newRow("empty") << QStringLiteral("flightsim/A") << QString(QLatin1String(""));
-    QTest::newRow("blanks") << QStringLiteral("flightsim/A") << QStringLiteral("  /a b ");
+    QTest::newRow("spaces") << QStringLiteral("flightsim/A") << QStringLiteral("  /a b ");
     QTest::newRow("separators") << QStringLiteral("flightsim/A") << QStringLiteral("/a;b,c=d\"e'");
     QTest::newRow("backslashes") << QStringLiteral("flightsim/A") << QStringLiteral(R"(C:\a\x41)");
     QTest::newRow("an at sign") << QStringLiteral("flightsim/A") << QStringLiteral("@Invalid()");
@@ -97,7 +97,7 @@ void TestConfigurationController::keepsWhatItIsGiven_data()
         << QStringLiteral("flightsim/a[b]=c;d#e&<f>") << QStringLiteral("/[a]=b#c<d>");
 }
 
-void TestConfigurationController::keepsWhatItIsGiven()
+void TestConfigurationController::returnsWhatWasSaved()
 {
     QFETCH(QString, key);
     QFETCH(QString, value);
@@ -109,7 +109,7 @@ void TestConfigurationController::keepsWhatItIsGiven()
     QVERIFY(!m_settings->getSettings(key).isValid());
 }
 
-void TestConfigurationController::answersTheDefaultForWhatIsNotThere()
+void TestConfigurationController::returnsTheDefaultForAMissingKey()
 {
     const QString key = QStringLiteral("flightsim/Example_Sim_2020");
     QVERIFY(!m_settings->getSettings(key).isValid());
@@ -118,7 +118,7 @@ void TestConfigurationController::answersTheDefaultForWhatIsNotThere()
     QCOMPARE(m_settings->getSettings(key, 7), QVariant(7));
 }
 
-void TestConfigurationController::answersTheDefaultForANullOnly()
+void TestConfigurationController::returnsTheDefaultOnlyForANull()
 {
     writeFile(settingsFile(), "[flightsim]\nNull=@Invalid()\nEmpty=\n");
     const QVariant other = QStringLiteral("other");
@@ -127,7 +127,7 @@ void TestConfigurationController::answersTheDefaultForANullOnly()
              QVariant(QString(QLatin1String(""))));
 }
 
-void TestConfigurationController::seesWhatOthersWrite()
+void TestConfigurationController::readsWhatOtherProgramsWrite()
 {
     const QString key = QStringLiteral("flightsim/A");
     m_settings->saveSettings(key, QStringLiteral("/a"));
@@ -137,7 +137,7 @@ void TestConfigurationController::seesWhatOthersWrite()
     QVERIFY(!m_settings->getSettings(key).isValid());
 }
 
-void TestConfigurationController::leavesOtherProgramsSettingsAlone()
+void TestConfigurationController::keepsOtherProgramsSettings()
 {
     writeFile(settingsFile(), "[General]\nlanguage=de\n\n[other]\nA=/other\n");
     m_settings->saveSettings(QStringLiteral("flightsim/A"), QStringLiteral("/a"));
@@ -147,7 +147,7 @@ void TestConfigurationController::leavesOtherProgramsSettingsAlone()
              QStringLiteral("/other"));
 }
 
-void TestConfigurationController::removesAKeyAndWhatIsBelowIt()
+void TestConfigurationController::removesAKeyWithEverythingBelowIt()
 {
     const QString above = QStringLiteral("flightsim/A");
     const QString below = QStringLiteral("flightsim/A/deep");
@@ -160,7 +160,7 @@ void TestConfigurationController::removesAKeyAndWhatIsBelowIt()
     QVERIFY(m_settings->getSettings(beside).isValid());
 }
 
-void TestConfigurationController::readsAForeignFileAsEmpty()
+void TestConfigurationController::readsAFileThatIsNotSettingsAsEmpty()
 {
     writeFile(settingsFile(), QByteArray(4096, '\0') + "\xff\xfe[[[=\n]");
     const Tests::LogCatcher log;
@@ -169,9 +169,9 @@ void TestConfigurationController::readsAForeignFileAsEmpty()
     QCOMPARE(log.warnings(), QStringList());
 }
 
-void TestConfigurationController::tellsOfAWriteThatFailsInTheLogAlone()
+void TestConfigurationController::reportsAFailedWriteOnlyInTheLog()
 {
-    // A folder in the file's place stops everybody, root included.
+    // A folder in place of the file stops even root.
     QVERIFY(QDir().mkpath(settingsFile()));
     const Tests::LogCatcher log;
     m_settings->saveSettings(QStringLiteral("flightsim/A"), QStringLiteral("/a"));
@@ -182,14 +182,14 @@ void TestConfigurationController::tellsOfAWriteThatFailsInTheLogAlone()
     QCOMPARE(log.actions(), QStringList({line.arg(settingsFile()), line.arg(settingsFile())}));
 }
 
-void TestConfigurationController::answersTheSharedDataFolder()
+void TestConfigurationController::returnsTheSharedDataFolder()
 {
     QCOMPARE(ConfigurationController::appDataPath(),
              m_sandbox.dataRoot() + QLatin1String("Quillmont/Vellum/"));
     QVERIFY(!QFile::exists(ConfigurationController::appDataPath()));
 }
 
-void TestConfigurationController::startsNothingWithTheSystem()
+void TestConfigurationController::neverStartsWithTheSystem()
 {
     QVERIFY(!m_settings->startWithWindows());
     m_settings->setStartWithWindows(true);

@@ -9,17 +9,17 @@
 
 using Quillmont::Utility::Controllers::ConfigurationController;
 
-// Here the data location does not end in the display name, and the two paths part. A program of
-// its own, since the settings keep the place that they were first used with.
+// The data location does not end with the display name here, so the two paths differ. A separate
+// program, since the settings keep their first path.
 class TestForeignDataLocation : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void gluesTheSettingsFileToTheLocation();
-    void findsASettingsFileThere();
-    void putsASlashInTheSharedDataFolder();
+    void appendsTheSettingsFileWithoutASeparator();
+    void readsASettingsFileThere();
+    void endsTheSharedDataFolderWithASlash();
 
 private:
     QString location() const { return m_sandbox.dataRoot() + QCoreApplication::applicationName(); }
@@ -33,7 +33,7 @@ void TestForeignDataLocation::initTestCase()
     ConfigurationController::instance();
 }
 
-void TestForeignDataLocation::gluesTheSettingsFileToTheLocation()
+void TestForeignDataLocation::appendsTheSettingsFileWithoutASeparator()
 {
     ConfigurationController::instance()->saveSettings(QStringLiteral("flightsim/A"),
                                                       QStringLiteral("/a"));
@@ -41,7 +41,7 @@ void TestForeignDataLocation::gluesTheSettingsFileToTheLocation()
     QVERIFY(!QFile::exists(location()));
 }
 
-void TestForeignDataLocation::findsASettingsFileThere()
+void TestForeignDataLocation::readsASettingsFileThere()
 {
     Tests::writeFile(location() + QLatin1String("Quillmont/Vellum/.settings"),
                      "[flightsim]\nB=/from/an/earlier/release\n");
@@ -50,7 +50,7 @@ void TestForeignDataLocation::findsASettingsFileThere()
         QStringLiteral("/from/an/earlier/release"));
 }
 
-void TestForeignDataLocation::putsASlashInTheSharedDataFolder()
+void TestForeignDataLocation::endsTheSharedDataFolderWithASlash()
 {
     QCOMPARE(ConfigurationController::appDataPath(),
              location() + QLatin1String("/Quillmont/Vellum/"));

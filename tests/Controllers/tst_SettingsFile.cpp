@@ -48,13 +48,13 @@ QByteArray object(const QByteArray &bytes)
     return "@Variant(" + escaped(bytes) + ')';
 }
 
-// Lists in lists.
+// Nested lists.
 QByteArray nested(int depth)
 {
     return (number(9) + number(1)).repeated(depth - 1) + number(9) + number(0);
 }
 
-// A list that says it has more than memory holds.
+// A list that claims more elements than fit in memory.
 QByteArray endless()
 {
     return number(9) + number(0x7fffffff);
@@ -89,8 +89,8 @@ QByteArray dateIn(const QByteArray &zone)
 
 } // namespace
 
-// What other programs, and ill luck, leave in the settings file and beside it. The one instance
-// keeps the place that it was made with, so all tests share one home.
+// What other programs or damage leave in the settings file and beside it. The single instance keeps
+// its first path, so all tests share one home.
 class TestSettingsFile : public QObject
 {
     Q_OBJECT
@@ -99,22 +99,22 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void keepsWhatOtherProgramsStored_data();
-    void keepsWhatOtherProgramsStored();
+    void keepsOtherProgramsValues_data();
+    void keepsOtherProgramsValues();
     void keepsTextsInUtf8();
-    void leavesAloneWhatItWouldLose_data();
-    void leavesAloneWhatItWouldLose();
+    void doesNotWriteAFileThatWouldLoseValues_data();
+    void doesNotWriteAFileThatWouldLoseValues();
     void refusesHarmfulObjects_data();
     void refusesHarmfulObjects();
-    void readsItsOwnBesideAHarmfulObject();
-    void looksAgainAtAFileThatChanged();
-    void isReadUpToASize_data();
-    void isReadUpToASize();
-    void waitsForNobodyAtAPipe_data();
-    void waitsForNobodyAtAPipe();
-    void clearsLeftOverLocks_data();
-    void clearsLeftOverLocks();
-    void waitsOnceForAProgramThatHangs();
+    void readsItsOwnSectionBesideAHarmfulObject();
+    void rereadsAFileThatChanged();
+    void readsFilesUpToAMaximumSize_data();
+    void readsFilesUpToAMaximumSize();
+    void doesNotBlockOnAPipe_data();
+    void doesNotBlockOnAPipe();
+    void removesStaleLocks_data();
+    void removesStaleLocks();
+    void waitsOnlyOnceForAHangingProgram();
 
 private:
     QString file() const
@@ -138,7 +138,7 @@ void TestSettingsFile::cleanup()
     QDir(m_sandbox.dataRoot() + QStringLiteral("Quillmont")).removeRecursively();
 }
 
-void TestSettingsFile::keepsWhatOtherProgramsStored_data()
+void TestSettingsFile::keepsOtherProgramsValues_data()
 {
     QTest::addColumn<QVariant>("value");
     const auto add = [](const char *name, const QVariant &value) {
@@ -150,27 +150,27 @@ void TestSettingsFile::keepsWhatOtherProgramsStored_data()
     add("hash", QVariantHash{{QStringLiteral("a"), map}});
     add("list", QVariantList{1, map, QStringLiteral("x")});
     add("list of one", QVariantList{map});
-    add("list without anything", QVariantList());
+    add("empty list", QVariantList());
     QVariant deep = QVariantList();
     for (int i = 1; i < 1000; ++i)
         deep = QVariantList{deep};
     add("list in 999 lists", deep);
     add("texts",
         QStringList{QStringLiteral("@Variant("), QStringLiteral("a, b"), QStringLiteral("@")});
-    add("text with an object's mark", QStringLiteral("a @Variant(\\0\\0\\0\\x9\\x7f) b"));
+    add("text that contains an object's mark", QStringLiteral("a @Variant(\\0\\0\\0\\x9\\x7f) b"));
     add("text like an object", QStringLiteral("@Variant(\0\0)"));
     add("text like bytes", QStringLiteral("@ByteArray(@Variant())"));
     add("bytes with an object's mark", QByteArray("@Variant(\0\xff)", 12));
     add("bits", QBitArray(13, true));
     add("list of bytes", QVariant::fromValue(QByteArrayList{"a", "b"}));
-    add("address", QUrl(QStringLiteral("http://example.org/a b?c=d,e;f")));
+    add("URL", QUrl(QStringLiteral("http://example.org/a b?c=d,e;f")));
     add("float", 1.5F);
     add("character", QChar(u'x'));
     add("char", QVariant::fromValue('c'));
     add("short", QVariant::fromValue<short>(-3));
     add("unsigned long", QVariant::fromValue<ulong>(3));
     add("null pointer", QVariant::fromValue(nullptr));
-    add("identifier", QUuid(QStringLiteral("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}")));
+    add("UUID", QUuid(QStringLiteral("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}")));
     add("JSON value", QVariant::fromValue(QJsonValue(3.5)));
     add("JSON document", QVariant::fromValue(QJsonDocument(QJsonArray{1, QJsonObject()})));
     add("CBOR",
@@ -180,29 +180,29 @@ void TestSettingsFile::keepsWhatOtherProgramsStored_data()
     add("time", QTime(1, 2, 3));
     add("date and time", QDateTime(QDate(2020, 1, 2), QTime(1, 2), Qt::UTC));
     if (const QTimeZone zone("Europe/Berlin"); zone.isValid())
-        add("date and time of a place", QDateTime(QDate(2020, 1, 2), QTime(1, 2), zone));
-    add("place", QLocale(QLocale::German));
-    add("pattern", QRegularExpression(QStringLiteral("((a{999}){999}){999}")));
-    add("old pattern", QRegExp(QStringLiteral("[0-9a-f]{8}-([0-9a-f]{4}-){3}[0-9a-f]{12}")));
-    // It is stored twice, so this is half of what a file may hold.
-    add("longest old pattern", QRegExp(QString(1290, u'a')));
-    add("curve", QEasingCurve(QEasingCurve::OutElastic));
+        add("date and time with a time zone", QDateTime(QDate(2020, 1, 2), QTime(1, 2), zone));
+    add("locale", QLocale(QLocale::German));
+    add("QRegularExpression", QRegularExpression(QStringLiteral("((a{999}){999}){999}")));
+    add("QRegExp", QRegExp(QStringLiteral("[0-9a-f]{8}-([0-9a-f]{4}-){3}[0-9a-f]{12}")));
+    // It is stored twice, so this is half of the limit per file.
+    add("longest accepted QRegExp", QRegExp(QString(1290, u'a')));
+    add("easing curve", QEasingCurve(QEasingCurve::OutElastic));
     add("rectangle", QRectF(1, 2, 3, 4));
     add("line", QLineF(1, 2, 3, 4));
     add("font", QFont(QStringLiteral("Serif"), 12));
     add("colour", QColor(Qt::red));
-    add("keys", QVariant::fromValue(QKeySequence(QStringLiteral("Ctrl+A"))));
+    add("key sequence", QVariant::fromValue(QKeySequence(QStringLiteral("Ctrl+A"))));
     add("picture", picture(8, 8).convertToFormat(QImage::Format_ARGB32));
-    add("biggest picture", picture(8192, 8191));
-    add("great pictures", QVector<QVariant>(5, picture(2600, 2600)).toList());
+    add("largest accepted picture", picture(8192, 8191));
+    add("several large pictures", QVector<QVariant>(5, picture(2600, 2600)).toList());
     QImage described = picture(8, 8);
     described.setText(QStringLiteral("about"), QString(5000, u'x'));
     add("picture with a text", described);
     add("pixmap", QPixmap::fromImage(picture(8, 8)));
     add("bitmap", QBitmap::fromImage(picture(8, 8)));
     add("icon", QIcon(QPixmap::fromImage(picture(8, 8))));
-    add("pointer", QCursor(Qt::WaitCursor));
-    add("pointer of its own", QCursor(QPixmap::fromImage(picture(8, 8))));
+    add("cursor", QCursor(Qt::WaitCursor));
+    add("cursor with a picture", QCursor(QPixmap::fromImage(picture(8, 8))));
     add("brush", QBrush(Qt::red));
     add("brush with a texture", QBrush(picture(8, 8)));
     for (const QGradient &gradient : {QGradient(QLinearGradient(0, 0, 1, 1)),
@@ -214,22 +214,22 @@ void TestSettingsFile::keepsWhatOtherProgramsStored_data()
     add("pen", pen);
     add("palette", QPalette(Qt::red));
     add("polygon", QVariant::fromValue(QPolygon(QRect(0, 0, 3, 3))));
-    add("fine polygon", QVariant::fromValue(QPolygonF(QRectF(0, 0, 3, 3))));
+    add("polygon of floats", QVariant::fromValue(QPolygonF(QRectF(0, 0, 3, 3))));
     add("region", QRegion(0, 0, 900, 900, QRegion::Ellipse) + QRegion(950, 50, 9, 9));
     add("region of many rectangles", rectangles(16385));
     add("no region", QRegion());
     add("matrix", QMatrix4x4());
     add("vector", QVector3D(1, 2, 3));
-    add("length", QVariant::fromValue(QTextLength(QTextLength::FixedLength, 3)));
+    add("text length", QVariant::fromValue(QTextLength(QTextLength::FixedLength, 3)));
     QTextCharFormat format;
     format.setForeground(Qt::red);
-    add("format", QVariant::fromValue<QTextFormat>(format));
+    add("text format", QVariant::fromValue<QTextFormat>(format));
 }
 
-void TestSettingsFile::keepsWhatOtherProgramsStored()
+void TestSettingsFile::keepsOtherProgramsValues()
 {
     QFETCH(const QVariant, value);
-    // Elsewhere, since Qt remembers the objects of a file that it wrote itself.
+    // In another file, since Qt caches the objects of a file that it wrote itself.
     const QString written = m_sandbox.path(QStringLiteral("written"));
     for (const QString &key : {QStringLiteral("flightsim/B"), QStringLiteral("other/B")})
         QSettings(written, QSettings::IniFormat).setValue(key, value);
@@ -245,7 +245,7 @@ void TestSettingsFile::keepsWhatOtherProgramsStored()
     QCOMPARE(log.actions() + log.warnings(), QStringList());
 }
 
-// A program that has Qt write UTF-8 would read anything else as that, too.
+// A program that makes Qt write UTF-8 would also read any other encoding as UTF-8.
 void TestSettingsFile::keepsTextsInUtf8()
 {
     const QString written = m_sandbox.path(QStringLiteral("written"));
@@ -265,10 +265,10 @@ void TestSettingsFile::keepsTextsInUtf8()
     QCOMPARE(folder(ours), QStringLiteral("/é"));
 }
 
-void TestSettingsFile::leavesAloneWhatItWouldLose_data()
+void TestSettingsFile::doesNotWriteAFileThatWouldLoseValues_data()
 {
     QTest::addColumn<QByteArray>("value");
-    QTest::newRow("another program's own kind")
+    QTest::newRow("another program's own type")
         << object(serialised(127, QByteArray("Somebody::Thing\0", 16)) + "secret");
     QTest::newRow("in a list") << object(number(9) + number(1)
                                          + serialised(127, QByteArray("Somebody::Thing\0", 16)));
@@ -276,12 +276,12 @@ void TestSettingsFile::leavesAloneWhatItWouldLose_data()
         << "a, " + object(serialised(127, QByteArray("Somebody::Thing\0", 16)));
     QTest::newRow("cut off") << object(serialised(10, QStringLiteral("text")).chopped(2));
     QTest::newRow("cut off in a list") << object(number(9) + number(3) + number(2) + number(1));
-    QTest::newRow("more than there is") << object(number(2) + number(1) + "more");
-    QTest::newRow("unknown") << object(number(60) + number(0));
+    QTest::newRow("bytes after the object") << object(number(2) + number(1) + "more");
+    QTest::newRow("unknown type") << object(number(60) + number(0));
     QTest::newRow("pointer") << object(number(128));
 }
 
-void TestSettingsFile::leavesAloneWhatItWouldLose()
+void TestSettingsFile::doesNotWriteAFileThatWouldLoseValues()
 {
     QFETCH(const QByteArray, value);
     const QByteArray before = "[flightsim]\nA=/a\nthing=" + value + '\n';
@@ -301,7 +301,7 @@ void TestSettingsFile::refusesHarmfulObjects_data()
     const auto add = [](const char *name, const QByteArray &object) {
         QTest::newRow(name) << "B=" + object;
     };
-    add("as big as all memory", object(endless()));
+    add("larger than all memory", object(endless()));
     for (const int type : {8, 11, 28, 71, 146}) {
         const QByteArray name
             = QByteArray("of kind ") + QMetaType::typeName(type > 127 ? type - 97 : type);
@@ -310,34 +310,35 @@ void TestSettingsFile::refusesHarmfulObjects_data()
     add("in a map", object(number(8) + number(1) + number(0) + endless()));
     add("in a format", object(number(79) + number(1) + number(1) + number(1) + endless()));
     add("in an object", object(number(138) + endless()));
-    add("by its name",
+    add("type given by name",
         object(serialised(127, QByteArray("QVariantList\0", 13)) + number(0x7fffffff)));
-    add("behind half a character", object(number(8) + number(1) + number(3) + endless()));
-    add("deeper than it may be", object(nested(1001)));
+    add("after half a character", object(number(8) + number(1) + number(3) + endless()));
+    add("one level too deep", object(nested(1001)));
     add("deeper than the stack", object(nested(45000)));
-    add("old pattern longer than it may be", object(serialised(27, QRegExp(QString(1626, u'a')))));
+    add("QRegExp that is one character too long",
+        object(serialised(27, QRegExp(QString(1626, u'a')))));
     const QByteArray pattern = serialised(27, QRegExp(QString(100, u'a')));
-    add("very many old patterns", object(number(9) + number(3400) + pattern.repeated(3400)));
-    add("old pattern without end",
+    add("very many QRegExps", object(number(9) + number(3400) + pattern.repeated(3400)));
+    add("QRegExp with huge repetitions",
         object(serialised(27, QRegExp(QStringLiteral("(((a{99}){99}){99})(b{9}){9}")).pattern())));
-    add("CBOR of great arrays",
+    add("CBOR with huge arrays",
         object(serialised(150, QByteArray("\x9a\x01\0\0\0", 5).repeated(900))));
-    add("CBOR too deep", object(serialised(150, QByteArray(1001, '\x81') + '\0')));
-    add("fine polygon",
+    add("CBOR nested too deeply", object(serialised(150, QByteArray(1001, '\x81') + '\0')));
+    add("polygon of floats",
         object(serialised(127, QByteArray("QPolygonF\0", 10)) + number(0x7fffffff)));
-    add("region without end", object(serialised(72, number(10) + number(0x7fffffff))));
+    add("huge region", object(serialised(72, number(10) + number(0x7fffffff))));
     add("round region",
         object(serialised(
             72, number(2) + QByteArray(8, '\0') + number(0x7fffffff) + number(0x7fffffff))));
-    add("region of more rectangles than it may have", object(serialised(72, rectangles(65537))));
-    add("region across itself",
+    add("region with too many rectangles", object(serialised(72, rectangles(65537))));
+    add("overlapping region",
         object(serialised(72,
                           number(10) + number(2)
                               + (QByteArray(8, '\0') + number(9) + number(9)).repeated(2))));
-    add("picture bigger than it may be", object(serialised(70, picture(16385, 8192))));
+    add("picture that is too large", object(serialised(70, picture(16385, 8192))));
     QByteArray bomb = serialised(70, picture(8, 8));
-    add("picture that is none", object(QByteArray(bomb).replace("IDAT", "XXXX")));
-    add("picture of another kind", object(number(70) + number(1) + "BM" + QByteArray(60, '\0')));
+    add("invalid picture", object(QByteArray(bomb).replace("IDAT", "XXXX")));
+    add("picture in another format", object(number(70) + number(1) + "BM" + QByteArray(60, '\0')));
     QImage described = picture(8, 8);
     QRandomGenerator random(1);
     QString noise(1400000, QChar());
@@ -348,27 +349,27 @@ void TestSettingsFile::refusesHarmfulObjects_data()
     add("pen",
         object(number(77) + QByteArray(9, '\0') + '\x0f' + QByteArray(15, '\0')
                + number(0x7fffffff)));
-    add("pointer", object(number(74) + QByteArray("\0\x18\1", 3) + number(1) + "no picture"));
-    add("place outside", dateIn("../../../dev/null"));
-    add("another kind of date",
+    add("cursor", object(number(74) + QByteArray("\0\x18\1", 3) + number(1) + "no picture"));
+    add("time zone outside its folder", dateIn("../../../dev/null"));
+    add("another type instead of a date",
         "@DateTime(" + escaped(number(9) + QByteArray(1, '\0') + number(0x7fffffff)) + ')');
 
     const QByteArray bytes = escaped(endless());
-    QTest::newRow("by its letter")
+    QTest::newRow("type given by a letter")
         << QByteArray(R"(B=@Variant(\0\0\0\t\x7f\xff\xff\xff\0\0\0\x43))");
     QTest::newRow("in quotes") << "B= \t\"@Variant(" + bytes + ")\"";
     QTest::newRow("between quotes") << R"(B="@" "Vari"ant()" + bytes + ')';
-    QTest::newRow("with blanks behind") << "B=@Variant(" + bytes + ") \t";
-    QTest::newRow("in disguise") << R"(B=@V\141ri\x61nt()" + bytes + ')';
+    QTest::newRow("with trailing spaces") << "B=@Variant(" + bytes + ") \t";
+    QTest::newRow("with escaped letters") << R"(B=@V\141ri\x61nt()" + bytes + ')';
     QTest::newRow("over two lines") << "B=@Var\\\n\riant(" + bytes + ')';
-    QTest::newRow("with escapes that are none") << R"(B=@\qVar\xiant()" + bytes + ')';
+    QTest::newRow("with invalid escapes") << R"(B=@\qVar\xiant()" + bytes + ')';
     QTest::newRow("in a list of values") << "B=a, \"b,c\",@Variant(" + bytes + ')';
-    QTest::newRow("behind a comment") << "; \"\\\n\t;B\nB=@Variant(" + bytes + ')';
-    QTest::newRow("behind a value with a comment") << "C=1;\"\nB=@Variant(" + bytes + ')';
-    QTest::newRow("behind a line end in quotes") << "C=\"1\n\"\nB=@Variant(" + bytes + ')';
-    QTest::newRow("behind another section")
+    QTest::newRow("after a comment") << "; \"\\\n\t;B\nB=@Variant(" + bytes + ')';
+    QTest::newRow("after a value with a comment") << "C=1;\"\nB=@Variant(" + bytes + ')';
+    QTest::newRow("after a line end in quotes") << "C=\"1\n\"\nB=@Variant(" + bytes + ')';
+    QTest::newRow("after another section")
         << "[other]\nC=1\n\n[%66lightsim]\nB=@Variant(" + bytes + ')';
-    QTest::newRow("in a section within") << "[flightsim\\sub]\nB=@Variant(" + bytes + ')';
+    QTest::newRow("in a nested section") << "[flightsim\\sub]\nB=@Variant(" + bytes + ')';
 }
 
 void TestSettingsFile::refusesHarmfulObjects()
@@ -390,14 +391,14 @@ void TestSettingsFile::refusesHarmfulObjects()
     }
 }
 
-void TestSettingsFile::readsItsOwnBesideAHarmfulObject()
+void TestSettingsFile::readsItsOwnSectionBesideAHarmfulObject()
 {
     writeFile(file(), "[flightsim]\nA=/a\n\n[other]\nB=" + object(endless()) + '\n');
     QCOMPARE(folder(ours), QStringLiteral("/a"));
 }
 
-// As one that reads it for each row of the window might not.
-void TestSettingsFile::looksAgainAtAFileThatChanged()
+// The result of a check is cached for the window's rows.
+void TestSettingsFile::rereadsAFileThatChanged()
 {
     const QByteArray harmless = "[flightsim]\nA=/a\nB=" + object(number(9) + number(0)) + '\n';
     const QByteArray harmful = "[flightsim]\nA=/a\nB=" + object(endless()) + '\n';
@@ -431,17 +432,17 @@ void TestSettingsFile::looksAgainAtAFileThatChanged()
     QVERIFY2(!canRead(paths.at(2)), "written over a while ago, with its old time");
 }
 
-void TestSettingsFile::isReadUpToASize_data()
+void TestSettingsFile::readsFilesUpToAMaximumSize_data()
 {
     QTest::addColumn<qint64>("size");
     QTest::addColumn<bool>("isRead");
     constexpr qint64 most = 8LL * 1024 * 1024;
-    QTest::newRow("as big as it may be") << most << true;
-    QTest::newRow("bigger by a byte") << most + 1 << false;
-    QTest::newRow("a gigabyte that takes no room on the disk") << 1024LL * 1024 * 1024 << false;
+    QTest::newRow("maximum size") << most << true;
+    QTest::newRow("one byte larger") << most + 1 << false;
+    QTest::newRow("a sparse file of a gigabyte") << 1024LL * 1024 * 1024 << false;
 }
 
-void TestSettingsFile::isReadUpToASize()
+void TestSettingsFile::readsFilesUpToAMaximumSize()
 {
     QFETCH(const qint64, size);
     QFETCH(const bool, isRead);
@@ -457,16 +458,17 @@ void TestSettingsFile::isReadUpToASize()
     QCOMPARE(bytes.read(17), isRead ? QByteArray() : QByteArray("[flightsim]\nA=/a\n"));
 }
 
-void TestSettingsFile::waitsForNobodyAtAPipe_data()
+void TestSettingsFile::doesNotBlockOnAPipe_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("the file") << QStringLiteral(".settings");
-    QTest::newRow("the toolkit's lock file") << QStringLiteral(".settings.lock");
-    QTest::newRow("the one to clear it with") << QStringLiteral(".settings.lock.rmlock");
-    QTest::newRow("the one to clear that with") << QStringLiteral(".settings.lock.rmlock.rmlock");
+    QTest::newRow("Qt's lock file") << QStringLiteral(".settings.lock");
+    QTest::newRow("the lock to remove that lock") << QStringLiteral(".settings.lock.rmlock");
+    QTest::newRow("the lock to remove the second lock")
+        << QStringLiteral(".settings.lock.rmlock.rmlock");
 }
 
-void TestSettingsFile::waitsForNobodyAtAPipe()
+void TestSettingsFile::doesNotBlockOnAPipe()
 {
     QFETCH(const QString, name);
     const QString pipe = QFileInfo(file()).path() + u'/' + name;
@@ -483,18 +485,18 @@ void TestSettingsFile::waitsForNobodyAtAPipe()
     QCOMPARE(log.actions().filter(QStringLiteral("not saved")).size(), 2);
 }
 
-void TestSettingsFile::clearsLeftOverLocks_data()
+void TestSettingsFile::removesStaleLocks_data()
 {
     QTest::addColumn<QStringList>("names");
     const QString lock = QStringLiteral(".lock");
     const QString second = QStringLiteral(".lock.rmlock");
-    QTest::newRow("the lock") << QStringList{lock};
-    QTest::newRow("the one to clear it with") << QStringList{second};
-    QTest::newRow("both") << QStringList{lock, second};
-    QTest::newRow("one more") << QStringList{lock, second, second + QStringLiteral(".rmlock")};
+    QTest::newRow("a stale lock") << QStringList{lock};
+    QTest::newRow("the lock to remove that lock") << QStringList{second};
+    QTest::newRow("both locks") << QStringList{lock, second};
+    QTest::newRow("three locks") << QStringList{lock, second, second + QStringLiteral(".rmlock")};
 }
 
-void TestSettingsFile::clearsLeftOverLocks()
+void TestSettingsFile::removesStaleLocks()
 {
     QFETCH(const QStringList, names);
     for (const QString &name : names)
@@ -508,7 +510,7 @@ void TestSettingsFile::clearsLeftOverLocks()
     QCOMPARE(log.actions(), QStringList());
 }
 
-void TestSettingsFile::waitsOnceForAProgramThatHangs()
+void TestSettingsFile::waitsOnlyOnceForAHangingProgram()
 {
     writeFile(file(), "[flightsim]\nA=/a\n");
     QLockFile held(file() + QStringLiteral(".lock"));

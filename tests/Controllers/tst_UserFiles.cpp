@@ -16,10 +16,10 @@ class TestUserFiles : public QObject
 private slots:
     void init();
 
-    void takesTheProgramsNameOut();
-    void takesTheNameOutWhereverItStands();
-    void tellsUpperFromLowerCase();
-    void takesAnotherLocationLikewise();
+    void removesTheProgramsName();
+    void removesEveryOccurrenceOfTheName();
+    void respectsLetterCase();
+    void treatsOtherLocationsTheSame();
     void hasNoDoubledSlashInTheSharedDataFolder_data();
     void hasNoDoubledSlashInTheSharedDataFolder();
 
@@ -33,27 +33,27 @@ void TestUserFiles::init()
     m_sandbox = std::make_unique<Tests::Sandbox>();
 }
 
-void TestUserFiles::takesTheProgramsNameOut()
+void TestUserFiles::removesTheProgramsName()
 {
     QCOMPARE(userDataRoot(), m_sandbox->dataRoot());
     QCOMPARE(userDataRoot(QStandardPaths::AppDataLocation), m_sandbox->dataRoot());
 }
 
-void TestUserFiles::takesTheNameOutWhereverItStands()
+void TestUserFiles::removesEveryOccurrenceOfTheName()
 {
     m_sandbox->setVariable("HOME", "/home/" + QCoreApplication::applicationName().toUtf8() + "s");
     QVERIFY2(userDataRoot().startsWith(QLatin1String("/home/s/")), qPrintable(userDataRoot()));
     QVERIFY(userDataRoot().endsWith(u'/'));
 }
 
-void TestUserFiles::tellsUpperFromLowerCase()
+void TestUserFiles::respectsLetterCase()
 {
     const QByteArray home = "/home/" + QCoreApplication::applicationName().toUpper().toUtf8() + '/';
     m_sandbox->setVariable("HOME", home);
     QVERIFY2(userDataRoot().startsWith(QString::fromUtf8(home)), qPrintable(userDataRoot()));
 }
 
-void TestUserFiles::takesAnotherLocationLikewise()
+void TestUserFiles::treatsOtherLocationsTheSame()
 {
     m_sandbox->setVariable("HOME", "/home/" + QCoreApplication::applicationName().toUtf8() + "s");
     QCOMPARE(userDataRoot(QStandardPaths::HomeLocation), QStringLiteral("/home/s"));
@@ -65,10 +65,11 @@ void TestUserFiles::hasNoDoubledSlashInTheSharedDataFolder_data()
     QTest::addColumn<QString>("start");
     const QByteArray name = QCoreApplication::applicationName().toUtf8();
     QTest::newRow("plain") << QByteArray("/home/a") << QStringLiteral("/home/a/");
-    QTest::newRow("a folder of the program's name")
+    QTest::newRow("a folder with the program's name")
         << QByteArray("/home/" + name + "/b") << QStringLiteral("/home/b/");
-    QTest::newRow("three of them") << QByteArray("/home/" + name + '/' + name + '/' + name + "/b")
-                                   << QStringLiteral("/home/b/");
+    QTest::newRow("three such folders")
+        << QByteArray("/home/" + name + '/' + name + '/' + name + "/b")
+        << QStringLiteral("/home/b/");
 }
 
 void TestUserFiles::hasNoDoubledSlashInTheSharedDataFolder()

@@ -8,17 +8,17 @@
 using namespace Tests;
 using Quillmont::Utility::Doctor::CatalogueCheck;
 
-/// What a maker of catalogues is told.
+/// What orbwell-doctor reports to an author of catalogues.
 class TestCatalogueCheck : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void findsWhatTheProgramIsSilentAbout_data();
-    void findsWhatTheProgramIsSilentAbout();
+    void reportsMistakesThatTheProgramIgnores_data();
+    void reportsMistakesThatTheProgramIgnores();
 };
 
-void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout_data()
+void TestCatalogueCheck::reportsMistakesThatTheProgramIgnores_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("findings");
@@ -33,11 +33,11 @@ void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout_data()
         = R"("path": "x", "parent": "P", "values": [{"key": "k", "value": "v"}])";
 
     row("nothing", "[{\"name\": \"A\", " + files + "}]", "");
-    row("no JSON",
+    row("not JSON",
         "[\n}",
         "2:1  It is no JSON: object is missing after a comma. The program sees no simulator.");
-    row("no array", "{}", "1:1  It is no array. The program sees no simulator.");
-    row("no entry",
+    row("not an array", "{}", "1:1  It is no array. The program sees no simulator.");
+    row("not an object",
         "[3]",
         "1:2  Its type is number, not object; it counts as missing.|"
         "1:2  The simulator has no name.|"
@@ -48,10 +48,10 @@ void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout_data()
     row("wrong type",
         "[{\"name\": \"A\", \"type\": \"1\", " + files + "}]",
         "1:16 type Its type is string, not number; it counts as missing.");
-    row("key twice",
+    row("duplicate key",
         "[{\"name\": \"A\", \"name\": \"B\", " + files + "}]",
         "1:16 name The key is there twice; the last one counts.");
-    row("one name",
+    row("duplicate name",
         "[{\"name\": \"A\", " + files + "},\n{\"name\": \"A\", " + files + "}]",
         "2:2 name Line 1 has the same name; both share one record and one chosen folder.");
     row("source is missing",
@@ -89,12 +89,12 @@ void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout_data()
     row("no path",
         withConfig(values.mid(13)),
         "2:1 config There is no path; no file can be edited.");
-    row("not its type",
+    row("key of another type",
         "[{\"name\": \"A\", \"type\": 1, " + files + ",\n\"config\": {\"path\": \"x\"}}]",
         "2:1 config \"type\" is not 0, so no configuration file is touched.");
 }
 
-void TestCatalogueCheck::findsWhatTheProgramIsSilentAbout()
+void TestCatalogueCheck::reportsMistakesThatTheProgramIgnores()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QString, findings);

@@ -10,23 +10,23 @@
 using namespace Tests;
 using Quillmont::Utility::Doctor::lineDiff;
 
-/// What orbwell-doctor says that the program would do. EndToEnd/RandomSequences asks it before
-/// each click.
+/// What orbwell-doctor predicts that the program would do. EndToEnd/RandomSequences compares it
+/// with each click.
 class TestPlan : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void ofARepairIsWhatARepairDoes_data();
-    void ofARepairIsWhatARepairDoes();
-    void tellsWhatCannotBeDone_data();
-    void tellsWhatCannotBeDone();
-    void isReadByAPerson();
-    void showsNoLineThatStays_data();
-    void showsNoLineThatStays();
+    void predictsWhatARepairDoes_data();
+    void predictsWhatARepairDoes();
+    void reportsWhatCannotBeDone_data();
+    void reportsWhatCannotBeDone();
+    void writesAPlanForAPerson();
+    void showsOnlyChangedLines_data();
+    void showsOnlyChangedLines();
 };
 
-void TestPlan::ofARepairIsWhatARepairDoes_data()
+void TestPlan::predictsWhatARepairDoes_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("beside");
@@ -40,7 +40,7 @@ void TestPlan::ofARepairIsWhatARepairDoes_data()
     }
 }
 
-// The backups aside: a repair run first installs, and makes more of them.
+// Without the backups: a repair run first installs, and makes more of them.
 static Disk withoutBackups(Disk disk)
 {
     for (const QString &path : disk.keys()) {
@@ -50,7 +50,7 @@ static Disk withoutBackups(Disk disk)
     return disk;
 }
 
-void TestPlan::ofARepairIsWhatARepairDoes()
+void TestPlan::predictsWhatARepairDoes()
 {
     QFETCH(const int, type);
     QFETCH(const QString, beside);
@@ -70,7 +70,7 @@ void TestPlan::ofARepairIsWhatARepairDoes()
     QCOMPARE(difference(withoutBackups(computer.disk()), withoutBackups(planned)), QString());
 }
 
-void TestPlan::tellsWhatCannotBeDone_data()
+void TestPlan::reportsWhatCannotBeDone_data()
 {
     QTest::addColumn<QString>("lost");
     QTest::addColumn<QString>("link");
@@ -86,7 +86,7 @@ void TestPlan::tellsWhatCannotBeDone_data()
         << QString() << QString() << QByteArray("<R>") << "dll.xml\" stays as it is: line 1"_s;
 }
 
-void TestPlan::tellsWhatCannotBeDone()
+void TestPlan::reportsWhatCannotBeDone()
 {
     QFETCH(const QString, lost);
     QFETCH(const QString, link);
@@ -104,7 +104,7 @@ void TestPlan::tellsWhatCannotBeDone()
     QVERIFY2(result.output.contains(sentence.toUtf8()), result.output.constData());
 }
 
-void TestPlan::isReadByAPerson()
+void TestPlan::writesAPlanForAPerson()
 {
     Computer computer;
     computer.setCatalogue({computer.entry("Skylark"_s, 0), computer.entry("Wren"_s, 1)});
@@ -125,7 +125,7 @@ void TestPlan::isReadByAPerson()
     QVERIFY(!result.output.contains("etude"));
 }
 
-void TestPlan::showsNoLineThatStays_data()
+void TestPlan::showsOnlyChangedLines_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
@@ -133,11 +133,11 @@ void TestPlan::showsNoLineThatStays_data()
     const QString head = "--- f\n+++ f\n"_s;
     QTest::newRow("nothing") << "a\n"_s
                              << "a\n"_s << QString();
-    QTest::newRow("made") << QString() << "a\n"_s
-                          << "--- /dev/null\n+++ f\n@@ -0,0 +1,1 @@\n+a\n"_s;
-    QTest::newRow("two places") << "a\nb\nc\nd\n"_s
-                                << "A\nb\nc\n"_s
-                                << head + "@@ -1,1 +1,1 @@\n-a\n+A\n@@ -4,1 +3,0 @@\n-d\n"_s;
+    QTest::newRow("new file") << QString() << "a\n"_s
+                              << "--- /dev/null\n+++ f\n@@ -0,0 +1,1 @@\n+a\n"_s;
+    QTest::newRow("two changes") << "a\nb\nc\nd\n"_s
+                                 << "A\nb\nc\n"_s
+                                 << head + "@@ -1,1 +1,1 @@\n-a\n+A\n@@ -4,1 +3,0 @@\n-d\n"_s;
     QTest::newRow("added") << "a\nb\n"_s
                            << "a\nx\nb\n"_s << head + "@@ -1,0 +2,1 @@\n+x\n"_s;
     QTest::newRow("no line end") << "a"_s
@@ -146,7 +146,7 @@ void TestPlan::showsNoLineThatStays_data()
             + "@@ -1,1 +1,1 @@\n-a\n\\ No newline at end of file\n+b\n"_s;
 }
 
-void TestPlan::showsNoLineThatStays()
+void TestPlan::showsOnlyChangedLines()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, after);

@@ -33,23 +33,23 @@ private slots:
 
     void cleanup() { m_computer.reset(); }
 
-    void saysWhatIsWrong_data();
-    void saysWhatIsWrong();
+    void reportsEachProblem_data();
+    void reportsEachProblem();
 
-    void changesNothingAndKeepsToItsSchema_data() { saysWhatIsWrong_data(); }
+    void changesNothingAndFollowsItsSchema_data() { reportsEachProblem_data(); }
 
-    void changesNothingAndKeepsToItsSchema();
-    void limitsItselfToNames();
-    void keepsALineBreakInANameInItsLine();
-    void saysWhereItMayNotWrite();
-    void putsTheWorstFirst();
-    void saysHowItFoundASimulator();
-    void looksAtAPilotsComputer();
-    void leavesOthersEntriesUnsaid();
-    void putsABackupBack();
-    void refusesWhatItDoesNotKnow_data();
-    void refusesWhatItDoesNotKnow();
-    void hasNoColourInAFile();
+    void changesNothingAndFollowsItsSchema();
+    void examinesOnlyTheNamedSimulators();
+    void escapesALineBreakInAName();
+    void reportsFoldersThatAreNotWritable();
+    void listsTheWorstProblemFirst();
+    void reportsHowASimulatorWasFound();
+    void examinesAPilotsComputer();
+    void doesNotShowOtherProgramsEntries();
+    void givesACommandThatRestoresABackup();
+    void refusesUnknownOptions_data();
+    void refusesUnknownOptions();
+    void writesNoColoursIntoAFile();
 
 private:
     CommandResult run(const QStringList &arguments);
@@ -80,14 +80,14 @@ QJsonObject TestReport::report(const QString &simulator)
     return QJsonDocument::fromJson(json).object().value("simulators"_s).toArray().at(0).toObject();
 }
 
-// As the window does, with the file in its place that the entry names.
+// Installs as the window does, with the file that the entry names.
 void TestReport::installEverywhere()
 {
     m_computer->write("sims/Skylark/GaugesQuillmontOrbwell_64.dll"_s, "x");
     QCOMPARE(m_computer->run(quietInstallation()), 2);
 }
 
-void TestReport::saysWhatIsWrong_data()
+void TestReport::reportsEachProblem_data()
 {
     QTest::addColumn<Deed>("deed");
     QTest::addColumn<QString>("sentence");
@@ -116,7 +116,7 @@ void TestReport::saysWhatIsWrong_data()
         [](Computer *computer) {
             computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "aboux");
         });
-    row("dead link",
+    row("dangling link",
         "In the place of \"Gauges/QuillmontOrbwell_64.dll\" is a link that leads nowhere.",
         [](Computer *computer) {
             const QString file
@@ -140,7 +140,7 @@ void TestReport::saysWhatIsWrong_data()
     row("no room", " bytes; the files and a backup take ", [](Computer *computer) {
         const QString file = computer->program().folder() + "/plugins/X-Plane/about.txt"_s;
         const auto space = std::filesystem::space(QFile::encodeName(file).toStdString());
-        // Most of it is a hole, which takes no room.
+        // The file is sparse.
         QVERIFY(QFile::resize(file, static_cast<qint64>(space.available) + (1LL << 30)));
     });
     row("configuration missing", "dll.xml\" is missing.", [](Computer *computer) {
@@ -149,7 +149,7 @@ void TestReport::saysWhatIsWrong_data()
     row("no entry", "dll.xml\" has no entry for it.", [](Computer *computer) {
         computer->write(computer->configuration("Skylark"_s), othersConfiguration());
     });
-    row("entry twice", "dll.xml\" 2 times.", [](Computer *computer) {
+    row("duplicate entry", "dll.xml\" 2 times.", [](Computer *computer) {
         computer->write(computer->configuration("Skylark"_s),
                         ourConfiguration().replace("</SimBase.Document>",
                                                    pluginEntry() + "</SimBase.Document>"));
@@ -158,7 +158,7 @@ void TestReport::saysWhatIsWrong_data()
         "dll.xml\" is disabled.",
         edit("Quillmont Orbwell</Name>\r\n        <Disabled>False",
              "Quillmont Orbwell</Name>\r\n        <Disabled>True"));
-    row("entry leads nowhere",
+    row("entry with a missing file",
         "names the file \"GaugesQuillmontOrbwell_64.dll\", which is missing.",
         lose("sims/Skylark/GaugesQuillmontOrbwell_64.dll"));
     row("entry without files",
@@ -167,7 +167,7 @@ void TestReport::saysWhatIsWrong_data()
     row("damaged record", ".mapping\" is damaged; what it said is lost.", [](Computer *computer) {
         computer->write(computer->data("Quillmont/Orbwell/.mapping"_s), "[{");
     });
-    row("unrecorded",
+    row("not recorded",
         "The plugin is there, but not in the installation record.",
         [](Computer *computer) { computer->setRecords({}); });
     row("recorded elsewhere",
@@ -177,18 +177,18 @@ void TestReport::saysWhatIsWrong_data()
             record.insert("path"_s, computer->absolute("elsewhere"_s));
             computer->setRecords({computer->recordFor(computer->entry("Skylark"_s, 0)), record});
         });
-    row("stranger in the record", "/sims/Wren\" is gone.", [](Computer *computer) {
+    row("unknown simulator in the record", "/sims/Wren\" is gone.", [](Computer *computer) {
         QJsonArray records = computer->records();
         records.append(computer->recordFor(computer->entry("Wren"_s, 1)));
         computer->setRecords(records);
     });
-    row("chosen folder is gone", "Its folder \"/nowhere/at all\" is gone.", [](Computer *computer) {
+    row("deleted chosen folder", "Its folder \"/nowhere/at all\" is gone.", [](Computer *computer) {
         computer->write(computer->data("Quillmont/Vellum/.settings"_s),
                         "[flightsim]\nKestrel=/nowhere/at all\n");
     });
 }
 
-void TestReport::saysWhatIsWrong()
+void TestReport::reportsEachProblem()
 {
     QFETCH(const Deed, deed);
     QFETCH(const QString, sentence);
@@ -202,7 +202,7 @@ void TestReport::saysWhatIsWrong()
     QVERIFY(text.contains(sentence.isEmpty() ? "Nothing is wrong."_s : "What to do:\n  1. "_s));
 }
 
-// All that it can be asked for, with a name that has to be known.
+// All tasks, with the name of an existing simulator.
 static QVector<QStringList> allArguments()
 {
     return {{},
@@ -212,7 +212,7 @@ static QVector<QStringList> allArguments()
             {"--check-catalogue"_s}};
 }
 
-// Nor is there a lock, or a file that is open for writing. What it says goes to a pipe.
+// Locks and files opened for writing count as well. Its output goes to a pipe.
 static bool mayChangeAnything(const SystemCall &call)
 {
     static const QRegularExpression harmless(
@@ -230,7 +230,7 @@ static bool mayChangeAnything(const SystemCall &call)
     return !call.name.contains(harmless);
 }
 
-void TestReport::changesNothingAndKeepsToItsSchema()
+void TestReport::changesNothingAndFollowsItsSchema()
 {
     QFETCH(const Deed, deed);
     CatalogueSchema schema(QStringLiteral(ORBWELL_SOURCE "/docs/doctor.schema.json"));
@@ -258,14 +258,14 @@ void TestReport::changesNothingAndKeepsToItsSchema()
             "needs strace, the right to trace a process, no sanitizer, and jsonschema to see all");
 }
 
-void TestReport::limitsItselfToNames()
+void TestReport::examinesOnlyTheNamedSimulators()
 {
     const QByteArray text = run({"Kestrel"_s}).output;
     QVERIFY(text.contains("Kestrel: the plugin is not installed"));
     QVERIFY(!text.contains("Skylark"));
 }
 
-void TestReport::keepsALineBreakInANameInItsLine()
+void TestReport::escapesALineBreakInAName()
 {
     const QString name = "Wren\nNothing is wrong.\x1b[2J"_s;
     m_computer->setCatalogue({m_computer->entry(name, 1)});
@@ -276,7 +276,7 @@ void TestReport::keepsALineBreakInANameInItsLine()
     QVERIFY(!text.contains('\x1b'));
 }
 
-void TestReport::saysWhereItMayNotWrite()
+void TestReport::reportsFoldersThatAreNotWritable()
 {
     const QString configuration = m_computer->absolute(m_computer->configuration("Skylark"_s));
     const QString gauges = m_computer->folder("Skylark"_s) + "/Gauges"_s;
@@ -303,7 +303,7 @@ void TestReport::saysWhereItMayNotWrite()
     QCOMPARE(answer().status, 0);
 }
 
-void TestReport::putsTheWorstFirst()
+void TestReport::listsTheWorstProblemFirst()
 {
     installEverywhere();
     m_computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "another");
@@ -319,7 +319,7 @@ void TestReport::putsTheWorstFirst()
     }
 }
 
-void TestReport::saysHowItFoundASimulator()
+void TestReport::reportsHowASimulatorWasFound()
 {
     QCOMPARE(report("Kestrel"_s).value("foundBy"_s).toString(), "the catalogue's folder"_s);
     m_computer->write(m_computer->data("Quillmont/Vellum/.settings"_s),
@@ -327,7 +327,8 @@ void TestReport::saysHowItFoundASimulator()
     QCOMPARE(report("Kestrel"_s).value("foundBy"_s).toString(), "chosen by hand"_s);
     QCOMPARE(report("Kestrel"_s).value("folder"_s).toString(), m_computer->folder("Skylark"_s));
 
-    // Two of a group that find one folder, one of which gives way, and a list of X-Plane's own.
+    // Two entries of a group that find one folder, one of which gives it up, and X-Plane's own
+    // list.
     QJsonObject entry = m_computer->entry("Wren"_s, 1);
     entry.insert("config"_s, QJsonValue::Null);
     entry.insert("conflict"_s, QJsonObject{{"name"_s, "birds"_s}});
@@ -349,8 +350,8 @@ void TestReport::saysHowItFoundASimulator()
 #endif
 }
 
-// With the catalogue and the payload as they ship.
-void TestReport::looksAtAPilotsComputer()
+// With the shipped catalogue and payload.
+void TestReport::examinesAPilotsComputer()
 {
 #ifndef Q_OS_LINUX
     QSKIP("a Linux computer: Proton, and X-Plane's list where it is there");
@@ -397,7 +398,7 @@ void TestReport::looksAtAPilotsComputer()
     QCOMPARE(gone, (QStringList{"C:\\gone.dll"_s, "modules\\gone.dll"_s}));
 }
 
-void TestReport::leavesOthersEntriesUnsaid()
+void TestReport::doesNotShowOtherProgramsEntries()
 {
     QByteArray text = othersConfiguration();
     text.replace("<Disabled>False</Disabled>", "<CommandLine>secret</CommandLine>");
@@ -408,13 +409,13 @@ void TestReport::leavesOthersEntriesUnsaid()
     QCOMPARE(other.value("path"_s).toString(), "Modules\\etude.dll"_s);
     for (const char *argument : {"--", "--json"})
         QVERIFY(!run({QLatin1String(argument)}).output.contains("secret"));
-    // Windows does not look at letter case.
+    // Windows ignores letter case.
     m_computer->write("sims/Skylark/MODULES/Etude.DLL"_s, "");
     QCOMPARE(report("Skylark"_s).value("configuration"_s).toObject().value("othersWithoutFile"_s),
              QJsonValue(QJsonArray()));
 }
 
-void TestReport::putsABackupBack()
+void TestReport::givesACommandThatRestoresABackup()
 {
     installEverywhere();
     const QString file = m_computer->absolute(m_computer->configuration("Skylark"_s));
@@ -432,27 +433,27 @@ void TestReport::putsABackupBack()
     QCOMPARE(readFile(file), othersConfiguration());
 }
 
-void TestReport::refusesWhatItDoesNotKnow_data()
+void TestReport::refusesUnknownOptions_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("option") << "--jsno"_s
-                            << "Unknown option --jsno. Is --json meant?"_s;
-    QTest::newRow("short option") << "-x"_s
-                                  << "Unknown option -x."_s;
-    QTest::newRow("plan")
+    QTest::newRow("unknown option") << "--jsno"_s
+                                    << "Unknown option --jsno. Is --json meant?"_s;
+    QTest::newRow("unknown short option") << "-x"_s
+                                          << "Unknown option -x."_s;
+    QTest::newRow("unknown plan")
         << "--plan=destroy"_s
         << "--plan=destroy: a plan is for \"install\", \"repair\" or \"uninstall\"."_s;
-    QTest::newRow("no file") << "--catalogue"_s
-                             << "--catalogue needs a file."_s;
-    QTest::newRow("name") << "-- --json"_s
-                          << "The catalogue has no simulator \"--json\"."_s;
-    QTest::newRow("catalogue")
+    QTest::newRow("missing value") << "--catalogue"_s
+                                   << "--catalogue needs a file."_s;
+    QTest::newRow("unknown simulator") << "-- --json"_s
+                                       << "The catalogue has no simulator \"--json\"."_s;
+    QTest::newRow("missing catalogue")
         << "--catalogue /dev/null"_s
         << "The catalogue \"/dev/null\" is missing, empty or cannot be read."_s;
 }
 
-void TestReport::refusesWhatItDoesNotKnow()
+void TestReport::refusesUnknownOptions()
 {
     QFETCH(const QString, arguments);
     QFETCH(const QString, problem);
@@ -463,8 +464,8 @@ void TestReport::refusesWhatItDoesNotKnow()
              "orbwell-doctor: "_s + problem + "\nTry \"orbwell-doctor --help\".\n"_s);
 }
 
-// A terminal gets some, unless the user wants none.
-void TestReport::hasNoColourInAFile()
+// A terminal gets colours unless the user has turned them off.
+void TestReport::writesNoColoursIntoAFile()
 {
     QVERIFY(!run({}).output.contains('\x1b'));
     if (!Command::exists("script"_s))

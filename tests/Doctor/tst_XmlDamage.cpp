@@ -11,17 +11,18 @@ using Quillmont::Library::Xml::RootChild;
 using Quillmont::Library::Xml::XmlDocument;
 using Quillmont::Utility::Doctor::XmlDamage;
 
-/// What other installers have done to configuration files, in words that a pilot understands.
+/// Damage that other installers have done to configuration files, in words that a pilot
+/// understands.
 class TestXmlDamage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void isToldInWords_data();
-    void isToldInWords();
+    void explainsTheDamageInWords_data();
+    void explainsTheDamageInWords();
 };
 
-void TestXmlDamage::isToldInWords_data()
+void TestXmlDamage::explainsTheDamageInWords_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("sentence");
@@ -36,23 +37,23 @@ void TestXmlDamage::isToldInWords_data()
         "The file holds nothing but zero bytes: the computer stopped while it was written, or its "
         "disk is failing.",
         1);
-    row("zero bytes behind",
+    row("trailing zero bytes",
         "<R>\n</R>\n" + QByteArray(4, 0),
         "Zero bytes begin in line 3: the file was not written to its end.",
         3);
     row("web page", "<!DOCTYPE html>\n<html><br></html>", "The file is a web page, not XML.", 1);
-    row("no XML", "\n[Launch]", "The file does not begin with a tag, so it is not XML.", 2);
+    row("not XML", "\n[Launch]", "The file does not begin with a tag, so it is not XML.", 2);
     row("no element", "<?xml version='1.0'?>\n", "The file has no element.", 1);
     row("lost end of an entry",
         "<R>\n<Launch.Addon>\n<Name>a</Name>\n<Launch.Addon>\n</Launch.Addon>\n</R>\n",
         "<Launch.Addon> in line 2 is never closed; </R> in line 6 came first.",
         2);
-    row("lost beginning",
+    row("lost start tag",
         "<?xml version='1.0'?>\n<Launch.Addon>\n</Launch.Addon>\n</SimBase.Document>\n",
         "</SimBase.Document> in line 4 closes an element that was never opened: the line with "
         "<SimBase.Document ...> is lost.",
         4);
-    row("nothing but the inside",
+    row("no root element",
         "<?xml version='1.0'?>\n<Descr>a</Descr>\n<Name>b</Name>\n<C>c</ C>\n</Launch.Addon>\n",
         "</Launch.Addon> in line 5 closes an element that was never opened: the line with "
         "<Launch.Addon ...> is lost.",
@@ -74,7 +75,7 @@ void TestXmlDamage::isToldInWords_data()
         "</R> comes a second time in line 3: behind the document is the rest of an older, longer "
         "file.",
         3);
-    row("text behind",
+    row("text after the root",
         "<R>\n</R>\nment>",
         "Behind the end of the document, in line 3, there is more text: the rest of an older, "
         "longer file?",
@@ -83,7 +84,7 @@ void TestXmlDamage::isToldInWords_data()
         "<R>\n<Name>a</Na",
         "The file ends in the middle of a tag, which begins in line 2.",
         2);
-    row("cut off behind a tag",
+    row("cut off after a tag",
         "<R>\n<Name>a</Name>\n",
         "<R> in line 1 is never closed: the file ends in line 3.",
         1);
@@ -92,7 +93,7 @@ void TestXmlDamage::isToldInWords_data()
         "<R>\n<Path>C:\\a.exe<\\Path>\n</R>",
         "<\\Path> in line 2 is no tag; what is meant is </Path>.",
         2);
-    row("blank in an end tag",
+    row("space in an end tag",
         "<R>\n<A>False</ A>\n</R>",
         "</ A> in line 2 is no tag; what is meant is </A>.",
         2);
@@ -104,7 +105,7 @@ void TestXmlDamage::isToldInWords_data()
         "<R>\n<Path>a</path></R>",
         "<Path> in line 2 ends with </path> in line 2: letter case counts.",
         2);
-    row("end of nothing",
+    row("end tag without a start tag",
         "<R>\n</B>\n</R>",
         "</B> in line 2 closes nothing: no <B> is open there.",
         2);
@@ -113,7 +114,7 @@ void TestXmlDamage::isToldInWords_data()
         "<R>\n\x01</R>",
         "Line 2 holds a control character, which XML does not allow.",
         2);
-    row("anything else",
+    row("other errors",
         "<R>\n<A b=c/></R>",
         "It is not well-formed XML: line 2, column 6: Expected ''' or '\"', but got '[a-zA-Z]'.",
         2);
@@ -123,7 +124,7 @@ void TestXmlDamage::isToldInWords_data()
         2);
 }
 
-void TestXmlDamage::isToldInWords()
+void TestXmlDamage::explainsTheDamageInWords()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QString, sentence);

@@ -63,7 +63,7 @@ QStringList Document::commands() const
     return commands;
 }
 
-// Indented blocks and those marked as a shell's; a remark begins behind two blanks.
+// Indented blocks and shell blocks; a remark begins after two spaces.
 QStringList Document::blockCommands() const
 {
     static const QRegularExpression remark(QStringLiteral(" {2,}#.*$"));
@@ -80,14 +80,14 @@ QStringList Document::blockCommands() const
             = fenced ? language == QLatin1String("sh") : line.startsWith(QLatin1String("    "));
         QString command = line.trimmed();
         command.remove(remark);
-        // A name's pattern is shown in a block as well.
+        // A block may also show the pattern of a name.
         if (shell && !command.isEmpty() && !command.startsWith(u'_'))
             commands.append(command.trimmed());
     }
     return commands;
 }
 
-// A program and what it is called with; a mere name in running text is no command.
+// A program with arguments; a name alone in running text is not a command.
 QStringList Document::inlineCommands() const
 {
     static const QRegularExpression command(QStringLiteral(

@@ -11,21 +11,21 @@ namespace Tests {
 class Document
 {
 public:
-    /// @p name is relative to the top of the tree.
+    /// @p name is relative to the source tree.
     explicit Document(const QString &name);
 
-    /// All of them, those at the top first.
+    /// All documents, the top-level ones first.
     static QList<Document> all();
 
     QString name() const { return m_name; }
 
-    /// What it says, each line without its quotation or table marks.
+    /// Its text, without quotation and table marks.
     QString text() const;
     /// The targets of its links and pictures, in order.
     QStringList links() const;
-    /// The names that a link can call its headings by.
+    /// The anchors of its headings.
     QStringList anchors() const;
-    /// The commands that it tells a reader to type, each once, without their remarks.
+    /// The commands that it tells a reader to type, without duplicates and remarks.
     QStringList commands() const;
 
 private:

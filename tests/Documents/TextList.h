@@ -7,21 +7,21 @@
 
 namespace Tests {
 
-/// A text that can be translated.
+/// A translatable text.
 struct ListedText
 {
-    /// The class that says it, with its namespaces.
+    /// The class that uses it, with its namespaces.
     QString context;
     QString text;
 };
 
-/// Where the list of texts lies.
+/// The path of the list of texts.
 QString textListPath();
 
-/// One line a text, its class first, with backslash and line ends written as in C++.
+/// One line per text, its class first, with backslashes and line ends escaped as in C++.
 QByteArray written(const QList<ListedText> &texts);
 
-/// The texts of a list written in this way.
+/// The texts in a list in this format.
 QList<ListedText> listedTexts(const QByteArray &list);
 
 } // namespace Tests

@@ -9,7 +9,7 @@
 
 namespace Tests {
 
-// Bytes that XML cannot hold as they are stand in the file as numbers.
+// Bytes that XML cannot represent are written as numbers.
 static QString elementText(QXmlStreamReader &reader)
 {
     QString text;
@@ -77,8 +77,8 @@ QList<TranslatedText> translatedTexts(const QByteArray &translations)
 
 bool updateTranslations(const QString &file)
 {
-    // Without the headers it would not know which namespace a class is in, and a translation would
-    // not be found when the program asks for it.
+    // Without the headers it would not know the namespaces of classes, and the program would not
+    // find the translations.
     const CommandResult result
         = Command(QStringLiteral(ORBWELL_LUPDATE),
                   QStringList{"-I"_s, "."_s, "-locations"_s, "none"_s, "-no-obsolete"_s}

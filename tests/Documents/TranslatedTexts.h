@@ -8,10 +8,10 @@
 
 namespace Tests {
 
-/// A text of the program with its translation, as a translation file has them.
+/// A text of the program with its translation, from a translation file.
 struct TranslatedText
 {
-    /// The class that says it, with its namespaces.
+    /// The class that uses it, with its namespaces.
     QString context;
     QString source;
     /// One, or one per plural form.
@@ -19,17 +19,17 @@ struct TranslatedText
     bool isFinished = false;
 };
 
-/// The languages that there is a translation file for ("de", "pt_BR").
+/// The languages with a translation file ("de", "pt_BR").
 QStringList translatedLanguages();
 
-/// Where the translation file of @p language is.
+/// The path of the translation file of @p language.
 QString translationPath(const QString &language);
 
 /// The texts of a translation file.
 QList<TranslatedText> translatedTexts(const QByteArray &translations);
 
-/// Has Qt's lupdate bring the translation file in line with the sources. False, and the test has
-/// failed, if it cannot.
+/// Updates the translation file from the sources with Qt's lupdate. On failure, fails the test and
+/// returns false.
 bool updateTranslations(const QString &file);
 
 } // namespace Tests

@@ -14,23 +14,23 @@
 
 using namespace Tests;
 
-/// The tree is what docs/architecture.md says, and the compiler keeps its layers apart.
+/// The tree is as docs/architecture.md describes it, and the compiler enforces its layers.
 class TestArchitecture : public QObject
 {
     Q_OBJECT
 
 private slots:
     void namesEverySource();
-    void namesNothingThatIsGone();
-    void letsALayerSeeWhatIsBelow_data();
-    void letsALayerSeeWhatIsBelow();
+    void namesNoMissingFile();
+    void allowsOnlyDownwardIncludes_data();
+    void allowsOnlyDownwardIncludes();
 
 private:
     static QStringList sourceNames();
     static QStringList includeFlags(const QString &folder);
 };
 
-// The names of the product's headers and sources, without folder and suffix.
+// The names of the product's headers and sources, without folder and extension.
 QStringList TestArchitecture::sourceNames()
 {
     QStringList names;
@@ -66,7 +66,7 @@ void TestArchitecture::namesEverySource()
 }
 
 // The first column of its tables.
-void TestArchitecture::namesNothingThatIsGone()
+void TestArchitecture::namesNoMissingFile()
 {
     const QStringList names = sourceNames();
     QStringList gone;
@@ -85,7 +85,7 @@ void TestArchitecture::namesNothingThatIsGone()
     QCOMPARE(gone, QStringList());
 }
 
-void TestArchitecture::letsALayerSeeWhatIsBelow_data()
+void TestArchitecture::allowsOnlyDownwardIncludes_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("below");
@@ -105,7 +105,7 @@ void TestArchitecture::letsALayerSeeWhatIsBelow_data()
     row("ViewControllers", "Views/ScannerView.h", "tests/support/Files.h");
 }
 
-void TestArchitecture::letsALayerSeeWhatIsBelow()
+void TestArchitecture::allowsOnlyDownwardIncludes()
 {
     QFETCH(QString, folder);
     QFETCH(QString, below);
@@ -129,8 +129,7 @@ void TestArchitecture::letsALayerSeeWhatIsBelow()
              unseen.errors.constData());
 }
 
-// What the compiler is told of include folders for the sources right in @p folder, and of the
-// language.
+// The compiler's include and language options for the sources in @p folder.
 QStringList TestArchitecture::includeFlags(const QString &folder)
 {
     const QString sources = QStringLiteral(ORBWELL_SOURCE "/") + folder;

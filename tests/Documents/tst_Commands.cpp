@@ -12,7 +12,7 @@
 
 using namespace Tests;
 
-/// What the documents tell a reader to type works. script/documents-test tries the rest.
+/// The commands in the documents work. script/documents-test tries the rest.
 class TestCommands : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private slots:
     void areAllListed();
     void startTheProgram_data();
     void startTheProgram();
-    void runInAShell();
+    void areValidShellCommands();
     void tryTheSample();
 
 private:
@@ -36,7 +36,7 @@ private:
 
     static int expectedStatus(const QString &remark);
 
-    /// The list's entries by the first words of their heading.
+    /// The list's entries, by the first words of their heading.
     QMap<QString, QVector<Entry>> m_entries;
 };
 
@@ -118,7 +118,7 @@ void TestCommands::startTheProgram()
     QCOMPARE(program.exitStatus(), expectedStatus(remark));
 }
 
-void TestCommands::runInAShell()
+void TestCommands::areValidShellCommands()
 {
     const Sandbox sandbox;
     const QString path
@@ -140,8 +140,8 @@ static void copyFolder(const QString &source, const QString &target)
     QCOMPARE(Command(QStringLiteral("cp"), {QStringLiteral("-R"), source, target}).run().status, 0);
 }
 
-// script/run --headless, with the program that is built already: building it anew, and installing
-// what that needs, takes minutes, and the long run does it.
+// script/run --headless, with the program that is already built: building it and installing its
+// dependencies takes minutes, and is left to script/documents-test.
 void TestCommands::tryTheSample()
 {
     for (const char *needed : {"Xvfb", "xdotool", "import"}) {

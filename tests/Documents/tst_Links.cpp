@@ -5,17 +5,17 @@
 
 using namespace Tests;
 
-/// A reader who follows a link inside the tree arrives.
+/// Links inside the tree have existing targets.
 class TestLinks : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void leadSomewhere_data();
-    void leadSomewhere();
+    void haveExistingTargets_data();
+    void haveExistingTargets();
 };
 
-void TestLinks::leadSomewhere_data()
+void TestLinks::haveExistingTargets_data()
 {
     QTest::addColumn<QString>("document");
     QTest::addColumn<QString>("target");
@@ -29,7 +29,7 @@ void TestLinks::leadSomewhere_data()
     }
 }
 
-void TestLinks::leadSomewhere()
+void TestLinks::haveExistingTargets()
 {
     QFETCH(QString, document);
     QFETCH(QString, target);

@@ -8,7 +8,7 @@
 
 using namespace Tests;
 
-/// A user who looks a message up in the document about trouble finds it.
+/// Every message is explained in docs/troubleshooting.md.
 class TestMessages : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ private slots:
     void areExplained();
 };
 
-// The sources, every text in one piece.
+// The sources, with the parts of each text joined.
 static QString sources()
 {
     static const QRegularExpression seam(QStringLiteral("\"\\s*\n\\s*\""));
@@ -32,7 +32,7 @@ static QString sources()
     return code.remove(seam);
 }
 
-// What only a screen reader says is no message.
+// A text only for screen readers is not a message.
 static bool isOnlySpoken(const QString &text, const QString &code)
 {
     static const QRegularExpression spoken(QStringLiteral("setAccessible\\w+\\([^;]*;"));
@@ -53,8 +53,8 @@ void TestMessages::areExplained_data()
     }
 }
 
-// As a reader sees it: a line of its own, in quotes or bold, with one ampersand, and with a word in
-// capitals, or a status, for what is filled in.
+// The message as a document writes it: on its own line, in quotes or bold, with one ampersand, and
+// with a word in capitals, or a status, for each placeholder.
 static QRegularExpression asRead(const QString &line)
 {
     static const QRegularExpression placeholder(QStringLiteral("%\\d"));

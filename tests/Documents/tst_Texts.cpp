@@ -8,7 +8,7 @@
 
 using namespace Tests;
 
-/// The texts that a translator gets: none is lost, and none is new by accident.
+/// The translatable texts: none is lost or added by accident.
 class TestTexts : public QObject
 {
     Q_OBJECT
@@ -16,9 +16,9 @@ class TestTexts : public QObject
 private slots:
     void initTestCase();
 
-    void areThoseOfTheList();
-    void belongToTheClassThatSaysThem();
-    void haveNoStatusWords();
+    void matchTheList();
+    void haveTheClassThatUsesThemAsContext();
+    void leaveOutStatusWords();
 
 private:
     QList<ListedText> m_texts;
@@ -36,7 +36,7 @@ void TestTexts::initTestCase()
         m_texts.append({text.context, text.source});
 }
 
-void TestTexts::areThoseOfTheList()
+void TestTexts::matchTheList()
 {
     if (qEnvironmentVariableIsSet("ORBWELL_WRITE_TEXTS"))
         writeFile(textListPath(), written(m_texts));
@@ -48,14 +48,14 @@ void TestTexts::areThoseOfTheList()
         QVERIFY2(now.contains(text), ("not in the program: " + text).constData());
 }
 
-void TestTexts::belongToTheClassThatSaysThem()
+void TestTexts::haveTheClassThatUsesThemAsContext()
 {
     for (const ListedText &text : qAsConst(m_texts))
         QVERIFY2(text.context.startsWith(QLatin1String("Quillmont::Utility::")),
                  qPrintable(text.context));
 }
 
-void TestTexts::haveNoStatusWords()
+void TestTexts::leaveOutStatusWords()
 {
     const QStringList words{QStringLiteral("Updated"),
                             QStringLiteral("Not updated"),

@@ -10,7 +10,7 @@
 
 using namespace Tests;
 
-/// Every text is there in every language, and nothing that the program relies on is lost in it.
+/// Every text is translated into every language, with its placeholders, line ends and keys.
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -18,10 +18,10 @@ class TestTranslations : public QObject
 private slots:
     void init();
 
-    void areThoseOfTheSources_data();
-    void areThoseOfTheSources();
-    void keepMarksOfTheirTexts_data();
-    void keepMarksOfTheirTexts();
+    void coverTheTextsOfTheSources_data();
+    void coverTheTextsOfTheSources();
+    void keepPlaceholdersAndLineEnds_data();
+    void keepPlaceholdersAndLineEnds();
     void quoteTheButtonByItsName_data();
     void quoteTheButtonByItsName();
 };
@@ -56,12 +56,12 @@ void TestTranslations::init()
         QSKIP("needs lupdate (Debian: qttools5-dev-tools)");
 }
 
-void TestTranslations::areThoseOfTheSources_data()
+void TestTranslations::coverTheTextsOfTheSources_data()
 {
     addLanguages();
 }
 
-void TestTranslations::areThoseOfTheSources()
+void TestTranslations::coverTheTextsOfTheSources()
 {
     QFETCH(const QString, language);
     const Sandbox sandbox;
@@ -77,12 +77,12 @@ void TestTranslations::areThoseOfTheSources()
     }
 }
 
-void TestTranslations::keepMarksOfTheirTexts_data()
+void TestTranslations::keepPlaceholdersAndLineEnds_data()
 {
     addLanguages();
 }
 
-void TestTranslations::keepMarksOfTheirTexts()
+void TestTranslations::keepPlaceholdersAndLineEnds()
 {
     QFETCH(const QString, language);
     for (const TranslatedText &text : translatedTexts(readFile(translationPath(language)))) {

@@ -48,8 +48,8 @@ private slots:
         QCOMPARE(mapping.note, "noted"_s);
     }
 
-    // "$ROOT" is a folder of the test's own. What is present and ends in "/" is a folder.
-    void isInstalledWhereItsFolderHoldsEveryFile_data()
+    // "$ROOT" is the test's own folder. A present path that ends with "/" is a folder.
+    void isInstalledIfEveryFileExists_data()
     {
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QStringList>("destinations");
@@ -65,25 +65,25 @@ private slots:
         const QString sim = "$ROOT/sim"_s;
         const QStringList two{"a/one.dll"_s, "b.dll"_s};
         row("no folder, no files", {}, {}, {}, false);
-        row("no folder, a file of the disk's root", {}, {"etc"_s}, {}, false);
+        row("no folder, a file in the root directory", {}, {"etc"_s}, {}, false);
         row("no files", sim, {}, {"sim/"_s}, true);
         row("no files, folder gone", sim, {}, {}, true);
-        row("none of two", sim, two, {}, false);
+        row("none of two files", sim, two, {}, false);
         row("the first of two", sim, two, {"sim/a/one.dll"_s}, false);
         row("the second of two", sim, two, {"sim/b.dll"_s}, false);
         row("both", sim, two, {"sim/a/one.dll"_s, "sim/b.dll"_s}, true);
-        row("a folder for a file", sim, {"b.dll"_s}, {"sim/b.dll/"_s}, true);
+        row("a folder in place of a file", sim, {"b.dll"_s}, {"sim/b.dll/"_s}, true);
         row("empty destination", sim, {QString()}, {"sim/"_s}, true);
         row("empty destination, folder gone", sim, {QString()}, {}, false);
-        row("a slash at the folder's end", sim + u'/', {"b.dll"_s}, {"sim/b.dll"_s}, true);
-        row("foreign names",
+        row("a trailing slash", sim + u'/', {"b.dll"_s}, {"sim/b.dll"_s}, true);
+        row("non-ASCII names",
             "$ROOT/Símulátor 飛行 %1"_s,
             {"плагин.dll"_s},
             {"Símulátor 飛行 %1/плагин.dll"_s},
             true);
     }
 
-    void isInstalledWhereItsFolderHoldsEveryFile()
+    void isInstalledIfEveryFileExists()
     {
         QFETCH(QString, folder);
         QFETCH(const QStringList, destinations);
@@ -102,7 +102,7 @@ private slots:
         QCOMPARE(log.warnings() + log.debugLines(), QStringList());
     }
 
-    void looksAtTheDiskEachTime()
+    void checksTheDiskEachTime()
     {
         const QTemporaryDir folder;
         FlightSimScan scan(nullptr, entryWithFiles({"b.dll"_s}));
@@ -114,7 +114,7 @@ private slots:
         QVERIFY(!mapping.isAddonInstalled());
     }
 
-    void diesWithItsEntry()
+    void isDeletedWithItsEntry()
     {
         auto scan = std::make_unique<FlightSimScan>(nullptr, QJsonObject());
         const QPointer<FlightSimulatorMapping> mapping

@@ -22,11 +22,11 @@ namespace {
 
 struct Value
 {
-    const char *json; ///< "" where the key is missing.
-    QVariant meaning; ///< Invalid where no member takes it.
+    const char *json; ///< "" if the key is missing.
+    QVariant meaning; ///< Invalid if no member accepts it.
 };
 
-// What a key can hold in the catalogue. Whoever wants another type gets its default.
+// Possible values of a key in the catalogue. A member of another type gets its default.
 const QVector<Value> &values()
 {
     static const QVector<Value> all{{"", {}},
@@ -61,7 +61,7 @@ void addRow(const QByteArray &json, const QString &expected)
     QTest::newRow(json.constData()) << expected;
 }
 
-// Each value under the key of a member whose default is this one.
+// Adds a row per value for a member with this key and default.
 template <typename Record, typename Type>
 void addRows(const char *key, Type Record::*member, const Type &fallback)
 {
@@ -93,14 +93,14 @@ QString written(const FlightSimScan &scan)
 
 } // namespace
 
-/// What the catalogue's JSON becomes: an entry, and the small records in it.
+/// How the catalogue's JSON is read: an entry, and the objects in it.
 class TestRecords : public QObject
 {
     Q_OBJECT
 
 private slots:
 
-    void readsEachMemberFromItsOwnTypeOnly_data()
+    void readEachMemberOnlyFromItsOwnType_data()
     {
         QTest::addColumn<Reader>("read");
         QTest::addColumn<QJsonObject>("json");
@@ -115,7 +115,7 @@ private slots:
         addRows("solution", &FlightSimConflict::solution, {});
         addRows("location", &FlightSimConflict::location, 0);
         addRows("check_file", &FlightSimConflict::checkFile, false);
-        // Giving way is the harmless answer.
+        // Giving up the folder does no harm.
         addRows("remove_on_conflict", &FlightSimConflict::removeOnConflict, true);
         addRows("name", &FlightSimScan::name, {});
         addRows("simcode", &FlightSimScan::simcode, {});
@@ -126,7 +126,7 @@ private slots:
         addRows("type", &FlightSimScan::type, 0);
     }
 
-    void readsEachMemberFromItsOwnTypeOnly()
+    void readEachMemberOnlyFromItsOwnType()
     {
         QFETCH(const Reader, read);
         QFETCH(const QJsonObject, json);
@@ -135,7 +135,7 @@ private slots:
         QCOMPARE(log.warnings() + log.debugLines(), QStringList());
     }
 
-    void readsTheRootOfAnEntryFromADecimalNumberInAText_data()
+    void readTheRootOfAnEntryFromADecimalText_data()
     {
         QTest::addColumn<int>("root");
         QTest::newRow(R"("3")") << 3;
@@ -148,12 +148,12 @@ private slots:
             QTest::newRow(noText) << -1;
     }
 
-    void readsTheRootOfAnEntryFromADecimalNumberInAText()
+    void readTheRootOfAnEntryFromADecimalText()
     {
         QTEST(FlightSimScan(nullptr, object("root", QTest::currentDataTag())).root, "root");
     }
 
-    void readsThePluginFilesByDestination_data()
+    void readThePluginFilesByDestination_data()
     {
         QTest::addColumn<QString>("files");
         const QByteArray aFromX = R"({"source": "x", "destination": "a"})";
@@ -174,14 +174,14 @@ private slots:
         addRow(aFromX, {});
     }
 
-    void readsThePluginFilesByDestination()
+    void readThePluginFilesByDestination()
     {
         const LogCatcher log;
         QTEST(written(FlightSimScan(nullptr, object("files", QTest::currentDataTag()))), "files");
         QCOMPARE(log.warnings() + log.debugLines(), QStringList());
     }
 
-    void readsTheExtraFilesAsTheyCome_data()
+    void readTheExtraFilesInOrder_data()
     {
         QTest::addColumn<QString>("files");
         const QByteArray z = R"({"root": "1", "path": "z"})";
@@ -193,14 +193,14 @@ private slots:
         addRow(z, {});
     }
 
-    void readsTheExtraFilesAsTheyCome()
+    void readTheExtraFilesInOrder()
     {
         QTEST(written(FlightSimRemoval(nullptr, object("files", QTest::currentDataTag()))),
               "files");
     }
 
-    // A conflict counts only beside a configuration, or a null for "none".
-    void holdsTheObjectsThatTheEntryDescribes_data()
+    // A conflict is read only if there is a configuration, or a null for "none".
+    void ownTheObjectsThatTheEntryDescribes_data()
     {
         QTest::addColumn<QString>("objects");
         const QByteArray conflict = R"(, "conflict": {"name": "g"}})";
@@ -218,7 +218,7 @@ private slots:
             addRow(R"({"config": null, "conflict": )" + QByteArray(other) + '}', {});
     }
 
-    void holdsTheObjectsThatTheEntryDescribes()
+    void ownTheObjectsThatTheEntryDescribes()
     {
         const FlightSimScan scan(nullptr, json(QTest::currentDataTag()));
         QStringList objects;
@@ -231,7 +231,7 @@ private slots:
         QTEST(objects.join(u' '), "objects");
     }
 
-    void readsAWholeEntry()
+    void readAWholeEntry()
     {
         const QJsonObject entry = json(R"({
             "name": "Example Flight Simulator X", "simcode": "EFSX", "location": 2, "type": 1,
@@ -258,7 +258,7 @@ private slots:
         QCOMPARE(scan.extra, QString());
     }
 
-    void diesWithItsOwner()
+    void areDeletedWithTheirOwner()
     {
         auto owner = std::make_unique<QObject>();
         auto *scan = new FlightSimScan(owner.get(), json(R"({"conflict": {"name": "g"},

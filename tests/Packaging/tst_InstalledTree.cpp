@@ -11,7 +11,7 @@
 
 using namespace Tests;
 
-/// What cmake --install places below a prefix.
+/// What cmake --install installs below a prefix.
 class TestInstalledTree : public QObject
 {
     Q_OBJECT
@@ -20,15 +20,15 @@ private slots:
     void initTestCase();
 
     void keepsCatalogueAndPayloadBesideTheProgram();
-    void leadsFromThePathToThePrograms();
+    void hasLinksToTheProgramsInThePath();
     void hasAnIconInEverySizeOfTheTheme();
     void hasAMenuEntryThatStartsTheLauncher();
     void hasAPageForTheSoftwareCentre();
     void hasManualPages_data();
     void hasManualPages();
     void completesTheDoctorsOptions();
-    void tellsOneVersion();
-    void runsFromWhereverItLies();
+    void hasTheSameVersionEverywhere();
+    void runsFromAnyFolder();
 
 private:
     QString path(const QString &relative) const
@@ -64,7 +64,7 @@ void TestInstalledTree::keepsCatalogueAndPayloadBesideTheProgram()
              treeOf(QStringLiteral(ORBWELL_SOURCE "/sample/plugins")));
 }
 
-void TestInstalledTree::leadsFromThePathToThePrograms()
+void TestInstalledTree::hasLinksToTheProgramsInThePath()
 {
     for (const char *name : {"QuillmontOrbwell", "orbwell-doctor"}) {
         const QFileInfo launcher(path(QStringLiteral("bin/") + QLatin1String(name)));
@@ -93,7 +93,7 @@ void TestInstalledTree::hasAMenuEntryThatStartsTheLauncher()
     entry.beginGroup(QStringLiteral("Desktop Entry"));
     QCOMPARE(entry.value(QStringLiteral("Exec")).toString(), QStringLiteral("QuillmontOrbwell"));
     QCOMPARE(entry.value(QStringLiteral("Icon")).toString(), QStringLiteral("quillmont-orbwell"));
-    // The window says its program's own name, and a panel finds the icon by it.
+    // The window has the program's name as its class, by which a panel finds the icon.
     QCOMPARE(entry.value(QStringLiteral("StartupWMClass")).toString(),
              QStringLiteral("QuillmontOrbwell"));
 
@@ -161,7 +161,7 @@ void TestInstalledTree::hasManualPages()
     QVERIFY(result.output.contains("NAME"));
 }
 
-// As bash does it for somebody who presses Tab.
+// Completes as bash does when the user presses Tab.
 void TestInstalledTree::completesTheDoctorsOptions()
 {
     const QString script = QStringLiteral(
@@ -187,7 +187,7 @@ void TestInstalledTree::completesTheDoctorsOptions()
         QVERIFY2(help.contains(option.split('=').first()), option.constData());
 }
 
-void TestInstalledTree::tellsOneVersion()
+void TestInstalledTree::hasTheSameVersionEverywhere()
 {
     const QByteArray version = ORBWELL_VERSION;
     const QByteArray changes = readFile(QStringLiteral(ORBWELL_SOURCE "/CHANGELOG.md"));
@@ -208,7 +208,7 @@ void TestInstalledTree::tellsOneVersion()
              "orbwell-doctor " + version + '\n');
 }
 
-void TestInstalledTree::runsFromWhereverItLies()
+void TestInstalledTree::runsFromAnyFolder()
 {
     const QString simulator = m_sandbox.path(QStringLiteral("Skylark"));
     QDir().mkpath(simulator);
@@ -233,8 +233,7 @@ void TestInstalledTree::runsFromWhereverItLies()
     QVERIFY2(result.status == 2, result.errors.constData());
     QCOMPARE(readFile(simulator + QStringLiteral("/Orbwell/about.txt")),
              readFile(QStringLiteral(ORBWELL_SOURCE "/sample/plugins/X-Plane/about.txt")));
-    // Straight below the maker's folder: started by its own name, it takes that name out of the
-    // path.
+    // Directly below the maker's folder: the program removes its own name from the path.
     QVERIFY(QFile::exists(m_sandbox.dataRoot() + QStringLiteral("Quillmont/Orbwell/.mapping")));
     QCOMPARE(Command(path(QStringLiteral("bin/orbwell-doctor"))).run().status, 0);
 }

@@ -8,16 +8,17 @@
 
 using namespace Tests;
 
-/// What cpack makes. script/package-test installs the Debian package into a system of its own.
+/// The packages that cpack makes. script/package-test installs the Debian package into a separate
+/// system.
 class TestPackages : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void archiveHoldsTheWholeTreeInOneFolder();
-    void debianPackageAsksForTheToolkit();
-    void debianPackageKeepsToUsr();
-    void debianPackageSaysWhoseItIsAndWhatIsNew();
+    void haveOneFolderWithTheWholeTreeInTheArchive();
+    void dependOnQtInTheDebianPackage();
+    void useOnlyUsrInTheDebianPackage();
+    void haveCopyrightAndChangesInTheDebianPackage();
 
 private:
     QString make(const QString &generator, const QString &name);
@@ -71,7 +72,7 @@ QStringList TestPackages::contents()
     return QString::fromUtf8(result.output).split(u'\n', Qt::SkipEmptyParts);
 }
 
-void TestPackages::archiveHoldsTheWholeTreeInOneFolder()
+void TestPackages::haveOneFolderWithTheWholeTreeInTheArchive()
 {
     const QString archive = make(QStringLiteral("TGZ"), QStringLiteral("*.tar.gz"));
     QVERIFY(!archive.isEmpty());
@@ -97,7 +98,7 @@ static bool canMakeDebianPackages()
         && Command::exists(QStringLiteral("dpkg-deb")) && Command::exists(QStringLiteral("file"));
 }
 
-void TestPackages::debianPackageAsksForTheToolkit()
+void TestPackages::dependOnQtInTheDebianPackage()
 {
     if (!canMakeDebianPackages())
         QSKIP("needs dpkg-dev and file");
@@ -106,7 +107,7 @@ void TestPackages::debianPackageAsksForTheToolkit()
     QVERIFY(field(QStringLiteral("Depends")).contains(QStringLiteral("libqt5widgets5 (>= ")));
 }
 
-void TestPackages::debianPackageKeepsToUsr()
+void TestPackages::useOnlyUsrInTheDebianPackage()
 {
     if (!canMakeDebianPackages())
         QSKIP("needs dpkg-dev and file");
@@ -123,7 +124,7 @@ void TestPackages::debianPackageKeepsToUsr()
             programs.filter(QStringLiteral("/quillmont-orbwell/") + QLatin1String(name)).size(), 1);
 }
 
-void TestPackages::debianPackageSaysWhoseItIsAndWhatIsNew()
+void TestPackages::haveCopyrightAndChangesInTheDebianPackage()
 {
     if (!canMakeDebianPackages())
         QSKIP("needs dpkg-dev and file");
