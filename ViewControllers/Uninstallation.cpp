@@ -36,7 +36,7 @@ QString realFolder(const QString &folder)
     return leadsUp ? QFileInfo(folder).canonicalFilePath() : folder;
 }
 
-// Only visible files count: a folder with nothing but hidden files is removed with them.
+// Only visible files count: a folder with only hidden files is removed with them.
 void removeIfEmpty(const QString &path)
 {
     const QString real = realFolder(path);

@@ -18,7 +18,7 @@ class XmlHelper : public QObject
     Q_OBJECT
 
 public:
-    /// Works on the file at @p path, which is read afresh by each operation.
+    /// Works on the file at @p path, which each operation reads again.
     XmlHelper(QObject *parent, const QString &path);
 
     /// Adds our element, or updates it, as @p model describes it. True: the file now has it. False:
