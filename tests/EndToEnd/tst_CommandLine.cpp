@@ -40,43 +40,45 @@ void TestCommandLine::startsInTheModeOfItsSwitches_data()
     addLine("repair", words("--REPAIR"), "repair");
     addLine("uninstall", words("--UNINSTALL"), "uninstall");
 
-    addLine("small letters", words("--install"), "install");
-    addLine("a capital", words("--Repair"), "repair");
-    addLine("mixed letters", words("--unInStall"), "uninstall");
-    addLine("a letter with that capital", words("--\u0131n\u017ftall"), "install");
-    addLine("a capital of another alphabet", words("--\u0130NSTALL"), "window");
-    addLine("another dash", words("\u2014INSTALL"), "window");
+    addLine("lower case", words("--install"), "install");
+    addLine("one capital letter", words("--Repair"), "repair");
+    addLine("mixed case", words("--unInStall"), "uninstall");
+    addLine("a letter whose capital is ASCII", words("--\u0131n\u017ftall"), "install");
+    addLine("a capital from another alphabet", words("--\u0130NSTALL"), "window");
+    addLine("a Unicode dash", words("\u2014INSTALL"), "window");
 
     addLine("repair, then uninstall", words("--REPAIR --UNINSTALL"), "uninstall");
     addLine("uninstall, then repair", words("--UNINSTALL --REPAIR"), "repair");
     addLine("install between others", words("--repair --INSTALL nonsense"), "install");
-    addLine("the first again", words("--REPAIR --INSTALL --REPAIR"), "repair");
+    addLine("the first switch again", words("--REPAIR --INSTALL --REPAIR"), "repair");
 
     addLine("a quiet one", words("--INSTALL 1"), "quiet install");
     addLine("quiet first", words("1 --INSTALL"), "quiet install");
     addLine("quiet, in between", words("--REPAIR 1 --install"), "quiet install");
-    addLine("twice quiet", words("1 --INSTALL 1"), "quiet install");
+    addLine("quiet twice", words("1 --INSTALL 1"), "quiet install");
     addLine("quiet, whatever follows", words("--INSTALL 1 0"), "quiet install");
-    addLine("quiet alone", words("1"), "window");
+    addLine("only quiet", words("1"), "window");
     addLine("a repair is never quiet", words("--REPAIR 1"), "repair");
     addLine("another number", words("--INSTALL 01"), "install");
     addLine("another one", words("--INSTALL \uff11"), "install");
-    addLine("a one with a blank", {QStringLiteral("--INSTALL"), QStringLiteral("1 ")}, "install");
+    addLine("a one with a space", {QStringLiteral("--INSTALL"), QStringLiteral("1 ")}, "install");
 
     addLine("a value", words("--INSTALL=1"), "window");
     addLine("a slash", words("/INSTALL"), "window");
     addLine("one dash", words("-INSTALL"), "window");
     addLine("no dash", words("INSTALL"), "window");
-    addLine("more behind it", words("--INSTALLED"), "window");
-    addLine("more before it", words("x--INSTALL"), "window");
-    addLine("a blank before it", {QStringLiteral(" --INSTALL")}, "window");
-    addLine("a blank behind it", {QStringLiteral("--REPAIR ")}, "window");
-    addLine("a line end behind it", {QStringLiteral("--UNINSTALL\n")}, "window");
-    addLine("two in one", {QStringLiteral("--INSTALL 1")}, "window");
-    addLine("unknown ones", words("--HELP --force ../file 2"), "window");
-    addLine("a mode by its number", words("--MODE 4"), "window");
-    addLine("an empty one", {QString()}, "window");
-    addLine("empty ones around", {QString(), QStringLiteral("--INSTALL"), QString()}, "install");
+    addLine("with a suffix", words("--INSTALLED"), "window");
+    addLine("with a prefix", words("x--INSTALL"), "window");
+    addLine("a leading space", {QStringLiteral(" --INSTALL")}, "window");
+    addLine("a trailing space", {QStringLiteral("--REPAIR ")}, "window");
+    addLine("a trailing line end", {QStringLiteral("--UNINSTALL\n")}, "window");
+    addLine("two switches in one argument", {QStringLiteral("--INSTALL 1")}, "window");
+    addLine("unknown switches", words("--HELP --force ../file 2"), "window");
+    addLine("a mode as a number", words("--MODE 4"), "window");
+    addLine("an empty argument", {QString()}, "window");
+    addLine("empty arguments around it",
+            {QString(), QStringLiteral("--INSTALL"), QString()},
+            "install");
 }
 
 void TestCommandLine::startsInTheModeOfItsSwitches()

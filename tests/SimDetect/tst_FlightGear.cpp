@@ -48,7 +48,7 @@ QByteArray launcher(const QByteArray &content)
 void TestFlightGear::findsItsData_data()
 {
     caseColumns();
-    addCase("where FG_ROOT says",
+    addCase("the folder in FG_ROOT",
             OnBoth,
             R"(file $R/data/version = 2020.3.19\n
                file $R/data/defaults.xml =
@@ -56,7 +56,7 @@ void TestFlightGear::findsItsData_data()
                file $R/usr/share/games/flightgear/version = 2020.3.16
                file $R/usr/share/games/flightgear/defaults.xml =)",
             "FGFS: $R/data");
-    addCase("by the file that older ones have",
+    addCase("by the file that older versions have",
             OnBoth,
             R"(file $R/data/version = 3.4.0
                file $R/data/preferences.xml =
@@ -107,14 +107,14 @@ void TestFlightGear::findsItsData_data()
                file $H/Library/Application Support/FlightGear/fgdata_2024_1/version = 2024.1.1
                file $H/Library/Application Support/FlightGear/fgdata_2024_1/defaults.xml =)",
             "FGFS: $H/Library/Application Support/FlightGear/fgdata_2024_1");
-    addCase("a packaged one before a downloaded one",
+    addCase("a packaged version before a downloaded one",
             OnLinux,
             R"(file $R/usr/share/flightgear/version = 2020.3.16
                file $R/usr/share/flightgear/defaults.xml =
                file $H/.fgfs/fgdata_2024_1/version = 2024.1.1
                file $H/.fgfs/fgdata_2024_1/defaults.xml =)",
             "FGFS: $R/usr/share/flightgear");
-    addCase("packaged ones in their order",
+    addCase("packaged versions in order",
             OnLinux,
             data("$R/usr/share/games/FlightGear $R/usr/local/share/flightgear "
                  "$R/usr/share/flightgear/data $R/usr/share/flightgear"),
@@ -126,7 +126,7 @@ void TestFlightGear::readsItsLaunchersSettings_data()
     caseColumns();
     const QByteArray chosen = "[General]\\nfg-root-2024-1=$R/chosen\\n";
     const QByteArray packaged = "$R/usr/share/flightgear";
-    addCase("before a packaged one",
+    addCase("before a packaged version",
             OnLinux,
             data("$R/chosen " + packaged) + launcher(chosen),
             "FGFS: $R/chosen");
@@ -134,13 +134,13 @@ void TestFlightGear::readsItsLaunchersSettings_data()
             OnLinux,
             data("$R/chosen $R/data") + launcher(chosen) + "variable FG_ROOT = $R/data",
             "FGFS: $R/data");
-    addCase("in its place on macOS",
+    addCase("in its folder on macOS",
             OnMacOS,
             data("$R/chosen")
                 + "file $H/Library/Application Support/FlightGear/FlightGear/FlightGear.ini = "
                 + chosen,
             "FGFS: $R/chosen");
-    addCase("where FG_HOME says",
+    addCase("the folder in FG_HOME",
             OnBoth,
             data("$R/chosen $R/other") + launcher("[General]\\nfg-root-2024-1=$R/other")
                 + "variable FG_HOME = $R/fg/\nfile $R/fg/FlightGear/FlightGear.ini = " + chosen,
@@ -158,7 +158,7 @@ void TestFlightGear::readsItsLaunchersSettings_data()
             + launcher(R"([General]\nfg-root-2020-3-19=$R/a\nfg-root-2020-3-9=$R/b)")
             + R"(file $H/.fgfs/FlightGear/FlightGear-2024.ini = [General]\nfg-root-2020-3-20=$R/c)",
         "FGFS: $R/c");
-    addCase("the highest version is gone, and another is no data",
+    addCase("the highest version is deleted, another is not data",
             OnLinux,
             data("$R/a")
                 + launcher(
@@ -197,7 +197,7 @@ void TestFlightGear::readsItsLaunchersSettings_data()
             "FGFS: $R/chosen",
             "FGFS not taken: $H/.fgfs/FlightGear/FlightGear-2020.ini: not a plain file");
     for (const int others : {255, 256}) {
-        addCase("behind " + QByteArray::number(others) + " that are gone",
+        addCase("after " + QByteArray::number(others) + " deleted ones",
                 OnLinux,
                 data("$R/chosen")
                     + launcher("[General]\\n" + QByteArray("fg-root-2=$R/gone\\n").repeated(others)
@@ -205,7 +205,7 @@ void TestFlightGear::readsItsLaunchersSettings_data()
                 others < 256 ? "FGFS: $R/chosen" : "",
                 "FGFS not taken: $R/gone: no such folder");
     }
-    addCase("a higher version behind 256 that are gone",
+    addCase("a higher version after 256 deleted ones",
             OnLinux,
             data("$R/chosen")
                 + launcher("[General]\\n" + QByteArray("fg-root-1=$R/gone\\n").repeated(256)
@@ -238,7 +238,7 @@ void TestFlightGear::readsItsLaunchersSettings_data()
     written("a backslash and a quote", R"(fg-root-2024-1="$R/a\\\\b\\"c")", "$R/a\\b\"c");
     written("UTF-8", "fg-root-2024-1=$R/Fluggerät", "$R/Fluggerät");
     written("Latin-1", R"(fg-root-2024-1=$R/Flugger\xE4t)", "$R/Fluggerät");
-    written("blanks and other line ends", R"(\r\n fg-root-2024-1 = $R/a b \r\n)", "$R/a b");
+    written("spaces and other line ends", R"(\r\n fg-root-2024-1 = $R/a b \r\n)", "$R/a b");
     addCase("a byte-order mark, and the section in other letter case",
             OnLinux,
             data("$R/chosen") + launcher(R"(\xEF\xBB\xBF[general]\nfg-root-2024-1=$R/chosen/)"),
@@ -249,7 +249,7 @@ void TestFlightGear::findsTheLaunchersDownloads_data()
 {
     caseColumns();
     const QByteArray there = launcher("[General]\\ndownload-dir=$R/downloads\\n");
-    addCase("the highest version of both places",
+    addCase("the highest version of both folders",
             OnLinux,
             there
                 + data("$H/.fgfs/fgdata_2020_3 $R/downloads/fgdata_2024_1 $H/.fgfs/fgdata_2022_1"),
@@ -258,34 +258,34 @@ void TestFlightGear::findsTheLaunchersDownloads_data()
             OnLinux,
             there + data("$H/.fgfs/fgdata_2024_1 $R/downloads/fgdata_2020_3"),
             "FGFS: $H/.fgfs/fgdata_2024_1");
-    addCase("one version in both places",
+    addCase("the same version in both folders",
             OnLinux,
             there + data("$H/.fgfs/fgdata_2024_1 $R/downloads/fgdata_2024_1"),
             "FGFS: $H/.fgfs/fgdata_2024_1");
     addCase(
-        "a folder of another name", OnLinux, there + data("$R/downloads/old_fgdata_2024_1"), "");
-    addCase("after a packaged one",
+        "a folder with another name", OnLinux, there + data("$R/downloads/old_fgdata_2024_1"), "");
+    addCase("after a packaged version",
             OnLinux,
             there + data("$R/downloads/fgdata_2024_1 $R/usr/share/flightgear"),
             "FGFS: $R/usr/share/flightgear");
-    addCase("behind the same place again and again",
+    addCase("after the same folder many times",
             OnLinux,
             launcher("[General]\\n" + QByteArray("download-dir=$R/gone\\n").repeated(256)
                      + "download-dir=$R/downloads")
                 + data("$R/downloads/fgdata_2024_1"),
             "FGFS: $R/downloads/fgdata_2024_1");
-    addCase("where FG_HOME says",
+    addCase("the folder in FG_HOME",
             OnBoth,
             data("$R/fg/fgdata_2020_3 $H/.fgfs/fgdata_2024_1") + "variable FG_HOME = $R/fg",
             "FGFS: $R/fg/fgdata_2020_3");
-    addCase("in the place that the launcher names on either system",
+    addCase("in the folder that the launcher uses on either system",
             OnBoth,
             "variable FG_HOME = $R/fg\nfile $R/fg/FlightGear/FlightGear.ini = "
             "[General]\\ndownload-dir=$R/downloads\n"
                 + data("$R/downloads/fgdata_2024_1"),
             "FGFS: $R/downloads/fgdata_2024_1");
     addCase(
-        "a download under way, and a place that is none",
+        "an unfinished download, and an invalid folder",
         OnLinux,
         launcher(
             R"([General]\ndownload-dir=downloads\ndownload-dir=$R/gone\ndownload-dir=$R/downloads)")
@@ -296,7 +296,7 @@ void TestFlightGear::findsTheLaunchersDownloads_data()
 void TestFlightGear::ignoresFoldersWithoutData_data()
 {
     caseColumns();
-    addCase("FG_ROOT is gone, and a download is not whole",
+    addCase("FG_ROOT is deleted, and a download is incomplete",
             OnLinux,
             R"(variable FG_ROOT = $R/gone
                file $R/usr/share/games/flightgear/version = 2020.3.16
@@ -304,7 +304,7 @@ void TestFlightGear::ignoresFoldersWithoutData_data()
                file $H/.fgfs/fgdata_2024_1/version = 2024.1.1)",
             "FGFS: $R/usr/share/games/flightgear",
             "FGFS not taken: $R/gone: no such folder");
-    addCase("the highest download is not whole",
+    addCase("the highest download is incomplete",
             OnLinux,
             R"(file $H/.fgfs/fgdata_2020_3/version = 2020.3.19
                file $H/.fgfs/fgdata_2020_3/defaults.xml =
@@ -335,14 +335,14 @@ void TestFlightGear::ignoresFoldersWithoutData_data()
                 "",
                 "FGFS not taken: $R/data: no file \"version\" that begins with a version number");
     }
-    addCase("marks that are no files",
+    addCase("typical names that are not files",
             OnBoth,
             R"(fifo $R/a/version
                file $R/a/defaults.xml =
                variable FG_ROOT = $R/a)",
             "",
             "FGFS not taken: $R/a: no file \"version\" that begins with a version number");
-    addCase("a folder for defaults.xml",
+    addCase("a folder in place of defaults.xml",
             OnBoth,
             R"(file $R/a/version = 2020.3
                dir $R/a/defaults.xml

@@ -126,7 +126,7 @@ void TestMsfsPackages::findsThePackages_data()
             settings(R"(InstalledPackagesPath "Z:$R/games/packages/")")
                 + "dir $R/games/Packages/Community\nlink " + prefix2020() + "/dosdevices/z: -> /",
             "MSFS2020: $R/games/Packages");
-    addCase("a drive whose way leads up from where the prefix really is",
+    addCase("a drive that is relative to the prefix's real folder",
             OnLinux,
             R"(dir $R/proton/games/P/Community
                file $R/proton/1250410/pfx/drive_c/users/steamuser/AppData/Roaming/Microsoft Flight Simulator/UserCfg.opt = InstalledPackagesPath "D:\\P"
@@ -136,7 +136,7 @@ void TestMsfsPackages::findsThePackages_data()
                link $R/proton/1250410/pfx/dosdevices/d: -> ../../../games)",
             "MSFS2020: $R/proton/games/P");
     addCase(
-        "both editions, each by its own file",
+        "both editions by their own files",
         OnLinux,
         "dir " + packages + "/Community\n" + settings("InstalledPackagesPath \"" + place + "\"")
             + "\ndir " + roaming2024() + "/Packages/Community\nfile " + roaming2024()
@@ -233,14 +233,14 @@ void TestMsfsPackages::ignoresFilesThatNameNoPackages_data()
         R"(InstalledPackagesPath "E:\\P")",
         prefix2020() + "/dosdevices/e:/P",
         "no such folder");
-    addCase("a drive whose link leads nowhere",
+    addCase("a drive whose link is dangling",
             OnLinux,
             "dir $R/P/Community\n" + settings(R"(InstalledPackagesPath "E:\\P")") + "dir "
                 + prefix2020() + "/dosdevices\nlink " + prefix2020()
                 + "/dosdevices/e: -> $R/unplugged",
             "",
             "MSFS2020 not taken: " + prefix2020() + "/dosdevices/e:/P: no such folder");
-    addCase("a folder for the file",
+    addCase("a folder in place of the file",
             OnLinux,
             "dir " + file,
             "",

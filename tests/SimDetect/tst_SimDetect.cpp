@@ -57,9 +57,10 @@ void TestSimDetect::findsEverySimulator_data()
                FSXSE: $S/steamapps/common/FSX
                XP11: $R/media/games/steamapps/common/X-Plane 11
                XP12: $R/sims/X-Plane 12)");
-    addCase("a macOS library with a blank in its name, one unplugged, and litter beside the files",
-            OnMacOS,
-            R"(libraries $S = $S, $R/Volumes/Sim Drive/Steam, /Volumes/Unplugged/Steam
+    addCase(
+        "a macOS library with a space in its name, an unplugged one, and other files beside them",
+        OnMacOS,
+        R"(libraries $S = $S, $R/Volumes/Sim Drive/Steam, /Volumes/Unplugged/Steam
                game $R/Volumes/Sim Drive/Steam 2014780 X-Plane 12
                xplane $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12
                file $R/Volumes/Sim Drive/Steam/steamapps/._appmanifest_2014780.acf = \0\x05\x16\x07
@@ -67,7 +68,7 @@ void TestSimDetect::findsEverySimulator_data()
                file $S/config/._libraryfolders.vdf = \0\x05\x16\x07
                game $S 269950 X-Plane 11
                xplane $S/steamapps/common/X-Plane 11)",
-            R"(XP11: $S/steamapps/common/X-Plane 11
+        R"(XP11: $S/steamapps/common/X-Plane 11
                XP12: $R/Volumes/Sim Drive/Steam/steamapps/common/X-Plane 12)");
 }
 

@@ -64,14 +64,14 @@ void TestSteam::findsItsRoots_data()
                     + "/steamapps/common/X-Plane 12",
                 "XP12: " + root + "/steamapps/common/X-Plane 12");
     }
-    addCase("the place on macOS",
+    addCase("the root on macOS",
             OnMacOS,
             R"(game $H/Library/Application Support/Steam 2014780 X-Plane 12
                xplane $H/Library/Application Support/Steam/steamapps/common/X-Plane 12
                game $H/.local/share/Steam 269950 X-Plane 11
                xplane $H/.local/share/Steam/steamapps/common/X-Plane 11)",
             "XP12: $H/Library/Application Support/Steam/steamapps/common/X-Plane 12");
-    addCase("where the user's data is",
+    addCase("in the user's data folder",
             OnLinux,
             R"(variable XDG_DATA_HOME = $R/data
                game $R/data/Steam 2014780 X-Plane 12
@@ -79,13 +79,13 @@ void TestSteam::findsItsRoots_data()
                game $H/.local/share/Steam 2014780 X-Plane 12
                xplane $H/.local/share/Steam/steamapps/common/X-Plane 12)",
             "XP12: $R/data/Steam/steamapps/common/X-Plane 12");
-    addCase("an empty or relative place for the user's data counts for nothing",
+    addCase("an empty or relative data folder is ignored",
             OnLinux,
             R"(variable XDG_DATA_HOME = data
                game $S 2014780 X-Plane 12
                xplane $S/steamapps/common/X-Plane 12)",
             "XP12: $S/steamapps/common/X-Plane 12");
-    addCase("the native one before links to it and a Snap",
+    addCase("the native Steam before links to it and a Snap",
             OnLinux,
             R"(game $S 2014780 X-Plane 12
                xplane $S/steamapps/common/X-Plane 12
@@ -102,13 +102,13 @@ void TestSteam::findsItsRoots_data()
                libraries $S = $S, $H/.steam/steam, $S/)",
             "",
             "XP12 not taken: $S/steamapps/common/X-Plane 12: no Resources/plugins");
-    addCase("a link, where it is all that leads there",
+    addCase("a link that is the only path to it",
             OnLinux,
             R"(game $R/drive/Steam 2014780 X-Plane 12
                xplane $R/drive/Steam/steamapps/common/X-Plane 12
                link $H/.steam/root -> $R/drive/Steam)",
             "XP12: $H/.steam/root/steamapps/common/X-Plane 12");
-    addCase("roots that are dead links, loops, files and pipes",
+    addCase("roots that are dangling links, loops, files and pipes",
             OnLinux,
             R"(link $H/.steam/steam -> $H/.steam/root
                link $H/.steam/root -> $H/.steam/steam
@@ -134,23 +134,23 @@ void TestSteam::findsItsLibraries_data()
     list("both forms in one", R"(libraryfolders { 1 "$R/gone" 2 { path "$R/drive" } })");
     list("letter case of keys", R"("LIBRARYFOLDERS" { "1" { "PATH" "$R/drive" } })");
     list("letter case of the path", R"("libraryfolders" { "1" { "path" "$R/Drive" } })");
-    list("a slash at the end", R"("libraryfolders" { "1" { "path" "$R/drive/" } })");
+    list("a trailing slash", R"("libraryfolders" { "1" { "path" "$R/drive/" } })");
     list("an include before it", R"(#base "other.vdf" "libraryfolders" { "1" "$R/drive" })");
     list("a condition", R"("libraryfolders" { "1" "$R/drive" [$X] "2" "$R/gone" })");
-    list("junk behind the last brace", R"("libraryfolders" { "1" "$R/drive" }\0\0}{"\xFF)");
+    list("junk after the last brace", R"("libraryfolders" { "1" "$R/drive" }\0\0}{"\xFF)");
     list("a list that names itself", R"("libraryfolders" { "1" "$S" "2" "$S/." "3" "$R/drive" })");
     list("keys of other kinds",
          R"("libraryfolders" { "a" "$R/x" "contentid" "1" "1a" "/" "" "/" "1" "$R/drive" })");
     list(
-        "paths that are none",
+        "invalid paths",
         R"("libraryfolders" { "0" "" "1" "." "2" "drive" "3" { } "4" { "path" { } } "5" "C:\\Steam" "6" "$R/drive" })");
     addCase(
-        "a library that has no number",
+        "a library without a number",
         OnBoth,
         game
             + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "label" "$R/drive" "" "$R/drive" "1a" { "path" "$R/drive" } })",
         "");
-    addCase("the other place of the list",
+    addCase("the other path of the list",
             OnBoth,
             game + R"(file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" })",
             found);
@@ -163,7 +163,7 @@ void TestSteam::findsItsLibraries_data()
                file $S/config/libraryfolders.vdf = "libraryfolders" { "1" "$R/one" }
                file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/two" })",
             "XP11: $R/two/steamapps/common/X-Plane 11\nXP12: $R/one/steamapps/common/X-Plane 12");
-    addCase("one list is cut off, the other is not",
+    addCase("one list is truncated, the other is not",
             OnBoth,
             game + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "0" "$R/other"
                file $S/steamapps/libraryfolders.vdf = "libraryfolders" { "1" "$R/drive" })",
@@ -177,7 +177,7 @@ void TestSteam::findsItsLibraries_data()
             found,
             "Steam's libraries not read: $S/config/libraryfolders.vdf: no list of libraries");
     addCase(
-        "a list that is cut off names nothing",
+        "a truncated list names nothing",
         OnBoth,
         game
             + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "1" { "path" "$R/drive" })",
@@ -191,12 +191,12 @@ void TestSteam::findsItsLibraries_data()
             + R"(file $S/config/libraryfolders.vdf = "libraryfolders" { "1" { "path" "$R/x" "path" "$R/drive" } "1" "$R/drive" } "libraryfolders" { "2" "$R/drive" })",
         "");
     for (const int others : {254, 255, 256}) {
-        addCase("behind " + QByteArray::number(others) + " that are gone",
+        addCase("after " + QByteArray::number(others) + " deleted ones",
                 OnBoth,
                 game + "libraries $S = " + QByteArray("$R/gone, ").repeated(others) + "$R/drive",
                 others < 256 ? found : "");
     }
-    addCase("the list of games in it says nothing",
+    addCase("the list of games in it is ignored",
             OnBoth,
             R"(xplane $S/steamapps/common/X-Plane 12
                file $S/config/libraryfolders.vdf = "libraryfolders" { "0" { "path" "$S" "apps" { "2014780" "1" } } })",
@@ -225,17 +225,17 @@ void TestSteam::mapsPathsFromASandbox_data()
 {
     caseColumns();
     const QByteArray flatpak = "$H/.var/app/com.valvesoftware.Steam/.local/share/Steam";
-    addCase("its own root under the name that the sandbox shows",
+    addCase("its own root under the sandbox's path",
             OnLinux,
             "game " + flatpak + "/more 2014780 X-Plane 12\nxplane " + flatpak
                 + "/more/steamapps/common/X-Plane 12\nlibraries " + flatpak + " = $S, $S/more",
             "XP12: " + flatpak + "/more/steamapps/common/X-Plane 12");
-    addCase("a folder that only begins alike is another drive's",
+    addCase("a folder with only the same prefix is on another drive",
             OnLinux,
             "game $S.old 2014780 X-Plane 12\nxplane $S.old/steamapps/common/X-Plane 12\nlibraries "
                 + flatpak + " = $S.old",
             "XP12: $S.old/steamapps/common/X-Plane 12");
-    addCase("a native Steam means what it writes",
+    addCase("a native Steam's paths are not mapped",
             OnLinux,
             "game " + flatpak + "/more 2014780 X-Plane 12\nxplane " + flatpak
                 + "/more/steamapps/common/X-Plane 12\nlibraries $S = $S/more",
@@ -306,18 +306,18 @@ void TestSteam::readsManifests_data()
     add("a missing last brace",
         R"("AppState" { "appid" "2014780" "installdir" "X-Plane 12")",
         "cut off, or not in Steam's text format");
-    addCase("a folder for a manifest",
+    addCase("a folder in place of a manifest",
             OnBoth,
             "dir $S/steamapps/appmanifest_2014780.acf",
             "",
             "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a plain file");
-    addCase("a pipe for a manifest",
+    addCase("a pipe in place of a manifest",
             OnBoth,
             "fifo $S/steamapps/appmanifest_2014780.acf",
             "",
             "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a plain file");
     addCase(
-        "a manifest whose folder is gone",
+        "a manifest whose folder is deleted",
         OnBoth,
         R"(file $S/steamapps/appmanifest_2014780.acf = "AppState" { "installdir" "X-Plane 12" })",
         "",
@@ -358,7 +358,7 @@ void TestSteam::refusesFoldersOutsideTheLibrary()
 void TestSteam::requiresTheGamesFiles_data()
 {
     caseColumns();
-    addCase("each simulator's own",
+    addCase("each simulator's own files",
             OnBoth,
             R"(game $S 314160 FSX
                file $S/steamapps/common/FSX/FSX.EXE =
@@ -367,20 +367,20 @@ void TestSteam::requiresTheGamesFiles_data()
                xplane $S/steamapps/common/X-Plane 10)",
             R"(FSXSE: $S/steamapps/common/FSX
                XP10: $S/steamapps/common/X-Plane 10)");
-    addCase("half of them",
+    addCase("half of the files",
             OnBoth,
             R"(game $S 314160 FSX
                file $S/steamapps/common/FSX/fsx.exe =)",
             "",
             "FSXSE not taken: $S/steamapps/common/FSX: no SimObjects");
-    addCase("the other half",
+    addCase("the other half of the files",
             OnBoth,
             R"(game $S 314160 FSX
                dir $S/steamapps/common/FSX/SimObjects
                dir $S/steamapps/common/FSX/fsx.exe)",
             "",
             "FSXSE not taken: $S/steamapps/common/FSX: no fsx.exe");
-    addCase("an invalid one falls through to the next library",
+    addCase("an invalid folder is skipped for the next library's",
             OnBoth,
             R"(libraries $S = $R/drive
                game $S 314160 FSX
@@ -425,8 +425,7 @@ void TestSteam::findsAeroflysUserFolder_data()
             sound,
             "",
             "AFS4 not taken: " + game + ": it has no Proton prefix");
-    addCase(
-        "a prefix that a removed game left behind", OnLinux, "file $S" + user + "/main.mcf =", "");
+    addCase("a prefix left by a removed game", OnLinux, "file $S" + user + "/main.mcf =", "");
     addCase("no scenery",
             OnLinux,
             "game $S 1995890 Aerofly FS 4\ndir " + game + "/aircraft\nfile $S" + user

@@ -48,19 +48,19 @@ void TestXPlane::readsItsLists_data()
                file $L/x-plane_install_11.txt = $R/b/\n
                file $L/x-plane_install_12.txt = $R/c/\n)",
             "XP10: $R/a\nXP11: $R/b\nXP12: $R/c");
-    addCase("a folder that is gone, blank lines, then a good one",
+    addCase("a deleted folder, empty lines, then a valid folder",
             OnBoth,
             R"(xplane $R/good
                file $L/x-plane_install_12.txt = $R/gone/\n\n \t\n$R/good/\n)",
             "XP12: $R/good",
             "XP12 not taken: $R/gone/: no such folder");
-    addCase("two good lines",
+    addCase("two valid lines",
             OnBoth,
             R"(xplane $R/z
                xplane $R/a
                file $L/x-plane_install_12.txt = $R/z/\n$R/a/\n)",
             "XP12: $R/z");
-    addCase("a byte-order mark, CRLF and blanks around the line",
+    addCase("a byte-order mark, CRLF and spaces around the line",
             OnBoth,
             R"(xplane $R/good
                file $L/x-plane_install_12.txt = \xEF\xBB\xBF \t$R/good/ \t\r\n)",
@@ -71,19 +71,19 @@ void TestXPlane::readsItsLists_data()
                 + QByteArray(1024 * 1024, '#'),
             "",
             "XP12 not taken: $L/x-plane_install_12.txt: too large");
-    addCase("a line end of another kind inside a line",
+    addCase("another kind of line end inside a line",
             OnBoth,
             R"(xplane $R/good
                file $L/x-plane_install_12.txt = $R/a\rb\x07\n$R/good/)",
             "XP12: $R/good",
             "XP12 not taken: $R/a?b?: no such folder");
-    addCase("a path that is not clean",
+    addCase("a path with redundant components",
             OnBoth,
             R"(xplane $R/sims/good
                dir $R/sims/other
                file $L/x-plane_install_12.txt = $R//sims/./other/../good//)",
             "XP12: $R/sims/good");
-    addCase("a path back from behind a link",
+    addCase("a path with \"..\" after a link",
             OnBoth,
             R"(xplane $R/real/X-Plane
                dir $R/real/inside
@@ -91,12 +91,12 @@ void TestXPlane::readsItsLists_data()
                xplane $R/X-Plane
                file $L/x-plane_install_12.txt = $R/link/../X-Plane)",
             "XP12: $R/real/X-Plane");
-    addCase("a path that begins above everything",
+    addCase("a path with \"..\" above the root",
             OnBoth,
             R"(xplane $R/good
                file $L/x-plane_install_12.txt = /../..$R/good)",
             "XP12: $R/good");
-    addCase("a name beyond ASCII",
+    addCase("a non-ASCII name",
             OnBoth,
             R"(xplane $R/Fluggerät
                file $L/x-plane_install_12.txt = $R/Fluggerät/)",
@@ -117,7 +117,7 @@ void TestXPlane::readsItsLists_data()
                link $R/link -> $R/real
                file $L/x-plane_install_12.txt = $R/link/)",
             "XP12: $R/link");
-    addCase("a list that is a folder, and versions that there are none of",
+    addCase("a list that is a folder, and versions that do not exist",
             OnBoth,
             R"(xplane $R/good
                dir $L/x-plane_install_10.txt
@@ -142,7 +142,7 @@ void TestXPlane::readsItsLists_data()
 void TestXPlane::ignoresFoldersWithoutXPlane_data()
 {
     caseColumns();
-    addCase("lines that are no folder of it, then a good one",
+    addCase("lines with other folders, then a valid one",
             OnBoth,
             R"(xplane $R/good
                xplane $H/home one
@@ -184,7 +184,7 @@ void TestXPlane::ignoresFoldersWithoutXPlane_data()
                file $L/x-plane_install_11.txt = $R/mac
                file $L/x-plane_install_12.txt = $R/lin)",
             "XP11: $R/mac\nXP12: $R/lin");
-    addCase("names that are no executable",
+    addCase("names that are not executables",
             OnBoth,
             R"(dir $R/sim/Resources/plugins
                file $R/sim/._X-Plane.app =
@@ -200,7 +200,7 @@ void TestXPlane::ignoresFoldersWithoutXPlane_data()
                file $L/x-plane_install_12.txt = $R/sim)",
             "",
             "XP12 not taken: $R/sim: no X-Plane executable");
-    addCase("a dead link and a loop",
+    addCase("a dangling link and a loop",
             OnBoth,
             R"(link $R/dead -> $R/nowhere
                link $R/loop -> $R/loop
@@ -211,7 +211,7 @@ void TestXPlane::ignoresFoldersWithoutXPlane_data()
             "XP12 not taken: $R/dead: no such folder\n"
             "XP12 not taken: $R/loop/a: no such folder\n"
             "XP12 not taken: $R/one: no such folder");
-    addCase("one folder by several names is turned down once",
+    addCase("one folder under several paths is turned down once",
             OnBoth,
             R"(dir $R/empty
                link $R/link -> $R/empty
@@ -231,14 +231,14 @@ void TestXPlane::ignoresFoldersWithoutXPlane_data()
             "",
             "XP12 not taken: /飛行🛬: no such folder");
     for (const int others : {255, 256}) {
-        addCase("behind " + QByteArray::number(others) + " folders that are gone",
+        addCase("after " + QByteArray::number(others) + " deleted folders",
                 OnBoth,
                 "xplane $R/good\nfile $L/x-plane_install_12.txt = "
                     + QByteArray("$R/gone\\n").repeated(others) + "$R/good",
                 others < 256 ? "XP12: $R/good" : "",
                 "XP12 not taken: $R/gone: no such folder");
     }
-    addCase("control characters stay out of the log",
+    addCase("control characters are not written to the log",
             OnBoth,
             R"(file $L/x-plane_install_12.txt = $R/a\0b\x1B[31m)",
             "",
@@ -264,7 +264,7 @@ void TestXPlane::readsTheVersion_data()
                file $L/x-plane_install_12.txt = $R/sim/\n)",
             "XP11: $R/sim",
             "XP12 not taken: $R/sim: it is X-Plane 11");
-    addCase("two lists name one folder that tells nothing",
+    addCase("two lists name one folder that does not say its version",
             OnBoth,
             R"(xplane $R/sim
                file $L/x-plane_install_11.txt = $R/sim/\n
@@ -304,14 +304,14 @@ void TestXPlane::readsTheVersion_data()
                xplane $S/steamapps/common/X-Plane 12)",
             "XP12: $R/upgraded",
             "XP11 not taken: $R/upgraded: it is X-Plane 12");
-    addCase("a version that nobody asks for",
+    addCase("an unsupported version",
             OnBoth,
             R"(xplane $R/sim
                file $R/sim/Log.txt = Log.txt for X-Plane 13.0
                file $L/x-plane_install_12.txt = $R/sim/\n)",
             "",
             "XP12 not taken: $R/sim: it is X-Plane 13");
-    addCase("the bundle, where there is no log",
+    addCase("the bundle, if there is no log",
             OnBoth,
             R"(xplane $R/sim
                file $R/sim/X-Plane.app/Contents/Info.plist = <?xml version="1.0" encoding="UTF-8"?>\n<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">\n<plist version="1.0">\n<dict>\n<key>Types</key><array><dict><key>CFBundleShortVersionString</key><string>10</string></dict></array>\n<key>CFBundleName</key>\n<string>X-Plane</string>\n<key>CFBundleShortVersionString</key>\n<string>11.55</string>\n</dict>\n</plist>\n
@@ -330,7 +330,7 @@ void TestXPlane::readsTheVersion_data()
             "XP10: $R/a\nXP11: $R/b",
             "XP12 not taken: $R/a: it is X-Plane 10\n"
             "XP12 not taken: $R/b: it is X-Plane 11");
-    addCase("the installer, where there is nothing else",
+    addCase("the installer, if there is nothing else",
             OnBoth,
             R"(xplane $R/sim
                dir $R/sim/X-Plane 12 Installer.app
@@ -339,7 +339,7 @@ void TestXPlane::readsTheVersion_data()
                file $L/x-plane_install_11.txt = $R/sim/\n)",
             "XP12: $R/sim",
             "XP11 not taken: $R/sim: it is X-Plane 12");
-    addCase("a log whose first line tells nothing",
+    addCase("a log whose first line has no version",
             OnBoth,
             R"(xplane $R/sim
                file $R/sim/Log.txt = \xFF\xFE\nLog.txt for X-Plane 11.55\n
@@ -348,7 +348,7 @@ void TestXPlane::readsTheVersion_data()
                file $L/x-plane_install_11.txt = $R/sim/\n)",
             "XP12: $R/sim",
             "XP11 not taken: $R/sim: it is X-Plane 12");
-    addCase("a log that cannot be read as one",
+    addCase("an unreadable log",
             OnBoth,
             R"(xplane $R/a
                xplane $R/b
@@ -358,7 +358,7 @@ void TestXPlane::readsTheVersion_data()
                file $L/x-plane_install_11.txt = $R/a/
                file $L/x-plane_install_12.txt = $R/b/)",
             "XP11: $R/a\nXP12: $R/b");
-    addCase("a log with bytes that are not UTF-8 behind the version",
+    addCase("a log with bytes that are not UTF-8 after the version",
             OnBoth,
             R"(xplane $R/sim
                file $R/sim/Log.txt = Log.txt for X-Plane 12.1 \xE9\xFF\0\n
@@ -378,7 +378,7 @@ void TestXPlane::readsTheVersion_data()
                file $H/X-Plane 11/Log.txt = Log.txt for X-Plane 12.)",
             "XP12: $H/X-Plane 11",
             "XP11 not taken: $H/X-Plane 11: it is X-Plane 12");
-    addCase("a list outranks a folder's name",
+    addCase("a list has priority over a folder's name",
             OnBoth,
             R"(xplane $H/X-Plane 12
                file $L/x-plane_install_11.txt = $H/X-Plane 12/)",
@@ -401,14 +401,14 @@ void TestXPlane::searchesWellKnownFolders_data()
                xplane $R/Applications/X-Plane 11
                xplane $H/Applications/X-Plane 10)",
             "XP12: $R/opt/X-Plane 12");
-    addCase("among the applications of macOS",
+    addCase("in the applications folder of macOS",
             OnMacOS,
             R"(xplane $R/opt/X-Plane 10
                xplane $R/Applications/X-Plane 12
                xplane $H/Applications/X-Plane 12
                xplane $H/Applications/X-Plane 11)",
             "XP11: $H/Applications/X-Plane 11\nXP12: $R/Applications/X-Plane 12");
-    addCase("an empty one is passed over",
+    addCase("an empty folder is ignored",
             OnBoth,
             R"(dir $H/X-Plane 12
                xplane $H/Desktop/X-Plane 12)",
@@ -431,7 +431,7 @@ void TestXPlane::prefersSourcesInOrder_data()
                xplane $H/X-Plane 11
                xplane $H/X-Plane 10)",
             "XP10: $H/X-Plane 10\nXP11: $S/steamapps/common/X-Plane 11\nXP12: $R/listed");
-    addCase("each falls through to the next",
+    addCase("each invalid source is skipped for the next",
             OnBoth,
             R"(file $L/x-plane_install_12.txt = $R/gone
                game $S 2014780 X-Plane 12
@@ -439,7 +439,7 @@ void TestXPlane::prefersSourcesInOrder_data()
             "XP12: $H/X-Plane 12",
             "XP12 not taken: $R/gone: no such folder\n"
             "XP12 not taken: $S/steamapps/common/X-Plane 12: no Resources/plugins");
-    addCase("the form seen first",
+    addCase("the path that was seen first",
             OnBoth,
             R"(game $S 2014780 X-Plane 12
                xplane $S/steamapps/common/X-Plane 12
