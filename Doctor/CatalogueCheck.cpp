@@ -247,10 +247,11 @@ void CatalogueCheck::write(const QJsonObject &json, const QString &file, Page *p
         const QString key = printable(text(object, "key"));
         page->add(0,
                   QStringLiteral("%1:%2:%3: %4%5")
-                      .arg(printable(file))
-                      .arg(object.value(QLatin1String("line")).toInt())
-                      .arg(object.value(QLatin1String("column")).toInt())
-                      .arg(key.isEmpty() ? key : key + QStringLiteral(": "), text(object, "text")));
+                      .arg(printable(file),
+                           QString::number(object.value(QLatin1String("line")).toInt()),
+                           QString::number(object.value(QLatin1String("column")).toInt()),
+                           key.isEmpty() ? key : key + QStringLiteral(": "),
+                           text(object, "text")));
     }
     if (findings.isEmpty())
         page->add(0, tr("Nothing is wrong."), Page::Good);

@@ -17,7 +17,7 @@ class Page;
 /// warning.
 class CatalogueCheck
 {
-    Q_DECLARE_TR_FUNCTIONS(CatalogueCheck)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::CatalogueCheck)
 
 public:
     /// @p payload is the folder of the plugin's files, with a trailing separator.

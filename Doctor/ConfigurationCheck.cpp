@@ -3,6 +3,7 @@
 #include "Controllers/UserFiles.h"
 #include "Doctor/Problems.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/Reasons.h"
 #include "Doctor/WindowsPath.h"
 #include "Doctor/WriteAccess.h"
 #include "Doctor/XmlDamage.h"
@@ -91,9 +92,9 @@ void ConfigurationCheck::lookAt(const QString &path)
         read(bytes);
     } else {
         m_json.insert(QStringLiteral("state"), QStringLiteral("unreadable"));
-        m_problems->addError(
-            tr("The configuration file %1 cannot be read: %2.").arg(quoted(path), problem),
-            tr("Give yourself the right to read it."));
+        m_problems->addError(tr("The configuration file %1 cannot be read: %2.")
+                                 .arg(quoted(path), Reasons::translated(problem)),
+                             tr("Give yourself the right to read it."));
     }
 }
 
@@ -172,7 +173,8 @@ void ConfigurationCheck::judge(int count)
             tr("%1 has an entry for the plugin, whose files are not there.").arg(file),
             tr("Install it, or uninstall it to take the entry out."));
     if (count > 1)
-        m_problems->addWarning(tr("Our entry is in %1 %2 times.").arg(file).arg(count), again);
+        m_problems->addWarning(tr("Our entry is in %1 %2 times.").arg(file, QString::number(count)),
+                               again);
     if (m_ours.value(QLatin1String("disabled")).toBool())
         m_problems->addError(tr("Our entry in %1 is disabled.").arg(file), again);
     if (count > 0 && !m_ours.value(QLatin1String("fileThere")).toBool())

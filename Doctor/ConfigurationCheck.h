@@ -22,7 +22,7 @@ class Problems;
 /// Checks whether a simulator's configuration file is well formed and has our entry.
 class ConfigurationCheck
 {
-    Q_DECLARE_TR_FUNCTIONS(ConfigurationCheck)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::ConfigurationCheck)
 
 public:
     /// @p isInstalled: whether the plugin's files exist, so that the entry should, too.

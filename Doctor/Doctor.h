@@ -15,7 +15,7 @@ class Options;
 /// One run of the program: examines, and reports.
 class Doctor
 {
-    Q_DECLARE_TR_FUNCTIONS(Doctor)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Doctor)
 
 public:
     enum Status {

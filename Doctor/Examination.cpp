@@ -164,8 +164,7 @@ Examination::roomFor(const Simulator &simulator, qint64 needed, Problems *proble
     const auto available = static_cast<qint64>(space.available);
     if (available < needed)
         problems->addError(tr("The disk has room for %1 bytes; the files and a backup take %2.")
-                               .arg(available)
-                               .arg(needed),
+                               .arg(QString::number(available), QString::number(needed)),
                            tr("Make room on the disk of %1.").arg(quoted(path)));
     return {{QStringLiteral("needed"), needed}, {QStringLiteral("available"), available}};
 }

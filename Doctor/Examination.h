@@ -14,7 +14,7 @@ class Problems;
 /// Examines simulators, their files and the record, and changes nothing.
 class Examination
 {
-    Q_DECLARE_TR_FUNCTIONS(Examination)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Examination)
 
 public:
     /// @p payload is the folder with the plugin's files, with a trailing separator.

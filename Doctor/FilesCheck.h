@@ -19,7 +19,7 @@ bool haveSameBytes(const QString &first, const QString &second);
 /// Compares the plugin's files in a simulator with those in the payload folder.
 class FilesCheck
 {
-    Q_DECLARE_TR_FUNCTIONS(FilesCheck)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::FilesCheck)
 
 public:
     FilesCheck(const Models::FlightSimulatorMapping *mapping,

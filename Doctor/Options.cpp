@@ -61,12 +61,13 @@ void Options::takeCatalogue(const QString &option, QStringList *rest)
 
 void Options::refuse(const QString &option)
 {
-    m_problem = tr("Unknown option %1.").arg(printable(option));
+    const QString unknown = printable(option);
+    m_problem = tr("Unknown option %1.").arg(unknown);
     const QString begin = option.section(u'=', 0, 0).left(4);
     for (const char *known :
          {"--json", "--plan", "--check-catalogue", "--catalogue", "--help", "--version"}) {
         if (QLatin1String(known).startsWith(begin, Qt::CaseInsensitive) && begin.size() > 2) {
-            m_problem += tr(" Is %1 meant?").arg(QLatin1String(known));
+            m_problem = tr("Unknown option %1. Is %2 meant?").arg(unknown, QLatin1String(known));
             return;
         }
     }

@@ -10,7 +10,7 @@ namespace Quillmont::Utility::Doctor {
 /// The options on the command line.
 class Options
 {
-    Q_DECLARE_TR_FUNCTIONS(Options)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Options)
 
 public:
     enum Task {

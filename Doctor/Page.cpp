@@ -1,5 +1,6 @@
 #include "Doctor/Page.h"
 
+#include "Doctor/Columns.h"
 #include "Doctor/Quoting.h"
 
 #include <QStringList>
@@ -10,6 +11,17 @@
 #include <unistd.h>
 
 namespace Quillmont::Utility::Doctor {
+
+namespace {
+
+QString withoutBlanks(QString line)
+{
+    while (line.endsWith(u' '))
+        line.chop(1);
+    return line;
+}
+
+} // namespace
 
 Page Page::forStandardOutput()
 {
@@ -24,15 +36,17 @@ void Page::add(int indent, const QString &line, Style style)
 {
     const QString blanks(indent, u' ');
     QString folded;
-    const QStringList words = printable(line).split(u' ');
-    for (const QString &word : words) {
-        if (m_width > 0 && !folded.isEmpty()
-            && indent + folded.size() + 1 + word.size() > m_width) {
-            m_text += blanks + coloured(folded, style) + u'\n';
-            folded = QStringLiteral("  ") + word;
-        } else {
-            folded += folded.isEmpty() ? word : u' ' + word;
+    int columns = indent;
+    const QStringList pieces = breakable(printable(line));
+    for (const QString &piece : pieces) {
+        const bool fits = columns + columnsOf(withoutBlanks(piece)) <= m_width;
+        if (m_width > 0 && !folded.isEmpty() && !fits) {
+            m_text += blanks + coloured(withoutBlanks(folded), style) + u'\n';
+            folded = QStringLiteral("  ");
+            columns = indent + 2;
         }
+        folded += piece;
+        columns += columnsOf(piece);
     }
     m_text += blanks + coloured(folded, style) + u'\n';
 }

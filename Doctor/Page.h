@@ -20,7 +20,7 @@ public:
     /// For standard output: a file or a pipe gets no colours and no wrapping.
     static Page forStandardOutput();
 
-    /// Wraps lines at @p width characters, or not at all if that is 0.
+    /// Lines have @p width columns, or are not folded if that is 0.
     Page(int width, bool isColoured)
         : m_width(width)
         , m_isColoured(isColoured)

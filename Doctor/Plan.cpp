@@ -45,10 +45,8 @@ void Plan::write(const QJsonObject &plan, Page *page)
     for (const auto &simulator : simulators) {
         const QJsonObject object = simulator.toObject();
         page->add(0,
-                  tr("%1: %2 in %3")
-                      .arg(printable(object.value(QLatin1String("name")).toString()),
-                           what,
-                           quoted(object.value(QLatin1String("folder")).toString())),
+                  line(what).arg(printable(object.value(QLatin1String("name")).toString()),
+                                 quoted(object.value(QLatin1String("folder")).toString())),
                   Page::Title);
         writeSimulator(object, page);
         page->addEmptyLine();
@@ -65,31 +63,49 @@ void Plan::writeSimulator(const QJsonObject &simulator, Page *page)
     each("foldersMade", tr("Folder made: %1"), Page::Plain);
     const QJsonArray files = simulator.value(QLatin1String("files")).toArray();
     for (const auto &file : files)
-        page->add(2,
-                  tr("File %1: %2")
-                      .arg(file.toObject().value(QLatin1String("change")).toString(),
-                           quoted(file.toObject().value(QLatin1String("path")).toString())));
+        writeChange(QStringLiteral("file"), file.toObject(), page);
     each("foldersRemoved", tr("Folder removed: %1"), Page::Plain);
     each("backups", tr("Backup made: %1"), Page::Plain);
-    writeText(
-        tr("Configuration"), simulator.value(QLatin1String("configuration")).toObject(), page);
-    writeText(tr("Record"), simulator.value(QLatin1String("record")).toObject(), page);
+    for (const char *text : {"configuration", "record"}) {
+        const QJsonObject change = simulator.value(QLatin1String(text)).toObject();
+        if (change.isEmpty())
+            continue;
+        writeChange(QLatin1String(text), change, page);
+        writeDiff(change.value(QLatin1String("diff")).toString(), page);
+    }
     const QJsonArray failures = simulator.value(QLatin1String("failures")).toArray();
     for (const auto &failure : failures)
         page->add(2, tr("Problem: %1").arg(failure.toString()), Page::Bad);
 }
 
-void Plan::writeText(const QString &title, const QJsonObject &change, Page *page)
+void Plan::writeChange(const QString &subject, const QJsonObject &change, Page *page)
 {
-    if (change.isEmpty())
-        return;
-    page->add(2,
-              tr("%1 %2: %3")
-                  .arg(title,
-                       change.value(QLatin1String("change")).toString(),
-                       quoted(change.value(QLatin1String("path")).toString())));
-    const QStringList lines
-        = change.value(QLatin1String("diff")).toString().split(u'\n', Qt::SkipEmptyParts);
+    const QString text = line(subject + u' ' + change.value(QLatin1String("change")).toString());
+    page->add(2, text.arg(quoted(change.value(QLatin1String("path")).toString())));
+}
+
+QString Plan::line(const QString &change)
+{
+    const QMap<QString, QString> lines{
+        {QStringLiteral("install"), tr("%1: install in %2")},
+        {QStringLiteral("repair"), tr("%1: repair in %2")},
+        {QStringLiteral("uninstall"), tr("%1: uninstall in %2")},
+        {QStringLiteral("file made"), tr("File made: %1")},
+        {QStringLiteral("file replaced"), tr("File replaced: %1")},
+        {QStringLiteral("file unchanged"), tr("File unchanged: %1")},
+        {QStringLiteral("file removed"), tr("File removed: %1")},
+        {QStringLiteral("configuration made"), tr("Configuration made: %1")},
+        {QStringLiteral("configuration changed"), tr("Configuration changed: %1")},
+        {QStringLiteral("configuration unchanged"), tr("Configuration unchanged: %1")},
+        {QStringLiteral("record made"), tr("Record made: %1")},
+        {QStringLiteral("record changed"), tr("Record changed: %1")},
+        {QStringLiteral("record unchanged"), tr("Record unchanged: %1")}};
+    return lines.value(change);
+}
+
+void Plan::writeDiff(const QString &diff, Page *page)
+{
+    const QStringList lines = diff.split(u'\n', Qt::SkipEmptyParts);
     for (const QString &line : lines) {
         const Page::Style style = line.startsWith(u'+') ? Page::Good
             : line.startsWith(u'-')                     ? Page::Bad

@@ -14,7 +14,7 @@ class Page;
 /// What the window would do now in each simulator, independently of the others.
 class Plan
 {
-    Q_DECLARE_TR_FUNCTIONS(Plan)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Plan)
 
 public:
     /// @p what is "install", "repair" (uninstall, then install) or "uninstall"; @p names limits it
@@ -29,7 +29,9 @@ public:
 
 private:
     static void writeSimulator(const QJsonObject &simulator, Page *page);
-    static void writeText(const QString &title, const QJsonObject &change, Page *page);
+    static void writeChange(const QString &subject, const QJsonObject &change, Page *page);
+    static void writeDiff(const QString &diff, Page *page);
+    static QString line(const QString &change);
 };
 
 } // namespace Quillmont::Utility::Doctor

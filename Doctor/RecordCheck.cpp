@@ -2,6 +2,7 @@
 
 #include "Controllers/UserFiles.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/Reasons.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -48,7 +49,8 @@ void RecordCheck::judge(const QString &problem)
 {
     const QString file = quoted(recordFile());
     if (!problem.isEmpty())
-        m_problems.addError(tr("The installation record %1 cannot be read: %2.").arg(file, problem),
+        m_problems.addError(tr("The installation record %1 cannot be read: %2.")
+                                .arg(file, Reasons::translated(problem)),
                             tr("Give yourself the right to read it."));
     else if (m_state == QLatin1String("damaged"))
         m_problems.addWarning(

@@ -17,7 +17,7 @@ namespace Quillmont::Utility::Doctor {
 /// Compares the installation record with the disk.
 class RecordCheck
 {
-    Q_DECLARE_TR_FUNCTIONS(RecordCheck)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::RecordCheck)
 
 public:
     /// Reads the record.

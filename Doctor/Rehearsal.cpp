@@ -4,6 +4,7 @@
 #include "Doctor/FilesCheck.h"
 #include "Doctor/LineDiff.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/Reasons.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Library/Text/XmlSource.h"
@@ -135,7 +136,8 @@ void Rehearsal::change(const QString &path, const Edit &edit)
     const QByteArray after = problem.isEmpty() ? edit(before, &problem) : before;
     if (after != before)
         m_disk.write(path, after);
-    const QString failure = tr("%1 stays as it is: %2").arg(quoted(path), problem);
+    const QString failure
+        = tr("%1 stays as it is: %2").arg(quoted(path), Reasons::translated(problem));
     if (!problem.isEmpty() && !m_failures.contains(failure))
         m_failures.append(failure);
 }
@@ -172,7 +174,8 @@ void Rehearsal::record(bool uninstalled)
     if (!planned && ViewControllers::openText(&file, QIODevice::ReadOnly, &problem))
         text = ViewControllers::wholeText(&file, &problem);
     if (!problem.isEmpty() && !FileHelper::isMissing(path)) {
-        m_failures.append(tr("The record %1 stays as it is: %2").arg(quoted(path), problem));
+        m_failures.append(
+            tr("The record %1 stays as it is: %2").arg(quoted(path), Reasons::translated(problem)));
         return;
     }
     m_disk.makeFolderOf(path);

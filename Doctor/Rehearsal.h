@@ -20,7 +20,7 @@ namespace Quillmont::Utility::Doctor {
 /// Runs the steps of an installation or removal, as the window would now, on a planned disk.
 class Rehearsal
 {
-    Q_DECLARE_TR_FUNCTIONS(Rehearsal)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Rehearsal)
 
 public:
     /// For the simulator of @p mapping, which must have a folder, with the files in @p payload.

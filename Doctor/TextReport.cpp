@@ -2,6 +2,7 @@
 
 #include "Doctor/Page.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/Reasons.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -20,6 +21,11 @@ QString text(const QJsonObject &object, const char *key)
 QString quotedText(const QJsonObject &object, const char *key)
 {
     return quoted(text(object, key));
+}
+
+QString number(const QJsonObject &object, const char *key)
+{
+    return QString::number(object.value(QLatin1String(key)).toVariant().toLongLong());
 }
 
 QJsonArray array(const QJsonObject &object, const char *key)
@@ -44,7 +50,7 @@ void TextReport::writeSimulator(const QJsonObject &simulator, Page *page)
     const QString state = text(simulator, "state");
     const bool isFine = array(simulator, "problems").isEmpty();
     page->add(0,
-              tr("%1: %2").arg(printable(text(simulator, "name")), stateInWords(state)),
+              stateLine(state).arg(printable(text(simulator, "name"))),
               isFine ? Page::Title : Page::Bad);
     writeLocation(simulator, page);
     if (state != QLatin1String("not found")) {
@@ -59,14 +65,14 @@ void TextReport::writeSimulator(const QJsonObject &simulator, Page *page)
     page->addEmptyLine();
 }
 
-QString TextReport::stateInWords(const QString &state)
+QString TextReport::stateLine(const QString &state)
 {
-    const QMap<QString, QString> words{
-        {QStringLiteral("not found"), tr("not found on this computer")},
-        {QStringLiteral("installed"), tr("the plugin is installed")},
-        {QStringLiteral("partly installed"), tr("only a part of the plugin is installed")},
-        {QStringLiteral("not installed"), tr("the plugin is not installed")}};
-    return words.value(state);
+    const QMap<QString, QString> lines{
+        {QStringLiteral("not found"), tr("%1: not found on this computer")},
+        {QStringLiteral("installed"), tr("%1: the plugin is installed")},
+        {QStringLiteral("partly installed"), tr("%1: only a part of the plugin is installed")},
+        {QStringLiteral("not installed"), tr("%1: the plugin is not installed")}};
+    return lines.value(state);
 }
 
 void TextReport::writeLocation(const QJsonObject &simulator, Page *page)
@@ -74,7 +80,8 @@ void TextReport::writeLocation(const QJsonObject &simulator, Page *page)
     if (!text(simulator, "folder").isEmpty())
         page->add(2,
                   tr("Folder: %1, known by: %2")
-                      .arg(quotedText(simulator, "folder"), text(simulator, "foundBy")));
+                      .arg(quotedText(simulator, "folder"),
+                           Reasons::translated(text(simulator, "foundBy"))));
     const QJsonObject gaveWay = simulator.value(QLatin1String("gaveWay")).toObject();
     if (!gaveWay.isEmpty())
         page->add(2,
@@ -86,8 +93,8 @@ void TextReport::writeLocation(const QJsonObject &simulator, Page *page)
         page->add(2,
                   tr("Turned down: %1 (%2): %3")
                       .arg(quotedText(object, "path"),
-                           text(object, "namedBy"),
-                           printable(text(object, "reason"))));
+                           Reasons::translated(text(object, "namedBy")),
+                           printable(Reasons::translated(text(object, "reason")))));
     }
 }
 
@@ -96,10 +103,15 @@ void TextReport::writeFiles(const QJsonArray &files, Page *page)
     QMap<QString, int> counts;
     for (const auto &file : files)
         ++counts[text(file.toObject(), "state")];
-    QStringList parts;
+    const QMap<QString, QString> lines{
+        {QStringLiteral("installed"), tr("Files installed: %1")},
+        {QStringLiteral("missing"), tr("Files missing: %1")},
+        {QStringLiteral("different"), tr("Files different: %1")},
+        {QStringLiteral("unreadable"), tr("Files unreadable: %1")},
+        {QStringLiteral("dead link"), tr("Dead links in place of files: %1")},
+        {QStringLiteral("not a file"), tr("Folders or devices in place of files: %1")}};
     for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        parts.append(tr("%1 %2").arg(it.value()).arg(it.key()));
-    page->add(2, tr("Files: %1").arg(parts.join(QStringLiteral(", "))));
+        page->add(2, lines.value(it.key()).arg(it.value()));
 }
 
 void TextReport::writeConfiguration(const QJsonObject &configuration, Page *page)
@@ -107,13 +119,16 @@ void TextReport::writeConfiguration(const QJsonObject &configuration, Page *page
     if (text(configuration, "path").isEmpty())
         return;
     page->add(2, configurationLine(configuration));
+    const int strange = configuration.value(QLatin1String("strangeBytesInLine")).toInt();
+    if (strange > 0)
+        page->add(4, tr("Bytes that are not valid in this encoding, from line %1 on").arg(strange));
     const QJsonObject damage = configuration.value(QLatin1String("damage")).toObject();
     if (!damage.isEmpty())
         page->addExactly(4,
                          tr("Line %1, column %2: %3")
-                             .arg(damage.value(QLatin1String("line")).toInt())
-                             .arg(damage.value(QLatin1String("column")).toInt())
-                             .arg(printable(text(damage, "brokenLine"))));
+                             .arg(number(damage, "line"),
+                                  number(damage, "column"),
+                                  printable(text(damage, "brokenLine"))));
     const QJsonObject ours = configuration.value(QLatin1String("ours")).toObject();
     if (!ours.isEmpty())
         page->add(4, ourEntryLine(ours));
@@ -127,14 +142,16 @@ void TextReport::writeConfiguration(const QJsonObject &configuration, Page *page
 
 QString TextReport::configurationLine(const QJsonObject &configuration)
 {
-    QString line = tr("Configuration: %1, %2")
-                       .arg(quotedText(configuration, "path"), text(configuration, "state"));
-    if (!text(configuration, "encoding").isEmpty())
-        line += tr(", encoding %1").arg(text(configuration, "encoding"));
-    if (configuration.contains(QLatin1String("strangeBytesInLine")))
-        line += tr(" (with bytes that are not valid in it from line %1 on)")
-                    .arg(configuration.value(QLatin1String("strangeBytesInLine")).toInt());
-    return line;
+    const QString path = quotedText(configuration, "path");
+    const QString state = text(configuration, "state");
+    if (state == QLatin1String("missing"))
+        return tr("Configuration: %1, missing").arg(path);
+    if (state == QLatin1String("unreadable"))
+        return tr("Configuration: %1, unreadable").arg(path);
+    const QString line = state == QLatin1String("damaged")
+        ? tr("Configuration: %1, damaged, encoding %2")
+        : tr("Configuration: %1, well formed, encoding %2");
+    return line.arg(path, text(configuration, "encoding"));
 }
 
 QString TextReport::ourEntryLine(const QJsonObject &ours)
@@ -142,11 +159,15 @@ QString TextReport::ourEntryLine(const QJsonObject &ours)
     const int count = ours.value(QLatin1String("count")).toInt();
     if (count == 0)
         return tr("No entry of ours");
-    const QString times
-        = count == 1 ? tr("Our entry: there once") : tr("Our entry: there %1 times").arg(count);
+    const QString path = quotedText(ours, "path");
     const bool isDisabled = ours.value(QLatin1String("disabled")).toBool();
-    return tr("%1, %2, for %3")
-        .arg(times, isDisabled ? tr("disabled") : tr("enabled"), quotedText(ours, "path"));
+    if (count == 1)
+        return (isDisabled ? tr("Our entry: there once, disabled, for %1")
+                           : tr("Our entry: there once, enabled, for %1"))
+            .arg(path);
+    return (isDisabled ? tr("Our entry: there %2 times, disabled, for %1")
+                       : tr("Our entry: there %2 times, enabled, for %1"))
+        .arg(path, QString::number(count));
 }
 
 void TextReport::writeBackups(const QJsonArray &backups, Page *page)
@@ -155,15 +176,13 @@ void TextReport::writeBackups(const QJsonArray &backups, Page *page)
     for (int i = 0; i < backups.size() && i < maxShown; ++i) {
         const QJsonObject backup = backups.at(i).toObject();
         const bool isWhole = backup.value(QLatin1String("wellFormed")).toBool();
-        page->add(2,
-                  tr("Backup of %1, %2 bytes, %3; to put it back:")
-                      .arg(text(backup, "time").replace(u'T', u' '))
-                      .arg(backup.value(QLatin1String("size")).toDouble(), 0, 'f', 0)
-                      .arg(isWhole ? tr("well formed") : tr("damaged")));
+        const QString line = isWhole ? tr("Backup of %1, %2 bytes, well formed; to put it back:")
+                                     : tr("Backup of %1, %2 bytes, damaged; to put it back:");
+        page->add(2, line.arg(text(backup, "time").replace(u'T', u' '), number(backup, "size")));
         page->addExactly(4, text(backup, "restore"));
     }
     if (backups.size() > maxShown)
-        page->add(2, tr("%1 older backups").arg(backups.size() - maxShown));
+        page->add(2, tr("Older backups: %1").arg(backups.size() - maxShown));
 }
 
 void TextReport::writeRecord(const QJsonObject &record, Page *page)
@@ -197,7 +216,7 @@ void TextReport::writeThingsToDo(const QJsonObject &report, Page *page)
         return page->add(0, tr("Nothing is wrong."), Page::Good);
     page->add(0, tr("What to do:"), Page::Title);
     for (int i = 0; i < lines.size(); ++i)
-        page->add(2, tr("%1. %2").arg(i + 1).arg(lines.at(i)));
+        page->add(2, QStringLiteral("%1. %2").arg(i + 1).arg(lines.at(i)));
 }
 
 } // namespace Quillmont::Utility::Doctor

@@ -14,7 +14,7 @@ class Page;
 /// Writes an Examination's report as text for a person.
 class TextReport
 {
-    Q_DECLARE_TR_FUNCTIONS(TextReport)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::TextReport)
 
 public:
     /// Writes @p report onto @p page.
@@ -30,7 +30,7 @@ private:
     static void writeBackups(const QJsonArray &backups, Page *page);
     static void writeRecord(const QJsonObject &record, Page *page);
     static void writeThingsToDo(const QJsonObject &report, Page *page);
-    static QString stateInWords(const QString &state);
+    static QString stateLine(const QString &state);
 };
 
 } // namespace Quillmont::Utility::Doctor

@@ -1,5 +1,6 @@
 #include "Doctor/XmlDamage.h"
 
+#include "Doctor/Reasons.h"
 #include "Library/Xml/XmlCharacters.h"
 
 #include <QRegularExpression>
@@ -16,7 +17,7 @@ XmlDamage::XmlDamage(const QString &text, const QString &problem)
     if (findKind() || findStructure() || findText())
         return;
     takeReaderPlace(problem);
-    m_sentence = tr("It is not well-formed XML: %1").arg(problem);
+    m_sentence = tr("It is not well-formed XML: %1").arg(Reasons::translated(problem));
 }
 
 // Finds damage that can be recognised without looking at the tags.
@@ -61,9 +62,9 @@ bool XmlDamage::findStructure()
     if (!m_open.isEmpty())
         return say(m_open.constLast().begin,
                    tr("<%1> in line %2 is never closed: the file ends in line %3.")
-                       .arg(m_open.constLast().name)
-                       .arg(lineOf(m_open.constLast().begin))
-                       .arg(lineOf(m_text.size())));
+                       .arg(m_open.constLast().name,
+                            lineText(m_open.constLast().begin),
+                            lineText(m_text.size())));
     return m_root.isEmpty() && say(0, tr("The file has no element."));
 }
 
@@ -128,40 +129,31 @@ bool XmlDamage::takeEnd(const Tag &tag)
     if (last.name.compare(tag.name, Qt::CaseInsensitive) == 0)
         return say(tag.begin,
                    tr("<%1> in line %2 ends with </%3> in line %4: letter case counts.")
-                       .arg(last.name)
-                       .arg(lineOf(last.begin))
-                       .arg(tag.name)
-                       .arg(lineOf(tag.begin)));
+                       .arg(last.name, lineText(last.begin), tag.name, lineText(tag.begin)));
     const bool isOpen = std::any_of(
         m_open.cbegin(), m_open.cend(), [&tag](const Open &open) { return open.name == tag.name; });
     if (!isOpen)
         return say(tag.begin,
                    tr("</%1> in line %2 closes nothing: no <%1> is open there.")
-                       .arg(tag.name)
-                       .arg(lineOf(tag.begin)));
+                       .arg(tag.name, lineText(tag.begin)));
     return say(last.begin,
                tr("<%1> in line %2 is never closed; </%3> in line %4 came first.")
-                   .arg(last.name)
-                   .arg(lineOf(last.begin))
-                   .arg(tag.name)
-                   .arg(lineOf(tag.begin)));
+                   .arg(last.name, lineText(last.begin), tag.name, lineText(tag.begin)));
 }
 
 bool XmlDamage::takeExtraEnd(const Tag &tag)
 {
-    const int line = lineOf(tag.begin);
+    const QString line = lineText(tag.begin);
     if (m_rootEnd >= 0 && tag.name == m_root && m_secondRoot < 0)
         return say(tag.begin,
                    tr("</%1> comes a second time in line %2: behind the document is the rest of "
                       "an older, longer file.")
-                       .arg(tag.name)
-                       .arg(line));
+                       .arg(tag.name, line));
     return say(
         tag.begin,
         tr("</%1> in line %2 closes an element that was never opened: the line with <%1 ...> "
            "is lost.")
-            .arg(tag.name)
-            .arg(line));
+            .arg(tag.name, line));
 }
 
 bool XmlDamage::takeMalformed(const Tag &tag)
@@ -179,9 +171,9 @@ bool XmlDamage::takeMalformed(const Tag &tag)
     }
     return say(tag.begin,
                tr("%1 in line %2 is no tag; what is meant is %3.")
-                   .arg(written(tag))
-                   .arg(lineOf(tag.begin))
-                   .arg((isEnd ? QStringLiteral("</") : QStringLiteral("<")) + tag.name + u'>'));
+                   .arg(written(tag),
+                        lineText(tag.begin),
+                        (isEnd ? QStringLiteral("</") : QStringLiteral("<")) + tag.name + u'>'));
 }
 
 // Finds damage in the text between the tags.
@@ -235,6 +227,11 @@ bool XmlDamage::say(int place, const QString &sentence)
     m_place = place;
     m_sentence = sentence.size() > maxSize ? sentence.left(maxSize) + QChar(0x2026) : sentence;
     return true;
+}
+
+QString XmlDamage::lineText(int place) const
+{
+    return QString::number(lineOf(place));
 }
 
 // "\n", "\r\n" and "\r" end a line.

@@ -13,7 +13,7 @@ namespace Quillmont::Utility::Doctor {
 /// of what a person sees there.
 class XmlDamage
 {
-    Q_DECLARE_TR_FUNCTIONS(XmlDamage)
+    Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::XmlDamage)
 
 public:
     /// Looks at @p text, which the reader has refused with @p problem, "line 3, column 5: why".
@@ -49,6 +49,7 @@ private:
     void takeReaderPlace(const QString &problem);
     bool say(int place, const QString &sentence);
     int lineOf(int place) const;
+    QString lineText(int place) const;
     int lineBegin(int place) const;
     QString written(const Tag &tag) const;
 

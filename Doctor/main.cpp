@@ -1,4 +1,5 @@
 #include "Controllers/PathEncoding.h"
+#include "Controllers/Translations.h"
 #include "Doctor/Doctor.h"
 #include "Doctor/Options.h"
 
@@ -6,9 +7,11 @@
 #include <QTextCodec>
 #include <QTextStream>
 
+#include <clocale>
 #include <csignal>
 #include <cstdio>
 
+using Quillmont::Utility::Controllers::installTranslations;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Doctor::Doctor;
 using Quillmont::Utility::Doctor::Options;
@@ -29,6 +32,12 @@ int main(int argc, char *argv[])
     QTextStream errors(stderr);
     output.setCodec("UTF-8");
     errors.setCodec("UTF-8");
-    const Options options(QCoreApplication::arguments().mid(1));
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    // A script reads the same everywhere, down to what the system says about a file.
+    if (Options(arguments).isJson())
+        std::setlocale(LC_MESSAGES, "C");
+    else
+        installTranslations();
+    const Options options(arguments);
     return Doctor(options, &output, &errors).run();
 }

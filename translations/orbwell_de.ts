@@ -2,6 +2,948 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
+    <message>
+        <source>It is no JSON: %1. The program sees no simulator.</source>
+        <translation>Das ist kein JSON: %1. Das Programm sieht keinen Simulator.</translation>
+    </message>
+    <message>
+        <source>It is no array. The program sees no simulator.</source>
+        <translation>Das ist kein Array. Das Programm sieht keinen Simulator.</translation>
+    </message>
+    <message>
+        <source>The key is there twice; the last one counts.</source>
+        <translation>Der Schlüssel ist zweimal vorhanden; der letzte gilt.</translation>
+    </message>
+    <message>
+        <source>Unknown key; it is ignored.</source>
+        <translation>Unbekannter Schlüssel; er wird ignoriert.</translation>
+    </message>
+    <message>
+        <source>Its type is %1, not %2; it counts as missing.</source>
+        <translation>Sein Typ ist %1, nicht %2; er gilt als nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The simulator has no name.</source>
+        <translation>Der Simulator hat keinen Namen.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the same name; both share one record and one chosen folder.</source>
+        <translation>Zeile %1 hat denselben Namen; beide teilen sich einen Nachweis und einen gewählten Ordner.</translation>
+    </message>
+    <message>
+        <source>There are no files; nothing is installed, and it counts as installed.</source>
+        <translation>Es gibt keine Dateien; nichts wird installiert, und der Eintrag gilt als installiert.</translation>
+    </message>
+    <message>
+        <source>The payload has no file %1; it cannot be copied.</source>
+        <translation>Bei den mitgelieferten Dateien fehlt %1; die Datei kann nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>There is no destination; it is the simulator&apos;s folder itself.</source>
+        <translation>Es gibt kein Ziel; das Ziel ist der Ordner des Simulators selbst.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
+        <translation>&quot;..&quot; führt aus dem Ordner des Simulators hinaus; die Datei wird dorthin geschrieben.</translation>
+    </message>
+    <message>
+        <source>Another file has the same destination; the later one is copied.</source>
+        <translation>Eine andere Datei hat dasselbe Ziel; die spätere wird kopiert.</translation>
+    </message>
+    <message>
+        <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
+        <translation>Wird nur neben einem &quot;config&quot; gelesen, das null oder nicht leer ist, und sonst ignoriert.</translation>
+    </message>
+    <message>
+        <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
+        <translation>&quot;type&quot; ist nicht 0, daher wird keine Konfigurationsdatei angefasst.</translation>
+    </message>
+    <message>
+        <source>There is no path; no file can be edited.</source>
+        <translation>Es gibt keinen Pfad; keine Datei kann bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
+        <translation>Ohne &quot;parent&quot; und &quot;values&quot; wird kein Eintrag hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
+        <translation>Dieser Eintrag wird installiert, kann aber nicht entfernt werden: Kein Paar in &quot;values&quot; ist das, wonach &quot;remove&quot; sucht.</translation>
+    </message>
+    <message>
+        <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
+        <translation>Nur das untergeordnete Element wird entfernt, der Rest des Eintrags bleibt: &quot;delete_parent&quot; ist nicht true.</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Alles ist in Ordnung.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
+    <message>
+        <source>The simulator has no Proton prefix, so its configuration file is unknown.</source>
+        <translation>Der Simulator hat kein Proton-Präfix, daher ist seine Konfigurationsdatei unbekannt.</translation>
+    </message>
+    <message>
+        <source>Start the simulator once from Steam, then install again.</source>
+        <translation>Starten Sie den Simulator einmal aus Steam, und installieren Sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of the configuration file %1.</source>
+        <translation>Sie dürfen im Ordner der Konfigurationsdatei %1 nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is missing.</source>
+        <translation>Die Konfigurationsdatei %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again; the file is made anew.</source>
+        <translation>Deinstallieren und installieren Sie erneut; die Datei wird dabei neu angelegt.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 cannot be read: %2.</source>
+        <translation>Die Konfigurationsdatei %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is damaged. %2</source>
+        <translation>Die Konfigurationsdatei %1 ist beschädigt. %2</translation>
+    </message>
+    <message>
+        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Spielen Sie eine Sicherung zurück, oder bessern Sie die Datei von Hand aus; bis dahin wird nichts in ihr geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Deinstallieren und installieren Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
+        <translation>Die Dateien des Plugins sind vorhanden, aber %1 hat keinen Eintrag dafür.</translation>
+    </message>
+    <message>
+        <source>%1 has an entry for the plugin, whose files are not there.</source>
+        <translation>%1 hat einen Eintrag für das Plugin, dessen Dateien nicht vorhanden sind.</translation>
+    </message>
+    <message>
+        <source>Install it, or uninstall it to take the entry out.</source>
+        <translation>Installieren Sie es, oder deinstallieren Sie es, um den Eintrag zu entfernen.</translation>
+    </message>
+    <message>
+        <source>Our entry is in %1 %2 times.</source>
+        <translation>Unser Eintrag steht in %1 %2-mal.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 is disabled.</source>
+        <translation>Unser Eintrag in %1 ist deaktiviert.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 names the file %2, which is missing.</source>
+        <translation>Unser Eintrag in %1 nennt die Datei %2, die fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Doctor</name>
+    <message>
+        <source>The catalogue %1 is missing, empty or cannot be read.</source>
+        <translation>Der Katalog %1 fehlt, ist leer oder kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
+        <translation>Der Katalog %1 ist kein JSON-Array; --check-catalogue sagt mehr.</translation>
+    </message>
+    <message>
+        <source>The catalogue has no simulator %1.</source>
+        <translation>Der Katalog enthält keinen Simulator %1.</translation>
+    </message>
+    <message>
+        <source>Try &quot;orbwell-doctor --help&quot;.</source>
+        <translation>Hilfe gibt &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Examination</name>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Sein Ordner %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Choose its folder in the window.</source>
+        <translation>Wählen Sie seinen Ordner im Fenster aus.</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 ist eine Datei, kein Ordner.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
+        <translation>Auf dem Datenträger sind %1 Bytes frei; die Dateien und eine Sicherung brauchen %2.</translation>
+    </message>
+    <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Schaffen Sie Platz auf dem Datenträger von %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::FilesCheck</name>
+    <message>
+        <source>The payload lacks %1, so it cannot be installed.</source>
+        <translation>Bei den mitgelieferten Dateien fehlt %1; die Datei kann nicht installiert werden.</translation>
+    </message>
+    <message>
+        <source>Install this program again, or complete its &quot;plugins&quot; folder.</source>
+        <translation>Installieren Sie dieses Programm erneut, oder vervollständigen Sie seinen Ordner &quot;plugins&quot;.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Deinstallieren und installieren Sie erneut.</translation>
+    </message>
+    <message>
+        <source>In the place of %1 is a link that leads nowhere.</source>
+        <translation>An der Stelle von %1 ist ein Link, der ins Leere führt.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Löschen Sie den Link, und installieren Sie dann.</translation>
+    </message>
+    <message>
+        <source>%1 is no regular file.</source>
+        <translation>%1 ist keine normale Datei.</translation>
+    </message>
+    <message>
+        <source>Move it away, then install.</source>
+        <translation>Verschieben Sie das, was dort ist, und installieren Sie dann.</translation>
+    </message>
+    <message>
+        <source>Only a part of the plugin is there; %1 is missing.</source>
+        <translation>Nur ein Teil des Plugins ist da; es fehlt: %1.</translation>
+    </message>
+    <message>
+        <source>Install it.</source>
+        <translation>Installieren Sie es.</translation>
+    </message>
+    <message>
+        <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
+        <translation>%1 unterscheidet sich von der mitgelieferten Datei: eine andere Version, oder beschädigt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of %1.</source>
+        <translation>Sie dürfen im Ordner von %1 nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Options</name>
+    <message>
+        <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
+        <translation>%1: Einen Plan gibt es für &quot;install&quot;, &quot;repair&quot; oder &quot;uninstall&quot;.</translation>
+    </message>
+    <message>
+        <source>--catalogue needs a file.</source>
+        <translation>--catalogue braucht eine Datei.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Unbekannte Option %1.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. Is %2 meant?</source>
+        <translation>Unbekannte Option %1. Ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>Usage: orbwell-doctor [OPTION...] [NAME...]
+Says what is wrong with the simulators and the Orbwell plugin in them. Changes nothing.
+
+  --json               the report, plan or check as JSON
+  --plan[=WHAT]        what an &quot;install&quot; (the default), &quot;repair&quot; or &quot;uninstall&quot; would do
+  --catalogue FILE     use another catalogue, and the folder &quot;plugins&quot; beside it, if any
+  --check-catalogue    only what is wrong in the catalogue
+  --help, --version
+
+NAMEs limit the report or the plan to those simulators.
+Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
+</source>
+        <translation>Aufruf: orbwell-doctor [OPTION...] [NAME...]
+Sagt, was mit den Simulatoren und dem Orbwell-Plugin darin nicht stimmt. Ändert nichts.
+
+  --json               Bericht, Plan oder Prüfung als JSON
+  --plan[=WAS]         was &quot;install&quot; (Vorgabe), &quot;repair&quot; oder &quot;uninstall&quot; tun würde
+  --catalogue DATEI    ein anderer Katalog, gegebenenfalls mit dem Ordner &quot;plugins&quot; daneben
+  --check-catalogue    nur, was am Katalog nicht stimmt
+  --help, --version
+
+NAMEN beschränken Bericht oder Plan auf diese Simulatoren.
+Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
+</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Plan</name>
+    <message>
+        <source>No simulator is found, so nothing would change.</source>
+        <translation>Es wurde kein Simulator gefunden, daher würde sich nichts ändern.</translation>
+    </message>
+    <message>
+        <source>Folder made: %1</source>
+        <translation>Ordner angelegt: %1</translation>
+    </message>
+    <message>
+        <source>Folder removed: %1</source>
+        <translation>Ordner entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Backup made: %1</source>
+        <translation>Sicherung angelegt: %1</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problem: %1</translation>
+    </message>
+    <message>
+        <source>%1: install in %2</source>
+        <translation>%1: installieren in %2</translation>
+    </message>
+    <message>
+        <source>%1: repair in %2</source>
+        <translation>%1: reparieren in %2</translation>
+    </message>
+    <message>
+        <source>%1: uninstall in %2</source>
+        <translation>%1: deinstallieren aus %2</translation>
+    </message>
+    <message>
+        <source>File made: %1</source>
+        <translation>Datei angelegt: %1</translation>
+    </message>
+    <message>
+        <source>File replaced: %1</source>
+        <translation>Datei ersetzt: %1</translation>
+    </message>
+    <message>
+        <source>File unchanged: %1</source>
+        <translation>Datei unverändert: %1</translation>
+    </message>
+    <message>
+        <source>File removed: %1</source>
+        <translation>Datei entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Configuration made: %1</source>
+        <translation>Konfiguration angelegt: %1</translation>
+    </message>
+    <message>
+        <source>Configuration changed: %1</source>
+        <translation>Konfiguration geändert: %1</translation>
+    </message>
+    <message>
+        <source>Configuration unchanged: %1</source>
+        <translation>Konfiguration unverändert: %1</translation>
+    </message>
+    <message>
+        <source>Record made: %1</source>
+        <translation>Nachweis angelegt: %1</translation>
+    </message>
+    <message>
+        <source>Record changed: %1</source>
+        <translation>Nachweis geändert: %1</translation>
+    </message>
+    <message>
+        <source>Record unchanged: %1</source>
+        <translation>Nachweis unverändert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Reasons</name>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>X-Plane&apos;s own list</source>
+        <translation>X-Planes eigene Liste</translation>
+    </message>
+    <message>
+        <source>FlightGear&apos;s launcher</source>
+        <translation>FlightGears Launcher</translation>
+    </message>
+    <message>
+        <source>a well-known folder</source>
+        <translation>ein üblicher Ordner</translation>
+    </message>
+    <message>
+        <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
+        <translation>UserCfg.opt in Steams Proton-Präfix</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>von Hand gewählt</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s file</source>
+        <translation>die Datei im Katalog</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s folder</source>
+        <translation>der Ordner im Katalog</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not an absolute path</source>
+        <translation>kein absoluter Pfad</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>kein Ordner</translation>
+    </message>
+    <message>
+        <source>no permission to look inside</source>
+        <translation>keine Berechtigung, hineinzusehen</translation>
+    </message>
+    <message>
+        <source>no file &quot;version&quot; that begins with one</source>
+        <translation>keine Datei &quot;version&quot;, die mit einer beginnt</translation>
+    </message>
+    <message>
+        <source>no defaults.xml or preferences.xml</source>
+        <translation>kein defaults.xml oder preferences.xml</translation>
+    </message>
+    <message>
+        <source>no InstalledPackagesPath in it</source>
+        <translation>kein InstalledPackagesPath darin</translation>
+    </message>
+    <message>
+        <source>its InstalledPackagesPath is on no drive</source>
+        <translation>sein InstalledPackagesPath liegt auf keinem Laufwerk</translation>
+    </message>
+    <message>
+        <source>no Community, Official/Steam or Official/OneStore</source>
+        <translation>kein Community, Official/Steam oder Official/OneStore</translation>
+    </message>
+    <message>
+        <source>no Community, Official2024 or StreamedPackages</source>
+        <translation>kein Community, Official2024 oder StreamedPackages</translation>
+    </message>
+    <message>
+        <source>not a plain file</source>
+        <translation>keine normale Datei</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>zu groß</translation>
+    </message>
+    <message>
+        <source>too much to read altogether</source>
+        <translation>insgesamt zu viel zu lesen</translation>
+    </message>
+    <message>
+        <source>no fsx.exe</source>
+        <translation>keine fsx.exe</translation>
+    </message>
+    <message>
+        <source>no SimObjects</source>
+        <translation>kein SimObjects</translation>
+    </message>
+    <message>
+        <source>no scenery</source>
+        <translation>kein scenery</translation>
+    </message>
+    <message>
+        <source>no aircraft</source>
+        <translation>kein aircraft</translation>
+    </message>
+    <message>
+        <source>no main.mcf or tm.log</source>
+        <translation>kein main.mcf oder tm.log</translation>
+    </message>
+    <message>
+        <source>it has no Proton prefix</source>
+        <translation>es hat kein Proton-Präfix</translation>
+    </message>
+    <message>
+        <source>no list of libraries</source>
+        <translation>keine Liste von Bibliotheken</translation>
+    </message>
+    <message>
+        <source>cut off, or not in Steam&apos;s text format</source>
+        <translation>abgeschnitten oder nicht in Steams Textformat</translation>
+    </message>
+    <message>
+        <source>uninstalled (StateFlags %1)</source>
+        <translation>deinstalliert (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>not fully installed (StateFlags %1)</source>
+        <translation>nicht vollständig installiert (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>no AppState in it</source>
+        <translation>kein AppState darin</translation>
+    </message>
+    <message>
+        <source>it is about another game</source>
+        <translation>es geht um ein anderes Spiel</translation>
+    </message>
+    <message>
+        <source>installdir is not a plain name</source>
+        <translation>installdir ist kein einfacher Name</translation>
+    </message>
+    <message>
+        <source>no Resources/plugins</source>
+        <translation>kein Resources/plugins</translation>
+    </message>
+    <message>
+        <source>no X-Plane executable</source>
+        <translation>kein X-Plane-Programm</translation>
+    </message>
+    <message>
+        <source>it is X-Plane %1</source>
+        <translation>es ist X-Plane %1</translation>
+    </message>
+    <message>
+        <source>it is taken as %1</source>
+        <translation>es gilt als %1</translation>
+    </message>
+    <message>
+        <source>Second byte-order mark.</source>
+        <translation>Zweite Byte-Order-Mark.</translation>
+    </message>
+    <message>
+        <source>Invalid entity name.</source>
+        <translation>Ungültiger Name einer Entität.</translation>
+    </message>
+    <message>
+        <source>Invalid processing instruction name.</source>
+        <translation>Ungültiger Name einer Verarbeitungsanweisung.</translation>
+    </message>
+    <message>
+        <source>Invalid XML declaration.</source>
+        <translation>Ungültige XML-Deklaration.</translation>
+    </message>
+    <message>
+        <source>Invalid character reference.</source>
+        <translation>Ungültige Zeichenreferenz.</translation>
+    </message>
+    <message>
+        <source>Invalid element name.</source>
+        <translation>Ungültiger Elementname.</translation>
+    </message>
+    <message>
+        <source>Invalid attribute name.</source>
+        <translation>Ungültiger Attributname.</translation>
+    </message>
+    <message>
+        <source>Invalid character in the document type declaration.</source>
+        <translation>Ungültiges Zeichen in der Dokumenttyp-Deklaration.</translation>
+    </message>
+    <message>
+        <source>Entities grow to too much text.</source>
+        <translation>Entitäten wachsen zu zu viel Text an.</translation>
+    </message>
+    <message>
+        <source>No XML has this character.</source>
+        <translation>Dieses Zeichen kommt in keinem XML vor.</translation>
+    </message>
+    <message>
+        <source>The root element is not where it should be.</source>
+        <translation>Das Wurzelelement ist nicht da, wo es sein sollte.</translation>
+    </message>
+    <message>
+        <source>The entry to change comes out of an entity.</source>
+        <translation>Der zu ändernde Eintrag kommt aus einer Entität.</translation>
+    </message>
+    <message>
+        <source>The element to remove comes out of an entity.</source>
+        <translation>Das zu entfernende Element kommt aus einer Entität.</translation>
+    </message>
+    <message>
+        <source>Undecodable bytes would be read otherwise.</source>
+        <translation>Nicht dekodierbare Bytes würden anders gelesen.</translation>
+    </message>
+    <message>
+        <source>A value is no text that XML can hold.</source>
+        <translation>Ein Wert ist kein Text, den XML enthalten kann.</translation>
+    </message>
+    <message>
+        <source>The element to change comes out of an entity.</source>
+        <translation>Das zu ändernde Element kommt aus einer Entität.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold an end tag.</source>
+        <translation>Die Kodierung der Datei kann kein End-Tag darstellen.</translation>
+    </message>
+    <message>
+        <source>A name or a value is none that XML can hold.</source>
+        <translation>Ein Name oder ein Wert ist keiner, den XML enthalten kann.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold a name.</source>
+        <translation>Die Kodierung der Datei kann einen Namen nicht darstellen.</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>keine normale Datei</translation>
+    </message>
+    <message>
+        <source>too big</source>
+        <translation>zu groß</translation>
+    </message>
+    <message>
+        <source>its name is not valid text</source>
+        <translation>ihr Name ist kein gültiger Text</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::RecordCheck</name>
+    <message>
+        <source>The installation record %1 cannot be read: %2.</source>
+        <translation>Der Installationsnachweis %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
+    </message>
+    <message>
+        <source>The installation record %1 is damaged; what it said is lost.</source>
+        <translation>Der Installationsnachweis %1 ist beschädigt; was darin stand, ist verloren.</translation>
+    </message>
+    <message>
+        <source>Install again; a new record is written then.</source>
+        <translation>Installieren Sie erneut; dabei wird ein neuer Nachweis geschrieben.</translation>
+    </message>
+    <message>
+        <source>The plugin is there, but not in the installation record.</source>
+        <translation>Das Plugin ist da, steht aber nicht im Installationsnachweis.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
+        <translation>Klicken Sie im Fenster auf &quot;Suchen &amp; installieren&quot;; dann wird es eingetragen.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, but files are missing there.</source>
+        <translation>Laut Installationsnachweis ist das Plugin in %1, aber dort fehlen Dateien.</translation>
+    </message>
+    <message>
+        <source>Install it again.</source>
+        <translation>Installieren Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
+        <translation>Laut Installationsnachweis ist das Plugin in %1, nicht in %2. Unbeaufsichtigte Läufe arbeiten am ersten Ordner, das Fenster am zweiten.</translation>
+    </message>
+    <message>
+        <source>Choose the folder in the window, then install or uninstall there.</source>
+        <translation>Wählen Sie den Ordner im Fenster aus, und installieren oder deinstallieren Sie dann dort.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
+        <translation>Der Installationsnachweis führt %1 in %2; der Katalog kennt das nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Remove the plugin there by hand, if it is no longer wanted.</source>
+        <translation>Entfernen Sie das Plugin dort von Hand, falls es nicht mehr gewünscht ist.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1, and its folder %2 is gone.</source>
+        <translation>Der Installationsnachweis führt %1; der Ordner %2 dazu ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation>Es ist nichts zu tun.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Rehearsal</name>
+    <message>
+        <source>%1 is a folder, and stays.</source>
+        <translation>%1 ist ein Ordner und bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
+        <translation>%1 kann nicht nach %2 kopiert werden: An der Stelle ist ein Ordner oder ein Link, der ins Leere führt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
+        <translation>%1 kann nicht kopiert werden: Es fehlt bei den mitgelieferten Dateien. Was an der Stelle ist, wird trotzdem entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 bleibt, wie es ist: %2</translation>
+    </message>
+    <message>
+        <source>The record %1 stays as it is: %2</source>
+        <translation>Der Nachweis %1 bleibt, wie er ist: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::TextReport</name>
+    <message>
+        <source>The catalogue has no simulator.</source>
+        <translation>Der Katalog enthält keinen Simulator.</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problem: %1</translation>
+    </message>
+    <message>
+        <source>%1: not found on this computer</source>
+        <translation>%1: auf diesem Computer nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is installed</source>
+        <translation>%1: das Plugin ist installiert</translation>
+    </message>
+    <message>
+        <source>%1: only a part of the plugin is installed</source>
+        <translation>%1: nur ein Teil des Plugins ist installiert</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is not installed</source>
+        <translation>%1: das Plugin ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>Folder: %1, known by: %2</source>
+        <translation>Ordner: %1, bekannt durch: %2</translation>
+    </message>
+    <message>
+        <source>Gave %1 up to %2, which found the same folder</source>
+        <translation>Hat %1 an %2 abgegeben; beide haben denselben Ordner gefunden</translation>
+    </message>
+    <message>
+        <source>Turned down: %1 (%2): %3</source>
+        <translation>Abgelehnt: %1 (%2): %3</translation>
+    </message>
+    <message>
+        <source>Files installed: %1</source>
+        <translation>Dateien installiert: %1</translation>
+    </message>
+    <message>
+        <source>Files missing: %1</source>
+        <translation>Dateien fehlen: %1</translation>
+    </message>
+    <message>
+        <source>Files different: %1</source>
+        <translation>Dateien anders: %1</translation>
+    </message>
+    <message>
+        <source>Files unreadable: %1</source>
+        <translation>Dateien nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>Dead links in place of files: %1</source>
+        <translation>Tote Links an der Stelle von Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Folders or devices in place of files: %1</source>
+        <translation>Ordner oder Geräte an der Stelle von Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Bytes that are not valid in this encoding, from line %1 on</source>
+        <translation>In dieser Kodierung ungültige Bytes, ab Zeile %1</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
+        <translation>Der Eintrag %1 eines anderen Programms nennt eine Datei, die nicht da ist: %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, missing</source>
+        <translation>Konfiguration: %1, fehlt</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, unreadable</source>
+        <translation>Konfiguration: %1, nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, damaged, encoding %2</source>
+        <translation>Konfiguration: %1, beschädigt, Kodierung %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, well formed, encoding %2</source>
+        <translation>Konfiguration: %1, wohlgeformt, Kodierung %2</translation>
+    </message>
+    <message>
+        <source>No entry of ours</source>
+        <translation>Kein Eintrag von uns</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, disabled, for %1</source>
+        <translation>Unser Eintrag: einmal vorhanden, deaktiviert, für %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, enabled, for %1</source>
+        <translation>Unser Eintrag: einmal vorhanden, aktiviert, für %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, disabled, for %1</source>
+        <translation>Unser Eintrag: %2-mal vorhanden, deaktiviert, für %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, enabled, for %1</source>
+        <translation>Unser Eintrag: %2-mal vorhanden, aktiviert, für %1</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
+        <translation>Sicherung vom %1, %2 Bytes, wohlgeformt; zurückspielen mit:</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
+        <translation>Sicherung vom %1, %2 Bytes, beschädigt; zurückspielen mit:</translation>
+    </message>
+    <message>
+        <source>Older backups: %1</source>
+        <translation>Ältere Sicherungen: %1</translation>
+    </message>
+    <message>
+        <source>Record: agrees</source>
+        <translation>Nachweis: stimmt</translation>
+    </message>
+    <message>
+        <source>Record: in %1</source>
+        <translation>Nachweis: in %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation>%1: %2 %3</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Nachweis</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Alles ist in Ordnung.</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Was zu tun ist:</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::XmlDamage</name>
+    <message>
+        <source>It is not well-formed XML: %1</source>
+        <translation>Die Datei ist kein wohlgeformtes XML: %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but white space.</source>
+        <translation>Die Datei enthält nichts als Leerraum.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
+        <translation>Die Datei enthält nichts als Nullbytes: Der Computer ist beim Schreiben stehen geblieben, oder sein Datenträger versagt.</translation>
+    </message>
+    <message>
+        <source>The file is a web page, not XML.</source>
+        <translation>Die Datei ist eine Webseite, kein XML.</translation>
+    </message>
+    <message>
+        <source>The file does not begin with a tag, so it is not XML.</source>
+        <translation>Die Datei beginnt nicht mit einem Tag, also ist sie kein XML.</translation>
+    </message>
+    <message>
+        <source>Zero bytes begin in line %1: the file was not written to its end.</source>
+        <translation>In Zeile %1 beginnen Nullbytes: Die Datei wurde nicht zu Ende geschrieben.</translation>
+    </message>
+    <message>
+        <source>There are two root elements: somebody appended a second document in line %1.</source>
+        <translation>Es gibt zwei Wurzelelemente: Jemand hat in Zeile %1 ein zweites Dokument angehängt.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
+        <translation>&lt;%1&gt; in Zeile %2 wird nie geschlossen: Die Datei endet in Zeile %3.</translation>
+    </message>
+    <message>
+        <source>The file has no element.</source>
+        <translation>Die Datei hat kein Element.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a tag, which begins in line %1.</source>
+        <translation>Die Datei endet mitten in einem Tag, das in Zeile %1 beginnt.</translation>
+    </message>
+    <message>
+        <source>A tag in line %1 has no &quot;&gt;&quot;.</source>
+        <translation>Einem Tag in Zeile %1 fehlt das &quot;&gt;&quot;.</translation>
+    </message>
+    <message>
+        <source>&lt;?xml ...?&gt; in line %1 has to be the very beginning of the file.</source>
+        <translation>&lt;?xml ...?&gt; in Zeile %1 muss ganz am Anfang der Datei stehen.</translation>
+    </message>
+    <message>
+        <source>A second document begins in line %1: somebody appended it.</source>
+        <translation>In Zeile %1 beginnt ein zweites Dokument: Jemand hat es angehängt.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
+        <translation>&lt;%1&gt; in Zeile %2 endet mit &lt;/%3&gt; in Zeile %4: Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
+        <translation>&lt;/%1&gt; in Zeile %2 schließt nichts: Dort ist kein &lt;%1&gt; offen.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
+        <translation>&lt;%1&gt; in Zeile %2 wird nie geschlossen; vorher kam &lt;/%3&gt; in Zeile %4.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
+        <translation>&lt;/%1&gt; kommt in Zeile %2 ein zweites Mal: Hinter dem Dokument steht der Rest einer älteren, längeren Datei.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
+        <translation>&lt;/%1&gt; in Zeile %2 schließt ein Element, das nie geöffnet wurde: Die Zeile mit &lt;%1 ...&gt; ist verloren.</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
+        <translation>&quot;&lt;&quot; in Zeile %1 beginnt kein Tag; als Text schreibt man es &quot;&amp;lt;&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 in line %2 is no tag; what is meant is %3.</source>
+        <translation>%1 in Zeile %2 ist kein Tag; gemeint ist %3.</translation>
+    </message>
+    <message>
+        <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
+        <translation>Hinter dem Ende des Dokuments, in Zeile %1, kommt weiterer Text: der Rest einer älteren, längeren Datei?</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
+        <translation>&quot;&amp;&quot; in Zeile %1 muss &quot;&amp;amp;&quot; geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Line %1 holds a control character, which XML does not allow.</source>
+        <translation>Zeile %1 enthält ein Steuerzeichen, das XML nicht erlaubt.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::ViewControllers::ScanController</name>
     <message>
         <source>Quillmont Orbwell have successfully installed Orbwell plugin to %0.</source>

@@ -2,6 +2,948 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
+    <message>
+        <source>It is no JSON: %1. The program sees no simulator.</source>
+        <translation>Ce n’est pas du JSON&#xa0;: %1. Le programme ne voit aucun simulateur.</translation>
+    </message>
+    <message>
+        <source>It is no array. The program sees no simulator.</source>
+        <translation>Ce n’est pas un tableau. Le programme ne voit aucun simulateur.</translation>
+    </message>
+    <message>
+        <source>The key is there twice; the last one counts.</source>
+        <translation>La clé est présente deux fois&#xa0;; la dernière compte.</translation>
+    </message>
+    <message>
+        <source>Unknown key; it is ignored.</source>
+        <translation>Clé inconnue&#xa0;; elle est ignorée.</translation>
+    </message>
+    <message>
+        <source>Its type is %1, not %2; it counts as missing.</source>
+        <translation>Son type est %1, et non %2&#xa0;; elle compte comme absente.</translation>
+    </message>
+    <message>
+        <source>The simulator has no name.</source>
+        <translation>Le simulateur n’a pas de nom.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the same name; both share one record and one chosen folder.</source>
+        <translation>La ligne %1 a le même nom&#xa0;; les deux partagent un même enregistrement et un même dossier choisi.</translation>
+    </message>
+    <message>
+        <source>There are no files; nothing is installed, and it counts as installed.</source>
+        <translation>Il n’y a pas de fichiers&#xa0;; rien n’est installé, et l’entrée compte comme installée.</translation>
+    </message>
+    <message>
+        <source>The payload has no file %1; it cannot be copied.</source>
+        <translation>Il manque %1 parmi les fichiers fournis&#xa0;; ce fichier ne peut pas être copié.</translation>
+    </message>
+    <message>
+        <source>There is no destination; it is the simulator&apos;s folder itself.</source>
+        <translation>Il n’y a pas de destination&#xa0;; c’est le dossier du simulateur lui-même.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
+        <translation>&quot;..&quot; mène hors du dossier du simulateur&#xa0;; le fichier y est écrit.</translation>
+    </message>
+    <message>
+        <source>Another file has the same destination; the later one is copied.</source>
+        <translation>Un autre fichier a la même destination&#xa0;; le dernier est copié.</translation>
+    </message>
+    <message>
+        <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
+        <translation>N’est lu qu’à côté d’un &quot;config&quot; qui est null ou n’est pas vide&#xa0;; c’est ignoré.</translation>
+    </message>
+    <message>
+        <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
+        <translation>&quot;type&quot; n’est pas 0&#xa0;; aucun fichier de configuration n’est donc touché.</translation>
+    </message>
+    <message>
+        <source>There is no path; no file can be edited.</source>
+        <translation>Il n’y a pas de chemin&#xa0;; aucun fichier ne peut être modifié.</translation>
+    </message>
+    <message>
+        <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
+        <translation>Sans &quot;parent&quot; ni &quot;values&quot;, aucune entrée n’est ajoutée.</translation>
+    </message>
+    <message>
+        <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
+        <translation>Cette entrée s’installe, mais ne peut pas être supprimée&#xa0;: aucune paire de &quot;values&quot; n’est ce que &quot;remove&quot; recherche.</translation>
+    </message>
+    <message>
+        <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
+        <translation>Seul l’élément enfant est supprimé, et le reste de l’entrée demeure&#xa0;: &quot;delete_parent&quot; n’est pas true.</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Tout est en ordre.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
+    <message>
+        <source>The simulator has no Proton prefix, so its configuration file is unknown.</source>
+        <translation>Le simulateur n’a pas de préfixe Proton&#xa0;; son fichier de configuration est donc inconnu.</translation>
+    </message>
+    <message>
+        <source>Start the simulator once from Steam, then install again.</source>
+        <translation>Démarrez une fois le simulateur depuis Steam, puis réinstallez.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of the configuration file %1.</source>
+        <translation>Vous n’avez pas le droit d’écrire dans le dossier du fichier de configuration %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Donnez-vous le droit d’y écrire.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is missing.</source>
+        <translation>Le fichier de configuration %1 est manquant.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again; the file is made anew.</source>
+        <translation>Désinstallez, puis réinstallez&#xa0;; le fichier sera recréé.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 cannot be read: %2.</source>
+        <translation>Le fichier de configuration %1 ne peut pas être lu&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Donnez-vous le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is damaged. %2</source>
+        <translation>Le fichier de configuration %1 est endommagé. %2</translation>
+    </message>
+    <message>
+        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Restaurez une sauvegarde, ou réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur peut ne charger aucun module complémentaire.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Désinstallez, puis réinstallez.</translation>
+    </message>
+    <message>
+        <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
+        <translation>Les fichiers du plugin sont présents, mais %1 n’a pas d’entrée pour lui.</translation>
+    </message>
+    <message>
+        <source>%1 has an entry for the plugin, whose files are not there.</source>
+        <translation>%1 a une entrée pour le plugin, dont les fichiers sont absents.</translation>
+    </message>
+    <message>
+        <source>Install it, or uninstall it to take the entry out.</source>
+        <translation>Installez-le, ou désinstallez-le pour retirer l’entrée.</translation>
+    </message>
+    <message>
+        <source>Our entry is in %1 %2 times.</source>
+        <translation>Notre entrée est dans %1 %2 fois.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 is disabled.</source>
+        <translation>Notre entrée dans %1 est désactivée.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 names the file %2, which is missing.</source>
+        <translation>Notre entrée dans %1 désigne le fichier %2, qui est manquant.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Doctor</name>
+    <message>
+        <source>The catalogue %1 is missing, empty or cannot be read.</source>
+        <translation>Le catalogue %1 est manquant, vide ou illisible.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
+        <translation>Le catalogue %1 n’est pas un tableau JSON&#xa0;; --check-catalogue en dit plus.</translation>
+    </message>
+    <message>
+        <source>The catalogue has no simulator %1.</source>
+        <translation>Le catalogue n’a pas de simulateur %1.</translation>
+    </message>
+    <message>
+        <source>Try &quot;orbwell-doctor --help&quot;.</source>
+        <translation>Essayez &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Examination</name>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Son dossier %1 a disparu.</translation>
+    </message>
+    <message>
+        <source>Choose its folder in the window.</source>
+        <translation>Choisissez son dossier dans la fenêtre.</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 est un fichier, pas un dossier.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
+        <translation>Le disque a %1 octets libres&#xa0;; les fichiers et une sauvegarde en demandent %2.</translation>
+    </message>
+    <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Libérez de l’espace sur le disque de %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::FilesCheck</name>
+    <message>
+        <source>The payload lacks %1, so it cannot be installed.</source>
+        <translation>Il manque %1 parmi les fichiers fournis&#xa0;; ce fichier ne peut pas être installé.</translation>
+    </message>
+    <message>
+        <source>Install this program again, or complete its &quot;plugins&quot; folder.</source>
+        <translation>Réinstallez ce programme, ou complétez son dossier &quot;plugins&quot;.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Désinstallez, puis réinstallez.</translation>
+    </message>
+    <message>
+        <source>In the place of %1 is a link that leads nowhere.</source>
+        <translation>À la place de %1 se trouve un lien qui ne mène nulle part.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Supprimez le lien, puis installez.</translation>
+    </message>
+    <message>
+        <source>%1 is no regular file.</source>
+        <translation>%1 n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>Move it away, then install.</source>
+        <translation>Déplacez ce qui s’y trouve, puis installez.</translation>
+    </message>
+    <message>
+        <source>Only a part of the plugin is there; %1 is missing.</source>
+        <translation>Seule une partie du plugin est présente&#xa0;; il manque %1.</translation>
+    </message>
+    <message>
+        <source>Install it.</source>
+        <translation>Installez-le.</translation>
+    </message>
+    <message>
+        <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
+        <translation>%1 diffère du fichier fourni avec ce programme&#xa0;: une autre version, ou un fichier endommagé.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of %1.</source>
+        <translation>Vous n’avez pas le droit d’écrire dans le dossier de %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Donnez-vous le droit d’y écrire.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Options</name>
+    <message>
+        <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
+        <translation>%1&#xa0;: un plan est pour &quot;install&quot;, &quot;repair&quot; ou &quot;uninstall&quot;.</translation>
+    </message>
+    <message>
+        <source>--catalogue needs a file.</source>
+        <translation>--catalogue demande un fichier.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Option inconnue %1.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. Is %2 meant?</source>
+        <translation>Option inconnue %1. Vouliez-vous dire %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Usage: orbwell-doctor [OPTION...] [NAME...]
+Says what is wrong with the simulators and the Orbwell plugin in them. Changes nothing.
+
+  --json               the report, plan or check as JSON
+  --plan[=WHAT]        what an &quot;install&quot; (the default), &quot;repair&quot; or &quot;uninstall&quot; would do
+  --catalogue FILE     use another catalogue, and the folder &quot;plugins&quot; beside it, if any
+  --check-catalogue    only what is wrong in the catalogue
+  --help, --version
+
+NAMEs limit the report or the plan to those simulators.
+Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
+</source>
+        <translation>Usage&#xa0;: orbwell-doctor [OPTION...] [NOM...]
+Dit ce qui ne va pas dans les simulateurs et le plugin Orbwell. Ne modifie rien.
+
+  --json               le rapport, le plan ou le contrôle en JSON
+  --plan[=ACTION]      ce que ferait &quot;install&quot; (par défaut), &quot;repair&quot; ou &quot;uninstall&quot;
+  --catalogue FICHIER  un autre catalogue, avec le dossier &quot;plugins&quot; à côté, s’il y en a un
+  --check-catalogue    seulement ce qui ne va pas dans le catalogue
+  --help, --version
+
+Des NOMs limitent le rapport ou le plan à ces simulateurs.
+Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
+</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Plan</name>
+    <message>
+        <source>No simulator is found, so nothing would change.</source>
+        <translation>Aucun simulateur n’est trouvé&#xa0;; rien ne changerait donc.</translation>
+    </message>
+    <message>
+        <source>Folder made: %1</source>
+        <translation>Dossier créé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Folder removed: %1</source>
+        <translation>Dossier supprimé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Backup made: %1</source>
+        <translation>Sauvegarde créée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problème&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1: install in %2</source>
+        <translation>%1&#xa0;: installer dans %2</translation>
+    </message>
+    <message>
+        <source>%1: repair in %2</source>
+        <translation>%1&#xa0;: réparer dans %2</translation>
+    </message>
+    <message>
+        <source>%1: uninstall in %2</source>
+        <translation>%1&#xa0;: désinstaller de %2</translation>
+    </message>
+    <message>
+        <source>File made: %1</source>
+        <translation>Fichier créé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>File replaced: %1</source>
+        <translation>Fichier remplacé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>File unchanged: %1</source>
+        <translation>Fichier inchangé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>File removed: %1</source>
+        <translation>Fichier supprimé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Configuration made: %1</source>
+        <translation>Configuration créée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Configuration changed: %1</source>
+        <translation>Configuration modifiée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Configuration unchanged: %1</source>
+        <translation>Configuration inchangée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Record made: %1</source>
+        <translation>Registre créé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Record changed: %1</source>
+        <translation>Registre modifié&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Record unchanged: %1</source>
+        <translation>Registre inchangé&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Reasons</name>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>ligne %1, colonne %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>X-Plane&apos;s own list</source>
+        <translation>la liste de X-Plane</translation>
+    </message>
+    <message>
+        <source>FlightGear&apos;s launcher</source>
+        <translation>le lanceur de FlightGear</translation>
+    </message>
+    <message>
+        <source>a well-known folder</source>
+        <translation>un dossier habituel</translation>
+    </message>
+    <message>
+        <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
+        <translation>UserCfg.opt dans le préfixe Proton de Steam</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>choisi à la main</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s file</source>
+        <translation>le fichier du catalogue</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s folder</source>
+        <translation>le dossier du catalogue</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>dossier inexistant</translation>
+    </message>
+    <message>
+        <source>not an absolute path</source>
+        <translation>pas un chemin absolu</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>pas un dossier</translation>
+    </message>
+    <message>
+        <source>no permission to look inside</source>
+        <translation>pas le droit de regarder à l’intérieur</translation>
+    </message>
+    <message>
+        <source>no file &quot;version&quot; that begins with one</source>
+        <translation>pas de fichier &quot;version&quot; qui commence par un numéro</translation>
+    </message>
+    <message>
+        <source>no defaults.xml or preferences.xml</source>
+        <translation>pas de defaults.xml ni de preferences.xml</translation>
+    </message>
+    <message>
+        <source>no InstalledPackagesPath in it</source>
+        <translation>pas d’InstalledPackagesPath dedans</translation>
+    </message>
+    <message>
+        <source>its InstalledPackagesPath is on no drive</source>
+        <translation>son InstalledPackagesPath n’est sur aucun lecteur</translation>
+    </message>
+    <message>
+        <source>no Community, Official/Steam or Official/OneStore</source>
+        <translation>pas de Community, d’Official/Steam ni d’Official/OneStore</translation>
+    </message>
+    <message>
+        <source>no Community, Official2024 or StreamedPackages</source>
+        <translation>pas de Community, d’Official2024 ni de StreamedPackages</translation>
+    </message>
+    <message>
+        <source>not a plain file</source>
+        <translation>pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>trop gros</translation>
+    </message>
+    <message>
+        <source>too much to read altogether</source>
+        <translation>trop à lire au total</translation>
+    </message>
+    <message>
+        <source>no fsx.exe</source>
+        <translation>pas de fsx.exe</translation>
+    </message>
+    <message>
+        <source>no SimObjects</source>
+        <translation>pas de SimObjects</translation>
+    </message>
+    <message>
+        <source>no scenery</source>
+        <translation>pas de scenery</translation>
+    </message>
+    <message>
+        <source>no aircraft</source>
+        <translation>pas d’aircraft</translation>
+    </message>
+    <message>
+        <source>no main.mcf or tm.log</source>
+        <translation>pas de main.mcf ni de tm.log</translation>
+    </message>
+    <message>
+        <source>it has no Proton prefix</source>
+        <translation>il n’a pas de préfixe Proton</translation>
+    </message>
+    <message>
+        <source>no list of libraries</source>
+        <translation>pas de liste de bibliothèques</translation>
+    </message>
+    <message>
+        <source>cut off, or not in Steam&apos;s text format</source>
+        <translation>tronqué, ou pas au format texte de Steam</translation>
+    </message>
+    <message>
+        <source>uninstalled (StateFlags %1)</source>
+        <translation>désinstallé (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>not fully installed (StateFlags %1)</source>
+        <translation>pas complètement installé (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>no AppState in it</source>
+        <translation>pas d’AppState dedans</translation>
+    </message>
+    <message>
+        <source>it is about another game</source>
+        <translation>il s’agit d’un autre jeu</translation>
+    </message>
+    <message>
+        <source>installdir is not a plain name</source>
+        <translation>installdir n’est pas un simple nom</translation>
+    </message>
+    <message>
+        <source>no Resources/plugins</source>
+        <translation>pas de Resources/plugins</translation>
+    </message>
+    <message>
+        <source>no X-Plane executable</source>
+        <translation>pas d’exécutable X-Plane</translation>
+    </message>
+    <message>
+        <source>it is X-Plane %1</source>
+        <translation>c’est X-Plane %1</translation>
+    </message>
+    <message>
+        <source>it is taken as %1</source>
+        <translation>il est pris pour %1</translation>
+    </message>
+    <message>
+        <source>Second byte-order mark.</source>
+        <translation>Deuxième indicateur d’ordre des octets.</translation>
+    </message>
+    <message>
+        <source>Invalid entity name.</source>
+        <translation>Nom d’entité non valide.</translation>
+    </message>
+    <message>
+        <source>Invalid processing instruction name.</source>
+        <translation>Nom d’instruction de traitement non valide.</translation>
+    </message>
+    <message>
+        <source>Invalid XML declaration.</source>
+        <translation>Déclaration XML non valide.</translation>
+    </message>
+    <message>
+        <source>Invalid character reference.</source>
+        <translation>Référence de caractère non valide.</translation>
+    </message>
+    <message>
+        <source>Invalid element name.</source>
+        <translation>Nom d’élément non valide.</translation>
+    </message>
+    <message>
+        <source>Invalid attribute name.</source>
+        <translation>Nom d’attribut non valide.</translation>
+    </message>
+    <message>
+        <source>Invalid character in the document type declaration.</source>
+        <translation>Caractère non valide dans la déclaration de type de document.</translation>
+    </message>
+    <message>
+        <source>Entities grow to too much text.</source>
+        <translation>Les entités produisent trop de texte.</translation>
+    </message>
+    <message>
+        <source>No XML has this character.</source>
+        <translation>Aucun XML n’a ce caractère.</translation>
+    </message>
+    <message>
+        <source>The root element is not where it should be.</source>
+        <translation>L’élément racine n’est pas là où il devrait être.</translation>
+    </message>
+    <message>
+        <source>The entry to change comes out of an entity.</source>
+        <translation>L’entrée à modifier provient d’une entité.</translation>
+    </message>
+    <message>
+        <source>The element to remove comes out of an entity.</source>
+        <translation>L’élément à supprimer provient d’une entité.</translation>
+    </message>
+    <message>
+        <source>Undecodable bytes would be read otherwise.</source>
+        <translation>Des octets indécodables seraient lus autrement.</translation>
+    </message>
+    <message>
+        <source>A value is no text that XML can hold.</source>
+        <translation>Une valeur n’est pas un texte que XML peut contenir.</translation>
+    </message>
+    <message>
+        <source>The element to change comes out of an entity.</source>
+        <translation>L’élément à modifier provient d’une entité.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold an end tag.</source>
+        <translation>L’encodage du fichier ne peut pas représenter une balise fermante.</translation>
+    </message>
+    <message>
+        <source>A name or a value is none that XML can hold.</source>
+        <translation>Un nom ou une valeur n’est pas de ceux que XML peut contenir.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold a name.</source>
+        <translation>L’encodage du fichier ne peut pas représenter un nom.</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>too big</source>
+        <translation>trop gros</translation>
+    </message>
+    <message>
+        <source>its name is not valid text</source>
+        <translation>son nom n’est pas un texte valide</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::RecordCheck</name>
+    <message>
+        <source>The installation record %1 cannot be read: %2.</source>
+        <translation>Le registre d’installation %1 ne peut pas être lu&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Donnez-vous le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>The installation record %1 is damaged; what it said is lost.</source>
+        <translation>Le registre d’installation %1 est endommagé&#xa0;; ce qu’il disait est perdu.</translation>
+    </message>
+    <message>
+        <source>Install again; a new record is written then.</source>
+        <translation>Réinstallez&#xa0;; un nouveau registre sera alors écrit.</translation>
+    </message>
+    <message>
+        <source>The plugin is there, but not in the installation record.</source>
+        <translation>Le plugin est présent, mais absent du registre d’installation.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
+        <translation>Cliquez sur &quot;Rechercher &amp; installer&quot; dans la fenêtre&#xa0;; il y sera alors inscrit.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, but files are missing there.</source>
+        <translation>Selon le registre d’installation, le plugin est dans %1, mais des fichiers y manquent.</translation>
+    </message>
+    <message>
+        <source>Install it again.</source>
+        <translation>Réinstallez-le.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
+        <translation>Selon le registre d’installation, le plugin est dans %1, et non dans %2. Les exécutions sans surveillance agissent sur le premier dossier, la fenêtre sur le second.</translation>
+    </message>
+    <message>
+        <source>Choose the folder in the window, then install or uninstall there.</source>
+        <translation>Choisissez le dossier dans la fenêtre, puis installez ou désinstallez à cet endroit.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
+        <translation>Le registre d’installation contient %1 dans %2, que le catalogue ne connaît plus.</translation>
+    </message>
+    <message>
+        <source>Remove the plugin there by hand, if it is no longer wanted.</source>
+        <translation>Supprimez-y le plugin à la main, si vous n’en voulez plus.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1, and its folder %2 is gone.</source>
+        <translation>Le registre d’installation contient %1, dont le dossier %2 a disparu.</translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation>Il n’y a rien à faire.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Rehearsal</name>
+    <message>
+        <source>%1 is a folder, and stays.</source>
+        <translation>%1 est un dossier, et demeure.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
+        <translation>%1 ne peut pas être copié vers %2&#xa0;: un dossier, ou un lien qui ne mène nulle part, se trouve à cette place.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
+        <translation>%1 ne peut pas être copié&#xa0;: il manque parmi les fichiers fournis. Ce qui est à sa place est tout de même supprimé.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 reste tel quel&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The record %1 stays as it is: %2</source>
+        <translation>Le registre %1 reste tel quel&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::TextReport</name>
+    <message>
+        <source>The catalogue has no simulator.</source>
+        <translation>Le catalogue n’a aucun simulateur.</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problème&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1: not found on this computer</source>
+        <translation>%1&#xa0;: introuvable sur cet ordinateur</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is installed</source>
+        <translation>%1&#xa0;: le plugin est installé</translation>
+    </message>
+    <message>
+        <source>%1: only a part of the plugin is installed</source>
+        <translation>%1&#xa0;: seule une partie du plugin est installée</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is not installed</source>
+        <translation>%1&#xa0;: le plugin n’est pas installé</translation>
+    </message>
+    <message>
+        <source>Folder: %1, known by: %2</source>
+        <translation>Dossier&#xa0;: %1, connu par&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Gave %1 up to %2, which found the same folder</source>
+        <translation>A cédé %1 à %2, qui a trouvé le même dossier</translation>
+    </message>
+    <message>
+        <source>Turned down: %1 (%2): %3</source>
+        <translation>Écarté&#xa0;: %1 (%2)&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Files installed: %1</source>
+        <translation>Fichiers installés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Files missing: %1</source>
+        <translation>Fichiers manquants&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Files different: %1</source>
+        <translation>Fichiers différents&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Files unreadable: %1</source>
+        <translation>Fichiers illisibles&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Dead links in place of files: %1</source>
+        <translation>Liens morts à la place de fichiers&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Folders or devices in place of files: %1</source>
+        <translation>Dossiers ou périphériques à la place de fichiers&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Bytes that are not valid in this encoding, from line %1 on</source>
+        <translation>Octets non valides dans cet encodage, à partir de la ligne %1</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Ligne %1, colonne %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
+        <translation>L’entrée %1 d’un autre programme désigne un fichier absent&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, missing</source>
+        <translation>Configuration&#xa0;: %1, manquante</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, unreadable</source>
+        <translation>Configuration&#xa0;: %1, illisible</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, damaged, encoding %2</source>
+        <translation>Configuration&#xa0;: %1, endommagée, encodage %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, well formed, encoding %2</source>
+        <translation>Configuration&#xa0;: %1, bien formée, encodage %2</translation>
+    </message>
+    <message>
+        <source>No entry of ours</source>
+        <translation>Aucune entrée de notre part</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, disabled, for %1</source>
+        <translation>Notre entrée&#xa0;: présente une fois, désactivée, pour %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, enabled, for %1</source>
+        <translation>Notre entrée&#xa0;: présente une fois, activée, pour %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, disabled, for %1</source>
+        <translation>Notre entrée&#xa0;: présente %2 fois, désactivée, pour %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, enabled, for %1</source>
+        <translation>Notre entrée&#xa0;: présente %2 fois, activée, pour %1</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
+        <translation>Sauvegarde du %1, %2 octets, bien formée&#xa0;; pour la restaurer&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
+        <translation>Sauvegarde du %1, %2 octets, endommagée&#xa0;; pour la restaurer&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Older backups: %1</source>
+        <translation>Sauvegardes plus anciennes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Record: agrees</source>
+        <translation>Registre&#xa0;: concordant</translation>
+    </message>
+    <message>
+        <source>Record: in %1</source>
+        <translation>Registre&#xa0;: dans %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation>%1&#xa0;: %2 %3</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registre</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Tout est en ordre.</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Que faire&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::XmlDamage</name>
+    <message>
+        <source>It is not well-formed XML: %1</source>
+        <translation>Ce n’est pas du XML bien formé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but white space.</source>
+        <translation>Le fichier ne contient que des espaces.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
+        <translation>Le fichier ne contient que des octets nuls&#xa0;: l’ordinateur s’est arrêté pendant l’écriture, ou son disque est défaillant.</translation>
+    </message>
+    <message>
+        <source>The file is a web page, not XML.</source>
+        <translation>Le fichier est une page web, pas du XML.</translation>
+    </message>
+    <message>
+        <source>The file does not begin with a tag, so it is not XML.</source>
+        <translation>Le fichier ne commence pas par une balise&#xa0;; ce n’est donc pas du XML.</translation>
+    </message>
+    <message>
+        <source>Zero bytes begin in line %1: the file was not written to its end.</source>
+        <translation>Des octets nuls commencent à la ligne %1&#xa0;: le fichier n’a pas été écrit jusqu’au bout.</translation>
+    </message>
+    <message>
+        <source>There are two root elements: somebody appended a second document in line %1.</source>
+        <translation>Il y a deux éléments racines&#xa0;: un second document a été ajouté à la ligne %1.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
+        <translation>&lt;%1&gt; à la ligne %2 n’est jamais fermé&#xa0;: le fichier se termine à la ligne %3.</translation>
+    </message>
+    <message>
+        <source>The file has no element.</source>
+        <translation>Le fichier n’a aucun élément.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a tag, which begins in line %1.</source>
+        <translation>Le fichier se termine au milieu d’une balise, qui commence à la ligne %1.</translation>
+    </message>
+    <message>
+        <source>A tag in line %1 has no &quot;&gt;&quot;.</source>
+        <translation>Une balise de la ligne %1 n’a pas de &quot;&gt;&quot;.</translation>
+    </message>
+    <message>
+        <source>&lt;?xml ...?&gt; in line %1 has to be the very beginning of the file.</source>
+        <translation>&lt;?xml ...?&gt; à la ligne %1 doit être au tout début du fichier.</translation>
+    </message>
+    <message>
+        <source>A second document begins in line %1: somebody appended it.</source>
+        <translation>Un second document commence à la ligne %1&#xa0;: quelqu’un l’a ajouté.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
+        <translation>&lt;%1&gt; à la ligne %2 se termine par &lt;/%3&gt; à la ligne %4&#xa0;: la casse compte.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
+        <translation>&lt;/%1&gt; à la ligne %2 ne ferme rien&#xa0;: aucun &lt;%1&gt; n’y est ouvert.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
+        <translation>&lt;%1&gt; à la ligne %2 n’est jamais fermé&#xa0;; &lt;/%3&gt; à la ligne %4 est venu avant.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
+        <translation>&lt;/%1&gt; apparaît une seconde fois à la ligne %2&#xa0;: après le document se trouve la fin d’un ancien fichier plus long.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
+        <translation>&lt;/%1&gt; à la ligne %2 ferme un élément qui n’a jamais été ouvert&#xa0;: la ligne avec &lt;%1 ...&gt; est perdue.</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
+        <translation>&quot;&lt;&quot; à la ligne %1 ne commence aucune balise&#xa0;; comme texte, on écrit &quot;&amp;lt;&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 in line %2 is no tag; what is meant is %3.</source>
+        <translation>%1 à la ligne %2 n’est pas une balise&#xa0;; il faut lire %3.</translation>
+    </message>
+    <message>
+        <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
+        <translation>Après la fin du document, à la ligne %1, il y a encore du texte&#xa0;: la fin d’un ancien fichier plus long&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
+        <translation>&quot;&amp;&quot; à la ligne %1 doit s’écrire &quot;&amp;amp;&quot;.</translation>
+    </message>
+    <message>
+        <source>Line %1 holds a control character, which XML does not allow.</source>
+        <translation>La ligne %1 contient un caractère de contrôle, que XML n’admet pas.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::ViewControllers::ScanController</name>
     <message>
         <source>Quillmont Orbwell have successfully installed Orbwell plugin to %0.</source>

@@ -2,6 +2,948 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
+    <message>
+        <source>It is no JSON: %1. The program sees no simulator.</source>
+        <translation>Non è JSON: %1. Il programma non vede alcun simulatore.</translation>
+    </message>
+    <message>
+        <source>It is no array. The program sees no simulator.</source>
+        <translation>Non è un array. Il programma non vede alcun simulatore.</translation>
+    </message>
+    <message>
+        <source>The key is there twice; the last one counts.</source>
+        <translation>La chiave è presente due volte; vale l’ultima.</translation>
+    </message>
+    <message>
+        <source>Unknown key; it is ignored.</source>
+        <translation>Chiave sconosciuta; viene ignorata.</translation>
+    </message>
+    <message>
+        <source>Its type is %1, not %2; it counts as missing.</source>
+        <translation>Il suo tipo è %1, non %2; vale come mancante.</translation>
+    </message>
+    <message>
+        <source>The simulator has no name.</source>
+        <translation>Il simulatore non ha un nome.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the same name; both share one record and one chosen folder.</source>
+        <translation>La riga %1 ha lo stesso nome; entrambi condividono un’unica registrazione e un’unica cartella scelta.</translation>
+    </message>
+    <message>
+        <source>There are no files; nothing is installed, and it counts as installed.</source>
+        <translation>Non ci sono file; non viene installato nulla, e la voce vale come installata.</translation>
+    </message>
+    <message>
+        <source>The payload has no file %1; it cannot be copied.</source>
+        <translation>Tra i file forniti manca %1; questo file non può essere copiato.</translation>
+    </message>
+    <message>
+        <source>There is no destination; it is the simulator&apos;s folder itself.</source>
+        <translation>Non c’è una destinazione; è la cartella stessa del simulatore.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
+        <translation>&quot;..&quot; porta fuori dalla cartella del simulatore; il file viene scritto lì.</translation>
+    </message>
+    <message>
+        <source>Another file has the same destination; the later one is copied.</source>
+        <translation>Un altro file ha la stessa destinazione; viene copiato l’ultimo.</translation>
+    </message>
+    <message>
+        <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
+        <translation>Viene letto solo accanto a un &quot;config&quot; che sia null o non vuoto; viene ignorato.</translation>
+    </message>
+    <message>
+        <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
+        <translation>&quot;type&quot; non è 0, quindi nessun file di configurazione viene toccato.</translation>
+    </message>
+    <message>
+        <source>There is no path; no file can be edited.</source>
+        <translation>Non c’è un percorso; nessun file può essere modificato.</translation>
+    </message>
+    <message>
+        <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
+        <translation>Senza &quot;parent&quot; e &quot;values&quot; non viene aggiunta alcuna voce.</translation>
+    </message>
+    <message>
+        <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
+        <translation>Questa voce si installa, ma non può essere rimossa: nessuna coppia di &quot;values&quot; è ciò che cerca &quot;remove&quot;.</translation>
+    </message>
+    <message>
+        <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
+        <translation>Viene rimosso solo l’elemento figlio, e il resto della voce rimane: &quot;delete_parent&quot; non è true.</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>È tutto a posto.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
+    <message>
+        <source>The simulator has no Proton prefix, so its configuration file is unknown.</source>
+        <translation>Il simulatore non ha un prefisso Proton, quindi il suo file di configurazione non è noto.</translation>
+    </message>
+    <message>
+        <source>Start the simulator once from Steam, then install again.</source>
+        <translation>Avviare una volta il simulatore da Steam, poi installare di nuovo.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of the configuration file %1.</source>
+        <translation>Non si dispone dell’autorizzazione a scrivere nella cartella del file di configurazione %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is missing.</source>
+        <translation>Il file di configurazione %1 manca.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again; the file is made anew.</source>
+        <translation>Disinstallare e installare di nuovo; il file verrà ricreato.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il file di configurazione %1: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is damaged. %2</source>
+        <translation>Il file di configurazione %1 è danneggiato. %2</translation>
+    </message>
+    <message>
+        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Ripristinare un backup o correggere il file a mano; fino ad allora non vi viene modificato nulla, e il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Disinstallare e installare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
+        <translation>I file del plugin ci sono, ma %1 non ha una voce per il plugin.</translation>
+    </message>
+    <message>
+        <source>%1 has an entry for the plugin, whose files are not there.</source>
+        <translation>%1 ha una voce per il plugin, i cui file non ci sono.</translation>
+    </message>
+    <message>
+        <source>Install it, or uninstall it to take the entry out.</source>
+        <translation>Installarlo, oppure disinstallarlo per togliere la voce.</translation>
+    </message>
+    <message>
+        <source>Our entry is in %1 %2 times.</source>
+        <translation>La nostra voce è in %1 %2 volte.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 is disabled.</source>
+        <translation>La nostra voce in %1 è disattivata.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 names the file %2, which is missing.</source>
+        <translation>La nostra voce in %1 indica il file %2, che manca.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Doctor</name>
+    <message>
+        <source>The catalogue %1 is missing, empty or cannot be read.</source>
+        <translation>Il catalogo %1 manca, è vuoto o non può essere letto.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
+        <translation>Il catalogo %1 non è un array JSON; --check-catalogue dice di più.</translation>
+    </message>
+    <message>
+        <source>The catalogue has no simulator %1.</source>
+        <translation>Il catalogo non ha alcun simulatore %1.</translation>
+    </message>
+    <message>
+        <source>Try &quot;orbwell-doctor --help&quot;.</source>
+        <translation>Provare &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Examination</name>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>La sua cartella %1 non esiste più.</translation>
+    </message>
+    <message>
+        <source>Choose its folder in the window.</source>
+        <translation>Scegliere la sua cartella nella finestra.</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 è un file, non una cartella.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
+        <translation>Il disco ha %1 byte liberi; i file e un backup ne richiedono %2.</translation>
+    </message>
+    <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Liberare spazio sul disco di %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::FilesCheck</name>
+    <message>
+        <source>The payload lacks %1, so it cannot be installed.</source>
+        <translation>Tra i file forniti manca %1; questo file non può essere installato.</translation>
+    </message>
+    <message>
+        <source>Install this program again, or complete its &quot;plugins&quot; folder.</source>
+        <translation>Installare di nuovo questo programma, o completare la sua cartella &quot;plugins&quot;.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Disinstallare e installare di nuovo.</translation>
+    </message>
+    <message>
+        <source>In the place of %1 is a link that leads nowhere.</source>
+        <translation>Al posto di %1 c’è un collegamento che non porta da nessuna parte.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Eliminare il collegamento, poi installare.</translation>
+    </message>
+    <message>
+        <source>%1 is no regular file.</source>
+        <translation>%1 non è un file normale.</translation>
+    </message>
+    <message>
+        <source>Move it away, then install.</source>
+        <translation>Spostare altrove ciò che c’è, poi installare.</translation>
+    </message>
+    <message>
+        <source>Only a part of the plugin is there; %1 is missing.</source>
+        <translation>È presente solo una parte del plugin; manca %1.</translation>
+    </message>
+    <message>
+        <source>Install it.</source>
+        <translation>Installarlo.</translation>
+    </message>
+    <message>
+        <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
+        <translation>%1 è diverso dal file fornito con questo programma: un’altra versione, oppure danneggiato.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 non può essere letto.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of %1.</source>
+        <translation>Non si dispone dell’autorizzazione a scrivere nella cartella di %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Options</name>
+    <message>
+        <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
+        <translation>%1: un piano è per &quot;install&quot;, &quot;repair&quot; o &quot;uninstall&quot;.</translation>
+    </message>
+    <message>
+        <source>--catalogue needs a file.</source>
+        <translation>--catalogue richiede un file.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Opzione sconosciuta %1.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. Is %2 meant?</source>
+        <translation>Opzione sconosciuta %1. Si intendeva %2?</translation>
+    </message>
+    <message>
+        <source>Usage: orbwell-doctor [OPTION...] [NAME...]
+Says what is wrong with the simulators and the Orbwell plugin in them. Changes nothing.
+
+  --json               the report, plan or check as JSON
+  --plan[=WHAT]        what an &quot;install&quot; (the default), &quot;repair&quot; or &quot;uninstall&quot; would do
+  --catalogue FILE     use another catalogue, and the folder &quot;plugins&quot; beside it, if any
+  --check-catalogue    only what is wrong in the catalogue
+  --help, --version
+
+NAMEs limit the report or the plan to those simulators.
+Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
+</source>
+        <translation>Uso: orbwell-doctor [OPZIONE...] [NOME...]
+Dice che cosa non va nei simulatori e nel loro plugin Orbwell. Non modifica nulla.
+
+  --json               il rapporto, il piano o il controllo come JSON
+  --plan[=AZIONE]      che cosa farebbe &quot;install&quot; (predefinito), &quot;repair&quot; o &quot;uninstall&quot;
+  --catalogue FILE     usa un altro catalogo, e la cartella &quot;plugins&quot; accanto, se c’è
+  --check-catalogue    solo che cosa non va nel catalogo
+  --help, --version
+
+I NOMI limitano il rapporto o il piano a quei simulatori.
+Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
+</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Plan</name>
+    <message>
+        <source>No simulator is found, so nothing would change.</source>
+        <translation>Non è stato trovato alcun simulatore, quindi non cambierebbe nulla.</translation>
+    </message>
+    <message>
+        <source>Folder made: %1</source>
+        <translation>Cartella creata: %1</translation>
+    </message>
+    <message>
+        <source>Folder removed: %1</source>
+        <translation>Cartella rimossa: %1</translation>
+    </message>
+    <message>
+        <source>Backup made: %1</source>
+        <translation>Backup creato: %1</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problema: %1</translation>
+    </message>
+    <message>
+        <source>%1: install in %2</source>
+        <translation>%1: installare in %2</translation>
+    </message>
+    <message>
+        <source>%1: repair in %2</source>
+        <translation>%1: riparare in %2</translation>
+    </message>
+    <message>
+        <source>%1: uninstall in %2</source>
+        <translation>%1: disinstallare da %2</translation>
+    </message>
+    <message>
+        <source>File made: %1</source>
+        <translation>File creato: %1</translation>
+    </message>
+    <message>
+        <source>File replaced: %1</source>
+        <translation>File sostituito: %1</translation>
+    </message>
+    <message>
+        <source>File unchanged: %1</source>
+        <translation>File invariato: %1</translation>
+    </message>
+    <message>
+        <source>File removed: %1</source>
+        <translation>File rimosso: %1</translation>
+    </message>
+    <message>
+        <source>Configuration made: %1</source>
+        <translation>Configurazione creata: %1</translation>
+    </message>
+    <message>
+        <source>Configuration changed: %1</source>
+        <translation>Configurazione modificata: %1</translation>
+    </message>
+    <message>
+        <source>Configuration unchanged: %1</source>
+        <translation>Configurazione invariata: %1</translation>
+    </message>
+    <message>
+        <source>Record made: %1</source>
+        <translation>Registro creato: %1</translation>
+    </message>
+    <message>
+        <source>Record changed: %1</source>
+        <translation>Registro modificato: %1</translation>
+    </message>
+    <message>
+        <source>Record unchanged: %1</source>
+        <translation>Registro invariato: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Reasons</name>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>riga %1, colonna %2: %3</translation>
+    </message>
+    <message>
+        <source>X-Plane&apos;s own list</source>
+        <translation>l’elenco di X-Plane</translation>
+    </message>
+    <message>
+        <source>FlightGear&apos;s launcher</source>
+        <translation>il launcher di FlightGear</translation>
+    </message>
+    <message>
+        <source>a well-known folder</source>
+        <translation>una cartella consueta</translation>
+    </message>
+    <message>
+        <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
+        <translation>UserCfg.opt nel prefisso Proton di Steam</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>scelta a mano</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s file</source>
+        <translation>il file del catalogo</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s folder</source>
+        <translation>la cartella del catalogo</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>cartella inesistente</translation>
+    </message>
+    <message>
+        <source>not an absolute path</source>
+        <translation>non è un percorso assoluto</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>non è una cartella</translation>
+    </message>
+    <message>
+        <source>no permission to look inside</source>
+        <translation>nessuna autorizzazione a guardarci dentro</translation>
+    </message>
+    <message>
+        <source>no file &quot;version&quot; that begins with one</source>
+        <translation>nessun file &quot;version&quot; che inizi con una</translation>
+    </message>
+    <message>
+        <source>no defaults.xml or preferences.xml</source>
+        <translation>né defaults.xml né preferences.xml</translation>
+    </message>
+    <message>
+        <source>no InstalledPackagesPath in it</source>
+        <translation>nessun InstalledPackagesPath all’interno</translation>
+    </message>
+    <message>
+        <source>its InstalledPackagesPath is on no drive</source>
+        <translation>il suo InstalledPackagesPath non è su alcuna unità</translation>
+    </message>
+    <message>
+        <source>no Community, Official/Steam or Official/OneStore</source>
+        <translation>né Community né Official/Steam né Official/OneStore</translation>
+    </message>
+    <message>
+        <source>no Community, Official2024 or StreamedPackages</source>
+        <translation>né Community né Official2024 né StreamedPackages</translation>
+    </message>
+    <message>
+        <source>not a plain file</source>
+        <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>non può essere letto</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>troppo grande</translation>
+    </message>
+    <message>
+        <source>too much to read altogether</source>
+        <translation>troppo da leggere in tutto</translation>
+    </message>
+    <message>
+        <source>no fsx.exe</source>
+        <translation>manca fsx.exe</translation>
+    </message>
+    <message>
+        <source>no SimObjects</source>
+        <translation>manca SimObjects</translation>
+    </message>
+    <message>
+        <source>no scenery</source>
+        <translation>manca scenery</translation>
+    </message>
+    <message>
+        <source>no aircraft</source>
+        <translation>manca aircraft</translation>
+    </message>
+    <message>
+        <source>no main.mcf or tm.log</source>
+        <translation>né main.mcf né tm.log</translation>
+    </message>
+    <message>
+        <source>it has no Proton prefix</source>
+        <translation>non ha un prefisso Proton</translation>
+    </message>
+    <message>
+        <source>no list of libraries</source>
+        <translation>non è un elenco di librerie</translation>
+    </message>
+    <message>
+        <source>cut off, or not in Steam&apos;s text format</source>
+        <translation>troncato, o non nel formato di testo di Steam</translation>
+    </message>
+    <message>
+        <source>uninstalled (StateFlags %1)</source>
+        <translation>disinstallato (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>not fully installed (StateFlags %1)</source>
+        <translation>non del tutto installato (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>no AppState in it</source>
+        <translation>nessun AppState all’interno</translation>
+    </message>
+    <message>
+        <source>it is about another game</source>
+        <translation>riguarda un altro gioco</translation>
+    </message>
+    <message>
+        <source>installdir is not a plain name</source>
+        <translation>installdir non è un nome semplice</translation>
+    </message>
+    <message>
+        <source>no Resources/plugins</source>
+        <translation>manca Resources/plugins</translation>
+    </message>
+    <message>
+        <source>no X-Plane executable</source>
+        <translation>manca l’eseguibile di X-Plane</translation>
+    </message>
+    <message>
+        <source>it is X-Plane %1</source>
+        <translation>è X-Plane %1</translation>
+    </message>
+    <message>
+        <source>it is taken as %1</source>
+        <translation>è considerato %1</translation>
+    </message>
+    <message>
+        <source>Second byte-order mark.</source>
+        <translation>Secondo byte order mark.</translation>
+    </message>
+    <message>
+        <source>Invalid entity name.</source>
+        <translation>Nome di entità non valido.</translation>
+    </message>
+    <message>
+        <source>Invalid processing instruction name.</source>
+        <translation>Nome di istruzione di elaborazione non valido.</translation>
+    </message>
+    <message>
+        <source>Invalid XML declaration.</source>
+        <translation>Dichiarazione XML non valida.</translation>
+    </message>
+    <message>
+        <source>Invalid character reference.</source>
+        <translation>Riferimento a carattere non valido.</translation>
+    </message>
+    <message>
+        <source>Invalid element name.</source>
+        <translation>Nome di elemento non valido.</translation>
+    </message>
+    <message>
+        <source>Invalid attribute name.</source>
+        <translation>Nome di attributo non valido.</translation>
+    </message>
+    <message>
+        <source>Invalid character in the document type declaration.</source>
+        <translation>Carattere non valido nella dichiarazione del tipo di documento.</translation>
+    </message>
+    <message>
+        <source>Entities grow to too much text.</source>
+        <translation>Le entità crescono fino a troppo testo.</translation>
+    </message>
+    <message>
+        <source>No XML has this character.</source>
+        <translation>Nessun XML ha questo carattere.</translation>
+    </message>
+    <message>
+        <source>The root element is not where it should be.</source>
+        <translation>L’elemento radice non è dove dovrebbe essere.</translation>
+    </message>
+    <message>
+        <source>The entry to change comes out of an entity.</source>
+        <translation>La voce da modificare proviene da un’entità.</translation>
+    </message>
+    <message>
+        <source>The element to remove comes out of an entity.</source>
+        <translation>L’elemento da rimuovere proviene da un’entità.</translation>
+    </message>
+    <message>
+        <source>Undecodable bytes would be read otherwise.</source>
+        <translation>I byte non decodificabili verrebbero letti in altro modo.</translation>
+    </message>
+    <message>
+        <source>A value is no text that XML can hold.</source>
+        <translation>Un valore non è un testo che XML possa contenere.</translation>
+    </message>
+    <message>
+        <source>The element to change comes out of an entity.</source>
+        <translation>L’elemento da modificare proviene da un’entità.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold an end tag.</source>
+        <translation>La codifica del file non può rappresentare un tag di chiusura.</translation>
+    </message>
+    <message>
+        <source>A name or a value is none that XML can hold.</source>
+        <translation>Un nome o un valore non è tale che XML possa contenerlo.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold a name.</source>
+        <translation>La codifica del file non può rappresentare un nome.</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>too big</source>
+        <translation>troppo grande</translation>
+    </message>
+    <message>
+        <source>its name is not valid text</source>
+        <translation>il suo nome non è un testo valido</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::RecordCheck</name>
+    <message>
+        <source>The installation record %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il registro di installazione %1: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
+    </message>
+    <message>
+        <source>The installation record %1 is damaged; what it said is lost.</source>
+        <translation>Il registro di installazione %1 è danneggiato; ciò che diceva è perduto.</translation>
+    </message>
+    <message>
+        <source>Install again; a new record is written then.</source>
+        <translation>Installare di nuovo; verrà scritto un nuovo registro.</translation>
+    </message>
+    <message>
+        <source>The plugin is there, but not in the installation record.</source>
+        <translation>Il plugin c’è, ma non nel registro di installazione.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
+        <translation>Premere &quot;Cerca &amp; installa&quot; nella finestra; verrà allora registrato.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, but files are missing there.</source>
+        <translation>Secondo il registro di installazione il plugin è in %1, ma lì mancano dei file.</translation>
+    </message>
+    <message>
+        <source>Install it again.</source>
+        <translation>Installarlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
+        <translation>Secondo il registro di installazione il plugin è in %1, non in %2. Le esecuzioni non presidiate lavorano sulla prima cartella, la finestra sulla seconda.</translation>
+    </message>
+    <message>
+        <source>Choose the folder in the window, then install or uninstall there.</source>
+        <translation>Scegliere la cartella nella finestra, poi installare o disinstallare lì.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
+        <translation>Il registro di installazione ha %1 in %2, che il catalogo non conosce più.</translation>
+    </message>
+    <message>
+        <source>Remove the plugin there by hand, if it is no longer wanted.</source>
+        <translation>Rimuovere a mano il plugin da lì, se non è più desiderato.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1, and its folder %2 is gone.</source>
+        <translation>Il registro di installazione ha %1, la cui cartella %2 non esiste più.</translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation>Non c’è nulla da fare.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Rehearsal</name>
+    <message>
+        <source>%1 is a folder, and stays.</source>
+        <translation>%1 è una cartella, e rimane.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
+        <translation>%1 non può essere copiato in %2: al suo posto c’è una cartella, o un collegamento che non porta da nessuna parte.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
+        <translation>%1 non può essere copiato: manca tra i file forniti. Ciò che è al suo posto viene rimosso comunque.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 rimane com’è: %2</translation>
+    </message>
+    <message>
+        <source>The record %1 stays as it is: %2</source>
+        <translation>Il registro %1 rimane com’è: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::TextReport</name>
+    <message>
+        <source>The catalogue has no simulator.</source>
+        <translation>Il catalogo non ha alcun simulatore.</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problema: %1</translation>
+    </message>
+    <message>
+        <source>%1: not found on this computer</source>
+        <translation>%1: non trovato su questo computer</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is installed</source>
+        <translation>%1: il plugin è installato</translation>
+    </message>
+    <message>
+        <source>%1: only a part of the plugin is installed</source>
+        <translation>%1: è installata solo una parte del plugin</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is not installed</source>
+        <translation>%1: il plugin non è installato</translation>
+    </message>
+    <message>
+        <source>Folder: %1, known by: %2</source>
+        <translation>Cartella: %1, nota tramite: %2</translation>
+    </message>
+    <message>
+        <source>Gave %1 up to %2, which found the same folder</source>
+        <translation>Ha ceduto %1 a %2, che ha trovato la stessa cartella</translation>
+    </message>
+    <message>
+        <source>Turned down: %1 (%2): %3</source>
+        <translation>Scartato: %1 (%2): %3</translation>
+    </message>
+    <message>
+        <source>Files installed: %1</source>
+        <translation>File installati: %1</translation>
+    </message>
+    <message>
+        <source>Files missing: %1</source>
+        <translation>File mancanti: %1</translation>
+    </message>
+    <message>
+        <source>Files different: %1</source>
+        <translation>File diversi: %1</translation>
+    </message>
+    <message>
+        <source>Files unreadable: %1</source>
+        <translation>File illeggibili: %1</translation>
+    </message>
+    <message>
+        <source>Dead links in place of files: %1</source>
+        <translation>Collegamenti interrotti al posto di file: %1</translation>
+    </message>
+    <message>
+        <source>Folders or devices in place of files: %1</source>
+        <translation>Cartelle o dispositivi al posto di file: %1</translation>
+    </message>
+    <message>
+        <source>Bytes that are not valid in this encoding, from line %1 on</source>
+        <translation>Byte non validi in questa codifica, dalla riga %1</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Riga %1, colonna %2: %3</translation>
+    </message>
+    <message>
+        <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
+        <translation>La voce %1 di un altro programma indica un file che non c’è: %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, missing</source>
+        <translation>Configurazione: %1, manca</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, unreadable</source>
+        <translation>Configurazione: %1, illeggibile</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, damaged, encoding %2</source>
+        <translation>Configurazione: %1, danneggiata, codifica %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, well formed, encoding %2</source>
+        <translation>Configurazione: %1, ben formata, codifica %2</translation>
+    </message>
+    <message>
+        <source>No entry of ours</source>
+        <translation>Nessuna voce nostra</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, disabled, for %1</source>
+        <translation>La nostra voce: presente una volta, disattivata, per %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, enabled, for %1</source>
+        <translation>La nostra voce: presente una volta, attivata, per %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, disabled, for %1</source>
+        <translation>La nostra voce: presente %2 volte, disattivata, per %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, enabled, for %1</source>
+        <translation>La nostra voce: presente %2 volte, attivata, per %1</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
+        <translation>Backup del %1, %2 byte, ben formato; per ripristinarlo:</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
+        <translation>Backup del %1, %2 byte, danneggiato; per ripristinarlo:</translation>
+    </message>
+    <message>
+        <source>Older backups: %1</source>
+        <translation>Backup precedenti: %1</translation>
+    </message>
+    <message>
+        <source>Record: agrees</source>
+        <translation>Registro: concorda</translation>
+    </message>
+    <message>
+        <source>Record: in %1</source>
+        <translation>Registro: in %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation>%1: %2 %3</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>È tutto a posto.</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Che cosa fare:</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::XmlDamage</name>
+    <message>
+        <source>It is not well-formed XML: %1</source>
+        <translation>Non è XML ben formato: %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Il file è vuoto.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but white space.</source>
+        <translation>Il file contiene soltanto spazi.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
+        <translation>Il file contiene soltanto byte nulli: il computer si è fermato durante la scrittura, o il suo disco si sta guastando.</translation>
+    </message>
+    <message>
+        <source>The file is a web page, not XML.</source>
+        <translation>Il file è una pagina web, non XML.</translation>
+    </message>
+    <message>
+        <source>The file does not begin with a tag, so it is not XML.</source>
+        <translation>Il file non inizia con un tag, quindi non è XML.</translation>
+    </message>
+    <message>
+        <source>Zero bytes begin in line %1: the file was not written to its end.</source>
+        <translation>Alla riga %1 iniziano byte nulli: il file non è stato scritto fino in fondo.</translation>
+    </message>
+    <message>
+        <source>There are two root elements: somebody appended a second document in line %1.</source>
+        <translation>Ci sono due elementi radice: qualcuno ha aggiunto un secondo documento alla riga %1.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
+        <translation>&lt;%1&gt; alla riga %2 non viene mai chiuso: il file finisce alla riga %3.</translation>
+    </message>
+    <message>
+        <source>The file has no element.</source>
+        <translation>Il file non ha alcun elemento.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a tag, which begins in line %1.</source>
+        <translation>Il file finisce nel mezzo di un tag, che inizia alla riga %1.</translation>
+    </message>
+    <message>
+        <source>A tag in line %1 has no &quot;&gt;&quot;.</source>
+        <translation>A un tag della riga %1 manca &quot;&gt;&quot;.</translation>
+    </message>
+    <message>
+        <source>&lt;?xml ...?&gt; in line %1 has to be the very beginning of the file.</source>
+        <translation>&lt;?xml ...?&gt; alla riga %1 deve trovarsi proprio all’inizio del file.</translation>
+    </message>
+    <message>
+        <source>A second document begins in line %1: somebody appended it.</source>
+        <translation>Alla riga %1 inizia un secondo documento: qualcuno lo ha aggiunto.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
+        <translation>&lt;%1&gt; alla riga %2 finisce con &lt;/%3&gt; alla riga %4: maiuscole e minuscole contano.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
+        <translation>&lt;/%1&gt; alla riga %2 non chiude nulla: lì non è aperto alcun &lt;%1&gt;.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
+        <translation>&lt;%1&gt; alla riga %2 non viene mai chiuso; prima è arrivato &lt;/%3&gt; alla riga %4.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
+        <translation>&lt;/%1&gt; compare una seconda volta alla riga %2: dietro il documento c’è il resto di un vecchio file più lungo.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
+        <translation>&lt;/%1&gt; alla riga %2 chiude un elemento mai aperto: la riga con &lt;%1 ...&gt; è andata perduta.</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
+        <translation>&quot;&lt;&quot; alla riga %1 non inizia alcun tag; come testo si scrive &quot;&amp;lt;&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 in line %2 is no tag; what is meant is %3.</source>
+        <translation>%1 alla riga %2 non è un tag; si intende %3.</translation>
+    </message>
+    <message>
+        <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
+        <translation>Dopo la fine del documento, alla riga %1, c’è altro testo: il resto di un vecchio file più lungo?</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
+        <translation>&quot;&amp;&quot; alla riga %1 si deve scrivere &quot;&amp;amp;&quot;.</translation>
+    </message>
+    <message>
+        <source>Line %1 holds a control character, which XML does not allow.</source>
+        <translation>La riga %1 contiene un carattere di controllo, che XML non ammette.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::ViewControllers::ScanController</name>
     <message>
         <source>Quillmont Orbwell have successfully installed Orbwell plugin to %0.</source>

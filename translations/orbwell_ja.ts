@@ -2,6 +2,948 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
+    <message>
+        <source>It is no JSON: %1. The program sees no simulator.</source>
+        <translation>JSON ではありません: %1。プログラムにはシミュレーターが 1 つも見えません。</translation>
+    </message>
+    <message>
+        <source>It is no array. The program sees no simulator.</source>
+        <translation>配列ではありません。プログラムにはシミュレーターが 1 つも見えません。</translation>
+    </message>
+    <message>
+        <source>The key is there twice; the last one counts.</source>
+        <translation>このキーは 2 回あります。最後のものが有効です。</translation>
+    </message>
+    <message>
+        <source>Unknown key; it is ignored.</source>
+        <translation>不明なキーです。無視されます。</translation>
+    </message>
+    <message>
+        <source>Its type is %1, not %2; it counts as missing.</source>
+        <translation>型は %1 で、%2 ではありません。ないものとして扱われます。</translation>
+    </message>
+    <message>
+        <source>The simulator has no name.</source>
+        <translation>シミュレーターに名前がありません。</translation>
+    </message>
+    <message>
+        <source>Line %1 has the same name; both share one record and one chosen folder.</source>
+        <translation>%1 行目と同じ名前です。両方が 1 つの記録と 1 つの選択フォルダーを共有します。</translation>
+    </message>
+    <message>
+        <source>There are no files; nothing is installed, and it counts as installed.</source>
+        <translation>ファイルがありません。何もインストールされず、インストール済みとして扱われます。</translation>
+    </message>
+    <message>
+        <source>The payload has no file %1; it cannot be copied.</source>
+        <translation>同梱ファイルに %1 がないため、コピーできません。</translation>
+    </message>
+    <message>
+        <source>There is no destination; it is the simulator&apos;s folder itself.</source>
+        <translation>コピー先がありません。シミュレーターのフォルダー自体がコピー先になります。</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
+        <translation>&quot;..&quot; はシミュレーターのフォルダーの外に出ます。ファイルはそこに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>Another file has the same destination; the later one is copied.</source>
+        <translation>別のファイルと同じコピー先です。後のものがコピーされます。</translation>
+    </message>
+    <message>
+        <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
+        <translation>null または空でない &quot;config&quot; と一緒の場合にのみ読み取られます。無視されます。</translation>
+    </message>
+    <message>
+        <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
+        <translation>&quot;type&quot; が 0 でないため、構成ファイルは変更されません。</translation>
+    </message>
+    <message>
+        <source>There is no path; no file can be edited.</source>
+        <translation>パスがありません。どのファイルも編集できません。</translation>
+    </message>
+    <message>
+        <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
+        <translation>&quot;parent&quot; と &quot;values&quot; がないと、エントリは追加されません。</translation>
+    </message>
+    <message>
+        <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
+        <translation>このエントリはインストールできますが、削除できません。&quot;remove&quot; が探すものが &quot;values&quot; のどの組にもありません。</translation>
+    </message>
+    <message>
+        <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
+        <translation>子要素だけが削除され、エントリの残りはそのままです。&quot;delete_parent&quot; が true ではありません。</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>問題はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
+    <message>
+        <source>The simulator has no Proton prefix, so its configuration file is unknown.</source>
+        <translation>シミュレーターに Proton プレフィックスがないため、構成ファイルの場所がわかりません。</translation>
+    </message>
+    <message>
+        <source>Start the simulator once from Steam, then install again.</source>
+        <translation>Steam からシミュレーターを一度起動してから、もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of the configuration file %1.</source>
+        <translation>構成ファイル %1 のフォルダーに書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>そのフォルダーに書き込む権限を付与してください。</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is missing.</source>
+        <translation>構成ファイル %1 がありません。</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again; the file is made anew.</source>
+        <translation>アンインストールしてから、もう一度インストールしてください。ファイルが新しく作成されます。</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 cannot be read: %2.</source>
+        <translation>構成ファイル %1 を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>読み取る権限を付与してください。</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is damaged. %2</source>
+        <translation>構成ファイル %1 は破損しています。%2</translation>
+    </message>
+    <message>
+        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>バックアップを元に戻すか、ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>アンインストールしてから、もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
+        <translation>プラグインのファイルはありますが、%1 にそのエントリがありません。</translation>
+    </message>
+    <message>
+        <source>%1 has an entry for the plugin, whose files are not there.</source>
+        <translation>%1 にプラグインのエントリがありますが、そのファイルがありません。</translation>
+    </message>
+    <message>
+        <source>Install it, or uninstall it to take the entry out.</source>
+        <translation>インストールするか、アンインストールしてエントリを取り除いてください。</translation>
+    </message>
+    <message>
+        <source>Our entry is in %1 %2 times.</source>
+        <translation>当プラグインのエントリが %1 に %2 個あります。</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 is disabled.</source>
+        <translation>%1 の当プラグインのエントリは無効になっています。</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 names the file %2, which is missing.</source>
+        <translation>%1 の当プラグインのエントリが指すファイル %2 がありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Doctor</name>
+    <message>
+        <source>The catalogue %1 is missing, empty or cannot be read.</source>
+        <translation>カタログ %1 がないか、空であるか、読み取れません。</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
+        <translation>カタログ %1 は JSON 配列ではありません。詳しくは --check-catalogue で確認できます。</translation>
+    </message>
+    <message>
+        <source>The catalogue has no simulator %1.</source>
+        <translation>カタログにシミュレーター %1 はありません。</translation>
+    </message>
+    <message>
+        <source>Try &quot;orbwell-doctor --help&quot;.</source>
+        <translation>&quot;orbwell-doctor --help&quot; をお試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Examination</name>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>フォルダー %1 がなくなっています。</translation>
+    </message>
+    <message>
+        <source>Choose its folder in the window.</source>
+        <translation>ウィンドウでフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 はファイルで、フォルダーではありません。</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
+        <translation>ディスクの空き容量は %1 バイトですが、ファイルとバックアップには %2 バイト必要です。</translation>
+    </message>
+    <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>%1 のディスクの空き容量を増やしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::FilesCheck</name>
+    <message>
+        <source>The payload lacks %1, so it cannot be installed.</source>
+        <translation>同梱ファイルに %1 がないため、インストールできません。</translation>
+    </message>
+    <message>
+        <source>Install this program again, or complete its &quot;plugins&quot; folder.</source>
+        <translation>このプログラムをもう一度インストールするか、&quot;plugins&quot; フォルダーの不足を補ってください。</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>アンインストールしてから、もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>In the place of %1 is a link that leads nowhere.</source>
+        <translation>%1 の場所に、リンク先のないリンクがあります。</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>リンクを削除してから、インストールしてください。</translation>
+    </message>
+    <message>
+        <source>%1 is no regular file.</source>
+        <translation>%1 は通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>Move it away, then install.</source>
+        <translation>そこにあるものを別の場所に移してから、インストールしてください。</translation>
+    </message>
+    <message>
+        <source>Only a part of the plugin is there; %1 is missing.</source>
+        <translation>プラグインの一部しかありません。%1 がありません。</translation>
+    </message>
+    <message>
+        <source>Install it.</source>
+        <translation>インストールしてください。</translation>
+    </message>
+    <message>
+        <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
+        <translation>%1 はこのプログラムに同梱のファイルと異なります。別のバージョンか、破損しています。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 を読み取れません。</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of %1.</source>
+        <translation>%1 のフォルダーに書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>そのフォルダーに書き込む権限を付与してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Options</name>
+    <message>
+        <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
+        <translation>%1: 計画は &quot;install&quot;、&quot;repair&quot;、&quot;uninstall&quot; のいずれかです。</translation>
+    </message>
+    <message>
+        <source>--catalogue needs a file.</source>
+        <translation>--catalogue にはファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>不明なオプション %1 です。</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. Is %2 meant?</source>
+        <translation>不明なオプション %1 です。%2 のことですか?</translation>
+    </message>
+    <message>
+        <source>Usage: orbwell-doctor [OPTION...] [NAME...]
+Says what is wrong with the simulators and the Orbwell plugin in them. Changes nothing.
+
+  --json               the report, plan or check as JSON
+  --plan[=WHAT]        what an &quot;install&quot; (the default), &quot;repair&quot; or &quot;uninstall&quot; would do
+  --catalogue FILE     use another catalogue, and the folder &quot;plugins&quot; beside it, if any
+  --check-catalogue    only what is wrong in the catalogue
+  --help, --version
+
+NAMEs limit the report or the plan to those simulators.
+Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
+</source>
+        <translation>使い方: orbwell-doctor [オプション...] [名前...]
+シミュレーターとその中の Orbwell プラグインの問題を示します。何も変更しません。
+
+  --json               レポート、計画、検査結果を JSON で出力
+  --plan[=操作]        &quot;install&quot; (既定)、&quot;repair&quot;、&quot;uninstall&quot; が行うこと
+  --catalogue ファイル 別のカタログと、隣に &quot;plugins&quot; フォルダーがあればそれを使用
+  --check-catalogue    カタログの問題だけを表示
+  --help, --version
+
+名前を指定すると、レポートや計画をそのシミュレーターに限定します。
+終了ステータス: 0 問題なし、1 問題あり、2 確認できなかった
+</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Plan</name>
+    <message>
+        <source>No simulator is found, so nothing would change.</source>
+        <translation>シミュレーターが見つからないため、何も変わりません。</translation>
+    </message>
+    <message>
+        <source>Folder made: %1</source>
+        <translation>作成するフォルダー: %1</translation>
+    </message>
+    <message>
+        <source>Folder removed: %1</source>
+        <translation>削除するフォルダー: %1</translation>
+    </message>
+    <message>
+        <source>Backup made: %1</source>
+        <translation>作成するバックアップ: %1</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>問題: %1</translation>
+    </message>
+    <message>
+        <source>%1: install in %2</source>
+        <translation>%1: %2 にインストール</translation>
+    </message>
+    <message>
+        <source>%1: repair in %2</source>
+        <translation>%1: %2 で修復</translation>
+    </message>
+    <message>
+        <source>%1: uninstall in %2</source>
+        <translation>%1: %2 からアンインストール</translation>
+    </message>
+    <message>
+        <source>File made: %1</source>
+        <translation>作成するファイル: %1</translation>
+    </message>
+    <message>
+        <source>File replaced: %1</source>
+        <translation>置き換えるファイル: %1</translation>
+    </message>
+    <message>
+        <source>File unchanged: %1</source>
+        <translation>変わらないファイル: %1</translation>
+    </message>
+    <message>
+        <source>File removed: %1</source>
+        <translation>削除するファイル: %1</translation>
+    </message>
+    <message>
+        <source>Configuration made: %1</source>
+        <translation>作成する構成ファイル: %1</translation>
+    </message>
+    <message>
+        <source>Configuration changed: %1</source>
+        <translation>変更する構成ファイル: %1</translation>
+    </message>
+    <message>
+        <source>Configuration unchanged: %1</source>
+        <translation>変わらない構成ファイル: %1</translation>
+    </message>
+    <message>
+        <source>Record made: %1</source>
+        <translation>作成する記録: %1</translation>
+    </message>
+    <message>
+        <source>Record changed: %1</source>
+        <translation>変更する記録: %1</translation>
+    </message>
+    <message>
+        <source>Record unchanged: %1</source>
+        <translation>変わらない記録: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Reasons</name>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>%1 行 %2 列: %3</translation>
+    </message>
+    <message>
+        <source>X-Plane&apos;s own list</source>
+        <translation>X-Plane 自身の一覧</translation>
+    </message>
+    <message>
+        <source>FlightGear&apos;s launcher</source>
+        <translation>FlightGear のランチャー</translation>
+    </message>
+    <message>
+        <source>a well-known folder</source>
+        <translation>一般的なフォルダー</translation>
+    </message>
+    <message>
+        <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
+        <translation>Steam の Proton プレフィックス内の UserCfg.opt</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>手動で選択</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s file</source>
+        <translation>カタログのファイル</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s folder</source>
+        <translation>カタログのフォルダー</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>フォルダーがありません</translation>
+    </message>
+    <message>
+        <source>not an absolute path</source>
+        <translation>絶対パスではありません</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>no permission to look inside</source>
+        <translation>中を見る権限がありません</translation>
+    </message>
+    <message>
+        <source>no file &quot;version&quot; that begins with one</source>
+        <translation>バージョン番号で始まるファイル &quot;version&quot; がありません</translation>
+    </message>
+    <message>
+        <source>no defaults.xml or preferences.xml</source>
+        <translation>defaults.xml も preferences.xml もありません</translation>
+    </message>
+    <message>
+        <source>no InstalledPackagesPath in it</source>
+        <translation>InstalledPackagesPath がありません</translation>
+    </message>
+    <message>
+        <source>its InstalledPackagesPath is on no drive</source>
+        <translation>InstalledPackagesPath がどのドライブにもありません</translation>
+    </message>
+    <message>
+        <source>no Community, Official/Steam or Official/OneStore</source>
+        <translation>Community も Official/Steam も Official/OneStore もありません</translation>
+    </message>
+    <message>
+        <source>no Community, Official2024 or StreamedPackages</source>
+        <translation>Community も Official2024 も StreamedPackages もありません</translation>
+    </message>
+    <message>
+        <source>not a plain file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>too much to read altogether</source>
+        <translation>読み取る量の合計が多すぎます</translation>
+    </message>
+    <message>
+        <source>no fsx.exe</source>
+        <translation>fsx.exe がありません</translation>
+    </message>
+    <message>
+        <source>no SimObjects</source>
+        <translation>SimObjects がありません</translation>
+    </message>
+    <message>
+        <source>no scenery</source>
+        <translation>scenery がありません</translation>
+    </message>
+    <message>
+        <source>no aircraft</source>
+        <translation>aircraft がありません</translation>
+    </message>
+    <message>
+        <source>no main.mcf or tm.log</source>
+        <translation>main.mcf も tm.log もありません</translation>
+    </message>
+    <message>
+        <source>it has no Proton prefix</source>
+        <translation>Proton プレフィックスがありません</translation>
+    </message>
+    <message>
+        <source>no list of libraries</source>
+        <translation>ライブラリの一覧ではありません</translation>
+    </message>
+    <message>
+        <source>cut off, or not in Steam&apos;s text format</source>
+        <translation>途中で切れているか、Steam のテキスト形式ではありません</translation>
+    </message>
+    <message>
+        <source>uninstalled (StateFlags %1)</source>
+        <translation>アンインストール済みです (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>not fully installed (StateFlags %1)</source>
+        <translation>インストールが完了していません (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>no AppState in it</source>
+        <translation>AppState がありません</translation>
+    </message>
+    <message>
+        <source>it is about another game</source>
+        <translation>別のゲームについてのものです</translation>
+    </message>
+    <message>
+        <source>installdir is not a plain name</source>
+        <translation>installdir が単純な名前ではありません</translation>
+    </message>
+    <message>
+        <source>no Resources/plugins</source>
+        <translation>Resources/plugins がありません</translation>
+    </message>
+    <message>
+        <source>no X-Plane executable</source>
+        <translation>X-Plane の実行ファイルがありません</translation>
+    </message>
+    <message>
+        <source>it is X-Plane %1</source>
+        <translation>X-Plane %1 です</translation>
+    </message>
+    <message>
+        <source>it is taken as %1</source>
+        <translation>%1 として扱われます</translation>
+    </message>
+    <message>
+        <source>Second byte-order mark.</source>
+        <translation>2 つ目のバイトオーダーマークです。</translation>
+    </message>
+    <message>
+        <source>Invalid entity name.</source>
+        <translation>無効なエンティティ名です。</translation>
+    </message>
+    <message>
+        <source>Invalid processing instruction name.</source>
+        <translation>無効な処理命令名です。</translation>
+    </message>
+    <message>
+        <source>Invalid XML declaration.</source>
+        <translation>無効な XML 宣言です。</translation>
+    </message>
+    <message>
+        <source>Invalid character reference.</source>
+        <translation>無効な文字参照です。</translation>
+    </message>
+    <message>
+        <source>Invalid element name.</source>
+        <translation>無効な要素名です。</translation>
+    </message>
+    <message>
+        <source>Invalid attribute name.</source>
+        <translation>無効な属性名です。</translation>
+    </message>
+    <message>
+        <source>Invalid character in the document type declaration.</source>
+        <translation>文書型宣言に無効な文字があります。</translation>
+    </message>
+    <message>
+        <source>Entities grow to too much text.</source>
+        <translation>エンティティの展開結果が大きくなりすぎます。</translation>
+    </message>
+    <message>
+        <source>No XML has this character.</source>
+        <translation>XML にない文字です。</translation>
+    </message>
+    <message>
+        <source>The root element is not where it should be.</source>
+        <translation>ルート要素があるべき場所にありません。</translation>
+    </message>
+    <message>
+        <source>The entry to change comes out of an entity.</source>
+        <translation>変更するエントリがエンティティから来ています。</translation>
+    </message>
+    <message>
+        <source>The element to remove comes out of an entity.</source>
+        <translation>削除する要素がエンティティから来ています。</translation>
+    </message>
+    <message>
+        <source>Undecodable bytes would be read otherwise.</source>
+        <translation>デコードできないバイトが別の意味に読まれてしまいます。</translation>
+    </message>
+    <message>
+        <source>A value is no text that XML can hold.</source>
+        <translation>XML に書けない値があります。</translation>
+    </message>
+    <message>
+        <source>The element to change comes out of an entity.</source>
+        <translation>変更する要素がエンティティから来ています。</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold an end tag.</source>
+        <translation>ファイルの文字コードでは終了タグを表せません。</translation>
+    </message>
+    <message>
+        <source>A name or a value is none that XML can hold.</source>
+        <translation>XML に書けない名前または値があります。</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold a name.</source>
+        <translation>ファイルの文字コードでは名前を表せません。</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>too big</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>its name is not valid text</source>
+        <translation>名前が有効なテキストではありません</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::RecordCheck</name>
+    <message>
+        <source>The installation record %1 cannot be read: %2.</source>
+        <translation>インストール記録 %1 を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>読み取る権限を付与してください。</translation>
+    </message>
+    <message>
+        <source>The installation record %1 is damaged; what it said is lost.</source>
+        <translation>インストール記録 %1 は破損しています。その内容は失われました。</translation>
+    </message>
+    <message>
+        <source>Install again; a new record is written then.</source>
+        <translation>もう一度インストールしてください。新しい記録が書き込まれます。</translation>
+    </message>
+    <message>
+        <source>The plugin is there, but not in the installation record.</source>
+        <translation>プラグインはありますが、インストール記録にありません。</translation>
+    </message>
+    <message>
+        <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
+        <translation>ウィンドウの &quot;スキャン &amp; インストール&quot; を押してください。記録されます。</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, but files are missing there.</source>
+        <translation>インストール記録ではプラグインが %1 にありますが、そこにファイルが不足しています。</translation>
+    </message>
+    <message>
+        <source>Install it again.</source>
+        <translation>もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
+        <translation>インストール記録ではプラグインは %1 にあり、%2 にはありません。無人実行は前者、ウィンドウは後者のフォルダーを対象にします。</translation>
+    </message>
+    <message>
+        <source>Choose the folder in the window, then install or uninstall there.</source>
+        <translation>ウィンドウでフォルダーを選択してから、そこでインストールまたはアンインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
+        <translation>インストール記録に %2 の %1 がありますが、カタログにはもうありません。</translation>
+    </message>
+    <message>
+        <source>Remove the plugin there by hand, if it is no longer wanted.</source>
+        <translation>不要であれば、そこからプラグインを手動で削除してください。</translation>
+    </message>
+    <message>
+        <source>The installation record has %1, and its folder %2 is gone.</source>
+        <translation>インストール記録に %1 がありますが、そのフォルダー %2 がなくなっています。</translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation>何もする必要はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Rehearsal</name>
+    <message>
+        <source>%1 is a folder, and stays.</source>
+        <translation>%1 はフォルダーなので、そのまま残ります。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
+        <translation>%1 を %2 にコピーできません。その場所にフォルダーか、リンク先のないリンクがあります。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
+        <translation>%1 をコピーできません。同梱ファイルにありません。それでも、その場所にあるものは削除されます。</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 は変わりません: %2</translation>
+    </message>
+    <message>
+        <source>The record %1 stays as it is: %2</source>
+        <translation>記録 %1 は変わりません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::TextReport</name>
+    <message>
+        <source>The catalogue has no simulator.</source>
+        <translation>カタログにシミュレーターがありません。</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>問題: %1</translation>
+    </message>
+    <message>
+        <source>%1: not found on this computer</source>
+        <translation>%1: このコンピューターで見つかりません</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is installed</source>
+        <translation>%1: プラグインはインストールされています</translation>
+    </message>
+    <message>
+        <source>%1: only a part of the plugin is installed</source>
+        <translation>%1: プラグインの一部だけがインストールされています</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is not installed</source>
+        <translation>%1: プラグインはインストールされていません</translation>
+    </message>
+    <message>
+        <source>Folder: %1, known by: %2</source>
+        <translation>フォルダー: %1、情報源: %2</translation>
+    </message>
+    <message>
+        <source>Gave %1 up to %2, which found the same folder</source>
+        <translation>%1 を、同じフォルダーを見つけた %2 に譲りました</translation>
+    </message>
+    <message>
+        <source>Turned down: %1 (%2): %3</source>
+        <translation>除外: %1 (%2): %3</translation>
+    </message>
+    <message>
+        <source>Files installed: %1</source>
+        <translation>インストール済みのファイル: %1</translation>
+    </message>
+    <message>
+        <source>Files missing: %1</source>
+        <translation>不足しているファイル: %1</translation>
+    </message>
+    <message>
+        <source>Files different: %1</source>
+        <translation>異なるファイル: %1</translation>
+    </message>
+    <message>
+        <source>Files unreadable: %1</source>
+        <translation>読み取れないファイル: %1</translation>
+    </message>
+    <message>
+        <source>Dead links in place of files: %1</source>
+        <translation>ファイルの場所にあるリンク切れのリンク: %1</translation>
+    </message>
+    <message>
+        <source>Folders or devices in place of files: %1</source>
+        <translation>ファイルの場所にあるフォルダーやデバイス: %1</translation>
+    </message>
+    <message>
+        <source>Bytes that are not valid in this encoding, from line %1 on</source>
+        <translation>%1 行目以降に、この文字コードでは無効なバイトがあります</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>%1 行 %2 列: %3</translation>
+    </message>
+    <message>
+        <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
+        <translation>別のプログラムのエントリ %1 が、存在しないファイルを指しています: %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, missing</source>
+        <translation>構成ファイル: %1、なし</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, unreadable</source>
+        <translation>構成ファイル: %1、読み取り不可</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, damaged, encoding %2</source>
+        <translation>構成ファイル: %1、破損、文字コード %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, well formed, encoding %2</source>
+        <translation>構成ファイル: %1、整形式、文字コード %2</translation>
+    </message>
+    <message>
+        <source>No entry of ours</source>
+        <translation>当プラグインのエントリはありません</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, disabled, for %1</source>
+        <translation>当プラグインのエントリ: 1 個、無効、対象は %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, enabled, for %1</source>
+        <translation>当プラグインのエントリ: 1 個、有効、対象は %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, disabled, for %1</source>
+        <translation>当プラグインのエントリ: %2 個、無効、対象は %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, enabled, for %1</source>
+        <translation>当プラグインのエントリ: %2 個、有効、対象は %1</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
+        <translation>%1 のバックアップ、%2 バイト、整形式。元に戻すには:</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
+        <translation>%1 のバックアップ、%2 バイト、破損。元に戻すには:</translation>
+    </message>
+    <message>
+        <source>Older backups: %1</source>
+        <translation>それより古いバックアップ: %1</translation>
+    </message>
+    <message>
+        <source>Record: agrees</source>
+        <translation>記録: 一致</translation>
+    </message>
+    <message>
+        <source>Record: in %1</source>
+        <translation>記録: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation>%1: %2%3</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>記録</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>問題はありません。</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>必要な対処:</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::XmlDamage</name>
+    <message>
+        <source>It is not well-formed XML: %1</source>
+        <translation>整形式の XML ではありません: %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>ファイルは空です。</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but white space.</source>
+        <translation>ファイルには空白しかありません。</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
+        <translation>ファイルにはゼロバイトしかありません。書き込み中にコンピューターが停止したか、ディスクが故障しかけています。</translation>
+    </message>
+    <message>
+        <source>The file is a web page, not XML.</source>
+        <translation>ファイルは XML ではなく、Web ページです。</translation>
+    </message>
+    <message>
+        <source>The file does not begin with a tag, so it is not XML.</source>
+        <translation>ファイルがタグで始まっていないため、XML ではありません。</translation>
+    </message>
+    <message>
+        <source>Zero bytes begin in line %1: the file was not written to its end.</source>
+        <translation>%1 行目からゼロバイトが続いています。ファイルが最後まで書き込まれませんでした。</translation>
+    </message>
+    <message>
+        <source>There are two root elements: somebody appended a second document in line %1.</source>
+        <translation>ルート要素が 2 つあります。%1 行目に 2 つ目の文書が追加されています。</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
+        <translation>%2 行目の &lt;%1&gt; が閉じられていません。ファイルは %3 行目で終わっています。</translation>
+    </message>
+    <message>
+        <source>The file has no element.</source>
+        <translation>ファイルに要素がありません。</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a tag, which begins in line %1.</source>
+        <translation>ファイルがタグの途中で終わっています。そのタグは %1 行目で始まります。</translation>
+    </message>
+    <message>
+        <source>A tag in line %1 has no &quot;&gt;&quot;.</source>
+        <translation>%1 行目のタグに &quot;&gt;&quot; がありません。</translation>
+    </message>
+    <message>
+        <source>&lt;?xml ...?&gt; in line %1 has to be the very beginning of the file.</source>
+        <translation>%1 行目の &lt;?xml ...?&gt; は、ファイルの先頭になければなりません。</translation>
+    </message>
+    <message>
+        <source>A second document begins in line %1: somebody appended it.</source>
+        <translation>%1 行目から 2 つ目の文書が始まっています。誰かが追加しました。</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
+        <translation>%2 行目の &lt;%1&gt; が %4 行目の &lt;/%3&gt; で終わっています。大文字と小文字は区別されます。</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
+        <translation>%2 行目の &lt;/%1&gt; は何も閉じていません。そこで開いている &lt;%1&gt; はありません。</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
+        <translation>%2 行目の &lt;%1&gt; が閉じられていません。先に %4 行目の &lt;/%3&gt; が来ています。</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
+        <translation>&lt;/%1&gt; が %2 行目にもう一度あります。文書の後ろに、古くて長いファイルの残りがあります。</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
+        <translation>%2 行目の &lt;/%1&gt; は、開かれていない要素を閉じています。&lt;%1 ...&gt; の行が失われています。</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
+        <translation>%1 行目の &quot;&lt;&quot; はタグの始まりではありません。文字としては &quot;&amp;lt;&quot; と書きます。</translation>
+    </message>
+    <message>
+        <source>%1 in line %2 is no tag; what is meant is %3.</source>
+        <translation>%2 行目の %1 はタグではありません。正しくは %3 です。</translation>
+    </message>
+    <message>
+        <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
+        <translation>文書の終わりの後ろ、%1 行目に、まだテキストがあります。古くて長いファイルの残りでしょうか。</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
+        <translation>%1 行目の &quot;&amp;&quot; は &quot;&amp;amp;&quot; と書く必要があります。</translation>
+    </message>
+    <message>
+        <source>Line %1 holds a control character, which XML does not allow.</source>
+        <translation>%1 行目に、XML で許されない制御文字があります。</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::ViewControllers::ScanController</name>
     <message>
         <source>Quillmont Orbwell have successfully installed Orbwell plugin to %0.</source>

@@ -2,6 +2,948 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
+    <message>
+        <source>It is no JSON: %1. The program sees no simulator.</source>
+        <translation>To nie jest JSON: %1. Program nie widzi żadnego symulatora.</translation>
+    </message>
+    <message>
+        <source>It is no array. The program sees no simulator.</source>
+        <translation>To nie jest tablica. Program nie widzi żadnego symulatora.</translation>
+    </message>
+    <message>
+        <source>The key is there twice; the last one counts.</source>
+        <translation>Klucz występuje dwa razy; liczy się ostatni.</translation>
+    </message>
+    <message>
+        <source>Unknown key; it is ignored.</source>
+        <translation>Nieznany klucz; jest pomijany.</translation>
+    </message>
+    <message>
+        <source>Its type is %1, not %2; it counts as missing.</source>
+        <translation>Jego typ to %1, a nie %2; jest traktowany jak brakujący.</translation>
+    </message>
+    <message>
+        <source>The simulator has no name.</source>
+        <translation>Symulator nie ma nazwy.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the same name; both share one record and one chosen folder.</source>
+        <translation>Wiersz %1 ma tę samą nazwę; oba mają wspólny zapis i wspólny wybrany folder.</translation>
+    </message>
+    <message>
+        <source>There are no files; nothing is installed, and it counts as installed.</source>
+        <translation>Nie ma plików; nic nie jest instalowane, a wpis uchodzi za zainstalowany.</translation>
+    </message>
+    <message>
+        <source>The payload has no file %1; it cannot be copied.</source>
+        <translation>Wśród dołączonych plików brakuje %1; nie można go skopiować.</translation>
+    </message>
+    <message>
+        <source>There is no destination; it is the simulator&apos;s folder itself.</source>
+        <translation>Nie ma miejsca docelowego; jest nim sam folder symulatora.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
+        <translation>&quot;..&quot; wychodzi poza folder symulatora; plik jest tam zapisywany.</translation>
+    </message>
+    <message>
+        <source>Another file has the same destination; the later one is copied.</source>
+        <translation>Inny plik ma to samo miejsce docelowe; kopiowany jest późniejszy.</translation>
+    </message>
+    <message>
+        <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
+        <translation>Jest czytany tylko obok &quot;config&quot;, który jest równy null lub nie jest pusty; jest pomijany.</translation>
+    </message>
+    <message>
+        <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
+        <translation>&quot;type&quot; nie jest równe 0, więc żaden plik konfiguracyjny nie jest ruszany.</translation>
+    </message>
+    <message>
+        <source>There is no path; no file can be edited.</source>
+        <translation>Nie ma ścieżki; żadnego pliku nie można edytować.</translation>
+    </message>
+    <message>
+        <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
+        <translation>Bez &quot;parent&quot; i &quot;values&quot; żaden wpis nie jest dodawany.</translation>
+    </message>
+    <message>
+        <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
+        <translation>Ten wpis się instaluje, ale nie można go usunąć: żadna para w &quot;values&quot; nie jest tym, czego szuka &quot;remove&quot;.</translation>
+    </message>
+    <message>
+        <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
+        <translation>Usuwany jest tylko element podrzędny, a reszta wpisu zostaje: &quot;delete_parent&quot; nie jest równe true.</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Wszystko jest w porządku.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
+    <message>
+        <source>The simulator has no Proton prefix, so its configuration file is unknown.</source>
+        <translation>Symulator nie ma prefiksu Proton, więc jego plik konfiguracyjny jest nieznany.</translation>
+    </message>
+    <message>
+        <source>Start the simulator once from Steam, then install again.</source>
+        <translation>Uruchom symulator raz ze Steam, a potem zainstaluj ponownie.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of the configuration file %1.</source>
+        <translation>Nie masz prawa zapisu w folderze pliku konfiguracyjnego %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is missing.</source>
+        <translation>Brakuje pliku konfiguracyjnego %1.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again; the file is made anew.</source>
+        <translation>Odinstaluj i zainstaluj ponownie; plik zostanie utworzony na nowo.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 cannot be read: %2.</source>
+        <translation>Nie można odczytać pliku konfiguracyjnego %1: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is damaged. %2</source>
+        <translation>Plik konfiguracyjny %1 jest uszkodzony. %2</translation>
+    </message>
+    <message>
+        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Przywróć kopię zapasową albo napraw plik ręcznie; do tego czasu nic nie będzie w nim zmieniane, a symulator może nie wczytać żadnego dodatku.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Odinstaluj i zainstaluj ponownie.</translation>
+    </message>
+    <message>
+        <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
+        <translation>Pliki wtyczki są na miejscu, ale %1 nie ma dla niej wpisu.</translation>
+    </message>
+    <message>
+        <source>%1 has an entry for the plugin, whose files are not there.</source>
+        <translation>%1 ma wpis dla wtyczki, której plików nie ma.</translation>
+    </message>
+    <message>
+        <source>Install it, or uninstall it to take the entry out.</source>
+        <translation>Zainstaluj ją albo odinstaluj, aby usunąć wpis.</translation>
+    </message>
+    <message>
+        <source>Our entry is in %1 %2 times.</source>
+        <translation>Nasz wpis jest w %1 wiele razy: %2.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 is disabled.</source>
+        <translation>Nasz wpis w %1 jest wyłączony.</translation>
+    </message>
+    <message>
+        <source>Our entry in %1 names the file %2, which is missing.</source>
+        <translation>Nasz wpis w %1 wskazuje plik %2, którego brakuje.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Doctor</name>
+    <message>
+        <source>The catalogue %1 is missing, empty or cannot be read.</source>
+        <translation>Wykazu symulatorów %1 brakuje, jest pusty albo nie można go odczytać.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
+        <translation>Wykaz symulatorów %1 nie jest tablicą JSON; więcej powie --check-catalogue.</translation>
+    </message>
+    <message>
+        <source>The catalogue has no simulator %1.</source>
+        <translation>W wykazie nie ma symulatora %1.</translation>
+    </message>
+    <message>
+        <source>Try &quot;orbwell-doctor --help&quot;.</source>
+        <translation>Wypróbuj &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Examination</name>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Jego folderu %1 już nie ma.</translation>
+    </message>
+    <message>
+        <source>Choose its folder in the window.</source>
+        <translation>Wybierz jego folder w oknie.</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a folder.</source>
+        <translation>%1 to plik, a nie folder.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
+        <translation>Na dysku jest %1 wolnych bajtów; pliki i kopia zapasowa zajmują %2.</translation>
+    </message>
+    <message>
+        <source>Make room on the disk of %1.</source>
+        <translation>Zwolnij miejsce na dysku z %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::FilesCheck</name>
+    <message>
+        <source>The payload lacks %1, so it cannot be installed.</source>
+        <translation>Wśród dołączonych plików brakuje %1; nie można go zainstalować.</translation>
+    </message>
+    <message>
+        <source>Install this program again, or complete its &quot;plugins&quot; folder.</source>
+        <translation>Zainstaluj ponownie ten program albo uzupełnij jego folder &quot;plugins&quot;.</translation>
+    </message>
+    <message>
+        <source>Uninstall and install again.</source>
+        <translation>Odinstaluj i zainstaluj ponownie.</translation>
+    </message>
+    <message>
+        <source>In the place of %1 is a link that leads nowhere.</source>
+        <translation>W miejscu %1 jest dowiązanie, które prowadzi donikąd.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Usuń dowiązanie, a potem zainstaluj.</translation>
+    </message>
+    <message>
+        <source>%1 is no regular file.</source>
+        <translation>%1 nie jest zwykłym plikiem.</translation>
+    </message>
+    <message>
+        <source>Move it away, then install.</source>
+        <translation>Przenieś to w inne miejsce, a potem zainstaluj.</translation>
+    </message>
+    <message>
+        <source>Only a part of the plugin is there; %1 is missing.</source>
+        <translation>Jest tylko część wtyczki; brakuje %1.</translation>
+    </message>
+    <message>
+        <source>Install it.</source>
+        <translation>Zainstaluj ją.</translation>
+    </message>
+    <message>
+        <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
+        <translation>%1 różni się od pliku dołączonego do tego programu: inna wersja albo plik uszkodzony.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 nie można odczytać.</translation>
+    </message>
+    <message>
+        <source>You may not write in the folder of %1.</source>
+        <translation>Nie masz prawa zapisu w folderze, w którym jest %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Options</name>
+    <message>
+        <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
+        <translation>%1: plan jest dla &quot;install&quot;, &quot;repair&quot; lub &quot;uninstall&quot;.</translation>
+    </message>
+    <message>
+        <source>--catalogue needs a file.</source>
+        <translation>--catalogue wymaga pliku.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1.</source>
+        <translation>Nieznana opcja %1.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. Is %2 meant?</source>
+        <translation>Nieznana opcja %1. Czy chodzi o %2?</translation>
+    </message>
+    <message>
+        <source>Usage: orbwell-doctor [OPTION...] [NAME...]
+Says what is wrong with the simulators and the Orbwell plugin in them. Changes nothing.
+
+  --json               the report, plan or check as JSON
+  --plan[=WHAT]        what an &quot;install&quot; (the default), &quot;repair&quot; or &quot;uninstall&quot; would do
+  --catalogue FILE     use another catalogue, and the folder &quot;plugins&quot; beside it, if any
+  --check-catalogue    only what is wrong in the catalogue
+  --help, --version
+
+NAMEs limit the report or the plan to those simulators.
+Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
+</source>
+        <translation>Użycie: orbwell-doctor [OPCJA...] [NAZWA...]
+Mówi, co jest nie tak z symulatorami i wtyczką Orbwell w nich. Niczego nie zmienia.
+
+  --json               raport, plan lub kontrola jako JSON
+  --plan[=CO]          co zrobiłoby &quot;install&quot; (domyślnie), &quot;repair&quot; lub &quot;uninstall&quot;
+  --catalogue PLIK     inny wykaz symulatorów i folder &quot;plugins&quot; obok, jeśli tam jest
+  --check-catalogue    tylko to, co jest nie tak z wykazem
+  --help, --version
+
+NAZWY ograniczają raport lub plan do tych symulatorów.
+Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzić.
+</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Plan</name>
+    <message>
+        <source>No simulator is found, so nothing would change.</source>
+        <translation>Nie znaleziono żadnego symulatora, więc nic by się nie zmieniło.</translation>
+    </message>
+    <message>
+        <source>Folder made: %1</source>
+        <translation>Utworzony folder: %1</translation>
+    </message>
+    <message>
+        <source>Folder removed: %1</source>
+        <translation>Usunięty folder: %1</translation>
+    </message>
+    <message>
+        <source>Backup made: %1</source>
+        <translation>Utworzona kopia zapasowa: %1</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problem: %1</translation>
+    </message>
+    <message>
+        <source>%1: install in %2</source>
+        <translation>%1: instalacja w %2</translation>
+    </message>
+    <message>
+        <source>%1: repair in %2</source>
+        <translation>%1: naprawa w %2</translation>
+    </message>
+    <message>
+        <source>%1: uninstall in %2</source>
+        <translation>%1: odinstalowanie z %2</translation>
+    </message>
+    <message>
+        <source>File made: %1</source>
+        <translation>Utworzony plik: %1</translation>
+    </message>
+    <message>
+        <source>File replaced: %1</source>
+        <translation>Zastąpiony plik: %1</translation>
+    </message>
+    <message>
+        <source>File unchanged: %1</source>
+        <translation>Plik bez zmian: %1</translation>
+    </message>
+    <message>
+        <source>File removed: %1</source>
+        <translation>Usunięty plik: %1</translation>
+    </message>
+    <message>
+        <source>Configuration made: %1</source>
+        <translation>Utworzona konfiguracja: %1</translation>
+    </message>
+    <message>
+        <source>Configuration changed: %1</source>
+        <translation>Zmieniona konfiguracja: %1</translation>
+    </message>
+    <message>
+        <source>Configuration unchanged: %1</source>
+        <translation>Konfiguracja bez zmian: %1</translation>
+    </message>
+    <message>
+        <source>Record made: %1</source>
+        <translation>Utworzony rejestr: %1</translation>
+    </message>
+    <message>
+        <source>Record changed: %1</source>
+        <translation>Zmieniony rejestr: %1</translation>
+    </message>
+    <message>
+        <source>Record unchanged: %1</source>
+        <translation>Rejestr bez zmian: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Reasons</name>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>wiersz %1, kolumna %2: %3</translation>
+    </message>
+    <message>
+        <source>X-Plane&apos;s own list</source>
+        <translation>własna lista X-Plane</translation>
+    </message>
+    <message>
+        <source>FlightGear&apos;s launcher</source>
+        <translation>program uruchamiający FlightGear</translation>
+    </message>
+    <message>
+        <source>a well-known folder</source>
+        <translation>typowy folder</translation>
+    </message>
+    <message>
+        <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
+        <translation>UserCfg.opt w prefiksie Proton Steam</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>wybrany ręcznie</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s file</source>
+        <translation>plik z wykazu symulatorów</translation>
+    </message>
+    <message>
+        <source>the catalogue&apos;s folder</source>
+        <translation>folder z wykazu symulatorów</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>nie ma takiego folderu</translation>
+    </message>
+    <message>
+        <source>not an absolute path</source>
+        <translation>to nie jest ścieżka bezwzględna</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>to nie jest folder</translation>
+    </message>
+    <message>
+        <source>no permission to look inside</source>
+        <translation>brak uprawnień, by zajrzeć do środka</translation>
+    </message>
+    <message>
+        <source>no file &quot;version&quot; that begins with one</source>
+        <translation>nie ma pliku &quot;version&quot;, który zaczyna się od numeru wersji</translation>
+    </message>
+    <message>
+        <source>no defaults.xml or preferences.xml</source>
+        <translation>nie ma defaults.xml ani preferences.xml</translation>
+    </message>
+    <message>
+        <source>no InstalledPackagesPath in it</source>
+        <translation>nie ma w nim InstalledPackagesPath</translation>
+    </message>
+    <message>
+        <source>its InstalledPackagesPath is on no drive</source>
+        <translation>jego InstalledPackagesPath nie leży na żadnym dysku</translation>
+    </message>
+    <message>
+        <source>no Community, Official/Steam or Official/OneStore</source>
+        <translation>nie ma Community, Official/Steam ani Official/OneStore</translation>
+    </message>
+    <message>
+        <source>no Community, Official2024 or StreamedPackages</source>
+        <translation>nie ma Community, Official2024 ani StreamedPackages</translation>
+    </message>
+    <message>
+        <source>not a plain file</source>
+        <translation>to nie jest zwykły plik</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nie można odczytać</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>za duży</translation>
+    </message>
+    <message>
+        <source>too much to read altogether</source>
+        <translation>łącznie za dużo do odczytania</translation>
+    </message>
+    <message>
+        <source>no fsx.exe</source>
+        <translation>nie ma fsx.exe</translation>
+    </message>
+    <message>
+        <source>no SimObjects</source>
+        <translation>nie ma SimObjects</translation>
+    </message>
+    <message>
+        <source>no scenery</source>
+        <translation>nie ma scenery</translation>
+    </message>
+    <message>
+        <source>no aircraft</source>
+        <translation>nie ma aircraft</translation>
+    </message>
+    <message>
+        <source>no main.mcf or tm.log</source>
+        <translation>nie ma main.mcf ani tm.log</translation>
+    </message>
+    <message>
+        <source>it has no Proton prefix</source>
+        <translation>nie ma prefiksu Proton</translation>
+    </message>
+    <message>
+        <source>no list of libraries</source>
+        <translation>to nie jest lista bibliotek</translation>
+    </message>
+    <message>
+        <source>cut off, or not in Steam&apos;s text format</source>
+        <translation>ucięty lub nie w formacie tekstowym Steam</translation>
+    </message>
+    <message>
+        <source>uninstalled (StateFlags %1)</source>
+        <translation>odinstalowany (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>not fully installed (StateFlags %1)</source>
+        <translation>nie w pełni zainstalowany (StateFlags %1)</translation>
+    </message>
+    <message>
+        <source>no AppState in it</source>
+        <translation>nie ma w nim AppState</translation>
+    </message>
+    <message>
+        <source>it is about another game</source>
+        <translation>dotyczy innej gry</translation>
+    </message>
+    <message>
+        <source>installdir is not a plain name</source>
+        <translation>installdir nie jest zwykłą nazwą</translation>
+    </message>
+    <message>
+        <source>no Resources/plugins</source>
+        <translation>nie ma Resources/plugins</translation>
+    </message>
+    <message>
+        <source>no X-Plane executable</source>
+        <translation>nie ma programu X-Plane</translation>
+    </message>
+    <message>
+        <source>it is X-Plane %1</source>
+        <translation>to jest X-Plane %1</translation>
+    </message>
+    <message>
+        <source>it is taken as %1</source>
+        <translation>jest uznawany za %1</translation>
+    </message>
+    <message>
+        <source>Second byte-order mark.</source>
+        <translation>Drugi znacznik kolejności bajtów.</translation>
+    </message>
+    <message>
+        <source>Invalid entity name.</source>
+        <translation>Nieprawidłowa nazwa encji.</translation>
+    </message>
+    <message>
+        <source>Invalid processing instruction name.</source>
+        <translation>Nieprawidłowa nazwa instrukcji przetwarzania.</translation>
+    </message>
+    <message>
+        <source>Invalid XML declaration.</source>
+        <translation>Nieprawidłowa deklaracja XML.</translation>
+    </message>
+    <message>
+        <source>Invalid character reference.</source>
+        <translation>Nieprawidłowe odwołanie do znaku.</translation>
+    </message>
+    <message>
+        <source>Invalid element name.</source>
+        <translation>Nieprawidłowa nazwa elementu.</translation>
+    </message>
+    <message>
+        <source>Invalid attribute name.</source>
+        <translation>Nieprawidłowa nazwa atrybutu.</translation>
+    </message>
+    <message>
+        <source>Invalid character in the document type declaration.</source>
+        <translation>Nieprawidłowy znak w deklaracji typu dokumentu.</translation>
+    </message>
+    <message>
+        <source>Entities grow to too much text.</source>
+        <translation>Encje rozrastają się do zbyt długiego tekstu.</translation>
+    </message>
+    <message>
+        <source>No XML has this character.</source>
+        <translation>Żaden XML nie ma tego znaku.</translation>
+    </message>
+    <message>
+        <source>The root element is not where it should be.</source>
+        <translation>Element główny nie jest tam, gdzie powinien.</translation>
+    </message>
+    <message>
+        <source>The entry to change comes out of an entity.</source>
+        <translation>Wpis do zmiany pochodzi z encji.</translation>
+    </message>
+    <message>
+        <source>The element to remove comes out of an entity.</source>
+        <translation>Element do usunięcia pochodzi z encji.</translation>
+    </message>
+    <message>
+        <source>Undecodable bytes would be read otherwise.</source>
+        <translation>Bajty, których nie można zdekodować, byłyby odczytane inaczej.</translation>
+    </message>
+    <message>
+        <source>A value is no text that XML can hold.</source>
+        <translation>Wartość nie jest tekstem, który XML może zawierać.</translation>
+    </message>
+    <message>
+        <source>The element to change comes out of an entity.</source>
+        <translation>Element do zmiany pochodzi z encji.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold an end tag.</source>
+        <translation>Kodowanie pliku nie może zapisać znacznika końcowego.</translation>
+    </message>
+    <message>
+        <source>A name or a value is none that XML can hold.</source>
+        <translation>Nazwa lub wartość nie jest taka, jaką XML może zawierać.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding cannot hold a name.</source>
+        <translation>Kodowanie pliku nie może zapisać nazwy.</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>to nie jest zwykły plik</translation>
+    </message>
+    <message>
+        <source>too big</source>
+        <translation>za duży</translation>
+    </message>
+    <message>
+        <source>its name is not valid text</source>
+        <translation>jego nazwa nie jest poprawnym tekstem</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::RecordCheck</name>
+    <message>
+        <source>The installation record %1 cannot be read: %2.</source>
+        <translation>Nie można odczytać rejestru instalacji %1: %2.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
+    </message>
+    <message>
+        <source>The installation record %1 is damaged; what it said is lost.</source>
+        <translation>Rejestr instalacji %1 jest uszkodzony; jego treść przepadła.</translation>
+    </message>
+    <message>
+        <source>Install again; a new record is written then.</source>
+        <translation>Zainstaluj ponownie; powstanie wtedy nowy rejestr.</translation>
+    </message>
+    <message>
+        <source>The plugin is there, but not in the installation record.</source>
+        <translation>Wtyczka jest na miejscu, ale nie ma jej w rejestrze instalacji.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
+        <translation>Naciśnij przycisk &quot;Skanuj &amp; instaluj&quot; w oknie; wtedy zostanie zapisana.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, but files are missing there.</source>
+        <translation>Według rejestru instalacji wtyczka jest w %1, ale brakuje tam plików.</translation>
+    </message>
+    <message>
+        <source>Install it again.</source>
+        <translation>Zainstaluj ją ponownie.</translation>
+    </message>
+    <message>
+        <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
+        <translation>Według rejestru instalacji wtyczka jest w %1, a nie w %2. Uruchomienia bez nadzoru działają na pierwszym folderze, a okno na drugim.</translation>
+    </message>
+    <message>
+        <source>Choose the folder in the window, then install or uninstall there.</source>
+        <translation>Wybierz folder w oknie, a potem zainstaluj lub odinstaluj w nim.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
+        <translation>Rejestr instalacji zawiera %1 w %2, czego wykaz symulatorów już nie zna.</translation>
+    </message>
+    <message>
+        <source>Remove the plugin there by hand, if it is no longer wanted.</source>
+        <translation>Usuń stamtąd wtyczkę ręcznie, jeśli nie jest już potrzebna.</translation>
+    </message>
+    <message>
+        <source>The installation record has %1, and its folder %2 is gone.</source>
+        <translation>Rejestr instalacji zawiera %1, a folderu %2 już nie ma.</translation>
+    </message>
+    <message>
+        <source>Nothing has to be done.</source>
+        <translation>Nie trzeba nic robić.</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::Rehearsal</name>
+    <message>
+        <source>%1 is a folder, and stays.</source>
+        <translation>%1 to folder i zostaje.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
+        <translation>%1 nie można skopiować do %2: w tym miejscu jest folder albo dowiązanie, które prowadzi donikąd.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
+        <translation>%1 nie można skopiować: brakuje go wśród dołączonych plików. To, co jest w jego miejscu, i tak zostanie usunięte.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 zostaje bez zmian: %2</translation>
+    </message>
+    <message>
+        <source>The record %1 stays as it is: %2</source>
+        <translation>Rejestr %1 zostaje bez zmian: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::TextReport</name>
+    <message>
+        <source>The catalogue has no simulator.</source>
+        <translation>W wykazie nie ma żadnego symulatora.</translation>
+    </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problem: %1</translation>
+    </message>
+    <message>
+        <source>%1: not found on this computer</source>
+        <translation>%1: nie znaleziono na tym komputerze</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is installed</source>
+        <translation>%1: wtyczka jest zainstalowana</translation>
+    </message>
+    <message>
+        <source>%1: only a part of the plugin is installed</source>
+        <translation>%1: zainstalowana jest tylko część wtyczki</translation>
+    </message>
+    <message>
+        <source>%1: the plugin is not installed</source>
+        <translation>%1: wtyczka nie jest zainstalowana</translation>
+    </message>
+    <message>
+        <source>Folder: %1, known by: %2</source>
+        <translation>Folder: %1, wskazany przez: %2</translation>
+    </message>
+    <message>
+        <source>Gave %1 up to %2, which found the same folder</source>
+        <translation>Oddano %1 na rzecz %2, bo oba znalazły ten sam folder</translation>
+    </message>
+    <message>
+        <source>Turned down: %1 (%2): %3</source>
+        <translation>Odrzucono: %1 (%2): %3</translation>
+    </message>
+    <message>
+        <source>Files installed: %1</source>
+        <translation>Pliki zainstalowane: %1</translation>
+    </message>
+    <message>
+        <source>Files missing: %1</source>
+        <translation>Pliki brakujące: %1</translation>
+    </message>
+    <message>
+        <source>Files different: %1</source>
+        <translation>Pliki różniące się: %1</translation>
+    </message>
+    <message>
+        <source>Files unreadable: %1</source>
+        <translation>Pliki nieczytelne: %1</translation>
+    </message>
+    <message>
+        <source>Dead links in place of files: %1</source>
+        <translation>Martwe dowiązania w miejscu plików: %1</translation>
+    </message>
+    <message>
+        <source>Folders or devices in place of files: %1</source>
+        <translation>Foldery lub urządzenia w miejscu plików: %1</translation>
+    </message>
+    <message>
+        <source>Bytes that are not valid in this encoding, from line %1 on</source>
+        <translation>Bajty nieprawidłowe w tym kodowaniu, od wiersza %1</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Wiersz %1, kolumna %2: %3</translation>
+    </message>
+    <message>
+        <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
+        <translation>Wpis %1 innego programu wskazuje plik, którego nie ma: %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, missing</source>
+        <translation>Konfiguracja: %1, brak pliku</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, unreadable</source>
+        <translation>Konfiguracja: %1, plik nieczytelny</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, damaged, encoding %2</source>
+        <translation>Konfiguracja: %1, plik uszkodzony, kodowanie %2</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, well formed, encoding %2</source>
+        <translation>Konfiguracja: %1, plik poprawny, kodowanie %2</translation>
+    </message>
+    <message>
+        <source>No entry of ours</source>
+        <translation>Brak naszego wpisu</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, disabled, for %1</source>
+        <translation>Nasz wpis: jest jeden, wyłączony, dla %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there once, enabled, for %1</source>
+        <translation>Nasz wpis: jest jeden, włączony, dla %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, disabled, for %1</source>
+        <translation>Nasz wpis: liczba wystąpień %2, wyłączony, dla %1</translation>
+    </message>
+    <message>
+        <source>Our entry: there %2 times, enabled, for %1</source>
+        <translation>Nasz wpis: liczba wystąpień %2, włączony, dla %1</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
+        <translation>Kopia zapasowa z %1, rozmiar w bajtach: %2, poprawna; aby ją przywrócić:</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
+        <translation>Kopia zapasowa z %1, rozmiar w bajtach: %2, uszkodzona; aby ją przywrócić:</translation>
+    </message>
+    <message>
+        <source>Older backups: %1</source>
+        <translation>Starsze kopie zapasowe: %1</translation>
+    </message>
+    <message>
+        <source>Record: agrees</source>
+        <translation>Rejestr: zgodny</translation>
+    </message>
+    <message>
+        <source>Record: in %1</source>
+        <translation>Rejestr: w %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation>%1: %2 %3</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Rejestr</translation>
+    </message>
+    <message>
+        <source>Nothing is wrong.</source>
+        <translation>Wszystko jest w porządku.</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Co zrobić:</translation>
+    </message>
+</context>
+<context>
+    <name>Quillmont::Utility::Doctor::XmlDamage</name>
+    <message>
+        <source>It is not well-formed XML: %1</source>
+        <translation>To nie jest poprawnie sformułowany XML: %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Plik jest pusty.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but white space.</source>
+        <translation>Plik zawiera tylko białe znaki.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
+        <translation>Plik zawiera tylko bajty zerowe: komputer zatrzymał się podczas zapisu albo jego dysk się psuje.</translation>
+    </message>
+    <message>
+        <source>The file is a web page, not XML.</source>
+        <translation>Plik jest stroną internetową, a nie plikiem XML.</translation>
+    </message>
+    <message>
+        <source>The file does not begin with a tag, so it is not XML.</source>
+        <translation>Plik nie zaczyna się od znacznika, więc nie jest to XML.</translation>
+    </message>
+    <message>
+        <source>Zero bytes begin in line %1: the file was not written to its end.</source>
+        <translation>W wierszu %1 zaczynają się bajty zerowe: plik nie został zapisany do końca.</translation>
+    </message>
+    <message>
+        <source>There are two root elements: somebody appended a second document in line %1.</source>
+        <translation>Są dwa elementy główne: ktoś dopisał drugi dokument w wierszu %1.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
+        <translation>&lt;%1&gt; w wierszu %2 nigdy nie jest zamknięty: plik kończy się w wierszu %3.</translation>
+    </message>
+    <message>
+        <source>The file has no element.</source>
+        <translation>Plik nie ma żadnego elementu.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a tag, which begins in line %1.</source>
+        <translation>Plik kończy się w środku znacznika, który zaczyna się w wierszu %1.</translation>
+    </message>
+    <message>
+        <source>A tag in line %1 has no &quot;&gt;&quot;.</source>
+        <translation>Znacznik w wierszu %1 nie ma &quot;&gt;&quot;.</translation>
+    </message>
+    <message>
+        <source>&lt;?xml ...?&gt; in line %1 has to be the very beginning of the file.</source>
+        <translation>&lt;?xml ...?&gt; w wierszu %1 musi być na samym początku pliku.</translation>
+    </message>
+    <message>
+        <source>A second document begins in line %1: somebody appended it.</source>
+        <translation>W wierszu %1 zaczyna się drugi dokument: ktoś go dopisał.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
+        <translation>&lt;%1&gt; w wierszu %2 kończy się znacznikiem &lt;/%3&gt; w wierszu %4: wielkość liter ma znaczenie.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
+        <translation>&lt;/%1&gt; w wierszu %2 niczego nie zamyka: żaden &lt;%1&gt; nie jest tam otwarty.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
+        <translation>&lt;%1&gt; w wierszu %2 nigdy nie jest zamknięty; wcześniej pojawił się &lt;/%3&gt; w wierszu %4.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
+        <translation>&lt;/%1&gt; pojawia się drugi raz w wierszu %2: za dokumentem jest reszta starszego, dłuższego pliku.</translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
+        <translation>&lt;/%1&gt; w wierszu %2 zamyka element, który nigdy nie został otwarty: przepadł wiersz z &lt;%1 ...&gt;.</translation>
+    </message>
+    <message>
+        <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
+        <translation>&quot;&lt;&quot; w wierszu %1 nie zaczyna żadnego znacznika; jako tekst pisze się &quot;&amp;lt;&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 in line %2 is no tag; what is meant is %3.</source>
+        <translation>%1 w wierszu %2 nie jest znacznikiem; chodzi o %3.</translation>
+    </message>
+    <message>
+        <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
+        <translation>Za końcem dokumentu, w wierszu %1, jest dalszy tekst: reszta starszego, dłuższego pliku?</translation>
+    </message>
+    <message>
+        <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
+        <translation>&quot;&amp;&quot; w wierszu %1 trzeba zapisać jako &quot;&amp;amp;&quot;.</translation>
+    </message>
+    <message>
+        <source>Line %1 holds a control character, which XML does not allow.</source>
+        <translation>Wiersz %1 zawiera znak sterujący, na który XML nie pozwala.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::ViewControllers::ScanController</name>
     <message>
         <source>Quillmont Orbwell have successfully installed Orbwell plugin to %0.</source>

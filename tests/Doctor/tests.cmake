@@ -8,4 +8,4 @@ target_sources(tst_Report PRIVATE
 target_compile_definitions(tst_Report PRIVATE
   ORBWELL_BIN="$<TARGET_FILE_DIR:orbwell-doctor>"
   ORBWELL_SOURCE="${PROJECT_SOURCE_DIR}")
-target_link_libraries(tst_Report PRIVATE orbwell-catalogue-support)
+target_link_libraries(tst_Report PRIVATE orbwell-catalogue-support orbwell-documents)

@@ -1,4 +1,5 @@
 #include "Doctor/LineDiff.h"
+#include "Doctor/Page.h"
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/DoctorsPlan.h"
 #include "tests/EndToEnd/Simulators.h"
@@ -9,6 +10,7 @@
 
 using namespace Tests;
 using Quillmont::Utility::Doctor::lineDiff;
+using Quillmont::Utility::Doctor::Page;
 
 /// What orbwell-doctor predicts that the program would do. EndToEnd/RandomSequences compares it
 /// with each click.
@@ -24,6 +26,8 @@ private slots:
     void writesAPlanForAPerson();
     void showsOnlyChangedLines_data();
     void showsOnlyChangedLines();
+    void foldsToTheColumnsOfATerminal_data();
+    void foldsToTheColumnsOfATerminal();
 };
 
 void TestPlan::predictsWhatARepairDoes_data()
@@ -151,6 +155,34 @@ void TestPlan::showsOnlyChangedLines()
     QFETCH(const QString, before);
     QFETCH(const QString, after);
     QTEST(lineDiff("f"_s, before, after), "diff");
+}
+
+void TestPlan::foldsToTheColumnsOfATerminal_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("folded");
+    QTest::newRow("at blanks") << "abcdefg \"/a b/c-d\""_s
+                               << "  abcdefg\n    \"/a\n    b/c-d\"\n"_s;
+    QTest::newRow("just fits") << "abcde fgh"_s
+                               << "  abcde fgh\n"_s;
+    QTest::newRow("wide characters")
+        << u8"記録記録記録記録"_s << u8"  記録記録\n    記録記\n    録\n"_s;
+    QTest::newRow("no line begins with a full stop")
+        << u8"記録記録。録"_s << u8"  記録記\n    録。録\n"_s;
+    QTest::newRow("combining characters") << u8"abcde\u0301fghi"_s << u8"  abcde\u0301fghi\n"_s;
+    QTest::newRow("a long word") << "ab abcdefghijklmnop cd"_s
+                                 << "  ab\n    abcdefghijklmnop\n    cd\n"_s;
+}
+
+void TestPlan::foldsToTheColumnsOfATerminal()
+{
+    QFETCH(const QString, text);
+    Page page(11, false);
+    page.add(2, text);
+    QTEST(page.text(), "folded");
+    Page file(0, false);
+    file.add(2, text);
+    QCOMPARE(file.text(), "  "_s + text + u'\n');
 }
 
 QTEST_GUILESS_MAIN(TestPlan)

@@ -1,4 +1,5 @@
 #include "tests/Catalogue/CatalogueSchema.h"
+#include "tests/Documents/TranslatedTexts.h"
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/DoctorsPlan.h"
 #include "tests/EndToEnd/PilotsHome.h"
@@ -50,9 +51,12 @@ private slots:
     void refusesUnknownOptions_data();
     void refusesUnknownOptions();
     void writesNoColoursIntoAFile();
+    void speaksTheLanguageOfItsUser_data();
+    void speaksTheLanguageOfItsUser();
 
 private:
     CommandResult run(const QStringList &arguments);
+    QString allThatIsSaid(const QString &locale, const QStringList &format);
     QJsonObject report(const QString &simulator);
     void installEverywhere();
 
@@ -475,6 +479,65 @@ void TestReport::writesNoColoursIntoAFile()
     QVERIFY(Command("script"_s, arguments).run().output.contains("\x1b[1m"));
     QVERIFY(
         !Command("script"_s, arguments).with("NO_COLOR"_s, "1"_s).run().output.contains('\x1b'));
+}
+
+void TestReport::speaksTheLanguageOfItsUser_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : translatedLanguages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+// Less the numbers, of which one is the room on the disk.
+QString TestReport::allThatIsSaid(const QString &locale, const QStringList &format)
+{
+    QByteArray said;
+    for (const char *task : {"--", "--plan", "--check-catalogue", "--help", "--plan=none"}) {
+        const CommandResult result = Command(m_computer->program().folder() + "/orbwell-doctor"_s,
+                                             format + QStringList(QString::fromLatin1(task)))
+                                         .with("LC_ALL"_s, locale)
+                                         .with("LANGUAGE"_s, QString())
+                                         .run();
+        said += result.output + result.errors;
+    }
+    return QString::fromUtf8(said).remove(QRegularExpression("\\d"_s));
+}
+
+// What is said around the names and numbers that are filled in.
+static bool says(const QString &all, const QString &text)
+{
+    static const QRegularExpression filledIn("%\\d|\\d"_s);
+    const QStringList parts = text.split(filledIn);
+    return std::all_of(
+        parts.cbegin(), parts.cend(), [&all](const QString &part) { return all.contains(part); });
+}
+
+void TestReport::speaksTheLanguageOfItsUser()
+{
+    QFETCH(const QString, language);
+    installEverywhere();
+    m_computer->write(m_computer->configuration("Skylark"_s), "<R>");
+    m_computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "another");
+    m_computer->write("home/.x-plane/x-plane_install_12.txt"_s, "/gone\n");
+    m_computer->setCatalogue(
+        {m_computer->entry("Skylark"_s, 0),
+         m_computer->entry("Kestrel"_s, 1),
+         QJsonObject{{"name"_s, "X"_s}, {"simcode"_s, "XP12"_s}, {"odd"_s, 3}}});
+    run({"--version"_s}); // puts it in its place
+    const QString english = allThatIsSaid("C"_s, {});
+    const QString said = allThatIsSaid(language + ".UTF-8"_s, {});
+    int checked = 0;
+    for (const TranslatedText &text : translatedTexts(readFile(translationPath(language)))) {
+        if (!text.context.contains("::Doctor::"_s) || text.source.startsWith(u'%')
+            || !says(english, text.source))
+            continue;
+        ++checked;
+        QVERIFY2(says(said, text.translations.first()), qPrintable(text.source));
+    }
+    QVERIFY2(checked > 30, qPrintable(QString::number(checked)));
+    QCOMPARE(allThatIsSaid("POSIX"_s, {}), english);
+    QCOMPARE(allThatIsSaid(language + ".UTF-8"_s, {"--json"_s}),
+             allThatIsSaid("C"_s, {"--json"_s}));
 }
 
 QTEST_GUILESS_MAIN(TestReport)

@@ -80,11 +80,12 @@ bool updateTranslations(const QString &file)
     // Without the headers it would not know the namespaces of classes, and the program would not
     // find the translations.
     const CommandResult result
-        = Command(QStringLiteral(ORBWELL_LUPDATE),
-                  QStringList{"-I"_s, "."_s, "-locations"_s, "none"_s, "-no-obsolete"_s}
-                      + QStringList{"main.cpp"_s, "Controllers"_s, "Library"_s, "Models"_s}
-                      + QStringList{"SimDetect"_s, "ViewControllers"_s, "Views"_s, "Widgets"_s}
-                      + QStringList{"-ts"_s, file})
+        = Command(
+              QStringLiteral(ORBWELL_LUPDATE),
+              QStringList{"-I"_s, "."_s, "-locations"_s, "none"_s, "-no-obsolete"_s}
+                  + QStringList{"main.cpp"_s, "Controllers"_s, "Doctor"_s, "Library"_s, "Models"_s}
+                  + QStringList{"SimDetect"_s, "ViewControllers"_s, "Views"_s, "Widgets"_s}
+                  + QStringList{"-ts"_s, file})
               .in(QStringLiteral(ORBWELL_SOURCE))
               .run();
     [&result] {
