@@ -6,11 +6,15 @@
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/WorkPlan.h"
+#include "Views/ScannerView.h"
 #include "Widgets/ResultBox.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Utility::Controllers::launcherPathFile;
@@ -18,6 +22,7 @@ using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::showInformation;
+using Quillmont::Utility::Widgets::WorkProgress;
 
 namespace Quillmont::Utility::ViewControllers {
 
@@ -44,6 +49,19 @@ void writeLauncherPath()
     logAction() << (written ? "launcher path written:" : "launcher path not written:") << path;
 }
 
+// Those of @p mappings that the plugin is installed into now: what has been begun, and what lacks
+// it.
+QList<FlightSimulatorMapping *> withWork(const QList<FlightSimulatorMapping *> &mappings,
+                                         const QList<FlightSimulatorMapping *> &begun)
+{
+    QList<FlightSimulatorMapping *> some;
+    std::copy_if(mappings.cbegin(), mappings.cend(), std::back_inserter(some), [&](auto *mapping) {
+        const bool isFound = !mapping->path.isEmpty();
+        return begun.contains(mapping) || (isFound && !mapping->isAddonInstalled());
+    });
+    return some;
+}
+
 } // namespace
 
 void ScanController::autoInstall(QList<FlightSimulatorMapping *> mappings,
@@ -51,9 +69,13 @@ void ScanController::autoInstall(QList<FlightSimulatorMapping *> mappings,
                                  InstallationMode mode)
 {
     QString installedNames;
+    QList<FlightSimulatorMapping *> begun;
+    const WorkProgress progress(
+        WorkProgress::Installing, view, [&] { return stepsOf(withWork(mappings, begun)); });
     for (auto *mapping : qAsConst(mappings)) {
         const bool isInstalled = mapping->isAddonInstalled();
         if (!mapping->path.isEmpty() && !isInstalled) {
+            begun.append(mapping);
             uninstall(mapping, true, false);
             install(mapping, true, mode == ModeScanAndInstall);
             installedNames += u' ' + mapping->scan->name;

@@ -11,6 +11,8 @@
 #include "ViewControllers/Payload/InstallationLock.h"
 #include "ViewControllers/Payload/LaunchDocument.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
+#include "ViewControllers/WorkPlan.h"
+#include "Views/ScannerView.h"
 #include "Widgets/BusyPointer.h"
 #include "Widgets/ResultBox.h"
 
@@ -26,6 +28,7 @@ using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::BusyPointer;
 using Quillmont::Utility::Widgets::showInformation;
+using Quillmont::Utility::Widgets::WorkProgress;
 
 namespace Quillmont::Utility::ViewControllers {
 
@@ -71,6 +74,8 @@ bool ScanController::install(FlightSimulatorMapping *mapping, bool silent, bool 
         return false;
 
     const BusyPointer busy;
+    const WorkProgress progress(
+        WorkProgress::Installing, view, [mapping] { return stepsOf({mapping}); });
     logAction() << "install into" << mapping->scan->name << "in" << mapping->path;
     m_errorMessage.clear();
     copyPluginFiles(mapping);
@@ -92,6 +97,7 @@ void ScanController::copyPluginFiles(FlightSimulatorMapping *mapping)
     const QString payload = payloadFolder();
     const auto &files = mapping->scan->files;
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
+        WorkProgress::nextStep(WorkProgress::Installing);
         copyPluginFile(QDir::toNativeSeparators(payload + it.value()),
                        pluginFile(mapping, it.key()),
                        simulatorFolder(mapping));

@@ -4,6 +4,7 @@
 #include "Controllers/PathEncoding.h"
 #include "Controllers/UserFiles.h"
 #include "Library/Files/FileWriter.h"
+#include "Library/Files/Heartbeat.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Models/FlightSimConflict.h"
 #include "Models/FlightSimScan.h"
@@ -19,6 +20,7 @@
 #include <algorithm>
 
 using Quillmont::Library::Files::FileWriter;
+using Quillmont::Library::Files::Heartbeat;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Controllers::userDataRoot;
@@ -84,6 +86,7 @@ void ScanController::startScan(bool updateDefault, bool silent, InstallationMode
     QList<FlightSimulatorMapping *> result;
     const auto entries = catalogueEntries(this, content, simPaths);
     for (auto *entry : entries) {
+        Heartbeat::beat();
         if (entry->config)
             findPrefix(entry->config);
         result.append(mappingFor(entry));

@@ -10,6 +10,8 @@
 #include "ViewControllers/Payload/InstallationLock.h"
 #include "ViewControllers/Payload/Leftovers.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
+#include "ViewControllers/WorkPlan.h"
+#include "Views/ScannerView.h"
 #include "Widgets/BusyPointer.h"
 #include "Widgets/ResultBox.h"
 
@@ -23,6 +25,7 @@ using Quillmont::Utility::Controllers::PathEncoding;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::BusyPointer;
 using Quillmont::Utility::Widgets::showInformation;
+using Quillmont::Utility::Widgets::WorkProgress;
 
 namespace Quillmont::Utility::ViewControllers {
 
@@ -72,6 +75,8 @@ bool ScanController::uninstall(FlightSimulatorMapping *mapping, bool silent, boo
     // Unlike install(), this does not clear the error lines: those of a silent installation just
     // before are shown here.
     const BusyPointer busy;
+    const WorkProgress progress(
+        WorkProgress::Uninstalling, view, [mapping] { return stepsOf({mapping}); });
     logAction() << "uninstall from" << mapping->scan->name << "in" << mapping->path;
     removePluginFiles(mapping);
     saveInstallationInfo(mapping, true);
@@ -96,6 +101,7 @@ void ScanController::removePluginFiles(FlightSimulatorMapping *mapping)
     logSkippedEdits(mapping);
     const auto &files = mapping->scan->files;
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
+        WorkProgress::nextStep(WorkProgress::Uninstalling);
         removePluginFile(pluginFile(mapping, *it), mapping->scan->name);
         if (mapping->scan->type == 0)
             uninstallFromFlightSim(mapping);

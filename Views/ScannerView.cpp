@@ -17,6 +17,9 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include <functional>
+#include <memory>
+
 using Quillmont::Utility::Models::FlightSimulatorMapping;
 using Quillmont::Utility::Widgets::AccessibleButton;
 using Quillmont::Utility::Widgets::AccessibleList;
@@ -43,6 +46,20 @@ QAccessibleInterface *accessiblePart(const QString &, QObject *object)
     return nullptr;
 }
 
+// A screen reader presses a button even behind a dialog. Qt clicks it a moment later, when the
+// dialog may have gone.
+void whenPressed(QPushButton *button, const std::function<void()> &act)
+{
+    const auto wasInVain = std::make_shared<bool>(false);
+    QObject::connect(button, &QPushButton::pressed, button, [button, wasInVain] {
+        *wasInVain = isBehindDialog(button);
+    });
+    QObject::connect(button, &QPushButton::clicked, button, [button, wasInVain, act] {
+        if (!*wasInVain && !isBehindDialog(button))
+            act();
+    });
+}
+
 } // namespace
 
 ScannerView::ScannerView(QWidget *parent)
@@ -63,15 +80,8 @@ ScannerView::ScannerView(QWidget *parent)
         showRowAround(now);
     });
 
-    // A screen reader can press them even while the folder dialog of a row is open.
-    connect(m_close, &QPushButton::clicked, this, [this] {
-        if (!isBehindDialog(this))
-            QCoreApplication::exit(0);
-    });
-    connect(m_scanAndInstall, &QPushButton::clicked, this, [this] {
-        if (!isBehindDialog(this))
-            emit scanRequested();
-    });
+    whenPressed(m_close, [] { QCoreApplication::exit(0); });
+    whenPressed(m_scanAndInstall, [this] { emit scanRequested(); });
 
     m_list->setItemDelegate(new AddonListItemDelegate(m_list));
     setMinimumSize(640, 480);

@@ -2,6 +2,7 @@
 
 #include "Widgets/BusyPointer.h"
 #include "Widgets/FittingBox.h"
+#include "Widgets/WorkProgress.h"
 
 #include <QMessageBox>
 
@@ -9,6 +10,7 @@ namespace Quillmont::Utility::Widgets {
 
 void showInformation(const QString &title, const QString &text)
 {
+    const WorkProgressPause withoutProgress;
     const BusyPointerPause pause;
     const FittingBox fitting;
     QMessageBox::information(nullptr, title, text, QMessageBox::Ok);

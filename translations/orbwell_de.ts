@@ -1151,4 +1151,23 @@ Einzelheiten finden Sie in der folgenden Liste:<byte value="xd"/>
         <translation>Orbwell ist nicht installiert</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>Datei %0 von %1: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Orbwell wird installiert</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Orbwell wird deinstalliert</translation>
+    </message>
+</context>
 </TS>

@@ -1151,4 +1151,23 @@ Consulte los detalles en la siguiente lista:<byte value="xd"/>
         <translation>Orbwell no está instalado</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>Archivo %0 de %1: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Instalando Orbwell</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Desinstalando Orbwell</translation>
+    </message>
+</context>
 </TS>

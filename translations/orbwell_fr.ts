@@ -1151,4 +1151,23 @@ Pour plus de détails, consultez la liste ci-dessous&#xa0;:<byte value="xd"/>
         <translation>Orbwell n’est pas installé</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>Fichier %0 sur %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Installation d’Orbwell</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Désinstallation d’Orbwell</translation>
+    </message>
+</context>
 </TS>

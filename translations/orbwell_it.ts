@@ -1151,4 +1151,23 @@ Per i dettagli, vedere l’elenco seguente:<byte value="xd"/>
         <translation>Orbwell non è installato</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>File %0 di %1: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Installazione di Orbwell</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Disinstallazione di Orbwell</translation>
+    </message>
+</context>
 </TS>

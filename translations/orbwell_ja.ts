@@ -1150,4 +1150,23 @@ Please see the list below for details:<byte value="xd"/>
         <translation>Orbwell はインストールされていません</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>ファイル %0/%1: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Orbwell をインストール中</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Orbwell をアンインストール中</translation>
+    </message>
+</context>
 </TS>

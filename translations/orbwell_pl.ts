@@ -1152,4 +1152,23 @@ Szczegóły znajdują się na poniższej liście:<byte value="xd"/>
         <translation>Orbwell nie jest zainstalowany</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>Plik %0 z %1: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Instalowanie Orbwell</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Odinstalowywanie Orbwell</translation>
+    </message>
+</context>
 </TS>

@@ -1151,4 +1151,23 @@ Veja os detalhes na lista abaixo:<byte value="xd"/>
         <translation>O Orbwell não está instalado</translation>
     </message>
 </context>
+<context>
+    <name>Quillmont::Utility::Widgets::ProgressWindow</name>
+    <message>
+        <source>%0: %1</source>
+        <translation>%0: %1</translation>
+    </message>
+    <message>
+        <source>File %0 of %1: %2</source>
+        <translation>Arquivo %0 de %1: %2</translation>
+    </message>
+    <message>
+        <source>Installing Orbwell</source>
+        <translation>Instalando o Orbwell</translation>
+    </message>
+    <message>
+        <source>Uninstalling Orbwell</source>
+        <translation>Desinstalando o Orbwell</translation>
+    </message>
+</context>
 </TS>

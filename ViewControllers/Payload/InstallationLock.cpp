@@ -2,6 +2,7 @@
 
 #include "Controllers/ActionLog.h"
 #include "Controllers/UserFiles.h"
+#include "Library/Files/Heartbeat.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -13,6 +14,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+using Quillmont::Library::Files::Heartbeat;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::recordFolder;
 
@@ -42,6 +44,7 @@ bool isFreedInTime(int folder)
             logAction() << "not waiting any longer for another copy of the program";
             return false;
         }
+        Heartbeat::beat();
         QThread::msleep(5);
     }
     return true;

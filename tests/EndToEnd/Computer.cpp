@@ -125,6 +125,8 @@ int Computer::run(const QStringList &arguments)
 
 void Computer::answer(const SeenWindow &window)
 {
+    if (window.className == QLatin1String("Quillmont::Utility::Widgets::ProgressWindow"))
+        return;
     if (window.className != QLatin1String("QMessageBox")) {
         m_showedTheWindow = true;
         m_program.press(QStringLiteral("Close"));

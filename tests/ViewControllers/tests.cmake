@@ -16,7 +16,8 @@ foreach(class
     ScanSession
     SteamPrefix
     TextFiles
-    Uninstallation)
+    Uninstallation
+    WorkProgress)
   orbwell_add_test(ViewControllers/${class})
   target_link_libraries(tst_${class} PRIVATE orbwell-workshop)
 endforeach()
