@@ -1,4 +1,5 @@
 #include "tests/EndToEnd/Simulators.h"
+#include "tests/support/Display.h"
 #include "tests/support/Files.h"
 #include "tests/support/Program.h"
 #include "tests/support/Sandbox.h"
@@ -47,6 +48,7 @@ private slots:
     void waitsBeforeItChangesAFile();
     void waitsForEachWorkingCopy();
     void waitsOnlyOnceForAHangingCopy();
+    void takesNoInputOfAUserWhileItWaits();
 
 private:
     QString simulator(const QString &name) const { return m_sandbox->path(name); }
@@ -56,6 +58,7 @@ private:
         return simulator(QStringLiteral("Wren/Gauges/QuillmontOrbwell_64.dll"));
     }
 
+    void fill();
     void holdTheLock();
     void waitFor(const char *line, int times = 1);
 
@@ -85,6 +88,13 @@ void TestTakingTurns::init()
 {
     m_sandbox.reset(new Sandbox);
     m_program.reset(new Program(*m_sandbox));
+    fill();
+    QDir().mkpath(simulator(QStringLiteral("Wren")));
+    holdTheLock();
+}
+
+void TestTakingTurns::fill()
+{
     QJsonArray entries;
     for (const char *name : {"Wren", "Crane"}) {
         const QString text = QLatin1String(name);
@@ -92,8 +102,6 @@ void TestTakingTurns::init()
         entries.append(with(launcherEntry(text, simulator(text), configuration), "solved.xml"));
     }
     place(*m_program, entries);
-    QDir().mkpath(simulator(QStringLiteral("Wren")));
-    holdTheLock();
 }
 
 void TestTakingTurns::cleanup()
@@ -217,6 +225,35 @@ void TestTakingTurns::waitsOnlyOnceForAHangingCopy()
     QCOMPARE(m_program->exitStatus(), 2);
     QVERIFY2(patience.elapsed() < 19000, qPrintable(QString::number(patience.elapsed())));
     QCOMPARE(m_program->standardError().count(waiting), 1);
+    QCOMPARE(contentAt(module()), QByteArray("module"));
+}
+
+void TestTakingTurns::takesNoInputOfAUserWhileItWaits()
+{
+    const Display display;
+    if (!display.isUp())
+        QSKIP("needs Xvfb and xdotool");
+    m_program.reset(new Program(*m_sandbox, &display, QStringLiteral("visible")));
+    fill();
+    m_program->start();
+    const SeenWindow window = m_program->window();
+    const auto click = [&](const SeenControl &button) {
+        QVERIFY(display.click(button.rectangle.center()));
+    };
+    const SeenControl action = m_program->row(QStringLiteral("Wren")).action;
+    click(action);
+    m_program->waitFor(
+        [this] { return m_program->windows().value(0).text.contains(QLatin1String("Wren\n")); },
+        "the progress window");
+    for (const SeenControl &button : window.buttons)
+        click(button);
+    click(action);
+    m_other.reset();
+    m_program->box();
+    m_program->press(QStringLiteral("OK"));
+    QCOMPARE(m_program->window().number, window.number);
+    QVERIFY(m_program->isRunning());
+    QCOMPARE(m_program->standardError().count("install "), 1);
     QCOMPARE(contentAt(module()), QByteArray("module"));
 }
 

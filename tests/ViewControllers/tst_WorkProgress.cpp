@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QSignalSpy>
@@ -124,6 +125,7 @@ private slots:
     void leavesNothingToStopOrCloseIt();
     void dropsAllInput_data();
     void dropsAllInput();
+    void dropsInputOfTheLastMoment();
     void isHeardByAScreenReader();
 
 private:
@@ -334,6 +336,24 @@ void TestWorkProgress::dropsAllInput()
     QCOMPARE(install.count() + uninstall.count() + scan.count(), 1);
     QCOMPARE(m_shop->boxes(), boxes);
     QVERIFY(view->isVisible());
+}
+
+// What is pressed behind the last look at what has been pressed.
+void TestWorkProgress::dropsInputOfTheLastMoment()
+{
+    WorkProgress::pace = {0, 1000000};
+    const auto *view = controller().view;
+    QSignalSpy scan(view, &ScannerView::scanRequested);
+    m_shop->log.atEachDebugLine([&](const QString &line) {
+        if (!line.startsWith("mapping path"_s))
+            return;
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+            QCoreApplication::postEvent(buttonWith(view, "Scan & Install"_s),
+                                        new QKeyEvent(type, Qt::Key_Space, Qt::NoModifier));
+    });
+    controller().install(mapping("A"), false, true);
+    QCoreApplication::processEvents();
+    QCOMPARE(scan.count(), 0);
 }
 
 void TestWorkProgress::isHeardByAScreenReader()
