@@ -27,16 +27,16 @@ RecordCheck::RecordCheck()
     }
     QFile file(recordFile());
     QString problem;
-    QString text;
+    QByteArray bytes;
     if (ViewControllers::openText(&file, QIODevice::ReadOnly, &problem))
-        text = ViewControllers::wholeText(&file, &problem);
-    const bool isDamaged
-        = !text.isEmpty() && !QJsonDocument::fromJson(text.toLocal8Bit()).isArray();
+        bytes = ViewControllers::wholeContent(&file, &problem);
+    const bool isDamaged = !ViewControllers::recordDocument(bytes).isArray()
+        && !ViewControllers::textOf(bytes).isEmpty();
     m_state = !problem.isEmpty() ? QStringLiteral("unreadable")
         : isDamaged              ? QStringLiteral("damaged")
                                  : QStringLiteral("fine");
     judge(problem);
-    const QJsonArray records = ViewControllers::recordsIn(text);
+    const QJsonArray records = ViewControllers::recordsIn(bytes);
     for (const auto &record : records) {
         const QString name = record.toObject().value(QLatin1String("name")).toString();
         if (!m_records.contains(name))

@@ -168,18 +168,18 @@ void Rehearsal::record(bool uninstalled)
 {
     const QString path = recordFile();
     const auto *planned = m_disk.file(path);
-    QString text = planned ? QString::fromUtf8(planned->bytes) : QString();
+    QByteArray bytes = planned ? planned->bytes : QByteArray();
     QString problem;
     QFile file(path);
     if (!planned && ViewControllers::openText(&file, QIODevice::ReadOnly, &problem))
-        text = ViewControllers::wholeText(&file, &problem);
+        bytes = ViewControllers::wholeContent(&file, &problem);
     if (!problem.isEmpty() && !FileHelper::isMissing(path)) {
         m_failures.append(
             tr("The record %1 stays as it is: %2").arg(quoted(path), Reasons::translated(problem)));
         return;
     }
     m_disk.makeFolderOf(path);
-    m_disk.write(path, ViewControllers::updatedRecord(text, m_mapping, uninstalled).toUtf8());
+    m_disk.write(path, ViewControllers::updatedRecord(bytes, m_mapping, uninstalled));
 }
 
 QJsonObject Rehearsal::plan() const

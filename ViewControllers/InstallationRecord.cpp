@@ -44,8 +44,9 @@ void ScanController::createMappingFile()
 
 void ScanController::getUserSimulatorMapping()
 {
-    const QString text = readFile(recordFileToRead());
-    const QJsonArray records = recordsIn(text);
+    QByteArray bytes;
+    readContent(recordFileToRead(), &bytes);
+    const QJsonArray records = recordsIn(bytes);
     for (const QJsonValue &element : records) {
         const QJsonObject record = element.toObject();
         if (!isComplete(record))
@@ -68,13 +69,13 @@ void ScanController::saveInstallationInfo(FlightSimulatorMapping *mapping, bool 
     const QString path = recordFile();
     qDebug().noquote().nospace() << "mapping path: " << path;
 
-    QString text;
-    if (!readText(path, &text) && !FileHelper::isMissing(path)) {
+    QByteArray bytes;
+    if (!readContent(path, &bytes) && !FileHelper::isMissing(path)) {
         reportUnwritten(path, QStringLiteral("its records would be lost"));
         return;
     }
     logAction() << "record:" << mapping->scan->name << (uninstalled ? "is out" : "is in");
-    saveFile(path, updatedRecord(text, mapping, uninstalled));
+    saveContent(path, updatedRecord(bytes, mapping, uninstalled));
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -129,7 +129,8 @@ private:
 
     Models::FlightSimulatorMapping *mappingFor(Models::FlightSimScan *scan);
 
-    bool readText(const QString &path, QString *text);
+    bool readContent(const QString &path, QByteArray *bytes);
+    void saveContent(const QString &path, const QByteArray &bytes);
     void reportUnwritten(const QString &path, const QString &problem);
 
     void copyPluginFiles(Models::FlightSimulatorMapping *mapping);

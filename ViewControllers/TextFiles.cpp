@@ -14,22 +14,21 @@ namespace Quillmont::Utility::ViewControllers {
 
 QString ScanController::readFile(const QString &path)
 {
-    QString text;
-    readText(path, &text);
-    return text;
+    QByteArray bytes;
+    readContent(path, &bytes);
+    return textOf(bytes);
 }
 
-bool ScanController::readText(const QString &path, QString *text)
+bool ScanController::readContent(const QString &path, QByteArray *bytes)
 {
     const QString native = QDir::toNativeSeparators(path);
     QFile file(native);
     QString problem;
     if (openText(&file, QIODevice::ReadOnly, &problem))
-        *text = wholeText(&file, &problem);
+        *bytes = wholeContent(&file, &problem);
     if (problem.isEmpty())
         return true;
 
-    text->clear();
     logAction() << "not read:" << native << problem;
     // The message says "empty" even if the file could not be opened: support looks for that word.
     m_errorMessage += tr("The file '%0' is empty. Quillmont Orbwell installer was not able to "
@@ -40,13 +39,18 @@ bool ScanController::readText(const QString &path, QString *text)
 
 void ScanController::saveFile(const QString &path, const QString &content)
 {
+    // As a text stream encodes it.
+    saveContent(path, QTextCodec::codecForLocale()->fromUnicode(content));
+}
+
+void ScanController::saveContent(const QString &path, const QByteArray &bytes)
+{
     const QString native = QDir::toNativeSeparators(path);
     makeFolderOf(native);
 
     QFile file(native);
     QString problem;
-    // Encoded as QTextStream does it.
-    if (rewriteText(&file, QTextCodec::codecForLocale()->fromUnicode(content), &problem))
+    if (rewriteText(&file, bytes, &problem))
         logAction() << "written:" << native;
     else
         reportUnwritten(native, problem);

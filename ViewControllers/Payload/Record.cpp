@@ -2,6 +2,7 @@
 
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
+#include "ViewControllers/Payload/TextFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,9 +40,20 @@ void removeLastRecord(QJsonArray &records, const QString &name)
 
 } // namespace
 
-QJsonArray recordsIn(const QString &text)
+QJsonDocument recordDocument(const QByteArray &bytes)
 {
-    return QJsonDocument::fromJson(text.toLocal8Bit()).array();
+    QJsonParseError error = {};
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    // What the parser accepts is UTF-8 throughout. Other encodings and invalid bytes go through text,
+    // which takes as long again as parsing.
+    return error.error == QJsonParseError::NoError
+        ? document
+        : QJsonDocument::fromJson(textOf(bytes).toLocal8Bit());
+}
+
+QJsonArray recordsIn(const QByteArray &bytes)
+{
+    return recordDocument(bytes).array();
 }
 
 bool isComplete(const QJsonObject &record)
@@ -54,13 +66,14 @@ bool isComplete(const QJsonObject &record)
     return complete;
 }
 
-QString updatedRecord(const QString &text, const FlightSimulatorMapping *mapping, bool uninstalled)
+QByteArray
+updatedRecord(const QByteArray &bytes, const FlightSimulatorMapping *mapping, bool uninstalled)
 {
-    QJsonArray records = recordsIn(text);
+    QJsonArray records = recordsIn(bytes);
     removeLastRecord(records, mapping->scan->name);
     if (!uninstalled)
         records.append(recordOf(mapping));
-    return QString::fromUtf8(QJsonDocument(records).toJson(QJsonDocument::Indented));
+    return QJsonDocument(records).toJson(QJsonDocument::Indented);
 }
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -1,9 +1,10 @@
 #ifndef VIEWCONTROLLERS_PAYLOAD_RECORD_H
 #define VIEWCONTROLLERS_PAYLOAD_RECORD_H
 
-#include <QString>
+#include <QByteArray>
 
 class QJsonArray;
+class QJsonDocument;
 class QJsonObject;
 
 namespace Quillmont::Utility::Models {
@@ -12,16 +13,20 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// The records in the record's text; none if it is damaged.
-QJsonArray recordsIn(const QString &text);
+/// The JSON document in the record's @p bytes; null if it is damaged.
+QJsonDocument recordDocument(const QByteArray &bytes);
+
+/// The records in the record's @p bytes; none if it is damaged.
+QJsonArray recordsIn(const QByteArray &bytes);
 
 /// Whether every file of a record exists.
 bool isComplete(const QJsonObject &record);
 
-/// The record's text with the last record of @p mapping replaced by a new one, or removed if
-/// @p uninstalled.
-QString
-updatedRecord(const QString &text, const Models::FlightSimulatorMapping *mapping, bool uninstalled);
+/// The record's @p bytes with the last record of @p mapping replaced by a new one, or removed if
+/// @p uninstalled. They are UTF-8 in any locale.
+QByteArray updatedRecord(const QByteArray &bytes,
+                         const Models::FlightSimulatorMapping *mapping,
+                         bool uninstalled);
 
 } // namespace Quillmont::Utility::ViewControllers
 

@@ -5,7 +5,7 @@
 #include "Library/Helpers/FileHelper.h"
 
 #include <QFile>
-#include <QTextStream>
+#include <QTextCodec>
 
 using Quillmont::Library::Files::FileWriter;
 using Quillmont::Library::Helpers::FileHelper;
@@ -28,16 +28,17 @@ bool openText(QFile *file, QIODevice::OpenMode mode, QString *problem)
     return false;
 }
 
-QString wholeText(QFile *file, QString *problem)
+QByteArray wholeContent(QFile *file, QString *problem)
 {
-    if (file->size() > maxSize) {
-        *problem = QStringLiteral("too big");
-        return {};
-    }
-    QString text = QTextStream(file).readAll();
-    if (file->error() != QFileDevice::NoError)
-        *problem = file->errorString();
-    return text;
+    return FileHelper::readAll(file, maxSize, problem);
+}
+
+QString textOf(const QByteArray &bytes)
+{
+    // With a state, an incomplete character at the end is dropped, as QTextStream does it.
+    QTextCodec::ConverterState state;
+    const auto *codec = QTextCodec::codecForUtfText(bytes, QTextCodec::codecForLocale());
+    return codec->toUnicode(bytes.constData(), bytes.size(), &state);
 }
 
 bool rewriteText(QFile *file, const QByteArray &bytes, QString *problem)

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QTest>
+#include <QTextCodec>
 
 using namespace Tests;
 
@@ -212,6 +213,18 @@ private slots:
         row("a truncated record", R"([{"name": "Sim B"})", "+", "[$NEW]");
         row("an object", R"({"name": "Sim A"})", "+", "[$NEW]");
         row("binary data", QByteArray("\x00\xff\xfe[", 4), "+", "[$NEW]");
+        const QByteArray other = R"([{"name": "Other"}])";
+        const QByteArray both = R"([{"name": "Other"}, $NEW])";
+        row("UTF-8 with a byte-order mark", "\xef\xbb\xbf" + other, "+", both);
+        row("UTF-16",
+            QTextCodec::codecForName("UTF-16")->fromUnicode(QString::fromUtf8(other)),
+            "+",
+            both);
+        row("a byte that is no text",
+            QByteArray(other).replace('O', '\xff'),
+            "+",
+            QByteArray(both).replace("O", "\ufffd"));
+        row("half a character at the end", other + "\xe2\x82", "+", both);
     }
 
     void followsInstallationsAndRemovals()
