@@ -14,7 +14,18 @@ namespace Quillmont::Library::Text {
 class OffsetMap
 {
 public:
+    /// The begin of a character in the bytes and in the text.
+    struct Offset
+    {
+        int byte;
+        int character;
+    };
+
+    /// Of @p bytes behind a byte-order mark.
     OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding);
+
+    /// Of @p bytes from offset @p begin on.
+    OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding, int begin);
 
     const QString &text() const { return m_text; }
 
@@ -22,14 +33,14 @@ public:
     /// one of them is not encoded as itself.
     QVector<int> byteOffsets(const QVector<int> &characters) const;
 
-private:
-    struct Offset
-    {
-        int byte;
-        int character;
-    };
+    /// Where to begin if @p character and those behind it are to be decoded again: near it unless
+    /// the encoding has shift states.
+    Offset startBefore(int character) const;
 
-    void decode();
+private:
+    class Search;
+
+    void decode(int begin);
     int pieceEnd(int begin, int size) const;
 
     QByteArray m_bytes;

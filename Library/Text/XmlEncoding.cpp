@@ -5,6 +5,9 @@
 #include <QVector>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <array>
+
 namespace Quillmont::Library::Text {
 
 namespace {
@@ -85,6 +88,16 @@ std::unique_ptr<QTextDecoder> XmlEncoding::makeDecoder() const
 QString XmlEncoding::name() const
 {
     return QString::fromLatin1(m_codec->name());
+}
+
+bool XmlEncoding::isStateless() const
+{
+    static const std::array<const char *, 6> known{
+        "UTF-8", "UTF-16", "UTF-32", "ISO-8859-", "windows-125", "Shift_JIS"};
+    const QByteArray name = m_codec->name();
+    return std::any_of(known.cbegin(), known.cend(), [&name](const char *begin) {
+        return name.startsWith(begin);
+    });
 }
 
 QByteArray XmlEncoding::encoded(const QString &text) const

@@ -32,6 +32,10 @@ public:
     /// The size in bytes of an ASCII character.
     int unit() const { return m_unit; }
 
+    /// Whether a decoder can begin behind any ASCII character, since nothing in front of that
+    /// counts. False of encodings with shift states, and of unusual ones.
+    bool isStateless() const;
+
     /// @p text in this encoding, without a byte-order mark.
     QByteArray encoded(const QString &text) const;
 

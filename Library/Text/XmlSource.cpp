@@ -10,26 +10,38 @@ XmlSource::XmlSource(const QByteArray &bytes)
 
 QByteArray XmlSource::spliced(const QVector<Splice> &splices) const
 {
+    QVector<Splice> writable = splices;
+    for (Splice &splice : writable)
+        splice.text = m_encoding.writable(splice.text);
     const QVector<int> offsets = byteOffsets(splices);
     if (offsets.isEmpty())
         return {};
+    const QByteArray bytes = joined(writable, offsets);
+    return reads(bytes, writable) ? bytes : QByteArray();
+}
 
+// The bytes with @p splices, whose texts are writable, between @p offsets.
+QByteArray XmlSource::joined(const QVector<Splice> &splices, const QVector<int> &offsets) const
+{
     QByteArray bytes;
     int byte = 0;
     for (int i = 0; i < splices.size(); ++i) {
-        bytes += m_bytes.mid(byte, offsets.at(2 * i) - byte);
-        bytes += m_encoding.encoded(m_encoding.writable(splices.at(i).text));
+        const QByteArray piece = m_encoding.encoded(splices.at(i).text);
+        if (i == 0)
+            bytes.reserve(m_bytes.size() + piece.size());
+        bytes.append(m_bytes.constData() + byte, offsets.at(2 * i) - byte).append(piece);
         byte = offsets.at(2 * i + 1);
     }
-    bytes += m_bytes.mid(byte);
-    return reads(bytes, splices) ? bytes : QByteArray();
+    return bytes.append(m_bytes.constData() + byte, m_bytes.size() - byte);
 }
 
-// Invalid bytes may join into a character, or a shift state may extend into the new text.
+// Invalid bytes may join into a character, or a shift state may extend into the new text. What is
+// before the first splice is read as it was.
 bool XmlSource::reads(const QByteArray &bytes, const QVector<Splice> &splices) const
 {
-    const OffsetMap after(bytes, m_encoding);
-    int here = 0;
+    const OffsetMap::Offset start = m_offsets.startBefore(splices.constFirst().begin);
+    const OffsetMap after(bytes, m_encoding, start.byte);
+    int here = start.character;
     int there = 0;
     const auto goesOn = [&after, &there](const QStringRef &expected) {
         const bool isSame = after.text().midRef(there, expected.size()) == expected;
@@ -37,8 +49,7 @@ bool XmlSource::reads(const QByteArray &bytes, const QVector<Splice> &splices) c
         return isSame;
     };
     for (const Splice &splice : splices) {
-        const QString piece = m_encoding.writable(splice.text);
-        if (!goesOn(text().midRef(here, splice.begin - here)) || !goesOn(QStringRef(&piece)))
+        if (!goesOn(text().midRef(here, splice.begin - here)) || !goesOn(QStringRef(&splice.text)))
             return false;
         here = splice.end;
     }

@@ -42,6 +42,7 @@ public:
     [[nodiscard]] QByteArray spliced(const QVector<Splice> &splices) const;
 
 private:
+    QByteArray joined(const QVector<Splice> &splices, const QVector<int> &offsets) const;
     bool reads(const QByteArray &bytes, const QVector<Splice> &splices) const;
     QVector<int> byteOffsets(const QVector<Splice> &splices) const;
 

@@ -1,5 +1,7 @@
 #include "Library/Xml/XmlCharacters.h"
 
+#include "Library/Text/hasAny.h"
+
 #include <QRegularExpression>
 #include <QString>
 
@@ -43,6 +45,21 @@ bool mayComeFirst(QChar character)
     return code != 0x00b7 && (code < 0x0300 || code > 0x036f) && (code < 0x203f || code > 0x2040);
 }
 
+// Whether no document may hold that UTF-16 code unit. Without a branch, for hasAny().
+bool isForbidden(ushort unit)
+{
+    const bool isSpace = (unit == u'\t') | (unit == u'\n') | (unit == u'\r');
+    return (unit > 0xfffd) | ((unit < 0x20) & !isSpace);
+}
+
+bool hasReferenceByNumber(const QString &text)
+{
+    int place = text.indexOf(u'&');
+    while (place >= 0 && text.midRef(place + 1, 1) != QLatin1String("#"))
+        place = text.indexOf(u'&', place + 1);
+    return place >= 0;
+}
+
 } // namespace
 
 bool XmlCharacters::isName(const QStringRef &name)
@@ -74,7 +91,7 @@ int XmlCharacters::indexOfMalformedReference(const QString &text)
     static const QRegularExpression inMarkup(
         QStringLiteral("<!--.*?-->|<!\\[CDATA\\[.*?\\]\\]>|<\\?.*?\\?>|") + malformed.pattern(),
         QRegularExpression::DotMatchesEverythingOption);
-    if (!text.contains(malformed))
+    if (!hasReferenceByNumber(text) || !text.contains(malformed))
         return -1;
     auto it = inMarkup.globalMatch(text);
     while (it.hasNext()) {
@@ -87,12 +104,12 @@ int XmlCharacters::indexOfMalformedReference(const QString &text)
 
 int XmlCharacters::indexOfForbidden(const QString &text)
 {
+    if (!Text::hasAny(text, isForbidden))
+        return -1;
     const auto *const found = std::find_if(text.cbegin(), text.cend(), [](QChar character) {
-        return character > QChar(0xfffd)
-            || (character < QChar(0x20) && character != u'\t' && character != u'\r'
-                && character != u'\n');
+        return isForbidden(character.unicode());
     });
-    return found == text.cend() ? -1 : static_cast<int>(found - text.cbegin());
+    return static_cast<int>(found - text.cbegin());
 }
 
 } // namespace Quillmont::Library::Xml

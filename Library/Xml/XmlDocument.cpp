@@ -9,12 +9,11 @@ namespace Quillmont::Library::Xml {
 
 namespace {
 
-template <typename Element>
-Element opened(const XmlReader &reader)
+XmlElement opened(const XmlReader &reader)
 {
-    Element element;
+    XmlElement element;
     element.name = reader.qualifiedName().toString();
-    element.contentBegin = static_cast<int>(reader.characterOffset());
+    element.contentBegin = reader.here();
     return element;
 }
 
@@ -53,18 +52,25 @@ private:
     {
         ++m_depth;
         if (m_depth == 1)
-            root = opened<XmlElement>(m_reader);
+            root = opened(m_reader);
         else if (m_depth == 2)
-            m_child = opened<RootChild>(m_reader);
+            beginChild();
         else if (m_depth == 3)
-            m_grandchild = opened<XmlElement>(m_reader);
+            m_grandchild = opened(m_reader);
         else
             m_grandchild.isPlain = false;
     }
 
+    // The room for its children is used again.
+    void beginChild()
+    {
+        m_child.children.clear();
+        static_cast<XmlElement &>(m_child) = opened(m_reader);
+    }
+
     void end()
     {
-        const auto place = static_cast<int>(m_reader.characterOffset());
+        const int place = m_reader.here();
         if (m_depth == 3) {
             m_grandchild.end = place;
             m_child.children.append(std::move(m_grandchild));
@@ -95,11 +101,13 @@ XmlDocument::XmlDocument(const QString &text, const Filter &isWanted)
 {
     Builder builder(text, isWanted);
     m_problem = builder.problem();
-    const int forbidden = XmlCharacters::indexOfForbidden(text);
-    if (m_problem.isEmpty() && forbidden >= 0)
-        m_problem = problemAt(forbidden, QStringLiteral("No XML has this character."));
     if (!m_problem.isEmpty())
         return;
+    const int forbidden = XmlCharacters::indexOfForbidden(text);
+    if (forbidden >= 0) {
+        m_problem = problemAt(forbidden, QStringLiteral("No XML has this character."));
+        return;
+    }
     m_root = std::move(builder.root);
     m_wanted = std::move(builder.wanted);
     m_outlines = std::move(builder.outlines);

@@ -15,11 +15,11 @@ constexpr int maxEntitySize = 4096;
 constexpr int maxGrowth = 16 * 1024 * 1024;
 
 // QXmlStreamReader accepts repeated parts of an XML declaration.
-bool hasDoubledDeclaration(const QString &text)
+bool hasDoubledPart(const QStringRef &declaration)
 {
     static const QRegularExpression doubled(
         QStringLiteral(R"(^<\?xml\s[^>]*\b(version|encoding|standalone)\s*=[^>]*\b\1\s*=)"));
-    return doubled.match(text).hasMatch();
+    return doubled.match(declaration).hasMatch();
 }
 
 } // namespace
@@ -30,9 +30,10 @@ XmlReader::XmlReader(const QString &text)
     , m_malformedReference(XmlCharacters::indexOfMalformedReference(text))
 {
     setNamespaceProcessing(false);
-    // Until the declarations are read, any reference may be one to an entity.
-    setEntityExpansionLimit(
-        std::min(maxEntitySize, maxGrowth / (text.count(u'&') + text.count(u'%') + 1)));
+    // Until the declarations are read, any reference may be one to an entity; most files have none.
+    if (text.contains(QStringLiteral("<!DOCTYPE")))
+        setEntityExpansionLimit(
+            std::min(maxEntitySize, maxGrowth / (text.count(u'&') + text.count(u'%') + 1)));
     // The reader would skip it, and all its offsets would be one too small.
     if (text.startsWith(QChar(QChar::ByteOrderMark)))
         raiseError(QStringLiteral("Second byte-order mark."));
@@ -49,11 +50,16 @@ QXmlStreamReader::TokenType XmlReader::next()
         raiseError(QStringLiteral("Invalid processing instruction name."));
     else if (type == DTD)
         checkDeclarations();
-    else if (type == StartDocument && hasDoubledDeclaration(m_text))
+    else if (type == StartDocument && hasDoubledPart(m_text.leftRef(here())))
         raiseError(QStringLiteral("Invalid XML declaration."));
-    if (m_malformedReference >= 0 && characterOffset() > m_malformedReference)
+    if (m_malformedReference >= 0 && here() > m_malformedReference)
         raiseError(QStringLiteral("Invalid character reference."));
     return type;
+}
+
+int XmlReader::here() const
+{
+    return static_cast<int>(characterOffset());
 }
 
 QString XmlReader::problem() const
@@ -87,7 +93,7 @@ void XmlReader::checkDeclarations()
         raiseError(QStringLiteral("Invalid character in the document type declaration."));
     setEntityExpansionLimit(maxEntitySize);
     EntityGrowth growth(entityDeclarations(), maxGrowth);
-    if (growth.of(m_text.midRef(static_cast<int>(characterOffset()))) > maxGrowth)
+    if (growth.of(m_text.midRef(here())) > maxGrowth)
         raiseError(QStringLiteral("Entities grow to too much text."));
 }
 

@@ -14,7 +14,6 @@ public:
     // Nothing that advances the reader: that would bypass the checks.
     using QXmlStreamReader::atEnd;
     using QXmlStreamReader::attributes;
-    using QXmlStreamReader::characterOffset;
     using QXmlStreamReader::isEndElement;
     using QXmlStreamReader::qualifiedName;
     using QXmlStreamReader::text;
@@ -24,6 +23,9 @@ public:
 
     /// Advances to the next token, and returns its type.
     TokenType next();
+
+    /// How many characters it has read.
+    int here() const;
 
     /// What is wrong with the document so far, and where; empty if nothing is.
     QString problem() const;

@@ -44,8 +44,8 @@ QJsonDocument recordDocument(const QByteArray &bytes)
 {
     QJsonParseError error = {};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
-    // What the parser accepts is UTF-8 throughout. Other encodings and invalid bytes go through text,
-    // which takes as long again as parsing.
+    // What the parser accepts is UTF-8 throughout. Other encodings and invalid bytes go through
+    // text, which takes as long again as parsing.
     return error.error == QJsonParseError::NoError
         ? document
         : QJsonDocument::fromJson(textOf(bytes).toLocal8Bit());
