@@ -20,7 +20,7 @@ public:
 
     /// The same for writing, which reads the whole file first: also false if that would drop
     /// another program's value, or if another program holds the lock. Waits at most ten seconds for
-    /// the lock, once per process.
+    /// the lock, and after one time-out never again.
     bool canWrite();
 
     /// Sets the text encoding of @p settings to that of the file; call it after canRead() or

@@ -7,9 +7,9 @@ namespace Quillmont::Utility::ViewControllers {
 
 /// Per-user lock between processes on the simulators' files, held for this object's lifetime: two
 /// copies of the program that change a configuration file at once could lose one's entry, and one
-/// could not copy a plugin file that the other has just created. Waits up to ten seconds, once per
-/// process, then goes on without the lock, so that one hanging copy does not block all others. The
-/// system releases it when the process ends. Not recursive.
+/// could not copy a plugin file that the other has just created. Waits up to ten seconds, then goes
+/// on without the lock; after one time-out the process never waits again, since the other copy may
+/// hang. The system releases it when the process ends. Not recursive.
 class InstallationLock
 {
 public:
