@@ -1,8 +1,5 @@
 #include "Doctor/LineDiff.h"
 
-#include <QString>
-#include <QVector>
-
 #include <algorithm>
 #include <vector>
 
@@ -10,20 +7,7 @@ namespace Quillmont::Utility::Doctor {
 
 namespace {
 
-using Lines = QVector<QString>;
-
-// The lines with their line ends; the last one may have none.
-Lines linesOf(const QString &text)
-{
-    Lines lines;
-    for (int begin = 0; begin < text.size();) {
-        const int end = text.indexOf(u'\n', begin);
-        const int next = end < 0 ? text.size() : end + 1;
-        lines.append(text.mid(begin, next - begin));
-        begin = next;
-    }
-    return lines;
-}
+using Lines = QStringList;
 
 // A range of lines in each text: the new one replaces the old one.
 struct Hunk
@@ -121,23 +105,73 @@ QString marked(QChar mark, const Lines &lines, int begin, int end)
     return text;
 }
 
+QString head(const QString &before, const QString &after)
+{
+    return QStringLiteral("--- %1\n+++ %2\n").arg(before, after);
+}
+
+// Of a piece in which @p before begins at the line @p oldBegin, and @p after at @p newBegin.
+QString hunkTexts(const Lines &before, int oldBegin, const Lines &after, int newBegin)
+{
+    QString text;
+    const auto hunks = hunksIn(before, after, differingPiece(before, after));
+    for (const Hunk hunk : hunks)
+        text += QStringLiteral("@@ -%1 +%2 @@\n")
+                    .arg(range(oldBegin + hunk.oldBegin, oldBegin + hunk.oldEnd),
+                         range(newBegin + hunk.newBegin, newBegin + hunk.newEnd))
+            + marked(u'-', before, hunk.oldBegin, hunk.oldEnd)
+            + marked(u'+', after, hunk.newBegin, hunk.newEnd);
+    return text;
+}
+
+// Those that touch each other are one.
+QVector<LineEdit> merged(const QVector<LineEdit> &edits)
+{
+    QVector<LineEdit> all;
+    for (const LineEdit &edit : edits) {
+        if (!all.isEmpty() && all.constLast().end == edit.begin) {
+            all.last().end = edit.end;
+            all.last().lines += edit.lines;
+        } else {
+            all.append(edit);
+        }
+    }
+    return all;
+}
+
 } // namespace
+
+QStringList linesOf(const QString &text)
+{
+    QStringList lines;
+    for (int begin = 0; begin < text.size();) {
+        const int end = text.indexOf(u'\n', begin);
+        const int next = end < 0 ? text.size() : end + 1;
+        lines.append(text.mid(begin, next - begin));
+        begin = next;
+    }
+    return lines;
+}
 
 QString lineDiff(const QString &path, const QString &before, const QString &after)
 {
     if (before == after && !before.isNull())
         return {};
-    const Lines oldLines = linesOf(before);
-    const Lines newLines = linesOf(after);
-    QString text = QStringLiteral("--- %1\n+++ %2\n")
-                       .arg(before.isNull() ? QStringLiteral("/dev/null") : path, path);
-    const auto hunks = hunksIn(oldLines, newLines, differingPiece(oldLines, newLines));
-    for (const Hunk hunk : hunks)
-        text += QStringLiteral("@@ -%1 +%2 @@\n")
-                    .arg(range(hunk.oldBegin, hunk.oldEnd), range(hunk.newBegin, hunk.newEnd))
-            + marked(u'-', oldLines, hunk.oldBegin, hunk.oldEnd)
-            + marked(u'+', newLines, hunk.newBegin, hunk.newEnd);
-    return text;
+    return head(before.isNull() ? QStringLiteral("/dev/null") : path, path)
+        + hunkTexts(linesOf(before), 0, linesOf(after), 0);
+}
+
+QString lineDiff(const QString &path, const QStringList &before, const QVector<LineEdit> &edits)
+{
+    QString hunks;
+    int shift = 0;
+    const QVector<LineEdit> all = merged(edits);
+    for (const LineEdit &edit : all) {
+        const QStringList old = before.mid(edit.begin, edit.end - edit.begin);
+        hunks += hunkTexts(old, edit.begin, edit.lines, edit.begin + shift);
+        shift += edit.lines.size() - old.size();
+    }
+    return hunks.isEmpty() ? QString() : head(path, path) + hunks;
 }
 
 } // namespace Quillmont::Utility::Doctor

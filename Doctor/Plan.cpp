@@ -2,6 +2,7 @@
 
 #include "Doctor/Page.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/RecordText.h"
 #include "Doctor/Rehearsal.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -15,6 +16,7 @@ QJsonObject Plan::of(const QString &what,
                      const QString &payload,
                      const QStringList &names)
 {
+    const RecordText record;
     QJsonArray plans;
     bool isFine = true;
     for (const Simulator &simulator : simulators) {
@@ -22,7 +24,7 @@ QJsonObject Plan::of(const QString &what,
         const bool isAskedFor = names.isEmpty() || names.contains(mapping->scan->name);
         if (mapping->path.isEmpty() || !isAskedFor)
             continue;
-        Rehearsal rehearsal(mapping, payload);
+        Rehearsal rehearsal(mapping, payload, record);
         if (what != QLatin1String("install"))
             rehearsal.uninstall();
         if (what != QLatin1String("uninstall"))

@@ -5,6 +5,7 @@
 #include "Doctor/LineDiff.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/Reasons.h"
+#include "Doctor/RecordText.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
 #include "Library/Text/XmlSource.h"
@@ -14,9 +15,7 @@
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/Payload/LaunchDocument.h"
 #include "ViewControllers/Payload/Leftovers.h"
-#include "ViewControllers/Payload/Record.h"
 #include "ViewControllers/Payload/SimulatorFiles.h"
-#include "ViewControllers/Payload/TextFile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -31,10 +30,14 @@ using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::Doctor {
 
-Rehearsal::Rehearsal(const FlightSimulatorMapping *mapping, const QString &payload)
+Rehearsal::Rehearsal(const FlightSimulatorMapping *mapping,
+                     const QString &payload,
+                     const RecordText &record)
     : m_mapping(mapping)
     , m_entry(mapping->scan)
     , m_payload(payload)
+    , m_recordText(record)
+    , m_record(record)
 { }
 
 void Rehearsal::install()
@@ -45,7 +48,7 @@ void Rehearsal::install()
         if (m_entry->type == 0)
             addEntry();
     }
-    record(false);
+    updateRecord(false);
 }
 
 void Rehearsal::uninstall()
@@ -61,7 +64,7 @@ void Rehearsal::uninstall()
         if (m_entry->type == 0)
             removeEntry();
     }
-    record(true);
+    updateRecord(true);
 }
 
 void Rehearsal::copyFile(const QString &source, const QString &target)
@@ -164,22 +167,15 @@ void Rehearsal::backUp(const QString &path, const QString &suffix)
         m_backups.append(native + suffix.arg(time));
 }
 
-void Rehearsal::record(bool uninstalled)
+void Rehearsal::updateRecord(bool uninstalled)
 {
-    const QString path = recordFile();
-    const auto *planned = m_disk.file(path);
-    QByteArray bytes = planned ? planned->bytes : QByteArray();
-    QString problem;
-    QFile file(path);
-    if (!planned && ViewControllers::openText(&file, QIODevice::ReadOnly, &problem))
-        bytes = ViewControllers::wholeContent(&file, &problem);
-    if (!problem.isEmpty() && !FileHelper::isMissing(path)) {
-        m_failures.append(
-            tr("The record %1 stays as it is: %2").arg(quoted(path), Reasons::translated(problem)));
+    if (m_recordText.problem().isEmpty()) {
+        m_disk.makeFolderOf(recordFile());
+        m_record.update(m_mapping, uninstalled);
         return;
     }
-    m_disk.makeFolderOf(path);
-    m_disk.write(path, ViewControllers::updatedRecord(bytes, m_mapping, uninstalled));
+    m_failures.append(tr("The record %1 stays as it is: %2")
+                          .arg(quoted(recordFile()), Reasons::translated(m_recordText.problem())));
 }
 
 QJsonObject Rehearsal::plan() const
@@ -191,10 +187,10 @@ QJsonObject Rehearsal::plan() const
         {QStringLiteral("foldersRemoved"), QJsonArray::fromStringList(m_disk.goneFolders())},
         {QStringLiteral("files"), files()},
         {QStringLiteral("backups"), QJsonArray::fromStringList(m_backups)},
-        {QStringLiteral("record"), textChange(recordFile(), false)},
+        {QStringLiteral("record"), m_record.json()},
         {QStringLiteral("failures"), QJsonArray::fromStringList(m_failures)}};
     if (!m_configuration.isEmpty())
-        object.insert(QStringLiteral("configuration"), textChange(m_configuration, true));
+        object.insert(QStringLiteral("configuration"), configurationChange());
     return object;
 }
 
@@ -220,8 +216,9 @@ QJsonArray Rehearsal::files() const
     return files;
 }
 
-QJsonObject Rehearsal::textChange(const QString &path, bool isXml) const
+QJsonObject Rehearsal::configurationChange() const
 {
+    const QString &path = m_configuration;
     const auto *planned = m_disk.file(path);
     QJsonObject object{{QStringLiteral("path"), path},
                        {QStringLiteral("change"), QStringLiteral("unchanged")}};
@@ -230,12 +227,9 @@ QJsonObject Rehearsal::textChange(const QString &path, bool isXml) const
     const bool isMissing = FileHelper::isMissing(path);
     QString ignored;
     const QByteArray bytes
-        = isMissing ? QByteArray() : FileHelper::read(path, 96LL << 20, &ignored);
-    const auto decoded = [isXml](const QByteArray &text) {
-        return isXml ? XmlSource(text).text() : QString::fromUtf8(text);
-    };
-    const QString before = isMissing ? QString() : QLatin1String("") + decoded(bytes);
-    const QString diff = lineDiff(path, before, decoded(planned->bytes));
+        = isMissing ? QByteArray() : FileHelper::read(path, Library::Xml::maxFileSize, &ignored);
+    const QString before = isMissing ? QString() : QLatin1String("") + XmlSource(bytes).text();
+    const QString diff = lineDiff(path, before, XmlSource(planned->bytes).text());
     if (isMissing)
         object.insert(QStringLiteral("change"), QStringLiteral("made"));
     else if (!diff.isEmpty())

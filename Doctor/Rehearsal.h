@@ -2,6 +2,7 @@
 #define DOCTOR_REHEARSAL_H
 
 #include "Doctor/PlannedDisk.h"
+#include "Doctor/RecordChange.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -23,8 +24,11 @@ class Rehearsal
     Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Rehearsal)
 
 public:
-    /// For the simulator of @p mapping, which must have a folder, with the files in @p payload.
-    Rehearsal(const Models::FlightSimulatorMapping *mapping, const QString &payload);
+    /// For the simulator of @p mapping, which has a folder, with the files in @p payload. All that
+    /// is handed in has to outlive this.
+    Rehearsal(const Models::FlightSimulatorMapping *mapping,
+              const QString &payload,
+              const RecordText &record);
 
     void install();
     void uninstall();
@@ -40,14 +44,16 @@ private:
     void removeEntry();
     void change(const QString &path, const Edit &edit);
     void backUp(const QString &path, const QString &suffix);
-    void record(bool uninstalled);
+    void updateRecord(bool uninstalled);
     QByteArray bytesOf(const QString &path, QString *problem) const;
     QJsonArray files() const;
-    QJsonObject textChange(const QString &path, bool isXml) const;
+    QJsonObject configurationChange() const;
 
     const Models::FlightSimulatorMapping *const m_mapping;
     const Models::FlightSimScan *const m_entry;
     const QString m_payload;
+    const RecordText &m_recordText;
+    RecordChange m_record;
     PlannedDisk m_disk;
     QString m_configuration;
     QStringList m_backups;

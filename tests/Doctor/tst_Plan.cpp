@@ -6,6 +6,8 @@
 #include "tests/support/Files.h"
 #include "tests/support/Literals.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QtTest>
 
 using namespace Tests;
@@ -21,6 +23,8 @@ class TestPlan : public QObject
 private slots:
     void predictsWhatARepairDoes_data();
     void predictsWhatARepairDoes();
+    void predictsTheRecordThatARunWrites_data();
+    void predictsTheRecordThatARunWrites();
     void reportsWhatCannotBeDone_data();
     void reportsWhatCannotBeDone();
     void writesAPlanForAPerson();
@@ -72,6 +76,46 @@ void TestPlan::predictsWhatARepairDoes()
     const Disk planned = plannedDisk(computer, doctorsPlan(computer, "repair"_s, name));
     computer.run({"--REPAIR"_s});
     QCOMPARE(difference(withoutBackups(computer.disk()), withoutBackups(planned)), QString());
+}
+
+void TestPlan::predictsTheRecordThatARunWrites_data()
+{
+    QTest::addColumn<QString>("birds");
+    QTest::addColumn<QString>("what");
+    for (const char *birds :
+         {"", "S", "K", "SK", "KS", "KSK", "SKS", "KSSK", "SSS", "5SK", "KS5"}) {
+        for (const char *what : {"install", "repair", "uninstall"})
+            QTest::addRow("%s, %s", birds, what)
+                << QString::fromLatin1(birds) << QString::fromLatin1(what);
+    }
+}
+
+// Each by its first letter; a number is no record.
+void TestPlan::predictsTheRecordThatARunWrites()
+{
+    QFETCH(const QString, birds);
+    QFETCH(const QString, what);
+    Computer computer;
+    const QJsonObject skylark = computer.entry("Skylark"_s, 1);
+    const QJsonObject kestrel = computer.entry("Kestrel"_s, 1);
+    QJsonArray records;
+    for (const QChar bird : birds)
+        records.append(bird.isDigit()     ? QJsonValue(bird.digitValue())
+                           : bird == u'S' ? computer.recordFor(skylark)
+                                          : computer.recordFor(kestrel));
+    computer.setCatalogue({skylark});
+    computer.addSimulator("Skylark"_s);
+    computer.setRecords(records);
+    const Disk planned = plannedDisk(computer, doctorsPlan(computer, what, "Skylark"_s));
+    QString left = birds;
+    for (int i = what == "repair"_s ? 2 : 1; i > 0 && left.contains(u'S'); --i) {
+        records.removeAt(left.lastIndexOf(u'S'));
+        left.remove(left.lastIndexOf(u'S'), 1);
+    }
+    if (what != "uninstall"_s)
+        records.append(computer.recordFor(skylark));
+    QCOMPARE(planned.value(computer.data("Quillmont/Orbwell/.mapping"_s)),
+             QJsonDocument(records).toJson());
 }
 
 void TestPlan::reportsWhatCannotBeDone_data()

@@ -1,0 +1,48 @@
+#ifndef DOCTOR_RECORDCHANGE_H
+#define DOCTOR_RECORDCHANGE_H
+
+#include "Doctor/LineDiff.h"
+
+#include <QByteArray>
+#include <QStringList>
+#include <QVector>
+
+class QJsonObject;
+
+namespace Quillmont::Utility::Models {
+class FlightSimulatorMapping;
+} // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::Doctor {
+
+class RecordText;
+
+/// What an installation or removal makes of the installation record. It takes no longer for a
+/// record of many simulators than for a short one, if the program has written it.
+class RecordChange
+{
+public:
+    /// @p record has to outlive this.
+    explicit RecordChange(const RecordText &record);
+
+    /// As saving the record after an installation or removal does.
+    void update(const Models::FlightSimulatorMapping *mapping, bool uninstalled);
+
+    /// The record's "path", its "change" and the "diff".
+    QJsonObject json() const;
+
+private:
+    QString diff(bool isMissing) const;
+    QVector<LineEdit> edits() const;
+    LineEdit commaEdit() const;
+
+    const RecordText &m_record;
+    bool m_isUpdated = false;
+    QByteArray m_bytes; ///< The new record, unless the old one is formatted as ours.
+    QVector<int> m_removed;
+    QStringList m_added; ///< The lines of a record at the end.
+};
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif
