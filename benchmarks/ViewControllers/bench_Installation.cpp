@@ -1,4 +1,5 @@
 #include "ViewControllers/ScanController.h"
+#include "Views/ScannerView.h"
 #include "benchmarks/ViewControllers/Simulators.h"
 #include "benchmarks/support/Quiet.h"
 #include "benchmarks/support/Table.h"
@@ -22,10 +23,12 @@ bool allExist(const QStringList &files)
         files.begin(), files.end(), [](const QString &file) { return QFile::exists(file); });
 }
 
-Cost costOfInstallation(const Simulators &simulators)
+// Only behind a visible window work shows its progress.
+Cost costOfInstallation(const Simulators &simulators, bool isVisible = true)
 {
     simulators.reset();
-    const Cost cost = Simulators::costOfController([](ScanController *controller) {
+    const Cost cost = Simulators::costOfController([isVisible](ScanController *controller) {
+        controller->view->setVisible(isVisible);
         controller->startScan(false, true, ScanController::ModeNone);
     });
     if (!allExist(simulators.targets()))
@@ -77,6 +80,18 @@ void install(const QString &what, Simulators::Payload payload, int pairs, double
     }
 }
 
+void showProgress(const QString &what, Simulators::Payload payload, int pairs)
+{
+    const Simulators simulators(8, payload);
+    const Comparison result = compare(
+        pairs,
+        [&] { return costOfInstallation(simulators); },
+        [&] { return costOfInstallation(simulators, false); });
+    constexpr double goal = 1.01;
+    Table::compare(what, &Cost::wall, result, goal);
+    Table::compare(what, &Cost::cpu, result, goal);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -92,9 +107,15 @@ int main(int argc, char *argv[])
             {tiny ? 3 : 50, tiny ? fourKilobytes : fourMegabytes, 1},
             pairs,
             1.05);
+    showProgress(QStringLiteral("progress, 50 files of 4 MB"),
+                 {tiny ? 3 : 50, tiny ? fourKilobytes : fourMegabytes, 1},
+                 pairs);
     const int many = tiny ? 3 : 2000;
     install(QStringLiteral("install, 2,000 files of 4 KB"), {many, fourKilobytes, 1}, pairs, 1.15);
     install(QStringLiteral("install, 2,000 files, XML"), {many, fourKilobytes, 0}, pairs, 1.5);
+    Table::explain(QStringLiteral(
+        "progress: that installation behind a visible window, which shows its progress after a "
+        "second. Floor: the same without a window."));
     Table::explain(QStringLiteral(
         "install: a silent scan that installs into 8 simulators. Floor: QFile::copy of the same "
         "files in a loop. XML: type 0, with a configuration file of 20 KB that is backed up and "
