@@ -163,11 +163,17 @@ void TestXmlEncodings::keepsAllOtherBytes_data()
     row("bytes beyond EUC-JP",
         "<?xml version='1.0' encoding='EUC-JP'?><R><A>\x8f\xff\xa1</A>\xfe\n</R>");
     row("shift states",
-        "<?xml version='1.0' encoding='ISO-2022-JP'?><R><A>\x1b$B<>\x1b(B</A>\n</R>");
+        "<?xml version='1.0' encoding='ISO-2022-JP'?><R><A>\x1b$B" + QByteArray("<>").repeated(400)
+            + "\x1b(B</A>\n</R>");
     row("UTF-16 with halves of pairs",
         "\xff\xfe"
             + encoded("UTF-16LE",
                       QStringLiteral("<R>") + QChar(0xd83d) + QStringLiteral("<A/>") + QChar(0xdc00)
+                          + QStringLiteral("</R>")));
+    row("UTF-16 with pairs across every five hundred bytes",
+        "\xff\xfe"
+            + encoded("UTF-16LE",
+                      QStringLiteral("<R>") + QStringLiteral("\U0001f600").repeated(300)
                           + QStringLiteral("</R>")));
     row("UTF-16LE without a mark",
         encoded("UTF-16LE",
@@ -239,10 +245,12 @@ void TestXmlEncodings::keepsThePromisesForEveryCodec_data()
 void TestXmlEncodings::keepsThePromisesForEveryCodec()
 {
     QFETCH(const QByteArray, name);
+    // Longer than the pieces in which it is decoded.
+    const QString foreign = QStringLiteral("\u00fc\u0431\u65e5\uc870 ~\\").repeated(300);
     const QString text
         = QStringLiteral(
               "<?xml version='1.0' encoding='%1'?>\n<R>\n  <A>x</A>\n  <B>%2</B>\n</R>\n")
-              .arg(QString::fromLatin1(name), QStringLiteral("\u00fc\u0431\u65e5\uc870 ~\\"));
+              .arg(QString::fromLatin1(name), foreign);
 
     Tests::RoundTrip roundTrip(path());
     QCOMPARE(roundTrip.broken(QTextCodec::codecForName(name)->fromUnicode(text)), QString());

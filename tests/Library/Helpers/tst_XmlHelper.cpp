@@ -351,7 +351,7 @@ void TestXmlHelper::refusesMalformedCharacterReferences_data()
     };
     row("<R>&#65; &#x4a; &#x4A;</R>", true);
     row("<R><!-- &#; --><![CDATA[&#x;]]><?p &#65 ;?></R>", true);
-    row("<R>&#x0x41;</R>", false);
+    row("<R>&amp;&#x0x41;</R>", false);
     row("<R>&#65\xc2\xa0;</R>", false);
     row("<R>&#x\xc2\x85\x34\x31;</R>", false);
     row("<R a='&#65\xe2\x80\xa8;'/>", false);
