@@ -34,13 +34,15 @@ Page Page::forStandardOutput()
 
 void Page::add(int indent, const QString &line, Style style)
 {
+    if (m_width == 0)
+        return addExactly(indent, line, style);
     const QString blanks(indent, u' ');
     QString folded;
     int columns = indent;
     const QStringList pieces = breakable(printable(line));
     for (const QString &piece : pieces) {
         const bool fits = columns + columnsOf(withoutBlanks(piece)) <= m_width;
-        if (m_width > 0 && !folded.isEmpty() && !fits) {
+        if (!folded.isEmpty() && !fits) {
             m_text += blanks + coloured(withoutBlanks(folded), style) + u'\n';
             folded = QStringLiteral("  ");
             columns = indent + 2;

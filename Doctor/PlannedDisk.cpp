@@ -58,6 +58,7 @@ void PlannedDisk::makeFolderOf(const QString &path)
 void PlannedDisk::remove(const QString &path)
 {
     m_files.insert(key(path), {File::Removed, {}, {}});
+    forget(key(path));
 }
 
 void PlannedDisk::copy(const QString &source, const QString &target)
@@ -73,7 +74,7 @@ void PlannedDisk::write(const QString &path, const QByteArray &bytes)
 void PlannedDisk::removeFolderIfEmpty(const QString &path)
 {
     const QString folder = key(QFileInfo(path).dir().path());
-    if (m_goneFolders.contains(folder) || !ViewControllers::isSurelyEmpty(QDir(folder), gone()))
+    if (m_goneFolders.contains(folder) || !isSurelyEmpty(folder))
         return;
     constexpr auto everything
         = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
@@ -86,16 +87,36 @@ void PlannedDisk::removeFolderIfEmpty(const QString &path)
             remove(inside);
     }
     m_goneFolders.insert(folder);
+    forget(folder);
 }
 
-QSet<QString> PlannedDisk::gone() const
+bool PlannedDisk::isGone(const QString &path) const
 {
-    QSet<QString> paths = m_goneFolders;
-    for (auto it = m_files.cbegin(); it != m_files.cend(); ++it) {
-        if (it->kind == File::Removed)
-            paths.insert(it.key());
+    const File *planned = file(path);
+    return m_goneFolders.contains(path) || (planned && planned->kind == File::Removed);
+}
+
+void PlannedDisk::forget(const QString &path)
+{
+    const auto it = m_seen.find(QFileInfo(path).path());
+    if (it != m_seen.end())
+        it->remove(path);
+}
+
+// Looked at once for all files in it.
+bool PlannedDisk::isSurelyEmpty(const QString &folder)
+{
+    if (!m_seen.contains(folder)) {
+        QSet<QString> &seen = m_seen[folder];
+        const auto see = [this, &seen](const QString &path) {
+            if (!isGone(path))
+                seen.insert(path);
+            return true;
+        };
+        if (!ViewControllers::lookInto(QDir(folder), see))
+            seen.insert(folder); // so that it is never empty
     }
-    return paths;
+    return m_seen.value(folder).isEmpty();
 }
 
 QStringList PlannedDisk::newFolders() const

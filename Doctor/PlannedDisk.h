@@ -2,6 +2,7 @@
 #define DOCTOR_PLANNEDDISK_H
 
 #include <QByteArray>
+#include <QHash>
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -52,11 +53,14 @@ public:
 private:
     static QString key(const QString &path);
     bool isFolder(const QString &path) const;
-    QSet<QString> gone() const;
+    bool isGone(const QString &path) const;
+    void forget(const QString &path);
+    bool isSurelyEmpty(const QString &folder);
 
     QMap<QString, File> m_files;
     QSet<QString> m_newFolders;
     QSet<QString> m_goneFolders;
+    QHash<QString, QSet<QString>> m_seen; ///< What the user still sees in a folder.
 };
 
 } // namespace Quillmont::Utility::Doctor

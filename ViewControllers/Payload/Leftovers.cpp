@@ -46,15 +46,22 @@ QString numberedFolder(int number)
 } // namespace
 
 // Not QDir: it takes an unreadable folder for an empty one, and omits names that cannot be decoded.
-bool isSurelyEmpty(const QDir &folder, const QSet<QString> &gone)
+bool lookInto(const QDir &folder, const std::function<bool(const QString &)> &see)
 {
     std::error_code failure;
     std::filesystem::directory_iterator it(QFile::encodeName(folder.path()).toStdString(), failure);
     for (; !failure && it != std::filesystem::directory_iterator(); it.increment(failure)) {
-        if (isVisible(*it) && !gone.contains(QFile::decodeName(it->path().c_str())))
-            return false;
+        if (isVisible(*it) && !see(QFile::decodeName(it->path().c_str())))
+            return true;
     }
     return !failure;
+}
+
+bool isSurelyEmpty(const QDir &folder)
+{
+    bool isEmpty = true;
+    const bool isListed = lookInto(folder, [&isEmpty](const QString &) { return isEmpty = false; });
+    return isListed && isEmpty;
 }
 
 QString extraFile(const FlightSimulatorMapping *mapping, const FileOperation *operation)

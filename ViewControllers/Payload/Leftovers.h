@@ -1,8 +1,9 @@
 #ifndef VIEWCONTROLLERS_PAYLOAD_LEFTOVERS_H
 #define VIEWCONTROLLERS_PAYLOAD_LEFTOVERS_H
 
-#include <QSet>
 #include <QString>
+
+#include <functional>
 
 class QDir;
 
@@ -13,9 +14,13 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// True only if @p folder certainly has nothing visible in it; hidden files and the paths in
-/// @p gone do not count. A folder that cannot be listed may hold something.
-bool isSurelyEmpty(const QDir &folder, const QSet<QString> &gone = {});
+/// Calls @p see with the path of each visible thing in @p folder until it returns false; hidden files
+/// are not visible. False if the folder cannot be listed to the end.
+bool lookInto(const QDir &folder, const std::function<bool(const QString &)> &see);
+
+/// True only if @p folder certainly has nothing visible in it. A folder that cannot be listed may
+/// hold something.
+bool isSurelyEmpty(const QDir &folder);
 
 /// The native path of a file that uninstalling deletes in addition to the plugin's own.
 QString extraFile(const Models::FlightSimulatorMapping *mapping,
