@@ -79,8 +79,8 @@ private:
 Cost costOfRun(const QStringList &arguments)
 {
     const QString silently = QStringLiteral("exec \"$0\" \"$@\" > /dev/null");
-    return costOfProgram(QStringList{QStringLiteral("sh"), QStringLiteral("-c"), silently, doctor}
-                         + arguments);
+    return costOfProgram(
+        QStringList{QStringLiteral("/bin/sh"), QStringLiteral("-c"), silently, doctor} + arguments);
 }
 
 // Without what a process takes that does nothing.
@@ -120,7 +120,11 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     const int pairs = Table::pairs(argc, argv);
     const int many = pairs > 1 ? 100 : 1;
-    for (const char *task : {"--", "--plan", "--plan=uninstall"}) {
+    measureGrowth(QStringLiteral("--plan=uninstall"),
+                  QStringLiteral("doctor --plan=uninstall"),
+                  {{1, 10 * many}, {1, 20 * many}, {1, 80 * many}},
+                  pairs);
+    for (const char *task : {"--", "--plan"}) {
         const QString option = QString::fromLatin1(task);
         const QString what = option == QLatin1String("--") ? QStringLiteral("doctor")
                                                            : QStringLiteral("doctor ") + option;
