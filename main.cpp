@@ -1,5 +1,6 @@
 #include "Controllers/ActionLog.h"
 #include "Controllers/PathEncoding.h"
+#include "Controllers/StandardDescriptors.h"
 #include "Controllers/Translations.h"
 #include "Library/Files/FileSizeSignal.h"
 #include "ViewControllers/ScanController.h"
@@ -12,28 +13,12 @@
 
 #include <csignal>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 using Quillmont::Library::Files::FileSizeSignal;
 using Quillmont::Utility::Controllers::installTranslations;
 using Quillmont::Utility::Controllers::logAction;
 using Quillmont::Utility::Controllers::PathEncoding;
+using Quillmont::Utility::Controllers::tieClosedDescriptors;
 using Quillmont::Utility::ViewControllers::ScanController;
-
-namespace {
-
-// A new file gets the lowest free descriptor. If that were standard error's, each log line would go
-// into the installation record or to the X server.
-void tieClosedDescriptors()
-{
-    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (::fcntl(standard, F_GETFD) == -1)
-            ::open("/dev/null", O_RDWR);
-    }
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {

@@ -6,7 +6,9 @@
 #include "Doctor/Page.h"
 #include "Doctor/Plan.h"
 #include "Doctor/Quoting.h"
+#include "Doctor/Reasons.h"
 #include "Doctor/TextReport.h"
+#include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/Payload/Catalogue.h"
@@ -18,7 +20,22 @@
 
 #include <algorithm>
 
+#include <poll.h>
+#include <unistd.h>
+
+using Quillmont::Library::Helpers::FileHelper;
+
 namespace Quillmont::Utility::Doctor {
+
+namespace {
+
+bool isReaderGone()
+{
+    struct pollfd output = {STDOUT_FILENO, POLLOUT, 0};
+    return ::poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
+}
+
+} // namespace
 
 Doctor::Doctor(const Options &options, QTextStream *output, QTextStream *errors)
     : m_options(options)
@@ -30,6 +47,23 @@ Doctor::Doctor(const Options &options, QTextStream *output, QTextStream *errors)
 }
 
 int Doctor::run()
+{
+    return finished(start());
+}
+
+// Nobody misses what they did not stay to read, as with "| head".
+int Doctor::finished(int status)
+{
+    m_output->flush();
+    if (m_output->status() == QTextStream::Ok || isReaderGone())
+        return status;
+    *m_errors << "orbwell-doctor: "
+              << tr("The answer cannot be written: %1.").arg(m_output->device()->errorString())
+              << '\n';
+    return CouldNotLook;
+}
+
+int Doctor::start()
 {
     if (!m_options.problem().isEmpty())
         return fail(m_options.problem());
@@ -48,10 +82,12 @@ int Doctor::run()
 int Doctor::look()
 {
     const QString path = catalogueFile();
-    const QString content
-        = QFileInfo(path).isFile() ? ViewControllers::catalogueText(path) : QString();
+    QString problem;
+    const QString content = catalogueText(&problem);
+    if (!problem.isEmpty())
+        return fail(tr("The catalogue %1 cannot be read: %2.").arg(quoted(path), Reasons::translated(problem)));
     if (content.isEmpty())
-        return fail(tr("The catalogue %1 is missing, empty or cannot be read.").arg(quoted(path)));
+        return fail(tr("The catalogue %1 is empty.").arg(quoted(path)));
     if (m_options.task() == Options::CheckCatalogue)
         return answer(CatalogueCheck(content.toUtf8(), payloadFolder()).json());
     if (!QJsonDocument::fromJson(content.toLocal8Bit()).isArray())
@@ -116,6 +152,13 @@ int Doctor::fail(const QString &problem)
     *m_errors << "orbwell-doctor: " << problem << '\n'
               << tr("Try \"orbwell-doctor --help\".") << '\n';
     return CouldNotLook;
+}
+
+// Unlike the one beside the program, that of the options may be anything.
+QString Doctor::catalogueText(QString *problem) const
+{
+    constexpr qint64 maxSize = 32LL * 1024 * 1024;
+    return QTextStream(FileHelper::read(catalogueFile(), maxSize, problem)).readAll();
 }
 
 QString Doctor::catalogueFile() const

@@ -31,12 +31,15 @@ public:
     int run();
 
 private:
+    int start();
+    int finished(int status);
     int look();
     int examine(const QString &catalogue);
     int fail(const QString &problem);
     int answer(const QJsonObject &answer);
     void printJson(QJsonObject answer);
     bool areKnown(const QList<Simulator> &simulators);
+    QString catalogueText(QString *problem) const;
     QString catalogueFile() const;
     QString payloadFolder() const;
 

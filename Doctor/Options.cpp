@@ -6,7 +6,13 @@ namespace Quillmont::Utility::Doctor {
 
 Options::Options(const QStringList &arguments)
 {
-    QStringList rest = arguments;
+    takeAll(arguments);
+    if (m_problem.isEmpty() && m_task == CheckCatalogue && !m_names.isEmpty())
+        m_problem = tr("--check-catalogue takes no names.");
+}
+
+void Options::takeAll(QStringList rest)
+{
     while (!rest.isEmpty() && m_problem.isEmpty()) {
         const QString argument = rest.takeFirst();
         if (argument == QLatin1String("--")) {
@@ -29,7 +35,7 @@ void Options::take(const QString &option, QStringList *rest)
     else if (option == QLatin1String("--version"))
         m_task = Version;
     else if (option == QLatin1String("--check-catalogue"))
-        m_task = CheckCatalogue;
+        takeTask(CheckCatalogue, option);
     else if (option == QLatin1String("--plan") || option.startsWith(QLatin1String("--plan=")))
         takePlan(option);
     else if (option == QLatin1String("--catalogue")
@@ -39,9 +45,17 @@ void Options::take(const QString &option, QStringList *rest)
         refuse(option);
 }
 
+void Options::takeTask(Task task, const QString &option)
+{
+    if (!m_taskOption.isEmpty() && m_taskOption != option)
+        m_problem = tr("%1 and %2 exclude each other.").arg(m_taskOption, printable(option));
+    m_task = task;
+    m_taskOption = option;
+}
+
 void Options::takePlan(const QString &option)
 {
-    m_task = Plan;
+    takeTask(Plan, option);
     m_plan = option.contains(u'=') ? option.section(u'=', 1) : QStringLiteral("install");
     if (m_plan != QLatin1String("install") && m_plan != QLatin1String("repair")
         && m_plan != QLatin1String("uninstall"))

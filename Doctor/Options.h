@@ -43,12 +43,15 @@ public:
     static QString help();
 
 private:
+    void takeAll(QStringList rest);
     void take(const QString &option, QStringList *rest);
+    void takeTask(Task task, const QString &option);
     void takeCatalogue(const QString &option, QStringList *rest);
     void takePlan(const QString &option);
     void refuse(const QString &option);
 
     Task m_task = Report;
+    QString m_taskOption; ///< What asked for a plan or a check.
     bool m_isJson = false;
     QString m_plan;
     QString m_catalogue;

@@ -5,8 +5,6 @@
 
 #include <QStringList>
 
-#include <algorithm>
-
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -29,7 +27,7 @@ Page Page::forStandardOutput()
         return {0, false};
     struct winsize size = {};
     const bool isKnown = ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return {isKnown ? std::max<int>(size.ws_col, 40) : 80, qEnvironmentVariableIsEmpty("NO_COLOR")};
+    return {isKnown ? size.ws_col : 80, qEnvironmentVariableIsEmpty("NO_COLOR")};
 }
 
 void Page::add(int indent, const QString &line, Style style)

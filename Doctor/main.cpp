@@ -1,4 +1,5 @@
 #include "Controllers/PathEncoding.h"
+#include "Controllers/StandardDescriptors.h"
 #include "Controllers/Translations.h"
 #include "Doctor/Doctor.h"
 #include "Doctor/Options.h"
@@ -13,12 +14,16 @@
 
 using Quillmont::Utility::Controllers::installTranslations;
 using Quillmont::Utility::Controllers::PathEncoding;
+using Quillmont::Utility::Controllers::tieClosedDescriptors;
 using Quillmont::Utility::Doctor::Doctor;
 using Quillmont::Utility::Doctor::Options;
 
 int main(int argc, char *argv[])
 {
-    // As in the program with the window, so that both read the same.
+    // Before anything else, since everything else may open a file.
+    tieClosedDescriptors();
+
+    // As the program with the window does, so that both read the same.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     PathEncoding::ignoreRelativeFolders();
     std::signal(SIGPIPE, SIG_IGN);

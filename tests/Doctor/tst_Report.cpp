@@ -50,9 +50,12 @@ private slots:
     void givesACommandThatRestoresABackup();
     void refusesUnknownOptions_data();
     void refusesUnknownOptions();
+    void saysThatItsAnswerIsLost_data();
+    void saysThatItsAnswerIsLost();
     void writesNoColoursIntoAFile();
     void speaksTheLanguageOfItsUser_data();
     void speaksTheLanguageOfItsUser();
+    void foldsItsLinesToANarrowTerminal();
 
 private:
     CommandResult run(const QStringList &arguments);
@@ -454,21 +457,63 @@ void TestReport::refusesUnknownOptions_data()
                                        << "The catalogue has no simulator \"--json\"."_s;
     QTest::newRow("missing catalogue")
         << "--catalogue /dev/null"_s
-        << "The catalogue \"/dev/null\" is missing, empty or cannot be read."_s;
+        << "The catalogue \"/dev/null\" cannot be read: not an ordinary file."_s;
+    QTest::newRow("catalogue is empty") << "--catalogue empty"_s
+                                        << "The catalogue \"empty\" is empty."_s;
+    QTest::newRow("catalogue is big") << "--catalogue big"_s
+                                      << "The catalogue \"big\" cannot be read: too big."_s;
+    QTest::newRow("plan and check") << "--plan --check-catalogue"_s
+                                    << "--plan and --check-catalogue exclude each other."_s;
+    QTest::newRow("two plans") << "--plan=repair --plan=install"_s
+                               << "--plan=repair and --plan=install exclude each other."_s;
+    QTest::newRow("check of a name") << "--check-catalogue -- Kestrel"_s
+                                     << "--check-catalogue takes no names."_s;
 }
 
 void TestReport::refusesUnknownOptions()
 {
     QFETCH(const QString, arguments);
     QFETCH(const QString, problem);
-    const CommandResult result = run(arguments.split(u' '));
+    run({"--version"_s}); // puts it in its place
+    const QString folder = m_computer->program().folder();
+    writeFile(folder + "/empty"_s, "");
+    writeFile(folder + "/big"_s, "[]");
+    QVERIFY(QFile::resize(folder + "/big"_s, 33LL * 1024 * 1024));
+    const CommandResult result
+        = Command(folder + "/orbwell-doctor"_s, arguments.split(u' ')).in(folder).run();
     QCOMPARE(result.status, 2);
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(QString::fromUtf8(result.errors),
              "orbwell-doctor: "_s + problem + "\nTry \"orbwell-doctor --help\".\n"_s);
 }
 
-// A terminal gets colours unless the user has turned them off.
+void TestReport::saysThatItsAnswerIsLost_data()
+{
+    QTest::addColumn<QString>("redirection");
+    QTest::addColumn<QByteArray>("problem");
+    QTest::newRow("a full disk") << ">/dev/full"_s << QByteArray("No space left on device.");
+    QTest::newRow("a closed output") << ">&-"_s << QByteArray("Bad file descriptor.");
+    QTest::newRow("a reader that has gone") << "| :"_s << QByteArray();
+}
+
+void TestReport::saysThatItsAnswerIsLost()
+{
+    QFETCH(const QString, redirection);
+    QFETCH(const QByteArray, problem);
+    if (redirection.endsWith("/dev/full"_s) && !QFile::exists("/dev/full"_s))
+        QSKIP("needs a device that is full");
+    run({"--version"_s}); // puts it in its place
+    const QString script
+        = "exec 3>&1; { ./orbwell-doctor --help; echo $? >&3; } %1"_s.arg(redirection);
+    const CommandResult result
+        = Command("sh"_s, {"-c"_s, script}).in(m_computer->program().folder()).run();
+    QCOMPARE(result.output, problem.isEmpty() ? "0\n" : "2\n");
+    QCOMPARE(result.errors,
+             problem.isEmpty() ? problem
+                               : "orbwell-doctor: The answer cannot be written: " + problem + '\n');
+}
+
+// A terminal gets some, unless the user wants none.
 void TestReport::writesNoColoursIntoAFile()
 {
     QVERIFY(!run({}).output.contains('\x1b'));
@@ -538,6 +583,24 @@ void TestReport::speaksTheLanguageOfItsUser()
     QCOMPARE(allThatIsSaid("POSIX"_s, {}), english);
     QCOMPARE(allThatIsSaid(language + ".UTF-8"_s, {"--json"_s}),
              allThatIsSaid("C"_s, {"--json"_s}));
+}
+
+void TestReport::foldsItsLinesToANarrowTerminal()
+{
+    if (!Command::exists("script"_s))
+        QSKIP("needs script for a terminal");
+    run({"--version"_s}); // puts it in its place
+    const CommandResult result = Command("script"_s,
+                                         {"--quiet"_s,
+                                          "--command"_s,
+                                          "stty cols 20; ./orbwell-doctor Kestrel"_s,
+                                          "/dev/null"_s})
+                                     .with("NO_COLOR"_s, "1"_s)
+                                     .in(m_computer->program().folder())
+                                     .run();
+    for (const QByteArray &line : result.output.split('\n'))
+        QVERIFY2(line.trimmed().size() <= 20 || !line.trimmed().contains(' '), line.constData());
+    QVERIFY(result.output.contains("not installed"));
 }
 
 QTEST_GUILESS_MAIN(TestReport)
