@@ -7,7 +7,6 @@
 #include "Doctor/RecordCheck.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
-#include "SimDetect/Survey.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,22 +14,17 @@
 #include <filesystem>
 #include <system_error>
 
-using Quillmont::SimDetect::Survey;
-
 namespace Quillmont::Utility::Doctor {
 
 namespace {
 
-// The folders that detection turned down for the simulator @p code.
-QJsonArray turnedDown(const QString &code)
+QJsonArray turnedDown(const Simulator &simulator)
 {
     QJsonArray places;
-    for (const auto &finding : Survey::last().findings()) {
-        if (finding.code == code && !finding.objection.isEmpty())
-            places.append(QJsonObject{{QStringLiteral("path"), finding.path},
-                                      {QStringLiteral("namedBy"), finding.origin},
-                                      {QStringLiteral("reason"), finding.objection}});
-    }
+    for (const auto &place : simulator.turnedDown)
+        places.append(QJsonObject{{QStringLiteral("path"), place.path},
+                                  {QStringLiteral("namedBy"), place.namedBy},
+                                  {QStringLiteral("reason"), place.reason}});
     return places;
 }
 
@@ -111,32 +105,12 @@ QJsonObject Examination::locationOf(const Simulator &simulator) const
                        {QStringLiteral("code"), entry->simcode},
                        {QStringLiteral("folder"), simulator.mapping->path},
                        {QStringLiteral("foundBy"), originOf(simulator)},
-                       {QStringLiteral("turnedDown"), turnedDown(entry->simcode)}};
+                       {QStringLiteral("turnedDown"), turnedDown(simulator)}};
     if (!simulator.gaveUp.isEmpty())
         object.insert(QStringLiteral("gaveWay"),
                       QJsonObject{{QStringLiteral("folder"), simulator.gaveUp},
                                   {QStringLiteral("to"), simulator.gaveWayTo}});
     return object;
-}
-
-QString Examination::originOf(const Simulator &simulator) const
-{
-    switch (simulator.origin) {
-    case Simulator::ByHand:
-        return QStringLiteral("chosen by hand");
-    case Simulator::ByStrategy:
-        return simulator.mapping->scan->location == 0 ? QStringLiteral("the catalogue's file")
-                                                      : QStringLiteral("the catalogue's folder");
-    case Simulator::ByDetection:
-        for (const auto &finding : Survey::last().findings()) {
-            if (finding.code == simulator.mapping->scan->simcode && finding.objection.isEmpty())
-                return finding.origin;
-        }
-        break;
-    case Simulator::NotFound:
-        break;
-    }
-    return {};
 }
 
 void Examination::judgeFolder(const Simulator &simulator, Problems *problems) const

@@ -27,7 +27,6 @@ public:
 private:
     QJsonObject reportOn(const Simulator &simulator) const;
     QJsonObject locationOf(const Simulator &simulator) const;
-    QString originOf(const Simulator &simulator) const;
     void judgeFolder(const Simulator &simulator, Problems *problems) const;
     QJsonObject roomFor(const Simulator &simulator, qint64 needed, Problems *problems) const;
 

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QString>
+#include <QVector>
 
 class QObject;
 
@@ -12,7 +13,15 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::Doctor {
 
-/// A catalogue entry as the window shows it, and how its folder was found.
+/// A place where a simulator might have been.
+struct TurnedDown
+{
+    QString path;
+    QString namedBy;
+    QString reason;
+};
+
+/// A catalogue entry as the window shows it, and how it came by its folder.
 struct Simulator
 {
     enum Origin {
@@ -24,13 +33,17 @@ struct Simulator
 
     Models::FlightSimulatorMapping *mapping = nullptr; ///< The entry with its folder; not owned.
     Origin origin = NotFound;
-    QString gaveUp; ///< The folder that it found but gave up in a conflict.
-    QString gaveWayTo; ///< The name of the entry that keeps that folder.
+    QString gaveUp; ///< The folder that it found and a conflict took from it.
+    QString gaveWayTo; ///< The name of the entry that kept that one.
+    QVector<TurnedDown> turnedDown; ///< In the order in which they were looked at.
 };
 
 /// The entries in the text @p catalogue, as the window finds and orders them. They become children
 /// of @p owner.
 QList<Simulator> simulatorsIn(const QString &catalogue, QObject *owner);
+
+/// What named the folder of @p simulator; empty where it has none.
+QString originOf(const Simulator &simulator);
 
 } // namespace Quillmont::Utility::Doctor
 

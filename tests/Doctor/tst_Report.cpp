@@ -45,6 +45,8 @@ private slots:
     void reportsFoldersThatAreNotWritable();
     void listsTheWorstProblemFirst();
     void reportsHowASimulatorWasFound();
+    void saysWhyItDidNotFindASimulator_data();
+    void saysWhyItDidNotFindASimulator();
     void examinesAPilotsComputer();
     void doesNotShowOtherProgramsEntries();
     void givesACommandThatRestoresABackup();
@@ -87,7 +89,17 @@ QJsonObject TestReport::report(const QString &simulator)
     return QJsonDocument::fromJson(json).object().value("simulators"_s).toArray().at(0).toObject();
 }
 
-// Installs as the window does, with the file that the entry names.
+// The first place.
+static QString turnedDown(const QJsonObject &report)
+{
+    const QJsonObject place = report.value("turnedDown"_s).toArray().at(0).toObject();
+    return place.isEmpty() ? QString()
+                           : "%1 (%2): %3"_s.arg(place.value("path"_s).toString(),
+                                                 place.value("namedBy"_s).toString(),
+                                                 place.value("reason"_s).toString());
+}
+
+// As the window does, with the file in its place that the entry names.
 void TestReport::installEverywhere()
 {
     m_computer->write("sims/Skylark/GaugesQuillmontOrbwell_64.dll"_s, "x");
@@ -333,6 +345,9 @@ void TestReport::reportsHowASimulatorWasFound()
                       "[flightsim]\nKestrel=" + m_computer->folder("Skylark"_s).toUtf8() + '\n');
     QCOMPARE(report("Kestrel"_s).value("foundBy"_s).toString(), "chosen by hand"_s);
     QCOMPARE(report("Kestrel"_s).value("folder"_s).toString(), m_computer->folder("Skylark"_s));
+    QCOMPARE(turnedDown(report("Kestrel"_s)),
+             m_computer->folder("Kestrel"_s)
+                 + " (the catalogue's folder): another one was chosen by hand"_s);
 
     // Two entries of a group that find one folder, one of which gives it up, and X-Plane's own
     // list.
@@ -350,14 +365,47 @@ void TestReport::reportsHowASimulatorWasFound()
     QCOMPARE(gaveWay.value("to"_s).toString(), "Plover"_s);
     QCOMPARE(gaveWay.value("folder"_s).toString(), m_computer->folder("Wren"_s));
 #ifndef Q_OS_MACOS
-    const QJsonObject place = report("X"_s).value("turnedDown"_s).toArray().at(0).toObject();
-    QCOMPARE(place.value("path"_s).toString(), m_computer->absolute("gone"_s));
-    QCOMPARE(place.value("namedBy"_s).toString(), "X-Plane's own list"_s);
-    QCOMPARE(place.value("reason"_s).toString(), "no such folder"_s);
+    QCOMPARE(turnedDown(report("X"_s)),
+             m_computer->absolute("gone"_s) + " (X-Plane's own list): no such folder"_s);
 #endif
 }
 
-// With the shipped catalogue and payload.
+void TestReport::saysWhyItDidNotFindASimulator_data()
+{
+    QTest::addColumn<QJsonObject>("entry");
+    QTest::addColumn<QString>("turnedDown");
+    const auto row = [](const char *name, QJsonObject entry, const char *turnedDown) {
+        entry.insert("name"_s, "Wren"_s);
+        QTest::newRow(name) << entry << QString::fromLatin1(turnedDown);
+    };
+    row("file",
+        {{"path"_s, "/a\\b"_s}, {"key"_s, "c"_s}},
+        "/a/b/c (the catalogue's file): no such file");
+    row("no file", {}, "");
+    row("folder",
+        {{"location"_s, 1}, {"path"_s, "/a\\b"_s}},
+        "/a/b (the catalogue's folder): no such folder");
+    row("no folder", {{"location"_s, 1}}, "");
+    row("registry",
+        {{"location"_s, 2}, {"path"_s, "A\\B"_s}, {"key"_s, "C"_s}},
+        "A/B/C (the catalogue): no registry on this system");
+    row("detection", {{"location"_s, 3}, {"path"_s, "/a"_s}}, "");
+    row("several places",
+        {{"location"_s, 4}, {"target"_s, "A\\B"_s}},
+        "A/B (the catalogue): looked for on Windows only");
+    row("anything else",
+        {{"location"_s, 7}, {"path"_s, "/a"_s}},
+        "7 (the catalogue): no such \"location\"");
+}
+
+void TestReport::saysWhyItDidNotFindASimulator()
+{
+    QFETCH(const QJsonObject, entry);
+    m_computer->setCatalogue({entry});
+    QTEST(::turnedDown(report("Wren"_s)), "turnedDown");
+}
+
+// With the catalogue and the payload as they ship.
 void TestReport::examinesAPilotsComputer()
 {
 #ifndef Q_OS_LINUX
