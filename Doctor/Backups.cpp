@@ -1,6 +1,7 @@
 #include "Doctor/Backups.h"
 
 #include "Doctor/Quoting.h"
+#include "Doctor/TagReader.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Text/XmlSource.h"
 #include "Library/Xml/XmlDocument.h"
@@ -30,12 +31,18 @@ bool isWellFormed(const QString &path)
     const auto nothing = [](const RootChild &) {
         return false;
     };
-    return problem.isEmpty() && XmlDocument(XmlSource(bytes).text(), nothing).problem().isEmpty();
+    const QString text = XmlSource(bytes).text();
+    return problem.isEmpty() && XmlDocument(text, nothing).problem().isEmpty() && !isWebPage(text);
 }
 
-QString timeIn(const QString &name)
+QString digitsIn(const QString &name)
 {
     return name.mid(name.size() - 19, 15);
+}
+
+QDateTime timeIn(const QString &name)
+{
+    return QDateTime::fromString(digitsIn(name), QStringLiteral("yyyyMMdd_HHmmss"));
 }
 
 QStringList backupNames(const QFileInfo &file)
@@ -43,9 +50,14 @@ QStringList backupNames(const QFileInfo &file)
     const QRegularExpression form(
         u'^' + QRegularExpression::escape(file.fileName())
         + QStringLiteral(R"(_quillmont_orbwell_before_(un)?installation_\d{8}_\d{6}\.bak$)"));
+    // Names that only look like that hold no time.
     QStringList names = file.dir().entryList(QDir::Files | QDir::Hidden, QDir::NoSort).filter(form);
+    names.erase(std::remove_if(names.begin(),
+                               names.end(),
+                               [](const QString &name) { return !timeIn(name).isValid(); }),
+                names.end());
     std::sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
-        return timeIn(left) > timeIn(right);
+        return digitsIn(left) > digitsIn(right);
     });
     return names;
 }
@@ -60,10 +72,8 @@ QJsonArray backupsOf(const QString &path)
     const QStringList names = backupNames(file);
     for (const QString &name : names) {
         const QString backup = file.path() + u'/' + name;
-        const QDateTime time
-            = QDateTime::fromString(timeIn(name), QStringLiteral("yyyyMMdd_HHmmss"));
         QJsonObject object{{QStringLiteral("path"), backup},
-                           {QStringLiteral("time"), time.toString(Qt::ISODate)},
+                           {QStringLiteral("time"), timeIn(name).toString(Qt::ISODate)},
                            {QStringLiteral("size"), QFileInfo(backup).size()},
                            {QStringLiteral("restore"),
                             QStringLiteral("cp -- %1 %2").arg(shellWord(backup), shellWord(path))}};
@@ -72,6 +82,19 @@ QJsonArray backupsOf(const QString &path)
         backups.append(object);
     }
     return backups;
+}
+
+int newestGood(const QJsonArray &backups)
+{
+    const auto good = std::find_if(backups.begin(), backups.end(), [](const QJsonValue &backup) {
+        return backup.toObject().value(QLatin1String("wellFormed")).toBool();
+    });
+    return good == backups.end() ? -1 : static_cast<int>(good - backups.begin());
+}
+
+QString timeOf(const QJsonObject &backup)
+{
+    return backup.value(QLatin1String("time")).toString().replace(u'T', u' ');
 }
 
 } // namespace Quillmont::Utility::Doctor

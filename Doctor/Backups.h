@@ -3,13 +3,20 @@
 
 #include <QJsonArray>
 
+class QJsonObject;
 class QString;
 
 namespace Quillmont::Utility::Doctor {
 
-/// The backups beside the configuration file at @p path, the newest first, with "path", "time",
-/// "size", "restore" (a command), and for the newest ones "wellFormed".
+/// The backups of the file at @p path, the newest first: "path", "time", "size", "restore" (what a
+/// shell puts back with), and of the newest twenty "wellFormed".
 QJsonArray backupsOf(const QString &path);
+
+/// Which of them is the newest that is well formed; -1 if none is.
+int newestGood(const QJsonArray &backups);
+
+/// When a @p backup was made, as a user reads it.
+QString timeOf(const QJsonObject &backup);
 
 } // namespace Quillmont::Utility::Doctor
 

@@ -1,9 +1,13 @@
 #include "Doctor/ConfigurationCheck.h"
 
 #include "Controllers/UserFiles.h"
+#include "Doctor/Advice.h"
+#include "Doctor/Backups.h"
 #include "Doctor/Problems.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/Reasons.h"
+#include "Doctor/TagReader.h"
+#include "Doctor/TextPlaces.h"
 #include "Doctor/WindowsPath.h"
 #include "Doctor/WriteAccess.h"
 #include "Doctor/XmlDamage.h"
@@ -85,16 +89,22 @@ void ConfigurationCheck::lookAt(const QString &path)
                                  tr("Uninstall and install again; the file is made anew."));
         return;
     }
+    m_backups = backupsOf(path);
+    readFile();
+}
+
+void ConfigurationCheck::readFile()
+{
     QString problem;
-    const QByteArray bytes = FileHelper::read(path, Library::Xml::maxFileSize, &problem);
-    m_json.insert(QStringLiteral("size"), QFileInfo(path).size());
+    const QByteArray bytes = FileHelper::read(m_path, Library::Xml::maxFileSize, &problem);
+    m_json.insert(QStringLiteral("size"), QFileInfo(m_path).size());
     if (problem.isEmpty()) {
         read(bytes);
     } else {
         m_json.insert(QStringLiteral("state"), QStringLiteral("unreadable"));
         m_problems->addError(tr("The configuration file %1 cannot be read: %2.")
-                                 .arg(quoted(path), Reasons::translated(problem)),
-                             tr("Give yourself the right to read it."));
+                                 .arg(quoted(m_path), Reasons::translated(problem)),
+                             Advice::onUnreadable(m_path, problem));
     }
 }
 
@@ -106,15 +116,20 @@ void ConfigurationCheck::read(const QByteArray &bytes)
         = XmlDocument(source.text(), [](const RootChild &) { return false; }).problem();
     m_json.insert(QStringLiteral("state"),
                   problem.isEmpty() ? QStringLiteral("well formed") : QStringLiteral("damaged"));
-    const int strange = source.text().indexOf(QChar::ReplacementCharacter);
+    const int strange = firstInvalid(source);
     if (strange >= 0)
-        m_json.insert(QStringLiteral("strangeBytesInLine"),
-                      source.text().leftRef(strange).count(u'\n') + 1);
-    if (problem.isEmpty()) {
-        lookAtEntries(source.text());
-        return;
-    }
-    const XmlDamage damage(source.text(), problem);
+        m_json.insert(QStringLiteral("strangeBytesInLine"), lineAt(source.text(), strange));
+    if (!problem.isEmpty())
+        return describeDamage(source.text(), problem);
+    if (isWebPage(source.text()))
+        m_problems->addGrave(tr("The configuration file %1 is a web page.").arg(quoted(m_path)),
+                             Advice::onWebPage(m_backups));
+    lookAtEntries(source.text());
+}
+
+void ConfigurationCheck::describeDamage(const QString &text, const QString &problem)
+{
+    const XmlDamage damage(text, problem);
     m_json.insert(QStringLiteral("damage"),
                   QJsonObject{{QStringLiteral("text"), damage.sentence()},
                               {QStringLiteral("line"), damage.line()},
@@ -122,8 +137,7 @@ void ConfigurationCheck::read(const QByteArray &bytes)
                               {QStringLiteral("brokenLine"), damage.brokenLine()}});
     m_problems->addGrave(
         tr("The configuration file %1 is damaged. %2").arg(quoted(m_path), damage.sentence()),
-        tr("Put a backup back, or mend the file by hand; until then nothing is changed in it, and "
-           "the simulator may load no add-on at all."));
+        Advice::onDamage(m_backups));
 }
 
 void ConfigurationCheck::lookAtEntries(const QString &text)
@@ -134,8 +148,9 @@ void ConfigurationCheck::lookAtEntries(const QString &text)
     for (const RootChild &entry : document.wanted()) {
         if (!Library::Xml::isOurs(entry, *m_entry->config)) {
             lookAtOthers(entry);
-        } else if (++count == 1) {
+        } else {
             lookAtOurs(entry);
+            ++count;
         }
     }
     m_ours.insert(QStringLiteral("count"), count);
@@ -144,12 +159,18 @@ void ConfigurationCheck::lookAtEntries(const QString &text)
     judge(count);
 }
 
+// Of several the worst counts: the simulator reads them all.
 void ConfigurationCheck::lookAtOurs(const RootChild &entry)
 {
     const QString path = childText(entry, "Path");
-    m_ours.insert(QStringLiteral("disabled"), isDisabled(entry));
+    const bool isThere = path.isEmpty() || isFileThere(path);
+    const bool isFirst = m_ours.isEmpty();
+    if (isFirst || isDisabled(entry))
+        m_ours.insert(QStringLiteral("disabled"), isDisabled(entry));
+    if (!isFirst && (isThere || !m_ours.value(QLatin1String("fileThere")).toBool()))
+        return;
     m_ours.insert(QStringLiteral("path"), path);
-    m_ours.insert(QStringLiteral("fileThere"), path.isEmpty() || isFileThere(path));
+    m_ours.insert(QStringLiteral("fileThere"), isThere);
 }
 
 // Listed, not judged: other makers may have their reasons.

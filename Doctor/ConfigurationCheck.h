@@ -33,9 +33,14 @@ public:
     /// The findings, with stable keys.
     const QJsonObject &json() const { return m_json; }
 
+    /// Of the file, as backupsOf() has them.
+    const QJsonArray &backups() const { return m_backups; }
+
 private:
     void lookAt(const QString &path);
+    void readFile();
     void read(const QByteArray &bytes);
+    void describeDamage(const QString &text, const QString &problem);
     void lookAtEntries(const QString &text);
     void lookAtOurs(const Library::Xml::RootChild &entry);
     void lookAtOthers(const Library::Xml::RootChild &entry);
@@ -49,6 +54,7 @@ private:
     QJsonObject m_json;
     QJsonObject m_ours;
     QJsonArray m_others;
+    QJsonArray m_backups;
     QString m_path;
 };
 

@@ -85,7 +85,8 @@ int Doctor::look()
     QString problem;
     const QString content = catalogueText(&problem);
     if (!problem.isEmpty())
-        return fail(tr("The catalogue %1 cannot be read: %2.").arg(quoted(path), Reasons::translated(problem)));
+        return fail(tr("The catalogue %1 cannot be read: %2.")
+                        .arg(quoted(path), Reasons::translated(problem)));
     if (content.isEmpty())
         return fail(tr("The catalogue %1 is empty.").arg(quoted(path)));
     if (m_options.task() == Options::CheckCatalogue)

@@ -1,6 +1,5 @@
 #include "Doctor/Examination.h"
 
-#include "Doctor/Backups.h"
 #include "Doctor/ConfigurationCheck.h"
 #include "Doctor/FilesCheck.h"
 #include "Doctor/Quoting.h"
@@ -90,7 +89,7 @@ QJsonObject Examination::reportOn(const Simulator &simulator) const
             mapping, mapping->isAddonInstalled() && files.present() > 0, &problems);
         object.insert(QStringLiteral("configuration"), configuration.json());
         const QString file = configuration.json().value(QLatin1String("path")).toString();
-        object.insert(QStringLiteral("backups"), file.isEmpty() ? QJsonArray() : backupsOf(file));
+        object.insert(QStringLiteral("backups"), configuration.backups());
         const qint64 needed = files.neededBytes() + QFileInfo(file).size();
         object.insert(QStringLiteral("room"), roomFor(simulator, needed, &problems));
     }

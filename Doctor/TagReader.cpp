@@ -1,5 +1,7 @@
 #include "Doctor/TagReader.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace Quillmont::Utility::Doctor {
@@ -65,9 +67,10 @@ Tag TagReader::element(int begin) const
     while (nameEnd < m_text.size() && !endsName(m_text.at(nameEnd)))
         ++nameEnd;
     const QString text = m_text.mid(name, nameEnd - name);
-    const int end = closing(nameEnd);
+    bool isInQuotation = false;
+    const int end = closing(nameEnd, &isInQuotation);
     if (end >= m_text.size() || m_text.at(end) != u'>')
-        return {Tag::Unfinished, text, begin, end};
+        return {Tag::Unfinished, text, begin, end, isInQuotation};
     const Tag::Kind kind = !isWell   ? Tag::Malformed
         : isEnd                      ? Tag::End
         : m_text.at(end - 1) == u'/' ? Tag::SelfClosed
@@ -76,7 +79,7 @@ Tag TagReader::element(int begin) const
 }
 
 // The ">" that ends a tag, a "<" that should not be in it, or the end of the text.
-int TagReader::closing(int begin) const
+int TagReader::closing(int begin, bool *isInQuotation) const
 {
     QChar quote;
     int place = begin;
@@ -91,7 +94,22 @@ int TagReader::closing(int begin) const
         if (character == u'<')
             break;
     }
+    *isInQuotation = !quote.isNull();
     return place;
+}
+
+bool isWebPage(const QString &text)
+{
+    static const QRegularExpression type(QStringLiteral("^<!doctype\\s+html\\b"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    TagReader reader(text);
+    Tag tag = reader.next();
+    while (tag.kind == Tag::Declaration || tag.kind == Tag::Other) {
+        if (type.match(text.midRef(tag.begin, tag.end - tag.begin)).hasMatch())
+            return true;
+        tag = reader.next();
+    }
+    return tag.name.compare(QLatin1String("html"), Qt::CaseInsensitive) == 0;
 }
 
 } // namespace Quillmont::Utility::Doctor

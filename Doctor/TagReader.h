@@ -22,7 +22,8 @@ struct Tag
     Kind kind = Nothing;
     QString name; ///< The element's name, as far as it can be recognised; without "<\" or "</ ".
     int begin = -1; ///< Of its "<".
-    int end = -1; ///< After its ">".
+    int end = -1; ///< Behind its ">".
+    bool isInQuotation = false; ///< Whether it is unfinished since a quotation in it has no end.
 };
 
 /// Goes from tag to tag through a text that a strict reader has refused.
@@ -40,11 +41,14 @@ public:
 private:
     Tag special(int begin) const;
     Tag element(int begin) const;
-    int closing(int begin) const;
+    int closing(int begin, bool *isInQuotation) const;
 
     const QString &m_text;
     int m_place = 0;
 };
+
+/// Whether @p text, well formed or not, is a web page.
+bool isWebPage(const QString &text);
 
 } // namespace Quillmont::Utility::Doctor
 

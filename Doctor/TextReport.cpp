@@ -1,5 +1,6 @@
 #include "Doctor/TextReport.h"
 
+#include "Doctor/Backups.h"
 #include "Doctor/Page.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/Reasons.h"
@@ -116,9 +117,13 @@ void TextReport::writeFiles(const QJsonArray &files, Page *page)
 
 void TextReport::writeConfiguration(const QJsonObject &configuration, Page *page)
 {
+    if (text(configuration, "state") == QLatin1String("no prefix"))
+        page->add(2, tr("Configuration: no Proton prefix"));
     if (text(configuration, "path").isEmpty())
         return;
     page->add(2, configurationLine(configuration));
+    if (!text(configuration, "prefix").isEmpty())
+        page->add(4, tr("In the Proton prefix %1").arg(quotedText(configuration, "prefix")));
     const int strange = configuration.value(QLatin1String("strangeBytesInLine")).toInt();
     if (strange > 0)
         page->add(4, tr("Bytes that are not valid in this encoding, from line %1 on").arg(strange));
@@ -159,7 +164,7 @@ QString TextReport::ourEntryLine(const QJsonObject &ours)
     const int count = ours.value(QLatin1String("count")).toInt();
     if (count == 0)
         return tr("No entry of ours");
-    const QString path = quotedText(ours, "path");
+    const QString path = text(ours, "path").isEmpty() ? tr("no file") : quotedText(ours, "path");
     const bool isDisabled = ours.value(QLatin1String("disabled")).toBool();
     if (count == 1)
         return (isDisabled ? tr("Our entry: there once, disabled, for %1")
@@ -170,19 +175,30 @@ QString TextReport::ourEntryLine(const QJsonObject &ours)
         .arg(path, QString::number(count));
 }
 
+void TextReport::writeBackup(const QJsonObject &backup, Page *page)
+{
+    const bool isGood = backup.value(QLatin1String("wellFormed")).toBool();
+    const QString line = isGood ? tr("Backup of %1, %2 bytes, well formed; to put it back:")
+                                : tr("Backup of %1, %2 bytes, damaged");
+    page->add(2, line.arg(timeOf(backup), number(backup, "size")));
+    if (isGood)
+        page->addExactly(4, text(backup, "restore"));
+}
+
+// The newest, and the newest that helps.
 void TextReport::writeBackups(const QJsonArray &backups, Page *page)
 {
     constexpr int maxShown = 3;
-    for (int i = 0; i < backups.size() && i < maxShown; ++i) {
-        const QJsonObject backup = backups.at(i).toObject();
-        const bool isWhole = backup.value(QLatin1String("wellFormed")).toBool();
-        const QString line = isWhole ? tr("Backup of %1, %2 bytes, well formed; to put it back:")
-                                     : tr("Backup of %1, %2 bytes, damaged; to put it back:");
-        page->add(2, line.arg(text(backup, "time").replace(u'T', u' '), number(backup, "size")));
-        page->addExactly(4, text(backup, "restore"));
+    const int good = newestGood(backups);
+    int others = 0;
+    for (int i = 0; i < backups.size(); ++i) {
+        if (i < maxShown || i == good)
+            writeBackup(backups.at(i).toObject(), page);
+        else
+            ++others;
     }
-    if (backups.size() > maxShown)
-        page->add(2, tr("Older backups: %1").arg(backups.size() - maxShown));
+    if (others > 0)
+        page->add(2, tr("Older backups: %1").arg(others));
 }
 
 void TextReport::writeRecord(const QJsonObject &record, Page *page)

@@ -27,6 +27,7 @@ private:
     static void writeConfiguration(const QJsonObject &configuration, Page *page);
     static QString configurationLine(const QJsonObject &configuration);
     static QString ourEntryLine(const QJsonObject &ours);
+    static void writeBackup(const QJsonObject &backup, Page *page);
     static void writeBackups(const QJsonArray &backups, Page *page);
     static void writeRecord(const QJsonObject &record, Page *page);
     static void writeThingsToDo(const QJsonObject &report, Page *page);

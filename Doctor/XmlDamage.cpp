@@ -1,6 +1,8 @@
 #include "Doctor/XmlDamage.h"
 
 #include "Doctor/Reasons.h"
+#include "Doctor/TagText.h"
+#include "Doctor/TextPlaces.h"
 #include "Library/Xml/XmlCharacters.h"
 
 #include <QRegularExpression>
@@ -16,15 +18,15 @@ XmlDamage::XmlDamage(const QString &text, const QString &problem)
 {
     if (findKind() || findStructure() || findText())
         return;
-    takeReaderPlace(problem);
+    m_place = placeIn(problem, m_text);
     m_sentence = tr("It is not well-formed XML: %1").arg(Reasons::translated(problem));
+    if (!m_sentence.endsWith(u'.') && !m_sentence.endsWith(u'\u3002'))
+        m_sentence += u'.';
 }
 
 // Finds damage that can be recognised without looking at the tags.
 bool XmlDamage::findKind()
 {
-    static const QRegularExpression page(QStringLiteral(R"(^\s*<(!doctype\s+)?html\b)"),
-                                         QRegularExpression::CaseInsensitiveOption);
     const QString trimmed = m_text.trimmed();
     if (m_text.isEmpty())
         return say(0, tr("The file is empty."));
@@ -35,7 +37,7 @@ bool XmlDamage::findKind()
         return say(0,
                    tr("The file holds nothing but zero bytes: the computer stopped while it was "
                       "written, or its disk is failing."));
-    if (page.match(m_text).hasMatch())
+    if (isWebPage(m_text))
         return say(0, tr("The file is a web page, not XML."));
     const int first = m_text.indexOf(trimmed.at(0));
     if (trimmed.at(0) != u'<')
@@ -62,7 +64,7 @@ bool XmlDamage::findStructure()
     if (!m_open.isEmpty())
         return say(m_open.constLast().begin,
                    tr("<%1> in line %2 is never closed: the file ends in line %3.")
-                       .arg(m_open.constLast().name,
+                       .arg(nameOf(m_open.constLast()).toString(),
                             lineText(m_open.constLast().begin),
                             lineText(m_text.size())));
     return m_root.isEmpty() && say(0, tr("The file has no element."));
@@ -72,11 +74,7 @@ bool XmlDamage::take(const Tag &tag)
 {
     switch (tag.kind) {
     case Tag::Unfinished:
-        if (tag.end >= m_text.size())
-            return say(tag.begin,
-                       tr("The file ends in the middle of a tag, which begins in line %1.")
-                           .arg(lineOf(tag.begin)));
-        return say(tag.begin, tr("A tag in line %1 has no \">\".").arg(lineOf(tag.begin)));
+        return takeUnfinished(tag);
     case Tag::Malformed:
         return takeMalformed(tag);
     case Tag::Declaration:
@@ -89,6 +87,17 @@ bool XmlDamage::take(const Tag &tag)
     default:
         return false;
     }
+}
+
+bool XmlDamage::takeUnfinished(const Tag &tag)
+{
+    const int line = lineOf(tag.begin);
+    if (tag.end >= m_text.size())
+        return say(tag.begin,
+                   tr("The file ends in the middle of a tag, which begins in line %1.").arg(line));
+    return say(tag.begin,
+               tag.isInQuotation ? tr("A quotation mark is missing in a tag in line %1.").arg(line)
+                                 : tr("A tag in line %1 has no \">\".").arg(line));
 }
 
 bool XmlDamage::takeLateDeclaration(const Tag &tag)
@@ -109,7 +118,7 @@ bool XmlDamage::takeStart(const Tag &tag)
     if (m_root.isEmpty())
         m_root = tag.name;
     if (tag.kind == Tag::Start)
-        m_open.append({tag.name, tag.begin});
+        m_open.append({tag.begin, tag.name.size()});
     else if (m_open.isEmpty())
         m_rootEnd = tag.end;
     return false;
@@ -119,26 +128,32 @@ bool XmlDamage::takeEnd(const Tag &tag)
 {
     if (m_open.isEmpty())
         return takeExtraEnd(tag);
+    if (nameOf(m_open.constLast()) != tag.name)
+        return takeOtherEnd(tag);
+    m_open.removeLast();
+    if (m_open.isEmpty())
+        m_rootEnd = tag.end;
+    return false;
+}
+
+bool XmlDamage::takeOtherEnd(const Tag &tag)
+{
     const Open last = m_open.constLast();
-    if (last.name == tag.name) {
-        m_open.removeLast();
-        if (m_open.isEmpty())
-            m_rootEnd = tag.end;
-        return false;
-    }
-    if (last.name.compare(tag.name, Qt::CaseInsensitive) == 0)
+    const QString name = nameOf(last).toString();
+    if (name.compare(tag.name, Qt::CaseInsensitive) == 0)
         return say(tag.begin,
                    tr("<%1> in line %2 ends with </%3> in line %4: letter case counts.")
-                       .arg(last.name, lineText(last.begin), tag.name, lineText(tag.begin)));
-    const bool isOpen = std::any_of(
-        m_open.cbegin(), m_open.cend(), [&tag](const Open &open) { return open.name == tag.name; });
+                       .arg(name, lineText(last.begin), tag.name, lineText(tag.begin)));
+    const bool isOpen = std::any_of(m_open.cbegin(), m_open.cend(), [this, &tag](const Open &open) {
+        return nameOf(open) == tag.name;
+    });
     if (!isOpen)
         return say(tag.begin,
                    tr("</%1> in line %2 closes nothing: no <%1> is open there.")
                        .arg(tag.name, lineText(tag.begin)));
     return say(last.begin,
                tr("<%1> in line %2 is never closed; </%3> in line %4 came first.")
-                   .arg(last.name, lineText(last.begin), tag.name, lineText(tag.begin)));
+                   .arg(name, lineText(last.begin), tag.name, lineText(tag.begin)));
 }
 
 bool XmlDamage::takeExtraEnd(const Tag &tag)
@@ -165,7 +180,7 @@ bool XmlDamage::takeMalformed(const Tag &tag)
     const bool isEnd = m_text.at(tag.begin + 1) == u'/' || m_text.at(tag.begin + 1) == u'\\';
     // The document has worse damage, which the reader reports later.
     if (m_secondRoot >= 0 && isEnd) {
-        if (!m_open.isEmpty() && m_open.constLast().name == tag.name)
+        if (!m_open.isEmpty() && nameOf(m_open.constLast()) == tag.name)
             m_open.removeLast();
         return false;
     }
@@ -176,29 +191,20 @@ bool XmlDamage::takeMalformed(const Tag &tag)
                         (isEnd ? QStringLiteral("</") : QStringLiteral("<")) + tag.name + u'>'));
 }
 
-// Finds damage in the text between the tags.
+// What is wrong between the tags, and in their attributes.
 bool XmlDamage::findText()
 {
-    static const QRegularExpression ampersand(
-        QStringLiteral(R"(&(?!#\d+;|#x[0-9A-Fa-f]+;|[A-Za-z_][\w.-]*;))"));
-    static const QRegularExpression comments(
-        QStringLiteral(R"(<!--.*?-->|<!\[CDATA\[.*?\]\]>|<\?.*?\?>)"),
-        QRegularExpression::DotMatchesEverythingOption);
-    if (m_rootEnd >= 0 && !m_text.mid(m_rootEnd).remove(comments).trimmed().isEmpty()) {
-        const int rest = m_rootEnd
-            + QRegularExpression(QStringLiteral("\\S"))
-                  .match(m_text.mid(m_rootEnd))
-                  .capturedStart();
+    const QString text = withoutSpecialMarkup(m_text);
+    const QString behind = m_rootEnd < 0 ? QString() : text.mid(m_rootEnd).trimmed();
+    if (!behind.isEmpty()) {
+        const int rest = text.indexOf(behind.at(0), m_rootEnd);
         return say(rest,
                    tr("Behind the end of the document, in line %1, there is more text: the rest of "
                       "an older, longer file?")
                        .arg(lineOf(rest)));
     }
-    const auto bare = ampersand.match(m_text);
-    if (bare.hasMatch())
-        return say(
-            bare.capturedStart(),
-            tr(R"("&" in line %1 has to be written "&amp;".)").arg(lineOf(bare.capturedStart())));
+    if (findBare(text))
+        return true;
     const int forbidden = XmlCharacters::indexOfForbidden(m_text);
     return forbidden >= 0
         && say(forbidden,
@@ -206,19 +212,18 @@ bool XmlDamage::findText()
                    .arg(lineOf(forbidden)));
 }
 
-// Parses the library's "line 3, column 5: why".
-void XmlDamage::takeReaderPlace(const QString &problem)
+bool XmlDamage::findBare(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("^line (\\d+), column (\\d+):"));
-    const auto match = form.match(problem);
-    int line = 1;
-    while (line < match.captured(1).toInt() && m_place < m_text.size()) {
-        const int end = m_text.indexOf(u'\n', m_place);
-        m_place = end < 0 ? m_text.size() : end + 1;
-        ++line;
-    }
-    m_place
-        = std::clamp(m_place + match.captured(2).toInt() - 1, 0, std::max(0, m_text.size() - 1));
+    const int ampersand = firstBareAmpersand(text);
+    const QStringRef attribute = firstBareAttribute(text);
+    const int place = attribute.position();
+    if (!attribute.isNull() && (ampersand < 0 || place < ampersand))
+        return say(place,
+                   tr("The value of %1 in line %2 has no quotation marks.")
+                       .arg(attribute.toString(), lineText(place)));
+    return ampersand >= 0
+        && say(ampersand,
+               tr(R"("&" in line %1 has to be written "&amp;".)").arg(lineOf(ampersand)));
 }
 
 bool XmlDamage::say(int place, const QString &sentence)
@@ -234,39 +239,26 @@ QString XmlDamage::lineText(int place) const
     return QString::number(lineOf(place));
 }
 
-// "\n", "\r\n" and "\r" end a line.
 int XmlDamage::lineOf(int place) const
 {
-    int line = 1;
-    for (int i = 0; i < place; ++i) {
-        const QChar character = m_text.at(i);
-        const bool isPair
-            = character == u'\r' && i + 1 < m_text.size() && m_text.at(i + 1) == u'\n';
-        line += (character == u'\n' || character == u'\r') && !isPair ? 1 : 0;
-    }
-    return line;
-}
-
-int XmlDamage::lineBegin(int place) const
-{
-    while (place > 0 && m_text.at(place - 1) != u'\n' && m_text.at(place - 1) != u'\r')
-        --place;
-    return place;
+    return lineAt(m_text, place);
 }
 
 int XmlDamage::column() const
 {
-    return m_place - lineBegin(m_place) + 1;
+    return columnAt(m_text, m_place);
 }
 
 QString XmlDamage::brokenLine() const
 {
     constexpr int maxSize = 160;
-    static const QRegularExpression end(QStringLiteral("[\r\n]"));
-    const int begin = lineBegin(m_place);
-    const int length = m_text.indexOf(end, begin) - begin;
-    const QString line = m_text.mid(begin, length < 0 ? -1 : length).remove(QChar(0)).trimmed();
+    const QString line = wholeLineAt(m_text, m_place).remove(QChar(0)).trimmed();
     return line.size() > maxSize ? line.left(maxSize) + QChar(0x2026) : line;
+}
+
+QStringRef XmlDamage::nameOf(const Open &open) const
+{
+    return m_text.midRef(open.begin + 1, open.nameSize);
 }
 
 QString XmlDamage::written(const Tag &tag) const

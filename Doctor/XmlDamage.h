@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringRef>
 #include <QVector>
 
 namespace Quillmont::Utility::Doctor {
@@ -33,24 +34,26 @@ public:
 private:
     struct Open
     {
-        QString name;
         int begin;
+        int nameSize; ///< Of the name behind its "<"; a copy of each may take a gigabyte.
     };
 
     bool findKind();
     bool findStructure();
     bool findText();
+    bool findBare(const QString &text);
     bool take(const Tag &tag);
     bool takeLateDeclaration(const Tag &tag);
     bool takeStart(const Tag &tag);
     bool takeEnd(const Tag &tag);
+    bool takeOtherEnd(const Tag &tag);
     bool takeExtraEnd(const Tag &tag);
+    bool takeUnfinished(const Tag &tag);
     bool takeMalformed(const Tag &tag);
-    void takeReaderPlace(const QString &problem);
     bool say(int place, const QString &sentence);
     int lineOf(int place) const;
     QString lineText(int place) const;
-    int lineBegin(int place) const;
+    QStringRef nameOf(const Open &open) const;
     QString written(const Tag &tag) const;
 
     const QString m_text;

@@ -50,6 +50,7 @@ private slots:
     void examinesAPilotsComputer();
     void doesNotShowOtherProgramsEntries();
     void givesACommandThatRestoresABackup();
+    void offersTheNewestBackupThatHelps();
     void refusesUnknownOptions_data();
     void refusesUnknownOptions();
     void saysThatItsAnswerIsLost_data();
@@ -183,6 +184,52 @@ void TestReport::reportsEachProblem_data()
     row("entry without files",
         "dll.xml\" has an entry for the plugin, whose files are not there.",
         lose("sims/Skylark/Gauges/QuillmontOrbwell_64.dll"));
+    const auto become = [](const QByteArray &text, bool hasBackups) {
+        return [text, hasBackups](Computer *computer) {
+            const QFileInfo file(computer->absolute(computer->configuration("Skylark"_s)));
+            for (const QString &name : file.dir().entryList({"*.bak"_s}))
+                QVERIFY(hasBackups || file.dir().remove(name));
+            writeFile(file.filePath(), text);
+        };
+    };
+    const QByteArray page = "<?xml version='1.0'?>\n<!-- --><html><body/></html>";
+    row("web page", "dll.xml\" is a web page. Put the backup of 2", become(page, true));
+    row("web page without a backup",
+        "dll.xml\" is a web page. Move it away; until then the simulator may load no add-on at "
+        "all.",
+        become(page, false));
+    row("damaged with a backup",
+        "</R> in line 1 closes nothing: no <R> is open there. Put the backup of 2",
+        become("<A></R>", true));
+    row("damaged without a backup",
+        "</R> in line 1 closes nothing: no <R> is open there. Mend the file by hand; until then ",
+        become("<A></R>", false));
+    row("a second entry that is disabled",
+        "Our entry: there 2 times, disabled, for no file",
+        become("<R><Launch.Addon><Name>Quillmont Orbwell</Name></Launch.Addon><Launch.Addon><Name>"
+               "Quillmont Orbwell</Name><Disabled>True</Disabled></Launch.Addon></R>",
+               true));
+    row("a second entry that leads nowhere",
+        "names the file \"gone.dll\", which is missing.",
+        become("<R><Launch.Addon><Name>Quillmont Orbwell</Name></Launch.Addon><Launch.Addon><Name>"
+               "Quillmont Orbwell</Name><Path>gone.dll</Path></Launch.Addon></R>",
+               true));
+    row("configuration is big",
+        "cannot be read: too big. Move it away, or make it smaller by hand.",
+        become(QByteArray(33 * 1024 * 1024, ' '), true));
+    row("configuration is a folder",
+        "cannot be read: not an ordinary file. Move it away.\n",
+        [](Computer *computer) {
+            const QString file = computer->absolute(computer->configuration("Skylark"_s));
+            QVERIFY(QFile::remove(file) && QDir().mkdir(file));
+        });
+    row("no Proton prefix", "  Configuration: no Proton prefix\n", [](Computer *computer) {
+        QJsonObject entry = computer->entry("Skylark"_s, 0);
+        QJsonObject config = entry.value("config"_s).toObject();
+        config.insert("steam"_s, 314160);
+        entry.insert("config"_s, config);
+        computer->setCatalogue({entry, computer->entry("Kestrel"_s, 1)});
+    });
     row("damaged record", ".mapping\" is damaged; what it said is lost.", [](Computer *computer) {
         computer->write(computer->data("Quillmont/Orbwell/.mapping"_s), "[{");
     });
@@ -447,6 +494,9 @@ void TestReport::examinesAPilotsComputer()
     const QJsonObject configuration = byCode.value("FSXSE"_s).value("configuration"_s).toObject();
     QCOMPARE(configuration.value("state"_s).toString(), "well formed"_s);
     QVERIFY(configuration.value("prefix"_s).toString().endsWith("compatdata/314160/pfx"_s));
+    QVERIFY(Command(QStringLiteral(ORBWELL_BIN "/orbwell-doctor"))
+                .run()
+                .output.contains("    In the Proton prefix \""));
     QStringList gone;
     for (const auto &other : configuration.value("othersWithoutFile"_s).toArray())
         gone.append(other.toObject().value("path"_s).toString());
@@ -486,6 +536,25 @@ void TestReport::givesACommandThatRestoresABackup()
     QVERIFY(newest.value("wellFormed"_s).toBool());
     QCOMPARE(Command("sh"_s, {"-c"_s, newest.value("restore"_s).toString()}).run().status, 0);
     QCOMPARE(readFile(file), othersConfiguration());
+}
+
+void TestReport::offersTheNewestBackupThatHelps()
+{
+    const QString file = m_computer->absolute(m_computer->configuration("Skylark"_s));
+    const auto backup = [&file](const QString &time) {
+        return file + "_quillmont_orbwell_before_installation_"_s + time + ".bak"_s;
+    };
+    const QByteArray page = "<html/>";
+    for (const char *time : {"20300102_030405", "20300102_030406", "20300102_030407"})
+        writeFile(backup(QLatin1String(time)), page);
+    for (const char *time : {"20200102_030405", "20100102_030405", "99999999_999999"})
+        writeFile(backup(QLatin1String(time)), othersConfiguration());
+    writeFile(file, "<R>");
+    const QByteArray text = run({"Skylark"_s}).output;
+    QVERIFY2(text.contains("Put the backup of 2020-01-02 03:04:05 back, or "), text.constData());
+    QVERIFY2(text.contains("    cp -- '" + backup("20200102_030405"_s).toUtf8()), text.constData());
+    QCOMPARE(text.count("cp -- "), 1);
+    QVERIFY2(text.contains("Older backups: 1\n"), text.constData());
 }
 
 void TestReport::refusesUnknownOptions_data()

@@ -1,3 +1,4 @@
+#include "Doctor/TextPlaces.h"
 #include "Doctor/XmlDamage.h"
 #include "Library/Text/XmlSource.h"
 #include "Library/Xml/XmlDocument.h"
@@ -9,6 +10,8 @@ using namespace Tests;
 using Quillmont::Library::Text::XmlSource;
 using Quillmont::Library::Xml::RootChild;
 using Quillmont::Library::Xml::XmlDocument;
+using Quillmont::Utility::Doctor::firstInvalid;
+using Quillmont::Utility::Doctor::lineAt;
 using Quillmont::Utility::Doctor::XmlDamage;
 
 /// Damage that other installers have done to configuration files, in words that a pilot
@@ -20,6 +23,8 @@ class TestXmlDamage : public QObject
 private slots:
     void explainsTheDamageInWords_data();
     void explainsTheDamageInWords();
+    void isNotSeenInCharactersThatAreThere_data();
+    void isNotSeenInCharactersThatAreThere();
 };
 
 void TestXmlDamage::explainsTheDamageInWords_data()
@@ -114,9 +119,33 @@ void TestXmlDamage::explainsTheDamageInWords_data()
         "<R>\n\x01</R>",
         "Line 2 holds a control character, which XML does not allow.",
         2);
-    row("other errors",
-        "<R>\n<A b=c/></R>",
-        "It is not well-formed XML: line 2, column 6: Expected ''' or '\"', but got '[a-zA-Z]'.",
+    row("web page behind a declaration and a comment",
+        "<?xml version='1.0'?>\n<!-- <R> -->\n<HTML><br></HTML>",
+        "The file is a web page, not XML.",
+        1);
+    row("quotation mark lost at the end",
+        "<R>\n<A b=\"c>\n</A></R>",
+        "A quotation mark is missing in a tag in line 2.",
+        2);
+    row("quotation mark lost at the beginning",
+        "<R>\n<A b=c\" d=\"e\">\n</A></R>",
+        "A quotation mark is missing in a tag in line 2.",
+        2);
+    row("no quotation marks",
+        "<R>\n<!-- a & b --><A b='&amp;' c=1/>&</R>",
+        "The value of c in line 2 has no quotation marks.",
+        2);
+    row("ampersand behind a comment",
+        "<R>\n<!-- a & b -->\n<![CDATA[&]]>\n&</R>",
+        "\"&\" in line 4 has to be written \"&amp;\".",
+        4);
+    row("encoding that nobody knows",
+        "<?xml version='1.0' encoding='klingon'?><R/>",
+        "It is not well-formed XML: line 1, column 40: Encoding klingon is unsupported.",
+        1);
+    row("anything else",
+        "<R>\n<A b='' b=''/></R>",
+        "It is not well-formed XML: line 2, column 14: Attribute 'b' redefined.",
         2);
     row("UTF-16",
         QByteArray::fromHex("fffe3c005200 3e000a00 3c002f004200 3e00"),
@@ -136,6 +165,27 @@ void TestXmlDamage::explainsTheDamageInWords()
     QCOMPARE(damage.sentence(), sentence);
     QCOMPARE(damage.line(), line);
     QVERIFY(damage.brokenLine().size() <= 161 && !damage.brokenLine().contains(u'\n'));
+}
+
+void TestXmlDamage::isNotSeenInCharactersThatAreThere_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("line");
+    QTest::newRow("none") << QByteArray("<a>\xc3\xa9</a>") << 0;
+    QTest::newRow("invalid") << QByteArray("<a>\r\r\n\xe9\n</a>") << 3;
+    QTest::newRow("replacement character") << QByteArray("<a>\n\xef\xbf\xbd</a>") << 0;
+    QTest::newRow("both") << QByteArray("\xef\xbb\xbf<a>\n\xef\xbf\xbd\n\xe9</a>") << 3;
+    QTest::newRow("both in UTF-16") << QByteArray::fromHex("fffe 3c00 fdff 0a00 00d8 3e00") << 2;
+    QTest::newRow("an encoding without it")
+        << QByteArray("<?xml version='1.0' encoding='iso-8859-7'?>\n<a>\xff</a>") << 2;
+}
+
+void TestXmlDamage::isNotSeenInCharactersThatAreThere()
+{
+    QFETCH(const QByteArray, bytes);
+    const XmlSource source(bytes);
+    const int place = firstInvalid(source);
+    QTEST(place < 0 ? 0 : lineAt(source.text(), place), "line");
 }
 
 QTEST_GUILESS_MAIN(TestXmlDamage)
