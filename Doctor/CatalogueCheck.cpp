@@ -1,5 +1,7 @@
 #include "Doctor/CatalogueCheck.h"
 
+#include "Controllers/ChosenFolder.h"
+#include "Doctor/CatalogueKeys.h"
 #include "Doctor/Page.h"
 #include "Doctor/Quoting.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -12,56 +14,11 @@
 #include <algorithm>
 
 using Quillmont::Library::Models::XmlInsertionModel;
+using Quillmont::Utility::Controllers::chosenFolderKey;
 
 namespace Quillmont::Utility::Doctor {
 
 namespace {
-
-// The keys that the program reads in each kind of object, with their types. After a colon: the kind
-// of the object, or of the array's objects.
-QMap<QString, QString> keysOf(const QString &kind)
-{
-    static const QMap<QString, QString> keys{
-        {QStringLiteral("entry"),
-         QStringLiteral("name=string simcode=string location=number path=string key=string "
-                        "target=string type=number root=string files=array:file "
-                        "config=object?:config conflict=object?:conflict")},
-        {QStringLiteral("file"), QStringLiteral("source=string destination=string")},
-        {QStringLiteral("config"),
-         QStringLiteral("path=string steam=number parent=string values=array:value "
-                        "remove=object:remove")},
-        {QStringLiteral("value"), QStringLiteral("key=string value=string")},
-        {QStringLiteral("remove"),
-         QStringLiteral("parent=string key=string value=string delete_parent=bool "
-                        "files=array:extra")},
-        {QStringLiteral("extra"), QStringLiteral("root=string path=string")},
-        {QStringLiteral("conflict"),
-         QStringLiteral("name=string remove_on_conflict=bool check_file=bool location=number "
-                        "solution=string")}};
-    QMap<QString, QString> types;
-    const QStringList pairs = keys.value(kind).split(u' ');
-    for (const QString &pair : pairs)
-        types.insert(pair.section(u'=', 0, 0), pair.section(u'=', 1));
-    return types;
-}
-
-QString typeOf(const QJsonValue &value)
-{
-    switch (value.type()) {
-    case QJsonValue::Bool:
-        return QStringLiteral("bool");
-    case QJsonValue::Double:
-        return QStringLiteral("number");
-    case QJsonValue::String:
-        return QStringLiteral("string");
-    case QJsonValue::Array:
-        return QStringLiteral("array");
-    case QJsonValue::Object:
-        return QStringLiteral("object");
-    default:
-        return QStringLiteral("null");
-    }
-}
 
 QString text(const QJsonObject &object, const char *key)
 {
@@ -115,10 +72,15 @@ void CatalogueCheck::checkMember(const QJsonValue &value, const QString &path, c
     const QString kind = type.section(u':', 1);
     if (mayBeNull && value.isNull())
         return;
-    if (typeOf(value) != wanted) {
-        say(path, tr("Its type is %1, not %2; it counts as missing.").arg(typeOf(value), wanted));
+    const QString json = wanted == QLatin1String("integer") ? QStringLiteral("number")
+        : wanted == QLatin1String("digits")                 ? QStringLiteral("string")
+                                                            : wanted;
+    if (typeOf(value) != json) {
+        say(path, tr("Its type is %1, not %2; it counts as missing.").arg(typeOf(value), json));
         return;
     }
+    if (!isWhole(value, wanted))
+        say(path, tr("It is no whole number; it counts as 0."));
     if (value.isObject())
         checkKeys(value.toObject(), path, kind);
     const QJsonArray elements = value.toArray();
@@ -129,16 +91,30 @@ void CatalogueCheck::checkMember(const QJsonValue &value, const QString &path, c
 
 void CatalogueCheck::checkEntry(const QJsonObject &entry, const QString &path)
 {
-    const QString name = text(entry, "name");
-    if (name.isEmpty())
-        say(path, tr("The simulator has no name."));
-    else if (m_names.contains(name))
-        say(path + QStringLiteral("/name"),
-            tr("Line %1 has the same name; both share one record and one chosen folder.")
-                .arg(m_places.of(m_names.value(name)).line));
-    m_names.insert(name, path + QStringLiteral("/name"));
+    const int location = entry.value(QLatin1String("location")).toInt(0);
+    checkName(text(entry, "name"), path);
+    if (location < 0 || location > 4)
+        say(path + QStringLiteral("/location"),
+            tr("There is no such location; the entry itself never finds anything."));
     checkFiles(entry.value(QLatin1String("files")).toArray(), path + QStringLiteral("/files"));
     checkConfiguration(entry, path);
+}
+
+void CatalogueCheck::checkName(const QString &name, const QString &path)
+{
+    const QString place = path + QStringLiteral("/name");
+    const QString key = chosenFolderKey(name);
+    const QPair<QString, QString> other = m_names.value(key);
+    const int line = m_places.of(other.second).line;
+    if (name.isEmpty())
+        say(path, tr("The simulator has no name."));
+    else if (m_names.contains(key) && other.first == name)
+        say(place,
+            tr("Line %1 has the same name; both share one record and one chosen folder.")
+                .arg(line));
+    else if (m_names.contains(key))
+        say(place, tr("It shares its chosen folder with the name in line %1.").arg(line));
+    m_names.insert(key, {name, place});
 }
 
 void CatalogueCheck::checkFiles(const QJsonArray &files, const QString &path)
@@ -147,26 +123,29 @@ void CatalogueCheck::checkFiles(const QJsonArray &files, const QString &path)
         say(path.section(u'/', 0, 0),
             tr("There are no files; nothing is installed, and it counts as installed."));
     QSet<QString> destinations;
-    for (int i = 0; i < files.size(); ++i) {
-        const QString file = path + u'/' + QString::number(i);
-        const auto slashed = [&](const char *key) {
-            return text(files.at(i).toObject(), key).replace(u'\\', u'/');
-        };
-        const QString source = slashed("source");
-        const QString destination = slashed("destination");
-        if (source.isEmpty() || !QFileInfo(m_payload + source).isFile())
-            say(file + QStringLiteral("/source"),
-                tr("The payload has no file %1; it cannot be copied.").arg(quoted(source)));
-        if (destination.isEmpty())
-            say(file, tr("There is no destination; it is the simulator's folder itself."));
-        if (destination.split(u'/').contains(QLatin1String("..")))
-            say(file + QStringLiteral("/destination"),
-                tr("\"..\" leads out of the simulator's folder; the file is written there."));
-        if (destinations.contains(destination))
-            say(file + QStringLiteral("/destination"),
-                tr("Another file has the same destination; the later one is copied."));
-        destinations.insert(destination);
-    }
+    for (int i = 0; i < files.size(); ++i)
+        checkFile(files.at(i).toObject(), path + u'/' + QString::number(i), &destinations);
+}
+
+void CatalogueCheck::checkFile(const QJsonObject &file,
+                               const QString &path,
+                               QSet<QString> *destinations)
+{
+    const QString source = text(file, "source").replace(u'\\', u'/');
+    const QString destination = text(file, "destination").replace(u'\\', u'/');
+    const QString place = path + QStringLiteral("/destination");
+    if (source.isEmpty() || !QFileInfo(m_payload + source).isFile())
+        say(path + QStringLiteral("/source"),
+            tr("The payload has no file %1; it cannot be copied.").arg(quoted(source)));
+    if (leadsOut(source))
+        say(path + QStringLiteral("/source"), tr("\"..\" leads out of the payload."));
+    if (destination.isEmpty())
+        say(path, tr("There is no destination; it is the simulator's folder itself."));
+    if (leadsOut(destination))
+        say(place, tr("\"..\" leads out of the simulator's folder; the file is written there."));
+    if (destinations->contains(destination))
+        say(place, tr("Another file has the same destination; the later one is copied."));
+    destinations->insert(destination);
 }
 
 void CatalogueCheck::checkConfiguration(const QJsonObject &entry, const QString &path)
@@ -178,6 +157,9 @@ void CatalogueCheck::checkConfiguration(const QJsonObject &entry, const QString 
     if (isSilent && entry.contains(QLatin1String("conflict")))
         say(path + QStringLiteral("/conflict"),
             tr("It is only read beside a \"config\" that is null or not empty; it is ignored."));
+    if (config.isEmpty() && entry.value(QLatin1String("type")) == QJsonValue(0))
+        say(path + QStringLiteral("/type"),
+            tr("Without \"config\" no configuration file is touched."));
     if (config.isEmpty())
         return;
     if (entry.value(QLatin1String("type")).toInt(0) != 0) {
@@ -186,6 +168,11 @@ void CatalogueCheck::checkConfiguration(const QJsonObject &entry, const QString 
     }
     if (text(config, "path").isEmpty())
         say(place, tr("There is no path; no file can be edited."));
+    if (leadsOut(text(config, "path").replace(u'\\', u'/')))
+        say(place + QStringLiteral("/path"), tr("\"..\" leads out of the folder of such files."));
+    const QStringList impossible = noMarkupOf(config);
+    for (const QString &key : impossible)
+        say(place + u'/' + key, tr("XML cannot hold this; the entry is never added."));
     checkRemoval(config, place);
 }
 

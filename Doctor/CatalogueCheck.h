@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QMap>
 #include <QMultiMap>
+#include <QPair>
+#include <QSet>
 
 namespace Quillmont::Utility::Doctor {
 
@@ -33,7 +35,9 @@ private:
     void checkKeys(const QJsonObject &object, const QString &path, const QString &kind);
     void checkMember(const QJsonValue &value, const QString &path, const QString &type);
     void checkEntry(const QJsonObject &entry, const QString &path);
+    void checkName(const QString &name, const QString &path);
     void checkFiles(const QJsonArray &files, const QString &path);
+    void checkFile(const QJsonObject &file, const QString &path, QSet<QString> *destinations);
     void checkConfiguration(const QJsonObject &entry, const QString &path);
     void checkRemoval(const QJsonObject &config, const QString &path);
     void say(const QString &path, const QString &text);
@@ -41,7 +45,8 @@ private:
 
     const JsonPlaces m_places;
     const QString m_payload;
-    QMap<QString, QString> m_names; ///< Names of the entries so far, with their paths.
+    /// By the key of the chosen folder: the last entry's name so far, and its path.
+    QMap<QString, QPair<QString, QString>> m_names;
     QMultiMap<QPair<int, int>, QJsonObject> m_findings;
 };
 

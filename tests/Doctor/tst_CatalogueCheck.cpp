@@ -54,6 +54,38 @@ void TestCatalogueCheck::reportsMistakesThatTheProgramIgnores_data()
     row("duplicate name",
         "[{\"name\": \"A\", " + files + "},\n{\"name\": \"A\", " + files + "}]",
         "2:2 name Line 1 has the same name; both share one record and one chosen folder.");
+    row("names of one chosen folder",
+        "[{\"name\": \"A B\", " + files + "},\n{\"name\": \"A_B\", " + files + "}]",
+        "2:2 name It shares its chosen folder with the name in line 1.");
+    row("no whole number",
+        "[{\"name\": \"A\", \"location\": 1.5,\n\"type\": 2.5,\n\"root\": \"abc\", " + files + "}]",
+        "1:16 location It is no whole number; it counts as 0.|"
+        "2:1 type It is no whole number; it counts as 0.|"
+        "3:1 root It is no whole number; it counts as 0.");
+    row("whole numbers",
+        "[{\"name\": \"A\", \"location\": 4, \"type\": 1.0, \"root\": \"-1\", " + files + "}]",
+        "");
+    row("no location",
+        "[{\"name\": \"A\", \"location\": 5, " + files + "}]",
+        "1:16 location There is no such location; the entry itself never finds anything.");
+    row("source elsewhere",
+        R"([{"name": "A", "files": [{"source": "x\\..\\..\\a", "destination": "b"}]}])",
+        "1:27 files/0/source \"..\" leads out of the payload.|"
+        "1:27 files/0/source The payload has no file \"x/../../a\"; it cannot be copied.");
+    row("type without configuration",
+        "[{\"name\": \"A\", \"type\": 0, " + files + "}]",
+        "1:16 type Without \"config\" no configuration file is touched.");
+    row("configuration elsewhere",
+        withConfig(QByteArray(values).replace("\"x\"", "\"..\\\\x\"")),
+        "2:12 config/path \"..\" leads out of the folder of such files.");
+    row("no XML",
+        withConfig(R"("path": "x",)"
+                   "\n"
+                   R"("parent": "Launch Addon",)"
+                   "\n"
+                   R"("values": [{"key": "k", "value": "\u0001"}])"),
+        "3:1 config/parent XML cannot hold this; the entry is never added.|"
+        "4:12 config/values/0 XML cannot hold this; the entry is never added.");
     row("source is missing",
         R"([{"name": "A", "files": [{"source": "c", "destination": "b"}]}])",
         "1:27 files/0/source The payload has no file \"c\"; it cannot be copied.");

@@ -1,0 +1,32 @@
+#ifndef DOCTOR_CATALOGUEKEYS_H
+#define DOCTOR_CATALOGUEKEYS_H
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+class QJsonObject;
+class QJsonValue;
+
+namespace Quillmont::Utility::Doctor {
+
+/// The keys that the program reads of an object of a catalogue that is of that @p kind, and of what
+/// type it wants them. Behind a colon: the kind of object, or of objects in the array. An "integer"
+/// is a number, and "digits" are a string.
+QMap<QString, QString> keysOf(const QString &kind);
+
+/// The type of @p value, as JSON calls it.
+QString typeOf(const QJsonValue &value);
+
+/// Whether @p value is what an "integer" or "digits" should be; any other @p type may be anything.
+bool isWhole(const QJsonValue &value, const QString &type);
+
+/// Whether ".." is a part of @p path.
+bool leadsOut(const QString &path);
+
+/// The keys of what no XML can hold in the entry that @p config describes: "parent", "values/0".
+QStringList noMarkupOf(const QJsonObject &config);
+
+} // namespace Quillmont::Utility::Doctor
+
+#endif
