@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>Verschieben Sie sie, oder verkleinern Sie sie von Hand.</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>Verschieben Sie sie.</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Bessern Sie die Datei von Hand aus; bis dahin wird nichts in ihr geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Spielen Sie die Sicherung vom %1 zurück, oder bessern Sie die Datei von Hand aus; bis dahin wird nichts in ihr geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>Verschieben Sie sie; bis dahin lädt der Simulator möglicherweise gar kein Add-on.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>Spielen Sie die Sicherung vom %1 zurück; bis dahin lädt der Simulator möglicherweise gar kein Add-on.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>Alles ist in Ordnung.</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>Das ist keine ganze Zahl; es zählt als 0.</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>Diese &quot;location&quot; gibt es nicht; der Eintrag selbst findet nie etwas.</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>Er teilt sich den gewählten Ordner mit dem Namen in Zeile %1.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; führt aus dem Ordner der mitgelieferten Dateien hinaus.</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>Ohne &quot;config&quot; wird keine Konfigurationsdatei angefasst.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; führt aus dem Ordner solcher Dateien hinaus.</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML kann das nicht enthalten; der Eintrag wird nie hinzugefügt.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>Die Konfigurationsdatei %1 kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>Die Konfigurationsdatei %1 ist beschädigt. %2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Spielen Sie eine Sicherung zurück, oder bessern Sie die Datei von Hand aus; bis dahin wird nichts in ihr geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>Unser Eintrag in %1 nennt die Datei %2, die fehlt.</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>Die Konfigurationsdatei %1 ist eine Webseite.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>Der Katalog %1 fehlt, ist leer oder kann nicht gelesen werden.</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>Der Katalog %1 ist kein JSON-Array; --check-catalogue sagt mehr.</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>Hilfe gibt &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>Die Antwort kann nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Der Katalog %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>Der Katalog %1 ist leer.</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Sagt, was mit den Simulatoren und dem Orbwell-Plugin darin nicht stimmt. Ändert
 NAMEN beschränken Bericht oder Plan auf diese Simulatoren.
 Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue nimmt keine Namen.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 und %2 schließen einander aus.</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <source>its name is not valid text</source>
         <translation>ihr Name ist kein gültiger Text</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>der Katalog</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>Datei nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>keine Registrierungsdatenbank auf diesem System</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>wird nur unter Windows gesucht</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>diese &quot;location&quot; gibt es nicht</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>ein anderer wurde von Hand gewählt</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>Sicherung vom %1, %2 Bytes, wohlgeformt; zurückspielen mit:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>Sicherung vom %1, %2 Bytes, beschädigt; zurückspielen mit:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>Ältere Sicherungen: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <message>
         <source>What to do:</source>
         <translation>Was zu tun ist:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>Konfiguration: kein Proton-Präfix</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>Im Proton-Präfix %1</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>Sicherung vom %1, %2 Bytes, beschädigt</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>Zeile %1 enthält ein Steuerzeichen, das XML nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>In einem Tag in Zeile %1 fehlt ein Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>Der Wert von %1 in Zeile %2 hat keine Anführungszeichen.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Concédase permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>Muévalo a otro sitio o hágalo más pequeño a mano.</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>Muévalo a otro sitio.</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Arregle el archivo a mano; hasta entonces no se cambia nada en él, y es posible que el simulador no cargue ningún complemento.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Restaure la copia de seguridad del %1 o arregle el archivo a mano; hasta entonces no se cambia nada en él, y es posible que el simulador no cargue ningún complemento.</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>Muévalo a otro sitio; hasta entonces es posible que el simulador no cargue ningún complemento.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>Restaure la copia de seguridad del %1; hasta entonces es posible que el simulador no cargue ningún complemento.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>Todo está bien.</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>No es un número entero; cuenta como 0.</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>No existe esa &quot;location&quot;; la entrada por sí misma nunca encuentra nada.</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>Comparte la carpeta elegida con el nombre de la línea %1.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; sale de la carpeta de los archivos incluidos.</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>Sin &quot;config&quot; no se toca ningún archivo de configuración.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; sale de la carpeta de esos archivos.</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML no puede contener esto; la entrada nunca se añade.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>No se puede leer el archivo de configuración %1: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Concédase permiso para leerlo.</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>El archivo de configuración %1 está dañado. %2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Restaure una copia de seguridad o arregle el archivo a mano; hasta entonces no se cambia nada en él, y es posible que el simulador no cargue ningún complemento.</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>Nuestra entrada en %1 nombra el archivo %2, que falta.</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>El archivo de configuración %1 es una página web.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>El catálogo %1 falta, está vacío o no se puede leer.</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>El catálogo %1 no es un array JSON; --check-catalogue da más detalles.</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>Pruebe &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>No se puede escribir la respuesta: %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>No se puede leer el catálogo %1: %2.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>El catálogo %1 está vacío.</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Dice qué está mal en los simuladores y en su plugin Orbwell. No cambia nada.
 Los NOMBREs limitan el informe o el plan a esos simuladores.
 Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue no admite nombres.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 y %2 se excluyen mutuamente.</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <source>its name is not valid text</source>
         <translation>su nombre no es texto válido</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>el catálogo</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>no existe ese archivo</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>este sistema no tiene registro de Windows</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>solo se busca en Windows</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>no existe esa &quot;location&quot;</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>se eligió otra a mano</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>Copia de seguridad del %1, %2 bytes, bien formada; para restaurarla:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>Copia de seguridad del %1, %2 bytes, dañada; para restaurarla:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>Copias de seguridad anteriores: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <message>
         <source>What to do:</source>
         <translation>Qué hay que hacer:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>Configuración: sin prefijo de Proton</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>En el prefijo de Proton %1</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>ningún archivo</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>Copia de seguridad del %1, %2 bytes, dañada</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>La línea %1 contiene un carácter de control, que XML no permite.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>Faltan unas comillas en una etiqueta de la línea %1.</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>El valor de %1 en la línea %2 no tiene comillas.</translation>
     </message>
 </context>
 <context>

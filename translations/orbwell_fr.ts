@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Donnez-vous le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>Déplacez-le, ou réduisez-le à la main.</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>Déplacez-le.</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur peut ne charger aucun module complémentaire.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Restaurez la sauvegarde du %1, ou réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur peut ne charger aucun module complémentaire.</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>Déplacez-le&#xa0;; d’ici là, le simulateur peut ne charger aucun module complémentaire.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>Restaurez la sauvegarde du %1&#xa0;; d’ici là, le simulateur peut ne charger aucun module complémentaire.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>Tout est en ordre.</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>Ce n’est pas un nombre entier&#xa0;; cela compte comme 0.</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>Cette &quot;location&quot; n’existe pas&#xa0;; l’entrée elle-même ne trouve jamais rien.</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>Il partage son dossier choisi avec le nom de la ligne %1.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; mène hors du dossier des fichiers fournis.</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>Sans &quot;config&quot;, aucun fichier de configuration n’est touché.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; mène hors du dossier de ces fichiers.</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML ne peut pas contenir cela&#xa0;; l’entrée n’est jamais ajoutée.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>Le fichier de configuration %1 ne peut pas être lu&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Donnez-vous le droit de le lire.</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>Le fichier de configuration %1 est endommagé. %2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Restaurez une sauvegarde, ou réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur peut ne charger aucun module complémentaire.</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>Notre entrée dans %1 désigne le fichier %2, qui est manquant.</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>Le fichier de configuration %1 est une page web.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>Le catalogue %1 est manquant, vide ou illisible.</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>Le catalogue %1 n’est pas un tableau JSON&#xa0;; --check-catalogue en dit plus.</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>Essayez &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>La réponse ne peut pas être écrite&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Le catalogue %1 ne peut pas être lu&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>Le catalogue %1 est vide.</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Dit ce qui ne va pas dans les simulateurs et le plugin Orbwell. Ne modifie rien.
 Des NOMs limitent le rapport ou le plan à ces simulateurs.
 Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue n’accepte pas de noms.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 et %2 s’excluent mutuellement.</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <source>its name is not valid text</source>
         <translation>son nom n’est pas un texte valide</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>le catalogue</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>fichier inexistant</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>pas de base de registre sur ce système</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>recherché sous Windows seulement</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>cette &quot;location&quot; n’existe pas</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>un autre a été choisi à la main</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>Sauvegarde du %1, %2 octets, bien formée&#xa0;; pour la restaurer&#xa0;:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>Sauvegarde du %1, %2 octets, endommagée&#xa0;; pour la restaurer&#xa0;:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>Sauvegardes plus anciennes&#xa0;: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <message>
         <source>What to do:</source>
         <translation>Que faire&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>Configuration&#xa0;: pas de préfixe Proton</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>Dans le préfixe Proton %1</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>aucun fichier</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>Sauvegarde du %1, %2 octets, endommagée</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>La ligne %1 contient un caractère de contrôle, que XML n’admet pas.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>Il manque un guillemet dans une balise de la ligne %1.</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>La valeur de %1 à la ligne %2 n’a pas de guillemets.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>Spostarlo altrove o ridurlo a mano.</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>Spostarlo altrove.</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Correggere il file a mano; fino ad allora non vi viene modificato nulla, e il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Ripristinare il backup del %1 o correggere il file a mano; fino ad allora non vi viene modificato nulla, e il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>Spostarlo altrove; fino ad allora il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>Ripristinare il backup del %1; fino ad allora il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>È tutto a posto.</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>Non è un numero intero; vale come 0.</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>Questa &quot;location&quot; non esiste; la voce da sola non trova mai nulla.</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>Condivide la cartella scelta con il nome della riga %1.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; porta fuori dalla cartella dei file forniti.</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>Senza &quot;config&quot; nessun file di configurazione viene toccato.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; porta fuori dalla cartella di questi file.</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML non può contenerlo; la voce non viene mai aggiunta.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>Impossibile leggere il file di configurazione %1: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>Il file di configurazione %1 è danneggiato. %2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Ripristinare un backup o correggere il file a mano; fino ad allora non vi viene modificato nulla, e il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>La nostra voce in %1 indica il file %2, che manca.</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>Il file di configurazione %1 è una pagina web.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>Il catalogo %1 manca, è vuoto o non può essere letto.</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>Il catalogo %1 non è un array JSON; --check-catalogue dice di più.</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>Provare &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>Impossibile scrivere la risposta: %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il catalogo %1: %2.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>Il catalogo %1 è vuoto.</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Dice che cosa non va nei simulatori e nel loro plugin Orbwell. Non modifica null
 I NOMI limitano il rapporto o il piano a quei simulatori.
 Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue non accetta nomi.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 e %2 si escludono a vicenda.</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <source>its name is not valid text</source>
         <translation>il suo nome non è un testo valido</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>il catalogo</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>file inesistente</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>nessun registro di sistema su questo computer</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>cercato solo su Windows</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>questa &quot;location&quot; non esiste</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>ne è stata scelta un’altra a mano</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>Backup del %1, %2 byte, ben formato; per ripristinarlo:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>Backup del %1, %2 byte, danneggiato; per ripristinarlo:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>Backup precedenti: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <message>
         <source>What to do:</source>
         <translation>Che cosa fare:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>Configurazione: nessun prefisso Proton</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>Nel prefisso Proton %1</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>nessun file</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>Backup del %1, %2 byte, danneggiato</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>La riga %1 contiene un carattere di controllo, che XML non ammette.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>In un tag della riga %1 manca una virgoletta.</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>Il valore di %1 nella riga %2 non ha virgolette.</translation>
     </message>
 </context>
 <context>

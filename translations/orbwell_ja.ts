@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>読み取る権限を付与してください。</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>別の場所に移すか、手動で小さくしてください。</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>別の場所に移してください。</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>%1 のバックアップを元に戻すか、ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>別の場所に移してください。それまでシミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>%1 のバックアップを元に戻してください。それまでシミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>問題はありません。</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>整数ではありません。0 として扱われます。</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>そのような &quot;location&quot; はありません。エントリ自体は何も見つけません。</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>%1 行目の名前と選択フォルダーを共有します。</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; は同梱ファイルのフォルダーの外に出ます。</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>&quot;config&quot; がないと、構成ファイルは変更されません。</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; はこの種のファイルのフォルダーの外に出ます。</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML に含めることができないため、エントリは追加されません。</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>構成ファイル %1 を読み取れません: %2。</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>読み取る権限を付与してください。</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>構成ファイル %1 は破損しています。%2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>バックアップを元に戻すか、ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>%1 の当プラグインのエントリが指すファイル %2 がありません。</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>構成ファイル %1 は Web ページです。</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>カタログ %1 がないか、空であるか、読み取れません。</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>カタログ %1 は JSON 配列ではありません。詳しくは --check-catalogue で確認できます。</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>&quot;orbwell-doctor --help&quot; をお試しください。</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>回答を書き込めません: %1。</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>カタログ %1 を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>カタログ %1 は空です。</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 名前を指定すると、レポートや計画をそのシミュレーターに限定します。
 終了ステータス: 0 問題なし、1 問題あり、2 確認できなかった
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue に名前は指定できません。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 と %2 は同時に指定できません。</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <source>its name is not valid text</source>
         <translation>名前が有効なテキストではありません</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>カタログ</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>このシステムにレジストリはありません</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>Windows でのみ検索されます</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>そのような &quot;location&quot; はありません</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>別のフォルダーが手動で選択されています</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>%1 のバックアップ、%2 バイト、整形式。元に戻すには:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>%1 のバックアップ、%2 バイト、破損。元に戻すには:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>それより古いバックアップ: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>What to do:</source>
         <translation>必要な対処:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>構成ファイル: Proton プレフィックスなし</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>Proton プレフィックス %1 の中</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>ファイルなし</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>%1 のバックアップ、%2 バイト、破損</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>%1 行目に、XML で許されない制御文字があります。</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>%1 行目のタグに引用符が足りません。</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>%2 行目の %1 の値に引用符がありません。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>Przenieś go w inne miejsce albo zmniejsz ręcznie.</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>Przenieś go w inne miejsce.</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Napraw plik ręcznie; do tego czasu nic nie będzie w nim zmieniane, a symulator może nie wczytać żadnego dodatku.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Przywróć kopię zapasową z %1 albo napraw plik ręcznie; do tego czasu nic nie będzie w nim zmieniane, a symulator może nie wczytać żadnego dodatku.</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>Przenieś go w inne miejsce; do tego czasu symulator może nie wczytać żadnego dodatku.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>Przywróć kopię zapasową z %1; do tego czasu symulator może nie wczytać żadnego dodatku.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>Wszystko jest w porządku.</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>To nie jest liczba całkowita; jest traktowane jak 0.</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>Nie ma takiej &quot;location&quot;; sam wpis nigdy niczego nie znajduje.</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>Ma wspólny wybrany folder z nazwą z wiersza %1.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; wychodzi poza folder dołączonych plików.</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>Bez &quot;config&quot; żaden plik konfiguracyjny nie jest ruszany.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; wychodzi poza folder takich plików.</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML nie może tego zawierać; wpis nigdy nie zostanie dodany.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>Nie można odczytać pliku konfiguracyjnego %1: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>Plik konfiguracyjny %1 jest uszkodzony. %2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Przywróć kopię zapasową albo napraw plik ręcznie; do tego czasu nic nie będzie w nim zmieniane, a symulator może nie wczytać żadnego dodatku.</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>Nasz wpis w %1 wskazuje plik %2, którego brakuje.</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>Plik konfiguracyjny %1 jest stroną internetową.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>Wykazu symulatorów %1 brakuje, jest pusty albo nie można go odczytać.</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>Wykaz symulatorów %1 nie jest tablicą JSON; więcej powie --check-catalogue.</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>Wypróbuj &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>Nie można zapisać odpowiedzi: %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Nie można odczytać wykazu symulatorów %1: %2.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>Wykaz symulatorów %1 jest pusty.</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Mówi, co jest nie tak z symulatorami i wtyczką Orbwell w nich. Niczego nie zmi
 NAZWY ograniczają raport lub plan do tych symulatorów.
 Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzić.
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue nie przyjmuje nazw.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 i %2 wykluczają się nawzajem.</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <source>its name is not valid text</source>
         <translation>jego nazwa nie jest poprawnym tekstem</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>wykaz symulatorów</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>nie ma takiego pliku</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>w tym systemie nie ma rejestru Windows</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>szukane tylko w systemie Windows</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>nie ma takiej &quot;location&quot;</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>ręcznie wybrano inny</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>Kopia zapasowa z %1, rozmiar w bajtach: %2, poprawna; aby ją przywrócić:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>Kopia zapasowa z %1, rozmiar w bajtach: %2, uszkodzona; aby ją przywrócić:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>Starsze kopie zapasowe: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     <message>
         <source>What to do:</source>
         <translation>Co zrobić:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>Konfiguracja: brak prefiksu Proton</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>W prefiksie Proton %1</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>żadnego pliku</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>Kopia zapasowa z %1, rozmiar w bajtach: %2, uszkodzona</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>Wiersz %1 zawiera znak sterujący, na który XML nie pozwala.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>W znaczniku w wierszu %1 brakuje cudzysłowu.</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>Wartość %1 w wierszu %2 nie ma cudzysłowów.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>Quillmont::Utility::Doctor::Advice</name>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Dê a si mesmo permissão para lê-lo.</translation>
+    </message>
+    <message>
+        <source>Move it away, or make it smaller by hand.</source>
+        <translation>Mova-o para outro lugar ou diminua-o à mão.</translation>
+    </message>
+    <message>
+        <source>Move it away.</source>
+        <translation>Mova-o para outro lugar.</translation>
+    </message>
+    <message>
+        <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Conserte o arquivo à mão; até lá nada é alterado nele, e o simulador talvez não carregue nenhum complemento.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
+        <translation>Restaure o backup de %1 ou conserte o arquivo à mão; até lá nada é alterado nele, e o simulador talvez não carregue nenhum complemento.</translation>
+    </message>
+    <message>
+        <source>Move it away; until then the simulator may load no add-on at all.</source>
+        <translation>Mova-o para outro lugar; até lá o simulador talvez não carregue nenhum complemento.</translation>
+    </message>
+    <message>
+        <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
+        <translation>Restaure o backup de %1; até lá o simulador talvez não carregue nenhum complemento.</translation>
+    </message>
+</context>
+<context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
@@ -79,6 +110,34 @@
         <source>Nothing is wrong.</source>
         <translation>Está tudo certo.</translation>
     </message>
+    <message>
+        <source>It is no whole number; it counts as 0.</source>
+        <translation>Não é um número inteiro; conta como 0.</translation>
+    </message>
+    <message>
+        <source>There is no such location; the entry itself never finds anything.</source>
+        <translation>Essa &quot;location&quot; não existe; a entrada em si nunca encontra nada.</translation>
+    </message>
+    <message>
+        <source>It shares its chosen folder with the name in line %1.</source>
+        <translation>Compartilha a pasta escolhida com o nome da linha %1.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the payload.</source>
+        <translation>&quot;..&quot; sai da pasta dos arquivos fornecidos.</translation>
+    </message>
+    <message>
+        <source>Without &quot;config&quot; no configuration file is touched.</source>
+        <translation>Sem &quot;config&quot; nenhum arquivo de configuração é tocado.</translation>
+    </message>
+    <message>
+        <source>&quot;..&quot; leads out of the folder of such files.</source>
+        <translation>&quot;..&quot; sai da pasta desses arquivos.</translation>
+    </message>
+    <message>
+        <source>XML cannot hold this; the entry is never added.</source>
+        <translation>XML não pode conter isto; a entrada nunca é adicionada.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::ConfigurationCheck</name>
@@ -111,16 +170,8 @@
         <translation>O arquivo de configuração %1 não pode ser lido: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Dê a si mesmo permissão para lê-lo.</translation>
-    </message>
-    <message>
         <source>The configuration file %1 is damaged. %2</source>
         <translation>O arquivo de configuração %1 está danificado. %2</translation>
-    </message>
-    <message>
-        <source>Put a backup back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Restaure um backup ou conserte o arquivo à mão; até lá nada é alterado nele, e o simulador talvez não carregue nenhum complemento.</translation>
     </message>
     <message>
         <source>Uninstall and install again.</source>
@@ -150,13 +201,13 @@
         <source>Our entry in %1 names the file %2, which is missing.</source>
         <translation>A nossa entrada em %1 indica o arquivo %2, que está faltando.</translation>
     </message>
+    <message>
+        <source>The configuration file %1 is a web page.</source>
+        <translation>O arquivo de configuração %1 é uma página da web.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
-    <message>
-        <source>The catalogue %1 is missing, empty or cannot be read.</source>
-        <translation>O catálogo %1 está faltando, está vazio ou não pode ser lido.</translation>
-    </message>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
         <translation>O catálogo %1 não é um array JSON; --check-catalogue diz mais.</translation>
@@ -168,6 +219,18 @@
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
         <translation>Tente &quot;orbwell-doctor --help&quot;.</translation>
+    </message>
+    <message>
+        <source>The answer cannot be written: %1.</source>
+        <translation>A resposta não pode ser gravada: %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>O catálogo %1 não pode ser lido: %2.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 is empty.</source>
+        <translation>O catálogo %1 está vazio.</translation>
     </message>
 </context>
 <context>
@@ -291,6 +354,14 @@ Diz o que há de errado com os simuladores e com o plugin Orbwell neles. Não al
 NOMEs limitam o relatório ou o plano a esses simuladores.
 Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
 </translation>
+    </message>
+    <message>
+        <source>--check-catalogue takes no names.</source>
+        <translation>--check-catalogue não aceita nomes.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 e %2 se excluem mutuamente.</translation>
     </message>
 </context>
 <context>
@@ -614,6 +685,30 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <source>its name is not valid text</source>
         <translation>o nome dele não é um texto válido</translation>
     </message>
+    <message>
+        <source>the catalogue</source>
+        <translation>o catálogo</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>o arquivo não existe</translation>
+    </message>
+    <message>
+        <source>no registry on this system</source>
+        <translation>este sistema não tem registro do Windows</translation>
+    </message>
+    <message>
+        <source>looked for on Windows only</source>
+        <translation>procurado apenas no Windows</translation>
+    </message>
+    <message>
+        <source>no such &quot;location&quot;</source>
+        <translation>essa &quot;location&quot; não existe</translation>
+    </message>
+    <message>
+        <source>another one was chosen by hand</source>
+        <translation>outra foi escolhida à mão</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
@@ -812,10 +907,6 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>Backup de %1, %2 bytes, bem formado; para restaurá-lo:</translation>
     </message>
     <message>
-        <source>Backup of %1, %2 bytes, damaged; to put it back:</source>
-        <translation>Backup de %1, %2 bytes, danificado; para restaurá-lo:</translation>
-    </message>
-    <message>
         <source>Older backups: %1</source>
         <translation>Backups mais antigos: %1</translation>
     </message>
@@ -842,6 +933,22 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     <message>
         <source>What to do:</source>
         <translation>O que fazer:</translation>
+    </message>
+    <message>
+        <source>Configuration: no Proton prefix</source>
+        <translation>Configuração: sem prefixo do Proton</translation>
+    </message>
+    <message>
+        <source>In the Proton prefix %1</source>
+        <translation>No prefixo do Proton %1</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation>nenhum arquivo</translation>
+    </message>
+    <message>
+        <source>Backup of %1, %2 bytes, damaged</source>
+        <translation>Backup de %1, %2 bytes, danificado</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1048,14 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
         <translation>A linha %1 contém um caractere de controle, que o XML não permite.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing in a tag in line %1.</source>
+        <translation>Falta uma aspa em uma tag na linha %1.</translation>
+    </message>
+    <message>
+        <source>The value of %1 in line %2 has no quotation marks.</source>
+        <translation>O valor de %1 na linha %2 não tem aspas.</translation>
     </message>
 </context>
 <context>
