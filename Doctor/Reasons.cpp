@@ -25,7 +25,7 @@ QString Reasons::translatedAlone(const QString &reason)
         QT_TR_NOOP("chosen by hand"),
         QT_TR_NOOP("the catalogue's file"),
         QT_TR_NOOP("the catalogue's folder"),
-        QT_TR_NOOP("the catalogue"),
+        QT_TR_NOOP("the catalogue's location"),
         QT_TR_NOOP("no such folder"),
         QT_TR_NOOP("no such file"),
         QT_TR_NOOP("no registry on this system"),

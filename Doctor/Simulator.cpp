@@ -30,7 +30,7 @@ QString strategyOf(const FlightSimScan *entry)
 {
     return entry->location == 0 ? QStringLiteral("the catalogue's file")
         : entry->location == 1  ? QStringLiteral("the catalogue's folder")
-                                : QStringLiteral("the catalogue");
+                                : QStringLiteral("the catalogue's location");
 }
 
 // What the entry's own strategy looked for in vain.

@@ -686,8 +686,8 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>ihr Name ist kein gültiger Text</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>der Katalog</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>die &quot;location&quot; des Katalogs</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>Im Proton-Präfix %1</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>keine Datei</translation>
     </message>
     <message>

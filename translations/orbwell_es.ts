@@ -686,8 +686,8 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>su nombre no es texto válido</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>el catálogo</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>la &quot;location&quot; del catálogo</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>En el prefijo de Proton %1</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>ningún archivo</translation>
     </message>
     <message>

@@ -686,8 +686,8 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>son nom n’est pas un texte valide</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>le catalogue</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>la &quot;location&quot; du catalogue</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>Dans le préfixe Proton %1</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>aucun fichier</translation>
     </message>
     <message>

@@ -686,8 +686,8 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>il suo nome non è un testo valido</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>il catalogo</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>la &quot;location&quot; del catalogo</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>Nel prefisso Proton %1</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>nessun file</translation>
     </message>
     <message>

@@ -686,8 +686,8 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>名前が有効なテキストではありません</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>カタログ</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>カタログの &quot;location&quot;</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>Proton プレフィックス %1 の中</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>ファイルなし</translation>
     </message>
     <message>

@@ -686,8 +686,8 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>jego nazwa nie jest poprawnym tekstem</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>wykaz symulatorów</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>&quot;location&quot; z wykazu symulatorów</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>W prefiksie Proton %1</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>żadnego pliku</translation>
     </message>
     <message>

@@ -686,8 +686,8 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>o nome dele não é um texto válido</translation>
     </message>
     <message>
-        <source>the catalogue</source>
-        <translation>o catálogo</translation>
+        <source>the catalogue&apos;s location</source>
+        <translation>a &quot;location&quot; do catálogo</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -943,7 +943,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>No prefixo do Proton %1</translation>
     </message>
     <message>
-        <source>no file</source>
+        <source>no named file</source>
         <translation>nenhum arquivo</translation>
     </message>
     <message>

@@ -205,7 +205,7 @@ void TestReport::reportsEachProblem_data()
         "</R> in line 1 closes nothing: no <R> is open there. Mend the file by hand; until then ",
         become("<A></R>", false));
     row("a second entry that is disabled",
-        "Our entry: there 2 times, disabled, for no file",
+        "Our entry: there 2 times, disabled, for no named file",
         become("<R><Launch.Addon><Name>Quillmont Orbwell</Name></Launch.Addon><Launch.Addon><Name>"
                "Quillmont Orbwell</Name><Disabled>True</Disabled></Launch.Addon></R>",
                true));
@@ -435,14 +435,14 @@ void TestReport::saysWhyItDidNotFindASimulator_data()
     row("no folder", {{"location"_s, 1}}, "");
     row("registry",
         {{"location"_s, 2}, {"path"_s, "A\\B"_s}, {"key"_s, "C"_s}},
-        "A/B/C (the catalogue): no registry on this system");
+        "A/B/C (the catalogue's location): no registry on this system");
     row("detection", {{"location"_s, 3}, {"path"_s, "/a"_s}}, "");
     row("several places",
         {{"location"_s, 4}, {"target"_s, "A\\B"_s}},
-        "A/B (the catalogue): looked for on Windows only");
+        "A/B (the catalogue's location): looked for on Windows only");
     row("anything else",
         {{"location"_s, 7}, {"path"_s, "/a"_s}},
-        "7 (the catalogue): no such \"location\"");
+        "7 (the catalogue's location): no such \"location\"");
 }
 
 void TestReport::saysWhyItDidNotFindASimulator()
