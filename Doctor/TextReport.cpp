@@ -164,7 +164,8 @@ QString TextReport::ourEntryLine(const QJsonObject &ours)
     const int count = ours.value(QLatin1String("count")).toInt();
     if (count == 0)
         return tr("No entry of ours");
-    const QString path = text(ours, "path").isEmpty() ? tr("no named file") : quotedText(ours, "path");
+    const QString path
+        = text(ours, "path").isEmpty() ? tr("no named file") : quotedText(ours, "path");
     const bool isDisabled = ours.value(QLatin1String("disabled")).toBool();
     if (count == 1)
         return (isDisabled ? tr("Our entry: there once, disabled, for %1")
