@@ -16,12 +16,12 @@ namespace {
 
 WorkProgress *outermost = nullptr;
 
-qint64 sum(QVector<WorkProgress::Step>::const_iterator begin,
-           QVector<WorkProgress::Step>::const_iterator end)
+// The size of the first @p count of them.
+qint64 bytesOf(const QVector<WorkProgress::Step> &steps, int count)
 {
     qint64 bytes = 0;
-    for (auto it = begin; it != end; ++it)
-        bytes += it->bytes;
+    for (int i = 0; i < count; ++i)
+        bytes += steps.at(i).bytes;
     return bytes;
 }
 
@@ -102,11 +102,10 @@ void WorkProgress::showState()
         return;
     const int count = m_steps.size();
     const int number = qBound(1, m_step, count);
-    const auto step = m_steps.cbegin() + number - 1;
-    const qint64 done = sum(m_steps.cbegin(), step) + std::min(m_bytes, step->bytes);
-    const qint64 all = sum(m_steps.cbegin(), m_steps.cend());
-    m_progress->showState(
-        step->simulator, step->file, number, count, int(100 * done / std::max<qint64>(all, 1)));
+    const Step &step = m_steps.at(number - 1);
+    const qint64 done = bytesOf(m_steps, number - 1) + std::min(m_bytes, step.bytes);
+    const qint64 all = std::max<qint64>(bytesOf(m_steps, count), 1);
+    m_progress->showState(step.simulator, step.file, number, count, int(100 * done / all));
 }
 
 void WorkProgress::close()

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include <fcntl.h>
-#include <sys/sendfile.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 #endif
@@ -45,7 +44,7 @@ using Quillmont::Library::Files::Heartbeat;
 
 namespace {
 
-constexpr size_t pieceSize = 1024 * 1024;
+constexpr size_t pieceSize = 1 << 20;
 
 // Has the drive begin with the piece before the end of @p file, and waits for the one before that.
 // Otherwise all would be in memory in a moment, and the call that QFile makes last would take
