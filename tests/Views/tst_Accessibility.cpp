@@ -305,15 +305,20 @@ void TestAccessibility::pressesNoButtonBehindADialog()
         ->actionInterface()
         ->doAction(QAccessibleActionInterface::pressAction());
     QSignalSpy scan(m_view.get(), &ScannerView::scanRequested);
+    const auto buttons = m_view->findChildren<QPushButton *>();
+    for (auto *button : buttons)
+        accessible(button)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QDialog dialog(m_view.get());
     dialog.open();
     // Closing the window would end the loop.
     QEventLoop loop;
-    QMetaObject::invokeMethod(
-        &loop, [&loop] { loop.exit(7); }, Qt::QueuedConnection);
-    const auto buttons = m_view->findChildren<QPushButton *>();
-    for (auto *button : buttons)
-        QMetaObject::invokeMethod(button, "click", Qt::QueuedConnection);
+    QTimer patience;
+    connect(&patience, &QTimer::timeout, &loop, [&] {
+        if (std::none_of(
+                buttons.cbegin(), buttons.cend(), [](auto *each) { return each->isDown(); }))
+            loop.exit(7);
+    });
+    patience.start(0);
     QCOMPARE(loop.exec(), 7);
     QCOMPARE(buttons.size(), 2);
     QCOMPARE(install.count() + scan.count(), 0);
