@@ -7,7 +7,10 @@
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 
+#include <QFileInfo>
 #include <QMap>
+
+using Quillmont::Utility::Models::FlightSimulatorMapping;
 
 namespace Quillmont::Utility::Doctor {
 
@@ -24,18 +27,35 @@ QJsonObject Plan::of(const QString &what,
         const bool isAskedFor = names.isEmpty() || names.contains(mapping->scan->name);
         if (mapping->path.isEmpty() || !isAskedFor)
             continue;
-        Rehearsal rehearsal(mapping, payload, record);
-        if (what != QLatin1String("install"))
-            rehearsal.uninstall();
-        if (what != QLatin1String("uninstall"))
-            rehearsal.install();
-        const QJsonObject plan = rehearsal.plan();
+        const QJsonObject plan = ofOne(what, mapping, payload, record);
         isFine = isFine && plan.value(QLatin1String("failures")).toArray().isEmpty();
         plans.append(plan);
     }
     return {{QStringLiteral("plan"), what},
             {QStringLiteral("fine"), isFine},
             {QStringLiteral("simulators"), plans}};
+}
+
+// The window disables the button of a simulator whose folder is gone.
+QJsonObject Plan::ofOne(const QString &what,
+                        const FlightSimulatorMapping *mapping,
+                        const QString &payload,
+                        const RecordText &record)
+{
+    const bool isThere = QFileInfo::exists(mapping->path);
+    Rehearsal rehearsal(mapping, payload, record);
+    if (!isThere)
+        rehearsal.fail(tr("Its folder %1 is gone.").arg(quoted(mapping->path)));
+    if (isThere && what != QLatin1String("install"))
+        rehearsal.uninstall();
+    if (isThere && what != QLatin1String("uninstall"))
+        rehearsal.install();
+    QJsonObject plan = rehearsal.plan();
+    plan.insert(QStringLiteral("button"),
+                !isThere                          ? QStringLiteral("disabled")
+                    : mapping->isAddonInstalled() ? QStringLiteral("uninstall")
+                                                  : QStringLiteral("install"));
+    return plan;
 }
 
 void Plan::write(const QJsonObject &plan, Page *page)
@@ -62,6 +82,11 @@ void Plan::writeSimulator(const QJsonObject &simulator, Page *page)
         for (const auto &text : texts)
             page->add(2, words.arg(quoted(text.toString())), style);
     };
+    const QMap<QString, QString> buttons{
+        {QStringLiteral("install"), tr("Button in the window: \"Install Orbwell\"")},
+        {QStringLiteral("uninstall"), tr("Button in the window: \"Uninstall Orbwell\"")},
+        {QStringLiteral("disabled"), tr("Button in the window: disabled")}};
+    page->add(2, buttons.value(simulator.value(QLatin1String("button")).toString()));
     each("foldersMade", tr("Folder made: %1"), Page::Plain);
     const QJsonArray files = simulator.value(QLatin1String("files")).toArray();
     for (const auto &file : files)

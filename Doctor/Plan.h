@@ -10,6 +10,7 @@
 namespace Quillmont::Utility::Doctor {
 
 class Page;
+class RecordText;
 
 /// What the window would do now in each simulator, independently of the others.
 class Plan
@@ -28,6 +29,10 @@ public:
     static void write(const QJsonObject &plan, Page *page);
 
 private:
+    static QJsonObject ofOne(const QString &what,
+                             const Models::FlightSimulatorMapping *mapping,
+                             const QString &payload,
+                             const RecordText &record);
     static void writeSimulator(const QJsonObject &simulator, Page *page);
     static void writeChange(const QString &subject, const QJsonObject &change, Page *page);
     static void writeDiff(const QString &diff, Page *page);

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace Quillmont::Utility::Doctor {
 
@@ -19,88 +21,189 @@ QStringList sorted(const QSet<QString> &paths)
     return list;
 }
 
+QStringList namesIn(const QString &path)
+{
+    QStringList names = path.split(u'/', Qt::SkipEmptyParts);
+    names.removeAll(QStringLiteral("."));
+    return names;
+}
+
+QString folderOf(const QString &place)
+{
+    return place.left(std::max(place.lastIndexOf(u'/'), 1));
+}
+
 } // namespace
 
-QString PlannedDisk::key(const QString &path)
+// Name by name, since the system knows nothing of what is planned.
+QString PlannedDisk::place(const QString &path, LastName last) const
 {
-    return QDir::cleanPath(path);
+    constexpr int maxLinks = 40; // the system's own limit
+    QStringList names
+        = namesIn(QDir::isRelativePath(path) ? QDir::currentPath() + u'/' + path : path);
+    QString here = QStringLiteral("/");
+    for (int links = 0; !names.isEmpty() && links <= maxLinks;) {
+        const QString name = names.takeFirst();
+        const QString next
+            = name == QLatin1String("..") ? folderOf(here) : QDir(here).filePath(name);
+        const QString link = names.isEmpty() && last == Kept ? QString() : linkAt(next);
+        if (!link.isEmpty()) {
+            ++links;
+            names = namesIn(link) + names;
+            here = link.startsWith(u'/') ? QStringLiteral("/") : here;
+        } else if (names.isEmpty() || isFolderAt(next)) {
+            here = next;
+        } else {
+            return {};
+        }
+    }
+    return names.isEmpty() ? here : QString();
+}
+
+QString PlannedDisk::linkAt(const QString &place) const
+{
+    if (m_files.contains(place) || m_newFolders.contains(place))
+        return {};
+    std::error_code failure;
+    const auto link
+        = std::filesystem::read_symlink(QFile::encodeName(place).toStdString(), failure);
+    return failure ? QString() : QFile::decodeName(link.c_str());
+}
+
+bool PlannedDisk::isAt(const QString &place) const
+{
+    const auto planned = m_files.constFind(place);
+    if (planned != m_files.constEnd())
+        return planned->kind != File::Removed;
+    const QFileInfo info(place);
+    return m_newFolders.contains(place)
+        || (!m_goneFolders.contains(place) && (info.exists() || info.isSymLink()));
+}
+
+bool PlannedDisk::isFolderAt(const QString &place) const
+{
+    const QFileInfo info(place);
+    return m_newFolders.contains(place)
+        || (!m_goneFolders.contains(place) && !m_files.contains(place) && info.isDir()
+            && !info.isSymLink());
+}
+
+bool PlannedDisk::isWritableAt(const QString &place) const
+{
+    const QFileInfo info(place);
+    return m_files.contains(place) || (info.isFile() && info.isWritable());
+}
+
+bool PlannedDisk::mayWriteBeside(const QString &place) const
+{
+    const QString folder = folderOf(place);
+    const QFileInfo info(folder);
+    return m_newFolders.contains(folder)
+        || (isFolderAt(folder) && info.isWritable() && info.isExecutable());
 }
 
 const PlannedDisk::File *PlannedDisk::file(const QString &path) const
 {
-    const auto it = m_files.constFind(key(path));
+    const auto it = m_files.constFind(placeOf(path));
     return it == m_files.constEnd() ? nullptr : &it.value();
 }
 
 bool PlannedDisk::exists(const QString &path) const
 {
-    const File *planned = file(path);
-    return planned ? planned->kind != File::Removed : QFileInfo::exists(path);
+    const QString where = placeOf(path);
+    return !where.isEmpty() && isAt(where);
 }
 
-bool PlannedDisk::isFolder(const QString &path) const
+bool PlannedDisk::isDeadLink(const QString &path) const
 {
-    return m_newFolders.contains(path)
-        || (!m_goneFolders.contains(path) && QFileInfo(path).isDir());
+    const QString where = place(path, Kept);
+    return !where.isEmpty() && !linkAt(where).isEmpty() && !exists(path);
 }
 
-void PlannedDisk::makeFolderOf(const QString &path)
+bool PlannedDisk::mayMake(const QString &path) const
 {
-    QString folder = key(QFileInfo(path).absolutePath());
-    while (!isFolder(folder) && folder.contains(u'/')) {
-        // A folder that was removed before is created again.
-        if (!m_goneFolders.remove(folder))
-            m_newFolders.insert(folder);
-        folder = folder.left(folder.lastIndexOf(u'/'));
-    }
+    const QString where = place(path, Kept);
+    return !where.isEmpty() && !isAt(where) && mayWriteBeside(where);
 }
 
-void PlannedDisk::remove(const QString &path)
+bool PlannedDisk::mayReplace(const QString &path) const
 {
-    m_files.insert(key(path), {File::Removed, {}, {}});
-    forget(key(path));
+    return mayRewrite(path) && mayWriteBeside(placeOf(path));
 }
 
-void PlannedDisk::copy(const QString &source, const QString &target)
+bool PlannedDisk::mayRewrite(const QString &path) const
 {
-    m_files.insert(key(target), {File::Copied, source, {}});
+    const QString where = placeOf(path);
+    return !where.isEmpty() && (isAt(where) ? isWritableAt(where) : mayWriteBeside(where));
 }
 
-void PlannedDisk::write(const QString &path, const QByteArray &bytes)
+bool PlannedDisk::makeFolderOf(const QString &path)
 {
-    m_files.insert(key(path), {File::Written, {}, bytes});
+    return makeFolder(QFileInfo(path).path());
+}
+
+// One after the other, as the system would: with ".." behind a folder that has to be made first,
+// and without a link in the place of a folder.
+bool PlannedDisk::makeFolder(const QString &path)
+{
+    const int slash = path.lastIndexOf(u'/');
+    if (isFolder(path) || (slash > 0 && !makeFolder(path.left(slash))))
+        return isFolder(path);
+    if (mayMake(path))
+        m_newFolders.insert(place(path, Kept));
+    return isFolder(path);
+}
+
+bool PlannedDisk::remove(const QString &path)
+{
+    const QString where = place(path, Kept);
+    const bool isRemovable
+        = !where.isEmpty() && isAt(where) && !isFolderAt(where) && mayWriteBeside(where);
+    if (!isRemovable)
+        return false;
+    m_files.insert(where, {File::Removed, {}, {}});
+    forget(where);
+    return true;
+}
+
+bool PlannedDisk::copy(const QString &source, const QString &target)
+{
+    const bool isMade = mayMake(target);
+    if (isMade)
+        m_files.insert(place(target, Kept), {File::Copied, source, {}});
+    return isMade;
+}
+
+bool PlannedDisk::replace(const QString &path, const QByteArray &bytes)
+{
+    return mayReplace(path) && rewrite(path, bytes);
+}
+
+bool PlannedDisk::rewrite(const QString &path, const QByteArray &bytes)
+{
+    const bool isWritten = mayRewrite(path);
+    if (isWritten)
+        m_files.insert(placeOf(path), {File::Written, {}, bytes});
+    return isWritten;
 }
 
 void PlannedDisk::removeFolderIfEmpty(const QString &path)
 {
-    const QString folder = key(QFileInfo(path).dir().path());
-    if (m_goneFolders.contains(folder) || !isSurelyEmpty(folder))
+    const QString folder = ViewControllers::asTheSystemHasIt(QFileInfo(path).path());
+    if (folder.isEmpty() || !isFolder(folder) || !isSurelyEmpty(placeOf(folder)))
         return;
-    constexpr auto everything
-        = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    QDirIterator it(folder, everything, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString inside = it.next();
-        if (it.fileInfo().isDir() && !it.fileInfo().isSymLink())
-            m_goneFolders.insert(inside);
-        else
-            remove(inside);
-    }
-    m_goneFolders.insert(folder);
-    forget(folder);
+    // What a link leads to is emptied, but stays, as does the link.
+    if (linkAt(place(folder, Kept)).isEmpty())
+        takeAway(placeOf(folder));
+    else
+        takeContentsAway(placeOf(folder));
 }
 
-bool PlannedDisk::isGone(const QString &path) const
+void PlannedDisk::forget(const QString &place)
 {
-    const File *planned = file(path);
-    return m_goneFolders.contains(path) || (planned && planned->kind == File::Removed);
-}
-
-void PlannedDisk::forget(const QString &path)
-{
-    const auto it = m_seen.find(QFileInfo(path).path());
+    const auto it = m_seen.find(folderOf(place));
     if (it != m_seen.end())
-        it->remove(path);
+        it->remove(place);
 }
 
 // Looked at once for all files in it.
@@ -109,7 +212,7 @@ bool PlannedDisk::isSurelyEmpty(const QString &folder)
     if (!m_seen.contains(folder)) {
         QSet<QString> &seen = m_seen[folder];
         const auto see = [this, &seen](const QString &path) {
-            if (!isGone(path))
+            if (isAt(path))
                 seen.insert(path);
             return true;
         };
@@ -119,14 +222,39 @@ bool PlannedDisk::isSurelyEmpty(const QString &folder)
     return m_seen.value(folder).isEmpty();
 }
 
+bool PlannedDisk::takeAway(const QString &folder)
+{
+    const bool isTaken = takeContentsAway(folder) && mayWriteBeside(folder);
+    if (!isTaken)
+        return false;
+    m_goneFolders.insert(folder);
+    forget(folder);
+    return true;
+}
+
+bool PlannedDisk::takeContentsAway(const QString &folder)
+{
+    constexpr auto everything
+        = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    bool isEmpty = true;
+    QDirIterator it(folder, everything);
+    while (it.hasNext()) {
+        const QString inside = it.next();
+        const bool isTaken
+            = !isAt(inside) || (isFolderAt(inside) ? takeAway(inside) : remove(inside));
+        isEmpty = isEmpty && isTaken;
+    }
+    return isEmpty;
+}
+
 QStringList PlannedDisk::newFolders() const
 {
-    return sorted(m_newFolders);
+    return sorted(QSet<QString>(m_newFolders).subtract(m_goneFolders));
 }
 
 QStringList PlannedDisk::goneFolders() const
 {
-    return sorted(m_goneFolders);
+    return sorted(QSet<QString>(m_goneFolders).subtract(m_newFolders));
 }
 
 } // namespace Quillmont::Utility::Doctor

@@ -42,14 +42,14 @@ void RecordChange::update(const FlightSimulatorMapping *mapping, bool uninstalle
     }
 }
 
-QJsonObject RecordChange::json() const
+QJsonObject RecordChange::json(const QString &place) const
 {
-    const bool isMissing = FileHelper::isMissing(recordFile());
-    QJsonObject object{{QStringLiteral("path"), recordFile()},
+    const bool isMissing = FileHelper::isMissing(place);
+    QJsonObject object{{QStringLiteral("path"), place.isEmpty() ? recordFile() : place},
                        {QStringLiteral("change"), QStringLiteral("unchanged")}};
     if (!m_isUpdated)
         return object;
-    const QString text = diff(isMissing);
+    const QString text = diff(place, isMissing);
     if (isMissing)
         object.insert(QStringLiteral("change"), QStringLiteral("made"));
     else if (!text.isEmpty())
@@ -58,13 +58,12 @@ QJsonObject RecordChange::json() const
     return object;
 }
 
-QString RecordChange::diff(bool isMissing) const
+QString RecordChange::diff(const QString &place, bool isMissing) const
 {
-    if (m_record.isOurFormat())
-        return lineDiff(recordFile(), m_record.lines(), edits());
-    const QString before
-        = isMissing ? QString() : QLatin1String("") + ViewControllers::textOf(m_record.bytes());
-    return lineDiff(recordFile(), before, QString::fromUtf8(m_bytes));
+    if (m_record.isOwnHand())
+        return lineDiff(place, m_record.lines(), edits());
+    const QString before = isMissing ? QString() : QLatin1String("") + m_record.text();
+    return lineDiff(place, before, m_text);
 }
 
 QVector<LineEdit> RecordChange::edits() const

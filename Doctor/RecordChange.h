@@ -28,11 +28,12 @@ public:
     /// As saving the record after an installation or removal does.
     void update(const Models::FlightSimulatorMapping *mapping, bool uninstalled);
 
-    /// The record's "path", its "change" and the "diff".
-    QJsonObject json() const;
+    /// The record's "path", its "change" and the "diff". The record is at @p place, where its path
+    /// leads; it cannot be changed if that is empty.
+    QJsonObject json(const QString &place) const;
 
 private:
-    QString diff(bool isMissing) const;
+    QString diff(const QString &place, bool isMissing) const;
     QVector<LineEdit> edits() const;
     LineEdit commaEdit() const;
 

@@ -56,10 +56,8 @@ void Rehearsal::uninstall()
     const auto &files = m_entry->files;
     for (auto it = files.keyBegin(); it != files.keyEnd(); ++it) {
         const QString target = ViewControllers::pluginFile(m_mapping, *it);
-        if (QFileInfo(target).isDir())
-            m_failures.append(tr("%1 is a folder, and stays.").arg(quoted(target)));
-        else if (m_disk.exists(target))
-            m_disk.remove(target);
+        if (m_disk.exists(target))
+            removeFile(target);
         m_disk.removeFolderIfEmpty(target);
         if (m_entry->type == 0)
             removeEntry();
@@ -67,25 +65,38 @@ void Rehearsal::uninstall()
     updateRecord(true);
 }
 
+void Rehearsal::removeFile(const QString &path)
+{
+    if (m_disk.remove(path))
+        return;
+    if (m_disk.isFolder(path))
+        fail(tr("%1 is a folder, and stays.").arg(quoted(path)));
+    else
+        failToChange(path);
+}
+
 void Rehearsal::copyFile(const QString &source, const QString &target)
 {
     m_disk.makeFolderOf(target);
-    const QFileInfo info(target);
-    if (info.isDir() || (info.isSymLink() && !info.exists())) {
-        m_failures.append(
-            tr("%1 cannot be copied to %2: a folder, or a link that leads nowhere, is "
-               "in its place.")
-                .arg(quoted(source), quoted(target)));
-        return;
-    }
     if (m_disk.exists(target))
         m_disk.remove(target);
-    if (QFileInfo(source).isFile())
-        m_disk.copy(source, target);
-    else
-        m_failures.append(
+    const QFileInfo info(source);
+    if (m_disk.isFolder(target) || m_disk.isDeadLink(target))
+        fail(tr("%1 cannot be copied to %2: a folder, or a link that leads nowhere, is "
+                "in its place.")
+                 .arg(quoted(source), quoted(target)));
+    else if (!m_disk.mayMake(target))
+        fail(tr("%1 cannot be copied to %2: you may not write there, or the folder is missing.")
+                 .arg(quoted(source), quoted(target)));
+    else if (!info.isFile())
+        fail(
             tr("%1 cannot be copied: the payload lacks it. What is in its place goes all the same.")
                 .arg(quoted(source)));
+    else if (!info.isReadable())
+        fail(tr("%1 cannot be copied: you may not read it. What is in its place goes all the same.")
+                 .arg(quoted(source)));
+    else
+        m_disk.copy(source, target);
 }
 
 void Rehearsal::addEntry()
@@ -93,19 +104,27 @@ void Rehearsal::addEntry()
     if (m_entry->root >= 1 || !ViewControllers::hasConfigurationFile(m_mapping))
         return;
     m_configuration = ViewControllers::configurationFile(m_mapping);
-    const bool isMissing = !m_disk.file(m_configuration) && FileHelper::isMissing(m_configuration);
-    if (isMissing) {
-        m_disk.makeFolderOf(m_configuration);
-        m_disk.write(m_configuration,
-                     QTextCodec::codecForName("Windows-1252")
-                         ->fromUnicode(ViewControllers::launchDocument()));
-    } else {
+    const bool isMissing
+        = !m_disk.exists(m_configuration) && FileHelper::isMissing(m_configuration);
+    if (isMissing && !makeLaunchDocument())
+        return;
+    if (!isMissing)
         backUp(m_configuration, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
-    }
     if (m_entry->config->describesEntry())
         change(m_configuration, [this](const QByteArray &bytes, QString *problem) {
             return Library::Xml::withEntry(bytes, *m_entry->config, problem);
         });
+}
+
+bool Rehearsal::makeLaunchDocument()
+{
+    m_disk.makeFolderOf(m_configuration);
+    const bool isMade = m_disk.replace(
+        m_configuration,
+        QTextCodec::codecForName("Windows-1252")->fromUnicode(ViewControllers::launchDocument()));
+    if (!isMade)
+        failToMake(m_configuration);
+    return isMade;
 }
 
 void Rehearsal::removeEntry()
@@ -123,12 +142,18 @@ void Rehearsal::removeEntry()
                 });
         }
     }
-    if (!m_entry->remove)
-        return;
+    if (m_entry->remove)
+        removeExtraFiles();
+}
+
+// Even a link that leads nowhere; a folder is left alone.
+void Rehearsal::removeExtraFiles()
+{
     for (const auto *operation : qAsConst(m_entry->remove->files)) {
         const QString path = ViewControllers::extraFile(m_mapping, operation);
-        if (m_disk.exists(path) && !QFileInfo(path).isDir())
-            m_disk.remove(path);
+        const bool isThere = m_disk.exists(path) || m_disk.isDeadLink(path);
+        if (isThere && !m_disk.remove(path) && !m_disk.isFolder(path))
+            failToChange(path);
     }
 }
 
@@ -137,12 +162,10 @@ void Rehearsal::change(const QString &path, const Edit &edit)
     QString problem;
     const QByteArray before = bytesOf(path, &problem);
     const QByteArray after = problem.isEmpty() ? edit(before, &problem) : before;
-    if (after != before)
-        m_disk.write(path, after);
-    const QString failure
-        = tr("%1 stays as it is: %2").arg(quoted(path), Reasons::translated(problem));
-    if (!problem.isEmpty() && !m_failures.contains(failure))
-        m_failures.append(failure);
+    if (!problem.isEmpty())
+        fail(tr("%1 stays as it is: %2").arg(quoted(path), Reasons::translated(problem)));
+    else if (after != before && !m_disk.replace(path, after))
+        failToChange(path);
 }
 
 QByteArray Rehearsal::bytesOf(const QString &path, QString *problem) const
@@ -157,25 +180,52 @@ void Rehearsal::backUp(const QString &path, const QString &suffix)
 {
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
     const QString native = QDir::toNativeSeparators(path);
+    const QString beginning = m_disk.placeOf(native + suffix.section(u'%', 0, 0));
     for (const QString &backup : qAsConst(m_backups)) {
-        if (backup.startsWith(native + suffix.section(u'%', 0, 0)))
+        if (backup.startsWith(beginning))
             return;
     }
     QFile file(path);
     QString problem;
-    if (m_disk.file(path) || FileHelper::open(&file, QIODevice::ReadOnly, &problem))
-        m_backups.append(native + suffix.arg(time));
+    if (!m_disk.file(path) && !FileHelper::open(&file, QIODevice::ReadOnly, &problem))
+        return;
+    if (m_disk.mayMake(native + suffix.arg(time)))
+        m_backups.append(m_disk.placeOf(native + suffix.arg(time)));
+    else
+        fail(tr("No backup of %1 can be made: you may not write in its folder.").arg(quoted(path)));
 }
 
 void Rehearsal::updateRecord(bool uninstalled)
 {
-    if (m_recordText.problem().isEmpty()) {
-        m_disk.makeFolderOf(recordFile());
+    const QString path = recordFile();
+    if (!m_recordText.problem().isEmpty())
+        return fail(tr("The record %1 stays as it is: %2")
+                        .arg(quoted(path), Reasons::translated(m_recordText.problem())));
+    m_disk.makeFolderOf(path);
+    if (m_disk.mayRewrite(path))
         m_record.update(m_mapping, uninstalled);
-        return;
-    }
-    m_failures.append(tr("The record %1 stays as it is: %2")
-                          .arg(quoted(recordFile()), Reasons::translated(m_recordText.problem())));
+    else if (FileHelper::isMissing(path))
+        failToMake(path);
+    else
+        failToChange(path);
+}
+
+void Rehearsal::failToMake(const QString &path)
+{
+    fail(tr("%1 cannot be made: you may not write there, or the folder is missing.")
+             .arg(quoted(path)));
+}
+
+void Rehearsal::failToChange(const QString &path)
+{
+    fail(tr("%1 stays as it is: you may not change it, or not write in its folder.")
+             .arg(quoted(path)));
+}
+
+void Rehearsal::fail(const QString &sentence)
+{
+    if (!m_failures.contains(sentence))
+        m_failures.append(sentence);
 }
 
 QJsonObject Rehearsal::plan() const
@@ -187,7 +237,7 @@ QJsonObject Rehearsal::plan() const
         {QStringLiteral("foldersRemoved"), QJsonArray::fromStringList(m_disk.goneFolders())},
         {QStringLiteral("files"), files()},
         {QStringLiteral("backups"), QJsonArray::fromStringList(m_backups)},
-        {QStringLiteral("record"), m_record.json()},
+        {QStringLiteral("record"), m_record.json(m_disk.placeOf(recordFile()))},
         {QStringLiteral("failures"), QJsonArray::fromStringList(m_failures)}};
     if (!m_configuration.isEmpty())
         object.insert(QStringLiteral("configuration"), configurationChange());
@@ -216,10 +266,11 @@ QJsonArray Rehearsal::files() const
     return files;
 }
 
+// Of the file where the path leads, which is what changes.
 QJsonObject Rehearsal::configurationChange() const
 {
-    const QString &path = m_configuration;
-    const auto *planned = m_disk.file(path);
+    const auto *planned = m_disk.file(m_configuration);
+    const QString path = planned ? m_disk.placeOf(m_configuration) : m_configuration;
     QJsonObject object{{QStringLiteral("path"), path},
                        {QStringLiteral("change"), QStringLiteral("unchanged")}};
     if (!planned)

@@ -33,18 +33,26 @@ public:
     void install();
     void uninstall();
 
-    /// Everything that would be changed, and what would go wrong.
+    /// Adds what would go wrong, once.
+    void fail(const QString &sentence);
+
+    /// All that would be different afterwards, and what would go wrong.
     QJsonObject plan() const;
 
 private:
     using Edit = std::function<QByteArray(const QByteArray &, QString *)>;
 
     void copyFile(const QString &source, const QString &target);
+    void removeFile(const QString &path);
     void addEntry();
+    bool makeLaunchDocument();
     void removeEntry();
+    void removeExtraFiles();
     void change(const QString &path, const Edit &edit);
     void backUp(const QString &path, const QString &suffix);
     void updateRecord(bool uninstalled);
+    void failToMake(const QString &path);
+    void failToChange(const QString &path);
     QByteArray bytesOf(const QString &path, QString *problem) const;
     QJsonArray files() const;
     QJsonObject configurationChange() const;

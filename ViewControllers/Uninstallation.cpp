@@ -31,15 +31,8 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// QDir resolves ".." as text when it removes a folder; after a linked folder that is a different
-// folder from the one it lists.
-QString realFolder(const QString &folder)
-{
-    const bool leadsUp = (folder + u'/').contains(QLatin1String("/../"));
-    return leadsUp ? QFileInfo(folder).canonicalFilePath() : folder;
-}
-
-// Only visible files count: a folder with only hidden files is removed with them.
+// Only what the user can see counts: a folder that holds nothing but hidden files is left over
+// from us and goes with them.
 void removeIfEmpty(const QString &path)
 {
     const QString real = realFolder(path);

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <filesystem>
 #include <system_error>
@@ -45,7 +46,14 @@ QString numberedFolder(int number)
 
 } // namespace
 
-// Not QDir: it takes an unreadable folder for an empty one, and omits names that cannot be decoded.
+QString asTheSystemHasIt(const QString &folder)
+{
+    const bool leadsUp = (folder + u'/').contains(QLatin1String("/../"));
+    return leadsUp ? QFileInfo(folder).canonicalFilePath() : folder;
+}
+
+// Qt's listing takes a folder that cannot be listed for an empty one, and leaves names out that
+// are no text.
 bool lookInto(const QDir &folder, const std::function<bool(const QString &)> &see)
 {
     std::error_code failure;

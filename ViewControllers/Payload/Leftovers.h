@@ -14,8 +14,12 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// Calls @p see with the path of each visible thing in @p folder until it returns false; hidden files
-/// are not visible. False if the folder cannot be listed to the end.
+/// The path by which QDir removes @p folder, an existing one. ".." it takes as text, which behind a
+/// linked folder leads elsewhere than where it looks; empty where the folder is missing, too, then.
+QString asTheSystemHasIt(const QString &folder);
+
+/// Calls @p see with the path of each thing that the user sees in @p folder, until that says
+/// false; hidden files are not seen. False if the folder cannot be listed to the end.
 bool lookInto(const QDir &folder, const std::function<bool(const QString &)> &see);
 
 /// True only if @p folder certainly has nothing visible in it. A folder that cannot be listed may

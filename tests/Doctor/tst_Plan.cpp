@@ -5,10 +5,13 @@
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Files.h"
 #include "tests/support/Literals.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QtTest>
+
+#include <functional>
 
 using namespace Tests;
 using Quillmont::Utility::Doctor::lineDiff;
@@ -23,8 +26,11 @@ class TestPlan : public QObject
 private slots:
     void predictsWhatARepairDoes_data();
     void predictsWhatARepairDoes();
-    void predictsTheRecordThatARunWrites_data();
-    void predictsTheRecordThatARunWrites();
+    void ofTheRecordIsWhatARunWrites_data();
+    void ofTheRecordIsWhatARunWrites();
+    void isTrueOnADisturbedComputer_data();
+    void isTrueOnADisturbedComputer();
+    void ofAGoneFolderIsNone();
     void reportsWhatCannotBeDone_data();
     void reportsWhatCannotBeDone();
     void writesAPlanForAPerson();
@@ -116,6 +122,160 @@ void TestPlan::predictsTheRecordThatARunWrites()
         records.append(computer.recordFor(skylark));
     QCOMPARE(planned.value(computer.data("Quillmont/Orbwell/.mapping"_s)),
              QJsonDocument(records).toJson());
+}
+
+using Deed = std::function<void(Computer *)>;
+Q_DECLARE_METATYPE(Deed)
+
+static Deed protects(const QString &path, QFile::Permissions mode)
+{
+    return [path, mode](Computer *computer) {
+        QVERIFY(QFile::setPermissions(computer->absolute(path), mode));
+    };
+}
+
+static Deed links(const QString &path, const QString &target)
+{
+    return [path, target](Computer *computer) {
+        QVERIFY(QDir().mkpath(QFileInfo(computer->absolute(path)).path()));
+        QFile::remove(computer->absolute(path));
+        QVERIFY(QFile::link(target, computer->absolute(path)));
+    };
+}
+
+static Deed writes(const QString &path)
+{
+    return [path](Computer *computer) {
+        computer->write(path, "old");
+    };
+}
+
+static Deed operator+(const Deed &first, const Deed &second)
+{
+    return [first, second](Computer *computer) {
+        first(computer);
+        second(computer);
+    };
+}
+
+void TestPlan::isTrueOnADisturbedComputer_data()
+{
+    QTest::addColumn<QString>("files");
+    QTest::addColumn<Deed>("deed");
+    QTest::addColumn<bool>("isDone");
+    const Computer computer;
+    const QString configuration = computer.configuration("Skylark"_s);
+    const QString folder = QFileInfo(configuration).path();
+    const QString record = computer.data("Quillmont/Orbwell/.mapping"_s);
+    const QString installed = "sims/Skylark/New/a.dll"_s;
+    const auto readOnly = QFile::ReadOwner | QFile::ExeOwner;
+    const auto row = [](const char *name, const char *files, const Deed &deed, bool isDone) {
+        QTest::newRow(name) << QString::fromLatin1(files) << deed << isDone;
+    };
+    row("folder of the simulator", "New/a.dll", protects("sims/Skylark"_s, readOnly), false);
+    row("folder of a file", "Gauges/a.dll", protects("sims/Skylark/Gauges"_s, readOnly), false);
+    row("file to remove",
+        "New/a.dll",
+        writes(installed) + protects("sims/Skylark/New"_s, readOnly),
+        false);
+    row("folder to remove",
+        "New/a.dll",
+        writes(installed) + protects("sims/Skylark"_s, readOnly),
+        true);
+    row("hidden folder to remove",
+        "New/a.dll",
+        writes(installed) + writes("sims/Skylark/New/.b/c"_s)
+            + protects("sims/Skylark/New/.b"_s, readOnly),
+        true);
+    row("hidden in a linked folder",
+        "New/a.dll",
+        links("sims/Skylark/New"_s, "../far"_s) + writes("sims/far/.hidden"_s)
+            + writes("sims/far/a.dll"_s),
+        true);
+    row("link in place of a file", "New/a.dll", links(installed, "../Gauges"_s), true);
+    row("payload", "New/a.dll", protects("program/plugins/a"_s, {}), false);
+    row("file for a folder", "New/m/a.dll", writes("sims/Skylark/New"_s), false);
+    row("dead link for a folder", "New/m/a.dll", links("sims/Skylark/New"_s, "nowhere"_s), false);
+    row("file in another's place", "New/a.dll New/a.dll/b.dll", writes(folder + "/x"_s), false);
+    row("up behind a link",
+        "New/../D/a.dll",
+        links("sims/Skylark/New"_s, "../far/away"_s) + writes("sims/far/away/b"_s),
+        true);
+    row("up behind a new folder", "New/../../D/a.dll", writes(folder + "/x"_s), true);
+    row("configuration's folder", "New/a.dll", protects(folder, readOnly), false);
+    row("configuration", "New/a.dll", protects(configuration, QFile::ReadOwner), false);
+    row("configuration's dead link", "New/a.dll", links(configuration, "../a/dll.xml"_s), false);
+    row("configuration's link to make", "New/a.dll", links(configuration, "made.xml"_s), true);
+    row(
+        "no backup",
+        "New/a.dll",
+        links(configuration, "../far/dll.xml"_s) +
+            [configuration](Computer *computer) {
+                const QString far = QFileInfo(configuration).path() + "/../far/dll.xml"_s;
+                computer->write(far, othersConfiguration());
+            }
+            + protects(folder, readOnly),
+        false);
+    row("record", "New/a.dll", writes(record) + protects(record, QFile::ReadOwner), false);
+    row("record's folder",
+        "New/a.dll",
+        writes(record) + protects(QFileInfo(record).path(), readOnly),
+        true);
+    row("record's dead link", "New/a.dll", links(record, "nowhere/record"_s), false);
+    row("extra file", "New/a.dll", writes(installed) + links("sims/Skylark\\x"_s, "no"_s), true);
+}
+
+// What the program does with the rights of an ordinary user.
+void TestPlan::isTrueOnADisturbedComputer()
+{
+    QFETCH(const QString, files);
+    QFETCH(const Deed, deed);
+    QFETCH(const bool, isDone);
+    Computer computer;
+    const QString name = "Skylark"_s;
+    computer.addSimulator(name);
+    computer.write(computer.configuration(name), othersConfiguration());
+    computer.write("program/plugins/a"_s, "payload");
+    QJsonObject entry = computer.entry(name, 0);
+    QJsonArray destinations;
+    for (const QString &file : files.split(u' '))
+        destinations.append(QJsonObject{{"source"_s, "a"_s}, {"destination"_s, file}});
+    entry.insert("files"_s, destinations);
+    QJsonObject config = entry.value("config"_s).toObject();
+    QJsonObject removal = config.value("remove"_s).toObject();
+    removal.insert("files"_s, QJsonArray{QJsonObject{{"root"_s, "-1"_s}, {"path"_s, "x"_s}}});
+    config.insert("remove"_s, removal);
+    entry.insert("config"_s, config);
+    computer.setCatalogue({entry});
+    runDoctor(computer, {"--version"_s}); // puts it in its place
+    deed(&computer);
+    QVERIFY(!QTest::currentTestFailed());
+
+    const Unprivileged user(computer.absolute(QString()).chopped(1));
+    computer.program().start();
+    computer.program().window();
+    const QString button = doctorsPlan(computer, "install"_s, name).value("button"_s).toString();
+    const QJsonObject plan = doctorsPlan(computer, button, name);
+    const Disk planned = plannedDisk(computer, plan);
+    computer.program().pressAction(name);
+    computer.program().box();
+    const Disk actual = computer.disk();
+    Command("chmod"_s, {"-R"_s, "u+rwX"_s, computer.absolute(QString())}).run();
+    QCOMPARE(difference(actual, planned), QString());
+    QCOMPARE(plan.value("failures"_s).toArray().isEmpty(), isDone);
+}
+
+void TestPlan::ofAGoneFolderIsNone()
+{
+    Computer computer;
+    computer.setCatalogue({computer.entry("Skylark"_s, 0)});
+    computer.write(computer.data("Quillmont/Vellum/.settings"_s),
+                   "[flightsim]\nSkylark=/nowhere/at all\n");
+    const CommandResult result = runDoctor(computer, {"--plan"_s});
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.output.contains("Button in the window: disabled\n"));
+    QVERIFY(result.output.contains("Its folder \"/nowhere/at all\" is gone."));
+    QVERIFY(!result.output.contains(" made: "));
 }
 
 void TestPlan::reportsWhatCannotBeDone_data()
