@@ -82,11 +82,8 @@ void Plan::writeSimulator(const QJsonObject &simulator, Page *page)
         for (const auto &text : texts)
             page->add(2, words.arg(quoted(text.toString())), style);
     };
-    const QMap<QString, QString> buttons{
-        {QStringLiteral("install"), tr("Button in the window: \"Install Orbwell\"")},
-        {QStringLiteral("uninstall"), tr("Button in the window: \"Uninstall Orbwell\"")},
-        {QStringLiteral("disabled"), tr("Button in the window: disabled")}};
-    page->add(2, buttons.value(simulator.value(QLatin1String("button")).toString()));
+    const QString button = simulator.value(QLatin1String("button")).toString();
+    page->add(2, line(QStringLiteral("button ") + button));
     each("foldersMade", tr("Folder made: %1"), Page::Plain);
     const QJsonArray files = simulator.value(QLatin1String("files")).toArray();
     for (const auto &file : files)
@@ -117,6 +114,9 @@ QString Plan::line(const QString &change)
         {QStringLiteral("install"), tr("%1: install in %2")},
         {QStringLiteral("repair"), tr("%1: repair in %2")},
         {QStringLiteral("uninstall"), tr("%1: uninstall in %2")},
+        {QStringLiteral("button install"), tr("Button in the window: \"Install Orbwell\"")},
+        {QStringLiteral("button uninstall"), tr("Button in the window: \"Uninstall Orbwell\"")},
+        {QStringLiteral("button disabled"), tr("Button in the window: disabled")},
         {QStringLiteral("file made"), tr("File made: %1")},
         {QStringLiteral("file replaced"), tr("File replaced: %1")},
         {QStringLiteral("file unchanged"), tr("File unchanged: %1")},
