@@ -3,13 +3,13 @@
 #include "Controllers/UserFiles.h"
 #include "Doctor/Advice.h"
 #include "Doctor/Backups.h"
+#include "Doctor/PlannedDisk.h"
 #include "Doctor/Problems.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/Reasons.h"
 #include "Doctor/TagReader.h"
 #include "Doctor/TextPlaces.h"
 #include "Doctor/WindowsPath.h"
-#include "Doctor/WriteAccess.h"
 #include "Doctor/XmlDamage.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Library/Models/XmlInsertionModel.h"
@@ -75,15 +75,13 @@ void ConfigurationCheck::lookAt(const QString &path)
 {
     m_path = path;
     m_json.insert(QStringLiteral("path"), path);
-    m_json.insert(QStringLiteral("writable"), mayReplace(path));
-    if (!mayReplace(path))
-        m_problems->addError(
-            tr("You may not write in the folder of the configuration file %1.").arg(quoted(path)),
-            tr("Give yourself the right to write there."));
+    judgeAccess();
     if (!m_entry->config->prefix.isEmpty())
         m_json.insert(QStringLiteral("prefix"), userDataRoot() + m_entry->config->prefix);
     if (FileHelper::isMissing(path)) {
-        m_json.insert(QStringLiteral("state"), QStringLiteral("missing"));
+        m_json.insert(QStringLiteral("state"),
+                      QFileInfo(path).isSymLink() ? QStringLiteral("dead link")
+                                                  : QStringLiteral("missing"));
         if (m_isInstalled)
             m_problems->addError(tr("The configuration file %1 is missing.").arg(quoted(path)),
                                  tr("Uninstall and install again; the file is made anew."));
@@ -106,6 +104,26 @@ void ConfigurationCheck::readFile()
                                  .arg(quoted(m_path), Reasons::translated(problem)),
                              Advice::onUnreadable(m_path, problem));
     }
+}
+
+// A link to a file that can be made where it leads is as good as that file.
+void ConfigurationCheck::judgeAccess()
+{
+    PlannedDisk disk;
+    disk.makeFolderOf(m_path);
+    const bool isWritable = disk.mayReplace(m_path);
+    m_json.insert(QStringLiteral("writable"), isWritable);
+    const QString link = ViewControllers::deadLinksOn(m_path).value(0);
+    if (!isWritable && !link.isEmpty())
+        m_problems->addError(
+            tr("The configuration file cannot be made: %1 is a link that leads nowhere.")
+                .arg(quoted(link)),
+            tr("Delete the link, then install."));
+    else if (!isWritable)
+        m_problems->addError(
+            tr("You may not change the configuration file %1, or not write in its folder.")
+                .arg(quoted(m_path)),
+            tr("Give yourself the right to write there."));
 }
 
 void ConfigurationCheck::read(const QByteArray &bytes)

@@ -39,6 +39,7 @@ public:
 private:
     void lookAt(const QString &path);
     void readFile();
+    void judgeAccess();
     void read(const QByteArray &bytes);
     void describeDamage(const QString &text, const QString &problem);
     void lookAtEntries(const QString &text);

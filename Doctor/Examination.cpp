@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <filesystem>
+#include <sys/stat.h>
 #include <system_error>
 
 namespace Quillmont::Utility::Doctor {
@@ -25,6 +26,14 @@ QJsonArray turnedDown(const Simulator &simulator)
                                   {QStringLiteral("namedBy"), place.namedBy},
                                   {QStringLiteral("reason"), place.reason}});
     return places;
+}
+
+bool areOnOneDisk(const QString &first, const QString &second)
+{
+    struct stat one = {};
+    struct stat other = {};
+    return stat(QFile::encodeName(first).constData(), &one) == 0
+        && stat(QFile::encodeName(second).constData(), &other) == 0 && one.st_dev == other.st_dev;
 }
 
 QString stateOf(const Simulator &simulator, int present)
@@ -67,8 +76,10 @@ QJsonObject Examination::report(const QStringList &names) const
     }
     Problems problems;
     QJsonObject whole = record.json(known, &problems);
-    whole.insert(QStringLiteral("problems"), problems.all());
-    isFine = isFine && (problems.all().isEmpty() || !names.isEmpty());
+    // Who asks for some simulators is told of those.
+    const QJsonArray ofTheRecord = names.isEmpty() ? problems.all() : QJsonArray();
+    whole.insert(QStringLiteral("problems"), ofTheRecord);
+    isFine = isFine && ofTheRecord.isEmpty();
     return {{QStringLiteral("fine"), isFine},
             {QStringLiteral("simulators"), simulators},
             {QStringLiteral("record"), whole}};
@@ -90,8 +101,7 @@ QJsonObject Examination::reportOn(const Simulator &simulator) const
         object.insert(QStringLiteral("configuration"), configuration.json());
         const QString file = configuration.json().value(QLatin1String("path")).toString();
         object.insert(QStringLiteral("backups"), configuration.backups());
-        const qint64 needed = files.neededBytes() + QFileInfo(file).size();
-        object.insert(QStringLiteral("room"), roomFor(simulator, needed, &problems));
+        addRoom(mapping->path, files.neededBytes(), file, &object, &problems);
     }
     object.insert(QStringLiteral("problems"), problems.all());
     return object;
@@ -126,19 +136,32 @@ void Examination::judgeFolder(const Simulator &simulator, Problems *problems) co
                            tr("Choose its folder in the window."));
 }
 
-QJsonObject
-Examination::roomFor(const Simulator &simulator, qint64 needed, Problems *problems) const
+// The configuration file, with its backup, is often on another disk.
+void Examination::addRoom(const QString &folder,
+                          qint64 needed,
+                          const QString &configuration,
+                          QJsonObject *object,
+                          Problems *problems) const
+{
+    const QFileInfo file(configuration);
+    const bool isOneDisk = file.size() == 0 || areOnOneDisk(folder, file.path());
+    object->insert(QStringLiteral("room"),
+                   roomFor(folder, needed + (isOneDisk ? file.size() : 0), problems));
+    if (!isOneDisk)
+        object->insert(QStringLiteral("backupRoom"), roomFor(file.path(), file.size(), problems));
+}
+
+QJsonObject Examination::roomFor(const QString &folder, qint64 needed, Problems *problems) const
 {
     std::error_code failure;
-    const QString &path = simulator.mapping->path;
-    const auto space = std::filesystem::space(QFile::encodeName(path).toStdString(), failure);
+    const auto space = std::filesystem::space(QFile::encodeName(folder).toStdString(), failure);
     if (failure)
         return {{QStringLiteral("needed"), needed}};
     const auto available = static_cast<qint64>(space.available);
     if (available < needed)
-        problems->addError(tr("The disk has room for %1 bytes; the files and a backup take %2.")
+        problems->addError(tr("The disk has room for %1 bytes; what is written there takes %2.")
                                .arg(QString::number(available), QString::number(needed)),
-                           tr("Make room on the disk of %1.").arg(quoted(path)));
+                           tr("Make room on the disk of %1.").arg(quoted(folder)));
     return {{QStringLiteral("needed"), needed}, {QStringLiteral("available"), available}};
 }
 

@@ -28,7 +28,12 @@ private:
     QJsonObject reportOn(const Simulator &simulator) const;
     QJsonObject locationOf(const Simulator &simulator) const;
     void judgeFolder(const Simulator &simulator, Problems *problems) const;
-    QJsonObject roomFor(const Simulator &simulator, qint64 needed, Problems *problems) const;
+    void addRoom(const QString &folder,
+                 qint64 needed,
+                 const QString &configuration,
+                 QJsonObject *object,
+                 Problems *problems) const;
+    QJsonObject roomFor(const QString &folder, qint64 needed, Problems *problems) const;
 
     const QList<Simulator> m_simulators;
     const QString m_payload;

@@ -1,8 +1,8 @@
 #include "Doctor/FilesCheck.h"
 
+#include "Doctor/PlannedDisk.h"
 #include "Doctor/Problems.h"
 #include "Doctor/Quoting.h"
-#include "Doctor/WriteAccess.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
@@ -44,27 +44,40 @@ FilesCheck::FilesCheck(const FlightSimulatorMapping *mapping,
     for (auto it = files.cbegin(); it != files.cend(); ++it) {
         const QString source = payload + it.value();
         const QString target = ViewControllers::pluginFile(mapping, it.key());
-        const QFileInfo sourceInfo(source);
-        m_needed += sourceInfo.size();
-        const QString state
-            = mapping->path.isEmpty() ? QStringLiteral("missing") : stateOf(target, source);
-        QJsonObject object{{QStringLiteral("destination"), it.key()},
-                           {QStringLiteral("state"), state},
-                           {QStringLiteral("inPayload"), sourceInfo.isFile()}};
-        if (!mapping->path.isEmpty()) {
-            object.insert(QStringLiteral("path"), target);
-            object.insert(QStringLiteral("writable"), mayReplace(target));
-        }
+        QJsonObject object = mapping->path.isEmpty() ? QJsonObject() : lookAt(target, source);
+        object.insert(QStringLiteral("destination"), it.key());
+        object.insert(QStringLiteral("inPayload"), QFileInfo(source).isFile());
+        if (mapping->path.isEmpty())
+            object.insert(QStringLiteral("state"), QStringLiteral("missing"));
         m_json.append(object);
-        if (!sourceInfo.isFile())
-            m_problems->addError(
-                tr("The payload lacks %1, so it cannot be installed.").arg(quoted(source)),
-                tr("Install this program again, or complete its \"plugins\" folder."));
+        m_needed += QFileInfo(source).size();
+        judgeSource(source);
     }
     if (QFileInfo(mapping->path).isDir()) {
         judge();
         judgeAccess();
     }
+}
+
+QJsonObject FilesCheck::lookAt(const QString &target, const QString &source)
+{
+    PlannedDisk disk;
+    return {{QStringLiteral("path"), target},
+            {QStringLiteral("state"), stateOf(target, source)},
+            {QStringLiteral("writable"), disk.makeFolderOf(target) && disk.mayWriteBeside(target)}};
+}
+
+void FilesCheck::judgeSource(const QString &source)
+{
+    const QFileInfo info(source);
+    if (!info.isFile())
+        m_problems->addError(
+            tr("The payload lacks %1, so it cannot be installed.").arg(quoted(source)),
+            tr("Install this program again, or complete its \"plugins\" folder."));
+    else if (!info.isReadable())
+        m_problems->addError(
+            tr("You may not read %1, so it cannot be installed.").arg(quoted(source)),
+            tr("Give yourself the right to read it."));
 }
 
 QString FilesCheck::stateOf(const QString &target, const QString &source)
@@ -114,13 +127,36 @@ void FilesCheck::judgeAccess()
     QStringList names;
     for (const auto &file : qAsConst(m_json)) {
         const QJsonObject object = file.toObject();
-        if (!object.value(QLatin1String("writable")).toBool())
-            names.append(quoted(object.value(QLatin1String("path")).toString()));
+        const QString path = object.value(QLatin1String("path")).toString();
+        if (!object.value(QLatin1String("writable")).toBool() && !judgeFolders(path))
+            names.append(quoted(path));
     }
     if (!names.isEmpty())
         m_problems->addError(
             tr("You may not write in the folder of %1.").arg(names.join(QStringLiteral(", "))),
             tr("Give yourself the right to write there."));
+}
+
+// Whether something on the way to a file is no folder; it is told once for all files.
+bool FilesCheck::judgeFolders(const QString &path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    QString obstacle = ViewControllers::deadLinksOn(folder).value(0);
+    const bool isLink = !obstacle.isEmpty();
+    for (QString above = folder; obstacle.isEmpty() && !QFileInfo(above).isDir();
+         above = QFileInfo(above).path())
+        obstacle = QFileInfo::exists(above) ? above : QString();
+    if (obstacle.isEmpty() || m_obstacles.contains(obstacle))
+        return !obstacle.isEmpty();
+    m_obstacles.insert(obstacle);
+    if (isLink)
+        m_problems->addError(
+            tr("In the place of the folder %1 is a link that leads nowhere.").arg(quoted(obstacle)),
+            tr("Delete the link, then install."));
+    else
+        m_problems->addError(tr("%1 is a file where a folder has to be.").arg(quoted(obstacle)),
+                             tr("Move it away, then install."));
+    return true;
 }
 
 QString FilesCheck::names(const char *state) const

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QJsonArray>
+#include <QSet>
 #include <QString>
 
 namespace Quillmont::Utility::Models {
@@ -36,15 +37,19 @@ public:
     qint64 neededBytes() const { return m_needed; }
 
 private:
+    QJsonObject lookAt(const QString &target, const QString &source);
     QString stateOf(const QString &target, const QString &source);
     void judge();
     void judgeAccess();
+    bool judgeFolders(const QString &path);
+    void judgeSource(const QString &source);
     QString names(const char *state) const;
 
     Problems *const m_problems;
     QJsonArray m_json;
     int m_present = 0;
     qint64 m_needed = 0;
+    QSet<QString> m_obstacles; ///< In folders' places.
 };
 
 } // namespace Quillmont::Utility::Doctor

@@ -94,7 +94,7 @@ bool PlannedDisk::isWritableAt(const QString &place) const
     return m_files.contains(place) || (info.isFile() && info.isWritable());
 }
 
-bool PlannedDisk::mayWriteBeside(const QString &place) const
+bool PlannedDisk::isBesideWritable(const QString &place) const
 {
     const QString folder = folderOf(place);
     const QFileInfo info(folder);
@@ -120,21 +120,27 @@ bool PlannedDisk::isDeadLink(const QString &path) const
     return !where.isEmpty() && !linkAt(where).isEmpty() && !exists(path);
 }
 
+bool PlannedDisk::mayWriteBeside(const QString &path) const
+{
+    const QString where = place(path, Kept);
+    return !where.isEmpty() && isBesideWritable(where);
+}
+
 bool PlannedDisk::mayMake(const QString &path) const
 {
     const QString where = place(path, Kept);
-    return !where.isEmpty() && !isAt(where) && mayWriteBeside(where);
+    return !where.isEmpty() && !isAt(where) && isBesideWritable(where);
 }
 
 bool PlannedDisk::mayReplace(const QString &path) const
 {
-    return mayRewrite(path) && mayWriteBeside(placeOf(path));
+    return mayRewrite(path) && isBesideWritable(placeOf(path));
 }
 
 bool PlannedDisk::mayRewrite(const QString &path) const
 {
     const QString where = placeOf(path);
-    return !where.isEmpty() && (isAt(where) ? isWritableAt(where) : mayWriteBeside(where));
+    return !where.isEmpty() && (isAt(where) ? isWritableAt(where) : isBesideWritable(where));
 }
 
 bool PlannedDisk::makeFolderOf(const QString &path)
@@ -158,7 +164,7 @@ bool PlannedDisk::remove(const QString &path)
 {
     const QString where = place(path, Kept);
     const bool isRemovable
-        = !where.isEmpty() && isAt(where) && !isFolderAt(where) && mayWriteBeside(where);
+        = !where.isEmpty() && isAt(where) && !isFolderAt(where) && isBesideWritable(where);
     if (!isRemovable)
         return false;
     m_files.insert(where, {File::Removed, {}, {}});
@@ -176,12 +182,7 @@ bool PlannedDisk::copy(const QString &source, const QString &target)
 
 bool PlannedDisk::replace(const QString &path, const QByteArray &bytes)
 {
-    return mayReplace(path) && rewrite(path, bytes);
-}
-
-bool PlannedDisk::rewrite(const QString &path, const QByteArray &bytes)
-{
-    const bool isWritten = mayRewrite(path);
+    const bool isWritten = mayReplace(path);
     if (isWritten)
         m_files.insert(placeOf(path), {File::Written, {}, bytes});
     return isWritten;
@@ -224,7 +225,7 @@ bool PlannedDisk::isSurelyEmpty(const QString &folder)
 
 bool PlannedDisk::takeAway(const QString &folder)
 {
-    const bool isTaken = takeContentsAway(folder) && mayWriteBeside(folder);
+    const bool isTaken = takeContentsAway(folder) && isBesideWritable(folder);
     if (!isTaken)
         return false;
     m_goneFolders.insert(folder);

@@ -44,6 +44,9 @@ public:
     /// Makes the folder that the file at @p path is to be in, and all above it.
     bool makeFolderOf(const QString &path);
 
+    /// Whether names can be made, and taken away, in the folder of @p path.
+    bool mayWriteBeside(const QString &path) const;
+
     /// Whether a file can be made where there is nothing, not even a dead link.
     bool mayMake(const QString &path) const;
 
@@ -57,7 +60,6 @@ public:
     bool remove(const QString &path);
     bool copy(const QString &source, const QString &target);
     bool replace(const QString &path, const QByteArray &bytes);
-    bool rewrite(const QString &path, const QByteArray &bytes);
 
     /// Takes the folder of @p path away, with all that is hidden in it, if the user sees nothing
     /// there; what cannot be taken away stays.
@@ -84,7 +86,7 @@ private:
     bool isAt(const QString &place) const;
     bool isFolderAt(const QString &place) const;
     bool isWritableAt(const QString &place) const;
-    bool mayWriteBeside(const QString &place) const;
+    bool isBesideWritable(const QString &place) const;
     bool makeFolder(const QString &path);
     void forget(const QString &place);
     bool isSurelyEmpty(const QString &folder);

@@ -1,12 +1,15 @@
 #include "Doctor/RecordCheck.h"
 
 #include "Controllers/UserFiles.h"
+#include "Doctor/Advice.h"
+#include "Doctor/PlannedDisk.h"
 #include "Doctor/Quoting.h"
 #include "Doctor/Reasons.h"
 #include "Library/Helpers/FileHelper.h"
 #include "Models/FlightSimScan.h"
 #include "Models/FlightSimulatorMapping.h"
 #include "ViewControllers/Payload/Record.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
 #include "ViewControllers/Payload/TextFile.h"
 
 #include <QFile>
@@ -21,6 +24,7 @@ namespace Quillmont::Utility::Doctor {
 
 RecordCheck::RecordCheck()
 {
+    judgeAccess();
     if (FileHelper::isMissing(recordFile())) {
         m_state = QStringLiteral("missing");
         return;
@@ -36,6 +40,11 @@ RecordCheck::RecordCheck()
         : isDamaged              ? QStringLiteral("damaged")
                                  : QStringLiteral("fine");
     judge(problem);
+    takeRecords(bytes);
+}
+
+void RecordCheck::takeRecords(const QByteArray &bytes)
+{
     const QJsonArray records = ViewControllers::recordsIn(bytes);
     for (const auto &record : records) {
         const QString name = record.toObject().value(QLatin1String("name")).toString();
@@ -45,13 +54,31 @@ RecordCheck::RecordCheck()
     }
 }
 
+// A link to a file that can be made where it leads is as good as that file.
+void RecordCheck::judgeAccess()
+{
+    const QString path = recordFile();
+    PlannedDisk disk;
+    disk.makeFolderOf(path);
+    if (disk.mayRewrite(path))
+        return;
+    const QString link = ViewControllers::deadLinksOn(path).value(0);
+    if (!link.isEmpty())
+        m_problems.addError(
+            tr("Nothing can be recorded: %1 is a link that leads nowhere.").arg(quoted(link)),
+            tr("Delete the link."));
+    else
+        m_problems.addError(tr("You may not write the installation record %1.").arg(quoted(path)),
+                            tr("Give yourself the right to write there."));
+}
+
 void RecordCheck::judge(const QString &problem)
 {
     const QString file = quoted(recordFile());
     if (!problem.isEmpty())
         m_problems.addError(tr("The installation record %1 cannot be read: %2.")
                                 .arg(file, Reasons::translated(problem)),
-                            tr("Give yourself the right to read it."));
+                            Advice::onUnreadable(recordFile(), problem));
     else if (m_state == QLatin1String("damaged"))
         m_problems.addWarning(
             tr("The installation record %1 is damaged; what it said is lost.").arg(file),
@@ -63,7 +90,7 @@ QJsonObject RecordCheck::of(const FlightSimulatorMapping *mapping, Problems *pro
     const QString &name = mapping->scan->name;
     const bool isInstalled = mapping->isAddonInstalled() && !mapping->scan->files.isEmpty();
     if (!m_records.contains(name)) {
-        if (isInstalled && m_state == QLatin1String("fine"))
+        if (isInstalled && m_state != QLatin1String("unreadable"))
             problems->addWarning(
                 tr("The plugin is there, but not in the installation record."),
                 tr("Press \"Scan & Install\" in the window; it is recorded then."));
@@ -107,10 +134,6 @@ QJsonObject RecordCheck::json(const QSet<QString> &names, Problems *problems) co
                 tr("The installation record has %1 in %2, which the catalogue no longer knows.")
                     .arg(quoted(name), quoted(path)),
                 tr("Remove the plugin there by hand, if it is no longer wanted."));
-        else
-            problems->addWarning(tr("The installation record has %1, and its folder %2 is gone.")
-                                     .arg(quoted(name), quoted(path)),
-                                 tr("Nothing has to be done."));
     }
     return {{QStringLiteral("path"), recordFile()},
             {QStringLiteral("state"), m_state},

@@ -31,6 +31,8 @@ public:
 
 private:
     void judge(const QString &problem);
+    void judgeAccess();
+    void takeRecords(const QByteArray &bytes);
 
     QString m_state;
     Problems m_problems;

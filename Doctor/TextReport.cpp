@@ -149,6 +149,8 @@ QString TextReport::configurationLine(const QJsonObject &configuration)
 {
     const QString path = quotedText(configuration, "path");
     const QString state = text(configuration, "state");
+    if (state == QLatin1String("dead link"))
+        return tr("Configuration: %1, a link that leads nowhere").arg(path);
     if (state == QLatin1String("missing"))
         return tr("Configuration: %1, missing").arg(path);
     if (state == QLatin1String("unreadable"))

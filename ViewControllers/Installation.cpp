@@ -45,18 +45,12 @@ void removeOldFile(const QString &path)
         logAction() << "old file not removed:" << path << file.errorString();
 }
 
-// A dangling link blocks the path, although nothing seems to be there.
-void reportDeadLink(const QString &path)
+// Nothing can be put in the place of a link that leads nowhere, though nothing seems to be there.
+void reportDeadLinks(const QString &path)
 {
-    // The systems' maximum; a record can contain a path of a million folders.
-    constexpr int maxPathLength = 4096;
-    if (path.size() > maxPathLength)
-        return;
-    for (int end = path.size(); end > 0; end = path.lastIndexOf(u'/', end - 1)) {
-        const QFileInfo info(path.left(end));
-        if (info.isSymLink() && !info.exists())
-            logAction() << "this link leads nowhere:" << info.filePath();
-    }
+    const QStringList links = deadLinksOn(path);
+    for (const QString &link : links)
+        logAction() << "this link leads nowhere:" << link;
 }
 
 void writeLaunchDocument(const QString &path)
@@ -117,7 +111,7 @@ void ScanController::copyPluginFile(const QString &source,
         logAction() << "file copied:" << source << "to" << target;
     } else {
         logAction() << "file not copied:" << source << "to" << target << file.errorString();
-        reportDeadLink(QFileInfo(target).absoluteFilePath());
+        reportDeadLinks(QFileInfo(target).absoluteFilePath());
         m_errorMessage += tr("Unable to copy '%0' to '%1'. Please check if you have permission to "
                              "folder '%2'.\r\n")
                               .arg(source, target, folder);

@@ -142,6 +142,20 @@ void makeFolderOf(const QString &path)
     logAction() << (made ? "folder made:" : "folder not made:") << folder;
 }
 
+QStringList deadLinksOn(const QString &path)
+{
+    // A record can name a path of a million folders, which no system takes.
+    constexpr int maxPathLength = 4096;
+    QStringList links;
+    for (int end = path.size(); end > 0 && path.size() <= maxPathLength;
+         end = path.lastIndexOf(u'/', end - 1)) {
+        const QFileInfo info(path.left(end));
+        if (info.isSymLink() && !info.exists())
+            links.append(info.filePath());
+    }
+    return links;
+}
+
 void backUp(const QString &file, const QString &suffix)
 {
     if (!QFile::exists(file) || !PathEncoding::survives(file))

@@ -1,7 +1,7 @@
 #ifndef VIEWCONTROLLERS_PAYLOAD_SIMULATORFILES_H
 #define VIEWCONTROLLERS_PAYLOAD_SIMULATORFILES_H
 
-#include <QString>
+#include <QStringList>
 
 namespace Quillmont::Utility::Models {
 class FlightSimulatorMapping;
@@ -34,8 +34,11 @@ QString configurationFile(const QString &path);
 /// Creates the folder of the file at @p path, with its parents, if it is missing.
 void makeFolderOf(const QString &path);
 
-/// Copies @p file, if it exists, to its own name plus @p suffix, in which the local time replaces
-/// "%0". The debug log has the result; a failed backup stops nothing.
+/// Of @p path and the folders above it those that are links which lead nowhere, from the end.
+QStringList deadLinksOn(const QString &path);
+
+/// Copies @p file, if it exists, to a name beside it made of its own, @p suffix and the local
+/// time for "%0". The debug log says how it went; a failed backup stops nothing.
 void backUp(const QString &file, const QString &suffix);
 
 } // namespace Quillmont::Utility::ViewControllers

@@ -12,11 +12,13 @@
 
 #include <QDir>
 #include <QJsonDocument>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <filesystem>
 #include <functional>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Tests;
@@ -43,6 +45,7 @@ private slots:
     void examinesOnlyTheNamedSimulators();
     void escapesALineBreakInAName();
     void reportsFoldersThatAreNotWritable();
+    void looksForRoomOnBothDisks();
     void listsTheWorstProblemFirst();
     void reportsHowASimulatorWasFound();
     void saysWhyItDidNotFindASimulator_data();
@@ -157,7 +160,7 @@ void TestReport::reportsEachProblem_data()
         [](Computer *computer) {
             computer->write(computer->configuration("Skylark"_s), "<R><A\x1b[2J></R>");
         });
-    row("no room", " bytes; the files and a backup take ", [](Computer *computer) {
+    row("no room", " bytes; what is written there takes ", [](Computer *computer) {
         const QString file = computer->program().folder() + "/plugins/X-Plane/about.txt"_s;
         const auto space = std::filesystem::space(QFile::encodeName(file).toStdString());
         // The file is sparse.
@@ -243,11 +246,48 @@ void TestReport::reportsEachProblem_data()
             record.insert("path"_s, computer->absolute("elsewhere"_s));
             computer->setRecords({computer->recordFor(computer->entry("Skylark"_s, 0)), record});
         });
-    row("unknown simulator in the record", "/sims/Wren\" is gone.", [](Computer *computer) {
+    const auto recordsWren = [](Computer *computer) {
         QJsonArray records = computer->records();
         records.append(computer->recordFor(computer->entry("Wren"_s, 1)));
         computer->setRecords(records);
-    });
+    };
+    row("stranger in the record, gone", "", recordsWren);
+    row("stranger in the record",
+        "/sims/Wren\", which the catalogue no longer knows.",
+        [recordsWren](Computer *computer) {
+            computer->addSimulator("Wren"_s);
+            recordsWren(computer);
+        });
+    row("no record",
+        "The plugin is there, but not in the installation record.",
+        [](Computer *computer) {
+            QFile::remove(computer->absolute(computer->data("Quillmont/Orbwell/.mapping"_s)));
+        });
+    const auto link = [](const QString &path, const QString &target) {
+        return [path, target](Computer *computer) {
+            QDir(computer->absolute(path)).removeRecursively();
+            QFile::remove(computer->absolute(path));
+            QVERIFY(QFile::link(target, computer->absolute(path)));
+        };
+    };
+    const Computer any;
+    const QString record = any.data("Quillmont/Orbwell/.mapping"_s);
+    row("dead link for a folder",
+        "/sims/Kestrel/Resources\" is a link that leads nowhere.",
+        link("sims/Kestrel/Resources"_s, "nowhere"_s));
+    row("file for a folder",
+        "/sims/Kestrel/Resources\" is a file where a folder has to be.",
+        [link](Computer *computer) {
+            link("sims/Kestrel/Resources"_s, "nowhere"_s)(computer);
+            computer->write("sims/Kestrel/nowhere"_s, "");
+        });
+    row("configuration is a dead link",
+        "dll.xml\" is a link that leads nowhere.",
+        link(any.configuration("Skylark"_s), "no/where"_s));
+    row("record is a dead link", "Nothing can be recorded: \"", link(record, "no/where"_s));
+    row("record's link can be followed",
+        "The plugin is there, but not in the installation record.",
+        link(record, "elsewhere"_s));
     row("deleted chosen folder", "Its folder \"/nowhere/at all\" is gone.", [](Computer *computer) {
         computer->write(computer->data("Quillmont/Vellum/.settings"_s),
                         "[flightsim]\nKestrel=/nowhere/at all\n");
@@ -326,7 +366,11 @@ void TestReport::changesNothingAndFollowsItsSchema()
 
 void TestReport::examinesOnlyTheNamedSimulators()
 {
+    m_computer->write(m_computer->data("Quillmont/Orbwell/.mapping"_s), "{");
+    QCOMPARE(run({}).status, 1);
+    QCOMPARE(run({"Kestrel"_s}).status, 0);
     const QByteArray text = run({"Kestrel"_s}).output;
+    QVERIFY(text.contains("Nothing is wrong."));
     QVERIFY(text.contains("Kestrel: the plugin is not installed"));
     QVERIFY(!text.contains("Skylark"));
 }
@@ -346,30 +390,70 @@ void TestReport::reportsFoldersThatAreNotWritable()
 {
     const QString configuration = m_computer->absolute(m_computer->configuration("Skylark"_s));
     const QString gauges = m_computer->folder("Skylark"_s) + "/Gauges"_s;
+    const QString record = m_computer->absolute(m_computer->data("Quillmont/Orbwell/.mapping"_s));
     const bool isRoot = geteuid() == 0;
+    m_computer->setRecords({});
     run({"--version"_s}); // puts it in its place
     {
         const Unprivileged givesAllAway(m_computer->absolute(QString()).chopped(1));
     }
     const auto answer = [&] {
         const QString doctor = m_computer->program().folder() + "/orbwell-doctor"_s;
-        const QStringList asNobody{"--reuid=65534"_s, "--clear-groups"_s, doctor, "Skylark"_s};
-        return isRoot ? Command("setpriv"_s, asNobody).run() : run({"Skylark"_s});
+        const QStringList asNobody{"--reuid=65534"_s, "--clear-groups"_s, doctor};
+        return isRoot ? Command("setpriv"_s, asNobody).run() : run({});
     };
     const auto mayWrite = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    for (const QString &folder : {gauges, QFileInfo(configuration).path()}) {
-        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    const auto mayLook = QFile::ReadOwner | QFile::ExeOwner;
+    const QString changeIt = "You may not change the configuration file \""_s + configuration;
+    const QString module
+        = m_computer->program().folder() + "/plugins/FSX/QuillmontOrbwell_64.dll"_s;
+
+    struct Case
+    {
+        QString path;
+        QFile::Permissions mode;
+        QString sentence;
+    };
+
+    const QVector<Case> cases{
+        {gauges, mayLook, "You may not write in the folder of \""_s + gauges},
+        {QFileInfo(configuration).path(), mayLook, changeIt},
+        {configuration, QFile::ReadOwner, changeIt},
+        {record, QFile::ReadOwner, "You may not write the installation record \""_s},
+        {module, {}, "You may not read \""_s + module}};
+    for (const Case &each : cases) {
+        QVERIFY(QFile::setPermissions(each.path, each.mode));
         const QByteArray text = answer().output;
-        QVERIFY(QFile::setPermissions(folder, mayWrite));
-        const QString sentence = folder == gauges
-            ? "You may not write in the folder of \""_s
-            : "You may not write in the folder of the configuration file \""_s;
-        QVERIFY2(text.contains((sentence + folder).toUtf8()), text.constData());
+        QVERIFY(QFile::setPermissions(each.path, mayWrite));
+        QVERIFY2(text.contains(each.sentence.toUtf8()), text.constData());
     }
     QCOMPARE(answer().status, 0);
 }
 
-void TestReport::listsTheWorstProblemFirst()
+void TestReport::looksForRoomOnBothDisks()
+{
+    const QTemporaryDir memory("/dev/shm/orbwell-XXXXXX"_s);
+    const QString configuration = m_computer->absolute(m_computer->configuration("Skylark"_s));
+    const QString folder = QFileInfo(configuration).path();
+    const auto device = [](const QString &path) {
+        struct stat status = {};
+        return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_dev : 0;
+    };
+    if (!memory.isValid() || device(memory.path()) == device(folder))
+        QSKIP("needs a disk in memory, /dev/shm");
+    QVERIFY(QDir(folder).removeRecursively() && QFile::link(memory.path(), folder));
+    const auto space = std::filesystem::space(QFile::encodeName(folder).toStdString());
+    const qint64 tooMuch = static_cast<qint64>(space.available) + (1LL << 30);
+    writeFile(configuration, "");
+    QVERIFY(QFile::resize(configuration, tooMuch)); // a hole, which takes no room
+    const QJsonObject skylark = report("Skylark"_s);
+    QVERIFY(skylark.value("room"_s).toObject().value("needed"_s).toDouble() < 1000);
+    QCOMPARE(skylark.value("backupRoom"_s).toObject().value("needed"_s).toDouble(),
+             double(tooMuch));
+    QVERIFY(run({}).output.contains(("Make room on the disk of \""_s + folder).toUtf8()));
+}
+
+
 {
     installEverywhere();
     m_computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "another");
