@@ -150,10 +150,6 @@
         <translation>Starten Sie den Simulator einmal aus Steam, und installieren Sie dann erneut.</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>Sie dürfen im Ordner der Konfigurationsdatei %1 nicht schreiben.</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>Die Konfigurationsdatei %1 ist eine Webseite.</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>Die Konfigurationsdatei kann nicht angelegt werden: %1 ist ein Link, der ins Leere führt.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Löschen Sie den Link, und installieren Sie dann.</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>Sie dürfen die Konfigurationsdatei %1 nicht ändern oder in ihrem Ordner nicht schreiben.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 ist eine Datei, kein Ordner.</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>Auf dem Datenträger sind %1 Bytes frei; die Dateien und eine Sicherung brauchen %2.</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>Schaffen Sie Platz auf dem Datenträger von %1.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>Auf dem Datenträger sind %1 Bytes frei; was dort geschrieben wird, braucht %2.</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>Sie dürfen %1 nicht lesen; die Datei kann nicht installiert werden.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>An der Stelle des Ordners %1 ist ein Link, der ins Leere führt.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 ist eine Datei; dort muss ein Ordner sein.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <message>
         <source>Record unchanged: %1</source>
         <translation>Nachweis unverändert: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Sein Ordner %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>Knopf im Fenster: &quot;Orbwell installieren&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>Knopf im Fenster: &quot;Orbwell deinstallieren&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>Knopf im Fenster: deaktiviert</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>Der Installationsnachweis %1 kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>Der Installationsnachweis %1 ist beschädigt; was darin stand, ist verloren.</translation>
     </message>
@@ -761,12 +797,20 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>Entfernen Sie das Plugin dort von Hand, falls es nicht mehr gewünscht ist.</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>Der Installationsnachweis führt %1; der Ordner %2 dazu ist nicht mehr da.</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>Es kann nichts in den Installationsnachweis eingetragen werden: %1 ist ein Link, der ins Leere führt.</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>Es ist nichts zu tun.</translation>
+        <source>Delete the link.</source>
+        <translation>Löschen Sie den Link.</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>Sie dürfen den Installationsnachweis %1 nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>Der Nachweis %1 bleibt, wie er ist: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 kann nicht nach %2 kopiert werden: Sie dürfen dort nicht schreiben, oder der Ordner fehlt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 kann nicht kopiert werden: Sie dürfen es nicht lesen. Was an der Stelle ist, wird trotzdem entfernt.</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>Von %1 kann keine Sicherung angelegt werden: Sie dürfen in seinem Ordner nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 kann nicht angelegt werden: Sie dürfen dort nicht schreiben, oder der Ordner fehlt.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 bleibt, wie es ist: Sie dürfen es nicht ändern oder in seinem Ordner nicht schreiben.</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>Sicherung vom %1, %2 Bytes, beschädigt</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>Konfiguration: %1, ein Link, der ins Leere führt</translation>
     </message>
 </context>
 <context>

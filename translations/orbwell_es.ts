@@ -150,10 +150,6 @@
         <translation>Inicie el simulador una vez desde Steam y vuelva a instalar.</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>No tiene permiso para escribir en la carpeta del archivo de configuración %1.</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>Concédase permiso para escribir en ella.</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>El archivo de configuración %1 es una página web.</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>No se puede crear el archivo de configuración: %1 es un enlace que no lleva a ninguna parte.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Borre el enlace y después instale.</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>No tiene permiso para modificar el archivo de configuración %1 o para escribir en su carpeta.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 es un archivo, no una carpeta.</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>El disco tiene %1 bytes libres; los archivos y una copia de seguridad ocupan %2.</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>Libere espacio en el disco de %1.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>El disco tiene %1 bytes libres; lo que se escribe en él ocupa %2.</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>Concédase permiso para escribir en ella.</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>No tiene permiso para leer %1; ese archivo no se puede instalar.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Concédase permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>En el lugar de la carpeta %1 hay un enlace que no lleva a ninguna parte.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 es un archivo; en ese lugar tiene que haber una carpeta.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <message>
         <source>Record unchanged: %1</source>
         <translation>Registro sin cambios: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Su carpeta %1 ya no existe.</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>Botón de la ventana: &quot;Instalar Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>Botón de la ventana: &quot;Desinstalar Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>Botón de la ventana: desactivado</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>No se puede leer el registro de instalación %1: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Concédase permiso para leerlo.</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>El registro de instalación %1 está dañado; lo que decía se ha perdido.</translation>
     </message>
@@ -761,12 +797,20 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>Quite el plugin de allí a mano si ya no lo quiere.</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>El registro de instalación tiene %1, y su carpeta %2 ya no existe.</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>No se puede anotar nada en el registro de instalación: %1 es un enlace que no lleva a ninguna parte.</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>No hay que hacer nada.</translation>
+        <source>Delete the link.</source>
+        <translation>Borre el enlace.</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>No tiene permiso para escribir el registro de instalación %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Concédase permiso para escribir en ella.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>El registro %1 se queda como está: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 no se puede copiar en %2: no tiene permiso para escribir allí, o falta la carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 no se puede copiar: no tiene permiso para leerlo. Lo que hay en su lugar se elimina de todos modos.</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>No se puede crear una copia de seguridad de %1: no tiene permiso para escribir en su carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 no se puede crear: no tiene permiso para escribir allí, o falta la carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 se queda como está: no tiene permiso para modificarlo o para escribir en su carpeta.</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>Copia de seguridad del %1, %2 bytes, dañada</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>Configuración: %1, un enlace que no lleva a ninguna parte</translation>
     </message>
 </context>
 <context>

@@ -150,10 +150,6 @@
         <translation>Démarrez une fois le simulateur depuis Steam, puis réinstallez.</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>Vous n’avez pas le droit d’écrire dans le dossier du fichier de configuration %1.</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>Donnez-vous le droit d’y écrire.</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>Le fichier de configuration %1 est une page web.</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>Le fichier de configuration ne peut pas être créé&#xa0;: %1 est un lien qui ne mène nulle part.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Supprimez le lien, puis installez.</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>Vous n’avez pas le droit de modifier le fichier de configuration %1 ou d’écrire dans son dossier.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 est un fichier, pas un dossier.</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>Le disque a %1 octets libres&#xa0;; les fichiers et une sauvegarde en demandent %2.</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>Libérez de l’espace sur le disque de %1.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>Le disque a %1 octets libres&#xa0;; ce qui y est écrit en demande %2.</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>Donnez-vous le droit d’y écrire.</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>Vous n’avez pas le droit de lire %1&#xa0;; ce fichier ne peut pas être installé.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Donnez-vous le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>À la place du dossier %1 se trouve un lien qui ne mène nulle part.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 est un fichier&#xa0;; un dossier doit se trouver à cette place.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <message>
         <source>Record unchanged: %1</source>
         <translation>Registre inchangé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Son dossier %1 a disparu.</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>Bouton de la fenêtre&#xa0;: &quot;Installer Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>Bouton de la fenêtre&#xa0;: &quot;Désinstaller Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>Bouton de la fenêtre&#xa0;: désactivé</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>Le registre d’installation %1 ne peut pas être lu&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Donnez-vous le droit de le lire.</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>Le registre d’installation %1 est endommagé&#xa0;; ce qu’il disait est perdu.</translation>
     </message>
@@ -761,12 +797,20 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>Supprimez-y le plugin à la main, si vous n’en voulez plus.</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>Le registre d’installation contient %1, dont le dossier %2 a disparu.</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>Rien ne peut être inscrit au registre d’installation&#xa0;: %1 est un lien qui ne mène nulle part.</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>Il n’y a rien à faire.</translation>
+        <source>Delete the link.</source>
+        <translation>Supprimez le lien.</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>Vous n’avez pas le droit d’écrire le registre d’installation %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Donnez-vous le droit d’y écrire.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>Le registre %1 reste tel quel&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 ne peut pas être copié vers %2&#xa0;: vous n’avez pas le droit d’y écrire, ou le dossier manque.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 ne peut pas être copié&#xa0;: vous n’avez pas le droit de le lire. Ce qui est à sa place est tout de même supprimé.</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>Aucune sauvegarde de %1 ne peut être créée&#xa0;: vous n’avez pas le droit d’écrire dans son dossier.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 ne peut pas être créé&#xa0;: vous n’avez pas le droit d’y écrire, ou le dossier manque.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 reste tel quel&#xa0;: vous n’avez pas le droit de le modifier ou d’écrire dans son dossier.</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>Sauvegarde du %1, %2 octets, endommagée</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>Configuration&#xa0;: %1, un lien qui ne mène nulle part</translation>
     </message>
 </context>
 <context>

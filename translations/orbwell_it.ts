@@ -150,10 +150,6 @@
         <translation>Avviare una volta il simulatore da Steam, poi installare di nuovo.</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>Non si dispone dell’autorizzazione a scrivere nella cartella del file di configurazione %1.</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>Il file di configurazione %1 è una pagina web.</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>Il file di configurazione non può essere creato: %1 è un collegamento che non porta da nessuna parte.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Eliminare il collegamento, poi installare.</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>Non si dispone dell’autorizzazione a modificare il file di configurazione %1 o a scrivere nella sua cartella.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 è un file, non una cartella.</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>Il disco ha %1 byte liberi; i file e un backup ne richiedono %2.</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>Liberare spazio sul disco di %1.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>Il disco ha %1 byte liberi; ciò che vi viene scritto ne richiede %2.</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>Non si dispone dell’autorizzazione a leggere %1; questo file non può essere installato.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>Al posto della cartella %1 c’è un collegamento che non porta da nessuna parte.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 è un file; in quel punto deve esserci una cartella.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <message>
         <source>Record unchanged: %1</source>
         <translation>Registro invariato: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>La sua cartella %1 non esiste più.</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>Pulsante nella finestra: &quot;Installa Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>Pulsante nella finestra: &quot;Disinstalla Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>Pulsante nella finestra: disattivato</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>Impossibile leggere il registro di installazione %1: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>Il registro di installazione %1 è danneggiato; ciò che diceva è perduto.</translation>
     </message>
@@ -761,12 +797,20 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>Rimuovere a mano il plugin da lì, se non è più desiderato.</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>Il registro di installazione ha %1, la cui cartella %2 non esiste più.</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>Non si può annotare nulla nel registro di installazione: %1 è un collegamento che non porta da nessuna parte.</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>Non c’è nulla da fare.</translation>
+        <source>Delete the link.</source>
+        <translation>Eliminare il collegamento.</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>Non si dispone dell’autorizzazione a scrivere il registro di installazione %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>Il registro %1 rimane com’è: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 non può essere copiato in %2: non si dispone dell’autorizzazione a scrivere lì, o la cartella manca.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 non può essere copiato: non si dispone dell’autorizzazione a leggerlo. Ciò che è al suo posto viene rimosso comunque.</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>Non si può creare un backup di %1: non si dispone dell’autorizzazione a scrivere nella sua cartella.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 non può essere creato: non si dispone dell’autorizzazione a scrivere lì, o la cartella manca.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 rimane com’è: non si dispone dell’autorizzazione a modificarlo o a scrivere nella sua cartella.</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>Backup del %1, %2 byte, danneggiato</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>Configurazione: %1, un collegamento che non porta da nessuna parte</translation>
     </message>
 </context>
 <context>

@@ -150,10 +150,6 @@
         <translation>Steam からシミュレーターを一度起動してから、もう一度インストールしてください。</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>構成ファイル %1 のフォルダーに書き込む権限がありません。</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>そのフォルダーに書き込む権限を付与してください。</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>構成ファイル %1 は Web ページです。</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>構成ファイルを作成できません。%1 はリンク先のないリンクです。</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>リンクを削除してから、インストールしてください。</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>構成ファイル %1 を変更する権限、またはそのフォルダーに書き込む権限がありません。</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 はファイルで、フォルダーではありません。</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>ディスクの空き容量は %1 バイトですが、ファイルとバックアップには %2 バイト必要です。</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>%1 のディスクの空き容量を増やしてください。</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>ディスクの空き容量は %1 バイトですが、書き込みには %2 バイト必要です。</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>そのフォルダーに書き込む権限を付与してください。</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>%1 を読み取る権限がないため、インストールできません。</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>読み取る権限を付与してください。</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>フォルダー %1 の場所に、リンク先のないリンクがあります。</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 はファイルですが、フォルダーでなければなりません。</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>Record unchanged: %1</source>
         <translation>変わらない記録: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>フォルダー %1 がなくなっています。</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>ウィンドウのボタン: &quot;Orbwell をインストール&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>ウィンドウのボタン: &quot;Orbwell をアンインストール&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>ウィンドウのボタン: 無効</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>インストール記録 %1 を読み取れません: %2。</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>読み取る権限を付与してください。</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>インストール記録 %1 は破損しています。その内容は失われました。</translation>
     </message>
@@ -761,12 +797,20 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>不要であれば、そこからプラグインを手動で削除してください。</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>インストール記録に %1 がありますが、そのフォルダー %2 がなくなっています。</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>インストール記録に何も書き込めません。%1 はリンク先のないリンクです。</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>何もする必要はありません。</translation>
+        <source>Delete the link.</source>
+        <translation>リンクを削除してください。</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>インストール記録 %1 に書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>そのフォルダーに書き込む権限を付与してください。</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>記録 %1 は変わりません: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 を %2 にコピーできません。そこに書き込む権限がないか、フォルダーがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 をコピーできません。読み取る権限がありません。それでも、その場所にあるものは削除されます。</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>%1 のバックアップを作成できません。フォルダーに書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 を作成できません。そこに書き込む権限がないか、フォルダーがありません。</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 は変わりません: 変更する権限、またはフォルダーに書き込む権限がありません。</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>%1 のバックアップ、%2 バイト、破損</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>構成ファイル: %1、リンク先のないリンク</translation>
     </message>
 </context>
 <context>

@@ -150,10 +150,6 @@
         <translation>Uruchom symulator raz ze Steam, a potem zainstaluj ponownie.</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>Nie masz prawa zapisu w folderze pliku konfiguracyjnego %1.</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>Plik konfiguracyjny %1 jest stroną internetową.</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>Nie można utworzyć pliku konfiguracyjnego: %1 to dowiązanie, które prowadzi donikąd.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Usuń dowiązanie, a potem zainstaluj.</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>Nie masz prawa zmienić pliku konfiguracyjnego %1 albo zapisywać w jego folderze.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 to plik, a nie folder.</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>Na dysku jest %1 wolnych bajtów; pliki i kopia zapasowa zajmują %2.</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>Zwolnij miejsce na dysku z %1.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>Na dysku jest %1 wolnych bajtów; to, co zostanie na nim zapisane, zajmuje %2.</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>Nie masz prawa odczytu %1; tego pliku nie można zainstalować.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>W miejscu folderu %1 jest dowiązanie, które prowadzi donikąd.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 to plik, a w tym miejscu musi być folder.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     <message>
         <source>Record unchanged: %1</source>
         <translation>Rejestr bez zmian: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>Jego folderu %1 już nie ma.</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>Przycisk w oknie: &quot;Zainstaluj Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>Przycisk w oknie: &quot;Odinstaluj Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>Przycisk w oknie: nieaktywny</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>Nie można odczytać rejestru instalacji %1: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>Rejestr instalacji %1 jest uszkodzony; jego treść przepadła.</translation>
     </message>
@@ -761,12 +797,20 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>Usuń stamtąd wtyczkę ręcznie, jeśli nie jest już potrzebna.</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>Rejestr instalacji zawiera %1, a folderu %2 już nie ma.</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>Nie można niczego wpisać do rejestru instalacji: %1 to dowiązanie, które prowadzi donikąd.</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>Nie trzeba nic robić.</translation>
+        <source>Delete the link.</source>
+        <translation>Usuń dowiązanie.</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>Nie masz prawa zapisu rejestru instalacji %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>Rejestr %1 zostaje bez zmian: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 nie można skopiować do %2: nie masz tam prawa zapisu albo brakuje folderu.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 nie można skopiować: nie masz prawa odczytu. To, co jest w jego miejscu, i tak zostanie usunięte.</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>Nie można utworzyć kopii zapasowej %1: nie masz prawa zapisu w folderze tego pliku.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 nie można utworzyć: nie masz tam prawa zapisu albo brakuje folderu.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 zostaje bez zmian: nie masz prawa zmienić tego pliku albo zapisywać w jego folderze.</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>Kopia zapasowa z %1, rozmiar w bajtach: %2, uszkodzona</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>Konfiguracja: %1, dowiązanie, które prowadzi donikąd</translation>
     </message>
 </context>
 <context>

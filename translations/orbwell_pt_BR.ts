@@ -150,10 +150,6 @@
         <translation>Inicie o simulador uma vez pelo Steam e depois instale de novo.</translation>
     </message>
     <message>
-        <source>You may not write in the folder of the configuration file %1.</source>
-        <translation>Você não pode gravar na pasta do arquivo de configuração %1.</translation>
-    </message>
-    <message>
         <source>Give yourself the right to write there.</source>
         <translation>Dê a si mesmo permissão para gravar nela.</translation>
     </message>
@@ -205,6 +201,18 @@
         <source>The configuration file %1 is a web page.</source>
         <translation>O arquivo de configuração %1 é uma página da web.</translation>
     </message>
+    <message>
+        <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
+        <translation>O arquivo de configuração não pode ser criado: %1 é um link que não leva a lugar nenhum.</translation>
+    </message>
+    <message>
+        <source>Delete the link, then install.</source>
+        <translation>Exclua o link e depois instale.</translation>
+    </message>
+    <message>
+        <source>You may not change the configuration file %1, or not write in its folder.</source>
+        <translation>Você não pode alterar o arquivo de configuração %1 ou não pode gravar na pasta dele.</translation>
+    </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
@@ -248,12 +256,12 @@
         <translation>%1 é um arquivo, não uma pasta.</translation>
     </message>
     <message>
-        <source>The disk has room for %1 bytes; the files and a backup take %2.</source>
-        <translation>O disco tem %1 bytes livres; os arquivos e um backup precisam de %2.</translation>
-    </message>
-    <message>
         <source>Make room on the disk of %1.</source>
         <translation>Libere espaço no disco de %1.</translation>
+    </message>
+    <message>
+        <source>The disk has room for %1 bytes; what is written there takes %2.</source>
+        <translation>O disco tem %1 bytes livres; o que é gravado nele precisa de %2.</translation>
     </message>
 </context>
 <context>
@@ -309,6 +317,22 @@
     <message>
         <source>Give yourself the right to write there.</source>
         <translation>Dê a si mesmo permissão para gravar nela.</translation>
+    </message>
+    <message>
+        <source>You may not read %1, so it cannot be installed.</source>
+        <translation>Você não pode ler %1; esse arquivo não pode ser instalado.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to read it.</source>
+        <translation>Dê a si mesmo permissão para lê-lo.</translation>
+    </message>
+    <message>
+        <source>In the place of the folder %1 is a link that leads nowhere.</source>
+        <translation>No lugar da pasta %1 há um link que não leva a lugar nenhum.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder has to be.</source>
+        <translation>%1 é um arquivo; nesse lugar tem de haver uma pasta.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +461,22 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     <message>
         <source>Record unchanged: %1</source>
         <translation>Registro inalterado: %1</translation>
+    </message>
+    <message>
+        <source>Its folder %1 is gone.</source>
+        <translation>A pasta %1 não existe mais.</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Install Orbwell&quot;</source>
+        <translation>Botão na janela: &quot;Instalar Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
+        <translation>Botão na janela: &quot;Desinstalar Orbwell&quot;</translation>
+    </message>
+    <message>
+        <source>Button in the window: disabled</source>
+        <translation>Botão na janela: desativado</translation>
     </message>
 </context>
 <context>
@@ -717,10 +757,6 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>O registro de instalação %1 não pode ser lido: %2.</translation>
     </message>
     <message>
-        <source>Give yourself the right to read it.</source>
-        <translation>Dê a si mesmo permissão para lê-lo.</translation>
-    </message>
-    <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
         <translation>O registro de instalação %1 está danificado; o que ele dizia se perdeu.</translation>
     </message>
@@ -761,12 +797,20 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>Remova o plugin de lá à mão, se não o quiser mais.</translation>
     </message>
     <message>
-        <source>The installation record has %1, and its folder %2 is gone.</source>
-        <translation>O registro de instalação tem %1, e a pasta %2 não existe mais.</translation>
+        <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
+        <translation>Nada pode ser anotado no registro de instalação: %1 é um link que não leva a lugar nenhum.</translation>
     </message>
     <message>
-        <source>Nothing has to be done.</source>
-        <translation>Nada precisa ser feito.</translation>
+        <source>Delete the link.</source>
+        <translation>Exclua o link.</translation>
+    </message>
+    <message>
+        <source>You may not write the installation record %1.</source>
+        <translation>Você não pode gravar o registro de instalação %1.</translation>
+    </message>
+    <message>
+        <source>Give yourself the right to write there.</source>
+        <translation>Dê a si mesmo permissão para gravar nela.</translation>
     </message>
 </context>
 <context>
@@ -790,6 +834,26 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     <message>
         <source>The record %1 stays as it is: %2</source>
         <translation>O registro %1 fica como está: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
+        <translation>%1 não pode ser copiado para %2: você não pode gravar lá, ou falta a pasta.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
+        <translation>%1 não pode ser copiado: você não pode lê-lo. O que está no lugar dele é removido mesmo assim.</translation>
+    </message>
+    <message>
+        <source>No backup of %1 can be made: you may not write in its folder.</source>
+        <translation>Não é possível criar um backup de %1: você não pode gravar na pasta dele.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
+        <translation>%1 não pode ser criado: você não pode gravar lá, ou falta a pasta.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
+        <translation>%1 fica como está: você não pode alterá-lo ou não pode gravar na pasta dele.</translation>
     </message>
 </context>
 <context>
@@ -949,6 +1013,10 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
         <translation>Backup de %1, %2 bytes, danificado</translation>
+    </message>
+    <message>
+        <source>Configuration: %1, a link that leads nowhere</source>
+        <translation>Configuração: %1, um link que não leva a lugar nenhum</translation>
     </message>
 </context>
 <context>
