@@ -174,8 +174,8 @@ QByteArray Rehearsal::bytesOf(const QString &path, QString *problem) const
     return planned ? planned->bytes : FileHelper::read(path, Library::Xml::maxFileSize, problem);
 }
 
-// Only the first backup counts: one in the same second fails, and one in a later second has another
-// name.
+// One in the same second finds the name taken, and one in the next second is another; the first is
+// what counts, whatever there is of this second already.
 void Rehearsal::backUp(const QString &path, const QString &suffix)
 {
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
@@ -189,7 +189,7 @@ void Rehearsal::backUp(const QString &path, const QString &suffix)
     QString problem;
     if (!m_disk.file(path) && !FileHelper::open(&file, QIODevice::ReadOnly, &problem))
         return;
-    if (m_disk.mayMake(native + suffix.arg(time)))
+    if (m_disk.mayWriteBeside(path))
         m_backups.append(m_disk.placeOf(native + suffix.arg(time)));
     else
         fail(tr("No backup of %1 can be made: you may not write in its folder.").arg(quoted(path)));
