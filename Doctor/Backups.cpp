@@ -6,6 +6,7 @@
 #include "Library/Text/XmlSource.h"
 #include "Library/Xml/XmlDocument.h"
 #include "Library/Xml/editedXml.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -72,6 +73,8 @@ QJsonArray backupsOf(const QString &path)
     const QStringList names = backupNames(file);
     for (const QString &name : names) {
         const QString backup = file.path() + u'/' + name;
+        const QDateTime time
+            = QDateTime::fromString(timeIn(name), ViewControllers::backupTimeForm());
         QJsonObject object{{QStringLiteral("path"), backup},
                            {QStringLiteral("time"), timeIn(name).toString(Qt::ISODate)},
                            {QStringLiteral("size"), QFileInfo(backup).size()},

@@ -18,7 +18,6 @@
 #include "ViewControllers/Payload/SimulatorFiles.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTextCodec>
@@ -27,6 +26,7 @@ using Quillmont::Library::Helpers::FileHelper;
 using Quillmont::Library::Text::XmlSource;
 using Quillmont::Utility::Controllers::recordFile;
 using Quillmont::Utility::Models::FlightSimulatorMapping;
+using Quillmont::Utility::ViewControllers::Before;
 
 namespace Quillmont::Utility::Doctor {
 
@@ -109,7 +109,7 @@ void Rehearsal::addEntry()
     if (isMissing && !makeLaunchDocument())
         return;
     if (!isMissing)
-        backUp(m_configuration, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
+        backUp(Before::Installation);
     if (m_entry->config->describesEntry())
         change(m_configuration, [this](const QByteArray &bytes, QString *problem) {
             return Library::Xml::withEntry(bytes, *m_entry->config, problem);
@@ -134,8 +134,7 @@ void Rehearsal::removeEntry()
     if (ViewControllers::hasConfigurationFile(m_mapping)) {
         m_configuration = ViewControllers::configurationFile(m_mapping);
         if (m_disk.exists(m_configuration)) {
-            backUp(m_configuration,
-                   QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
+            backUp(Before::Uninstallation);
             if (m_entry->config->describesEntry())
                 change(m_configuration, [this](const QByteArray &bytes, QString *problem) {
                     return Library::Xml::withoutEntry(bytes, *m_entry->config, problem);
@@ -176,23 +175,20 @@ QByteArray Rehearsal::bytesOf(const QString &path, QString *problem) const
 
 // One in the same second finds the name taken, and one in the next second is another; the first is
 // what counts, whatever there is of this second already.
-void Rehearsal::backUp(const QString &path, const QString &suffix)
+void Rehearsal::backUp(Before before)
 {
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
-    const QString native = QDir::toNativeSeparators(path);
-    const QString beginning = m_disk.placeOf(native + suffix.section(u'%', 0, 0));
-    for (const QString &backup : qAsConst(m_backups)) {
-        if (backup.startsWith(beginning))
-            return;
-    }
-    QFile file(path);
-    QString problem;
-    if (!m_disk.file(path) && !FileHelper::open(&file, QIODevice::ReadOnly, &problem))
+    if (m_backedUp.contains(before))
         return;
-    if (m_disk.mayWriteBeside(path))
-        m_backups.append(m_disk.placeOf(native + suffix.arg(time)));
-    else
-        fail(tr("No backup of %1 can be made: you may not write in its folder.").arg(quoted(path)));
+    QFile file(m_configuration);
+    QString problem;
+    if (!m_disk.file(m_configuration) && !FileHelper::open(&file, QIODevice::ReadOnly, &problem))
+        return;
+    if (!m_disk.mayWriteBeside(m_configuration))
+        return fail(tr("No backup of %1 can be made: you may not write in its folder.")
+                        .arg(quoted(m_configuration)));
+    m_backedUp.append(before);
+    m_backups.append(m_disk.placeOf(
+        ViewControllers::backupName(m_configuration, before, QDateTime::currentDateTime())));
 }
 
 void Rehearsal::updateRecord(bool uninstalled)

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>
+#include <QVector>
 
 #include <functional>
 
@@ -15,6 +16,10 @@ namespace Quillmont::Utility::Models {
 class FlightSimScan;
 class FlightSimulatorMapping;
 } // namespace Quillmont::Utility::Models
+
+namespace Quillmont::Utility::ViewControllers {
+enum class Before;
+} // namespace Quillmont::Utility::ViewControllers
 
 namespace Quillmont::Utility::Doctor {
 
@@ -49,7 +54,7 @@ private:
     void removeEntry();
     void removeExtraFiles();
     void change(const QString &path, const Edit &edit);
-    void backUp(const QString &path, const QString &suffix);
+    void backUp(ViewControllers::Before before);
     void updateRecord(bool uninstalled);
     void failToMake(const QString &path);
     void failToChange(const QString &path);
@@ -64,6 +69,7 @@ private:
     RecordChange m_record;
     PlannedDisk m_disk;
     QString m_configuration;
+    QVector<ViewControllers::Before> m_backedUp;
     QStringList m_backups;
     QStringList m_failures;
 };

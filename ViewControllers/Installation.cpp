@@ -151,7 +151,7 @@ void ScanController::installToFlightSim(FlightSimulatorMapping *mapping)
     if (FileHelper::isMissing(file))
         writeLaunchDocument(file);
     else
-        backUp(file, QStringLiteral("_quillmont_orbwell_before_installation_%0.bak"));
+        backUp(file, Before::Installation);
 
     auto *helper = new XmlHelper(this, file);
     const bool inPlace = helper->insertValues(mapping->scan->config);

@@ -142,7 +142,7 @@ void ScanController::uninstallFromFlightSim(FlightSimulatorMapping *mapping)
 void ScanController::removeEntry(FlightSimulatorMapping *mapping)
 {
     const QString file = configurationFile(mapping);
-    backUp(file, QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak"));
+    backUp(file, Before::Uninstallation);
     auto *helper = new XmlHelper(this, file);
     const bool gone = helper->removeConfig(mapping->scan->config);
     logAction() << (gone ? "entry is not in:" : "entry not removed from:") << file;

@@ -156,13 +156,25 @@ QStringList deadLinksOn(const QString &path)
     return links;
 }
 
-void backUp(const QString &file, const QString &suffix)
+QString backupTimeForm()
+{
+    return QStringLiteral("yyyyMMdd_HHmmss");
+}
+
+QString backupName(const QString &file, Before before, const QDateTime &time)
+{
+    const QString suffix = before == Before::Installation
+        ? QStringLiteral("_quillmont_orbwell_before_installation_%0.bak")
+        : QStringLiteral("_quillmont_orbwell_before_uninstallation_%0.bak");
+    return QDir::toNativeSeparators(file) + suffix.arg(time.toString(backupTimeForm()));
+}
+
+void backUp(const QString &file, Before before)
 {
     if (!QFile::exists(file) || !PathEncoding::survives(file))
         return;
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
-    const QString backup = QDir::toNativeSeparators(file) + suffix.arg(time);
-    const bool copied = copyRegular(file, backup);
+    const QString backup = backupName(file, before, QDateTime::currentDateTime());
+    const bool copied = copyOrdinary(file, backup);
     qDebug().noquote().nospace() << "file backups to '" << backup
                                  << "'. Result: " << (copied ? "succeed" : "error");
 }

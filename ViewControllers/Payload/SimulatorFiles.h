@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+class QDateTime;
+
 namespace Quillmont::Utility::Models {
 class FlightSimulatorMapping;
 } // namespace Quillmont::Utility::Models
@@ -37,9 +39,21 @@ void makeFolderOf(const QString &path);
 /// Of @p path and the folders above it those that are links which lead nowhere, from the end.
 QStringList deadLinksOn(const QString &path);
 
-/// Copies @p file, if it exists, to a name beside it made of its own, @p suffix and the local
-/// time for "%0". The debug log says how it went; a failed backup stops nothing.
-void backUp(const QString &file, const QString &suffix);
+/// What a configuration file is backed up before.
+enum class Before {
+    Installation,
+    Uninstallation
+};
+
+/// The form of the time at the end of a backup's name.
+QString backupTimeForm();
+
+/// The native path of the backup that is made of @p file at the local @p time, beside it.
+QString backupName(const QString &file, Before before, const QDateTime &time);
+
+/// Copies @p file, if it exists, to the name of a backup made now. The debug log says how it went;
+/// a failed backup stops nothing.
+void backUp(const QString &file, Before before);
 
 } // namespace Quillmont::Utility::ViewControllers
 
