@@ -108,28 +108,15 @@ const PlannedDisk::File *PlannedDisk::file(const QString &path) const
     return it == m_files.constEnd() ? nullptr : &it.value();
 }
 
-bool PlannedDisk::exists(const QString &path) const
-{
-    const QString where = placeOf(path);
-    return !where.isEmpty() && isAt(where);
-}
-
 bool PlannedDisk::isDeadLink(const QString &path) const
 {
-    const QString where = place(path, Kept);
-    return !where.isEmpty() && !linkAt(where).isEmpty() && !exists(path);
-}
-
-bool PlannedDisk::mayWriteBeside(const QString &path) const
-{
-    const QString where = place(path, Kept);
-    return !where.isEmpty() && isBesideWritable(where);
+    return !linkAt(place(path, Kept)).isEmpty() && !exists(path);
 }
 
 bool PlannedDisk::mayMake(const QString &path) const
 {
     const QString where = place(path, Kept);
-    return !where.isEmpty() && !isAt(where) && isBesideWritable(where);
+    return !isAt(where) && isBesideWritable(where);
 }
 
 bool PlannedDisk::mayReplace(const QString &path) const
@@ -140,7 +127,7 @@ bool PlannedDisk::mayReplace(const QString &path) const
 bool PlannedDisk::mayRewrite(const QString &path) const
 {
     const QString where = placeOf(path);
-    return !where.isEmpty() && (isAt(where) ? isWritableAt(where) : isBesideWritable(where));
+    return isAt(where) ? isWritableAt(where) : isBesideWritable(where);
 }
 
 bool PlannedDisk::makeFolderOf(const QString &path)
@@ -163,9 +150,7 @@ bool PlannedDisk::makeFolder(const QString &path)
 bool PlannedDisk::remove(const QString &path)
 {
     const QString where = place(path, Kept);
-    const bool isRemovable
-        = !where.isEmpty() && isAt(where) && !isFolderAt(where) && isBesideWritable(where);
-    if (!isRemovable)
+    if (!isAt(where) || isFolderAt(where) || !isBesideWritable(where))
         return false;
     m_files.insert(where, {File::Removed, {}, {}});
     forget(where);

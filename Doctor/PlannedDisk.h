@@ -33,7 +33,7 @@ public:
     QString placeOf(const QString &path) const { return place(path, Followed); }
 
     /// Whether there is anything at @p path, links followed.
-    bool exists(const QString &path) const;
+    bool exists(const QString &path) const { return isAt(placeOf(path)); }
 
     /// Whether that is a folder.
     bool isFolder(const QString &path) const { return isFolderAt(placeOf(path)); }
@@ -45,7 +45,7 @@ public:
     bool makeFolderOf(const QString &path);
 
     /// Whether names can be made, and taken away, in the folder of @p path.
-    bool mayWriteBeside(const QString &path) const;
+    bool mayWriteBeside(const QString &path) const { return isBesideWritable(place(path, Kept)); }
 
     /// Whether a file can be made where there is nothing, not even a dead link.
     bool mayMake(const QString &path) const;
@@ -82,6 +82,7 @@ private:
     };
 
     QString place(const QString &path, LastName last) const;
+    // An empty place holds nothing, and nothing can be made there.
     QString linkAt(const QString &place) const;
     bool isAt(const QString &place) const;
     bool isFolderAt(const QString &place) const;
