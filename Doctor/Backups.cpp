@@ -43,7 +43,7 @@ QString digitsIn(const QString &name)
 
 QDateTime timeIn(const QString &name)
 {
-    return QDateTime::fromString(digitsIn(name), QStringLiteral("yyyyMMdd_HHmmss"));
+    return QDateTime::fromString(digitsIn(name), ViewControllers::backupTimeForm());
 }
 
 QStringList backupNames(const QFileInfo &file)
@@ -73,8 +73,6 @@ QJsonArray backupsOf(const QString &path)
     const QStringList names = backupNames(file);
     for (const QString &name : names) {
         const QString backup = file.path() + u'/' + name;
-        const QDateTime time
-            = QDateTime::fromString(timeIn(name), ViewControllers::backupTimeForm());
         QJsonObject object{{QStringLiteral("path"), backup},
                            {QStringLiteral("time"), timeIn(name).toString(Qt::ISODate)},
                            {QStringLiteral("size"), QFileInfo(backup).size()},

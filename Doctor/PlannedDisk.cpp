@@ -175,7 +175,7 @@ bool PlannedDisk::replace(const QString &path, const QByteArray &bytes)
 
 void PlannedDisk::removeFolderIfEmpty(const QString &path)
 {
-    const QString folder = ViewControllers::asTheSystemHasIt(QFileInfo(path).path());
+    const QString folder = ViewControllers::realFolder(QFileInfo(path).path());
     if (folder.isEmpty() || !isFolder(folder) || !isSurelyEmpty(placeOf(folder)))
         return;
     // What a link leads to is emptied, but stays, as does the link.

@@ -60,10 +60,11 @@ QJsonObject RecordChange::json(const QString &place) const
 
 QString RecordChange::diff(const QString &place, bool isMissing) const
 {
-    if (m_record.isOwnHand())
+    if (m_record.isOurFormat())
         return lineDiff(place, m_record.lines(), edits());
-    const QString before = isMissing ? QString() : QLatin1String("") + m_record.text();
-    return lineDiff(place, before, m_text);
+    const QString before
+        = isMissing ? QString() : QLatin1String("") + ViewControllers::textOf(m_record.bytes());
+    return lineDiff(place, before, QString::fromUtf8(m_bytes));
 }
 
 QVector<LineEdit> RecordChange::edits() const

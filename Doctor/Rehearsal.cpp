@@ -173,8 +173,8 @@ QByteArray Rehearsal::bytesOf(const QString &path, QString *problem) const
     return planned ? planned->bytes : FileHelper::read(path, Library::Xml::maxFileSize, problem);
 }
 
-// One in the same second finds the name taken, and one in the next second is another; the first is
-// what counts, whatever there is of this second already.
+// Only the first backup counts: one in the same second fails, and one in a later second has another
+// name.
 void Rehearsal::backUp(Before before)
 {
     if (m_backedUp.contains(before))

@@ -31,8 +31,7 @@ namespace Quillmont::Utility::ViewControllers {
 
 namespace {
 
-// Only what the user can see counts: a folder that holds nothing but hidden files is left over
-// from us and goes with them.
+// Only visible files count: a folder with only hidden files is removed with them.
 void removeIfEmpty(const QString &path)
 {
     const QString real = realFolder(path);

@@ -46,14 +46,13 @@ QString numberedFolder(int number)
 
 } // namespace
 
-QString asTheSystemHasIt(const QString &folder)
+QString realFolder(const QString &folder)
 {
     const bool leadsUp = (folder + u'/').contains(QLatin1String("/../"));
     return leadsUp ? QFileInfo(folder).canonicalFilePath() : folder;
 }
 
-// Qt's listing takes a folder that cannot be listed for an empty one, and leaves names out that
-// are no text.
+// Not QDir: it takes an unreadable folder for an empty one, and omits names that cannot be decoded.
 bool lookInto(const QDir &folder, const std::function<bool(const QString &)> &see)
 {
     std::error_code failure;

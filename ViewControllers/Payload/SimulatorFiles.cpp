@@ -174,7 +174,7 @@ void backUp(const QString &file, Before before)
     if (!QFile::exists(file) || !PathEncoding::survives(file))
         return;
     const QString backup = backupName(file, before, QDateTime::currentDateTime());
-    const bool copied = copyOrdinary(file, backup);
+    const bool copied = copyRegular(file, backup);
     qDebug().noquote().nospace() << "file backups to '" << backup
                                  << "'. Result: " << (copied ? "succeed" : "error");
 }

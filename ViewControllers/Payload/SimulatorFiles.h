@@ -36,7 +36,7 @@ QString configurationFile(const QString &path);
 /// Creates the folder of the file at @p path, with its parents, if it is missing.
 void makeFolderOf(const QString &path);
 
-/// Of @p path and the folders above it those that are links which lead nowhere, from the end.
+/// Those of @p path and its parent folders that are dangling links, from the end.
 QStringList deadLinksOn(const QString &path);
 
 /// What a configuration file is backed up before.
@@ -51,8 +51,8 @@ QString backupTimeForm();
 /// The native path of the backup that is made of @p file at the local @p time, beside it.
 QString backupName(const QString &file, Before before, const QDateTime &time);
 
-/// Copies @p file, if it exists, to the name of a backup made now. The debug log says how it went;
-/// a failed backup stops nothing.
+/// Copies @p file, if it exists, to the name of a backup made now. The debug log has the result; a
+/// failed backup stops nothing.
 void backUp(const QString &file, Before before);
 
 } // namespace Quillmont::Utility::ViewControllers
