@@ -26,11 +26,11 @@ class TestPlan : public QObject
 private slots:
     void predictsWhatARepairDoes_data();
     void predictsWhatARepairDoes();
-    void ofTheRecordIsWhatARunWrites_data();
-    void ofTheRecordIsWhatARunWrites();
+    void predictsTheRecordThatARunWrites_data();
+    void predictsTheRecordThatARunWrites();
     void isTrueOnADisturbedComputer_data();
     void isTrueOnADisturbedComputer();
-    void ofAGoneFolderIsNone();
+    void plansNothingInAGoneFolder();
     void reportsWhatCannotBeDone_data();
     void reportsWhatCannotBeDone();
     void writesAPlanForAPerson();
@@ -265,7 +265,7 @@ void TestPlan::isTrueOnADisturbedComputer()
     QCOMPARE(plan.value("failures"_s).toArray().isEmpty(), isDone);
 }
 
-void TestPlan::ofAGoneFolderIsNone()
+void TestPlan::plansNothingInAGoneFolder()
 {
     Computer computer;
     computer.setCatalogue({computer.entry("Skylark"_s, 0)});

@@ -453,7 +453,7 @@ void TestReport::looksForRoomOnBothDisks()
     QVERIFY(run({}).output.contains(("Make room on the disk of \""_s + folder).toUtf8()));
 }
 
-
+void TestReport::listsTheWorstProblemFirst()
 {
     installEverywhere();
     m_computer->write("sims/Kestrel/Resources/plugins/Orbwell/about.txt"_s, "another");
