@@ -5,7 +5,7 @@
 #include "SimDetect/Environment.h"
 #include "SimDetect/FlightGearLauncher.h"
 #include "SimDetect/FolderLookup.h"
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -29,7 +29,7 @@ QVersionNumber versionIn(const QString &path)
 QString objectionTo(const QString &folder)
 {
     static const QRegularExpression version(QStringLiteral("^[0-9]+\\."));
-    const QByteArray written = PlainFile::beginning(folder + QStringLiteral("/version"), 64);
+    const QByteArray written = RegularFile::beginning(folder + QStringLiteral("/version"), 64);
     if (!version.match(QString::fromLatin1(written)).hasMatch())
         return QStringLiteral("no file \"version\" that begins with a version number");
     const auto has = [&folder](const char *name) {

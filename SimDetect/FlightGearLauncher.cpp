@@ -1,7 +1,7 @@
 #include "SimDetect/FlightGearLauncher.h"
 
 #include "SimDetect/FolderLookup.h"
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 
 #include <QRegularExpression>
 
@@ -49,7 +49,7 @@ FlightGearLauncher::FlightGearLauncher(const QString &home, FolderLookup &lookup
     const QStringList names = lookup.names(folder).filter(ini);
     for (const auto &name : names) {
         const QString path = folder + u'/' + name;
-        const PlainFile file(path, lookup.allowance());
+        const RegularFile file(path, lookup.allowance());
         if (file.problem().isEmpty())
             read(decoded(file.content()));
         else

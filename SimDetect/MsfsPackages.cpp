@@ -3,7 +3,7 @@
 #include "SimDetect/Candidate.h"
 #include "SimDetect/Collector.h"
 #include "SimDetect/FolderLookup.h"
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 #include "SimDetect/Steam/Steam.h"
 
 #include <QDir>
@@ -75,7 +75,7 @@ QVector<Candidate> MsfsPackages::candidates(const QString &appId, const QString 
 
 Candidate MsfsPackages::candidateOf(const QString &file, const QString &prefix)
 {
-    const PlainFile settings(file, m_lookup.allowance());
+    const RegularFile settings(file, m_lookup.allowance());
     if (!settings.problem().isEmpty())
         return {file, settings.problem()};
     const QString written = packagesPath(decoded(settings.content()));

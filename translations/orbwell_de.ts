@@ -530,7 +530,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>keine Berechtigung, hineinzusehen</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>keine Datei &quot;version&quot;, die mit einer beginnt</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>kein InstalledPackagesPath darin</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>sein InstalledPackagesPath liegt auf keinem Laufwerk</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>kein Community, Official2024 oder StreamedPackages</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>keine normale Datei</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
         <translation>Die Kodierung der Datei kann einen Namen nicht darstellen.</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>keine normale Datei</translation>
     </message>
     <message>

@@ -530,7 +530,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>sin permiso para mirar dentro</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>no hay un archivo &quot;version&quot; que empiece por una</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>no contiene InstalledPackagesPath</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>su InstalledPackagesPath no está en ninguna unidad</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>no hay Community, Official2024 ni StreamedPackages</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
         <translation>La codificación del archivo no puede representar un nombre.</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>no es un archivo normal</translation>
     </message>
     <message>

@@ -530,7 +530,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>pas le droit de regarder à l’intérieur</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>pas de fichier &quot;version&quot; qui commence par un numéro</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>pas d’InstalledPackagesPath dedans</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>son InstalledPackagesPath n’est sur aucun lecteur</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>pas de Community, d’Official2024 ni de StreamedPackages</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
         <translation>L’encodage du fichier ne peut pas représenter un nom.</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>pas un fichier ordinaire</translation>
     </message>
     <message>

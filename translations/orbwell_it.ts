@@ -530,7 +530,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>nessuna autorizzazione a guardarci dentro</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>nessun file &quot;version&quot; che inizi con una</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>nessun InstalledPackagesPath all’interno</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>il suo InstalledPackagesPath non è su alcuna unità</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>né Community né Official2024 né StreamedPackages</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>non è un file normale</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
         <translation>La codifica del file non può rappresentare un nome.</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>non è un file normale</translation>
     </message>
     <message>

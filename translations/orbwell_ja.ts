@@ -530,7 +530,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>中を見る権限がありません</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>バージョン番号で始まるファイル &quot;version&quot; がありません</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>InstalledPackagesPath がありません</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>InstalledPackagesPath がどのドライブにもありません</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>Community も Official2024 も StreamedPackages もありません</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>通常のファイルではありません</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
         <translation>ファイルの文字コードでは名前を表せません。</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>通常のファイルではありません</translation>
     </message>
     <message>

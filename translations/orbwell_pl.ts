@@ -530,7 +530,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>brak uprawnień, by zajrzeć do środka</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>nie ma pliku &quot;version&quot;, który zaczyna się od numeru wersji</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>nie ma w nim InstalledPackagesPath</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>jego InstalledPackagesPath nie leży na żadnym dysku</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>nie ma Community, Official2024 ani StreamedPackages</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>to nie jest zwykły plik</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
         <translation>Kodowanie pliku nie może zapisać nazwy.</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>to nie jest zwykły plik</translation>
     </message>
     <message>

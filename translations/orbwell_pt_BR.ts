@@ -530,7 +530,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>sem permissão para olhar dentro</translation>
     </message>
     <message>
-        <source>no file &quot;version&quot; that begins with one</source>
+        <source>no file &quot;version&quot; that begins with a version number</source>
         <translation>não há arquivo &quot;version&quot; que comece com uma</translation>
     </message>
     <message>
@@ -542,7 +542,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>não há InstalledPackagesPath nele</translation>
     </message>
     <message>
-        <source>its InstalledPackagesPath is on no drive</source>
+        <source>its InstalledPackagesPath does not begin with a drive</source>
         <translation>o InstalledPackagesPath dele não está em nenhuma unidade</translation>
     </message>
     <message>
@@ -552,10 +552,6 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
         <translation>não há Community, Official2024 nem StreamedPackages</translation>
-    </message>
-    <message>
-        <source>not a plain file</source>
-        <translation>não é um arquivo comum</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -714,7 +710,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
         <translation>A codificação do arquivo não pode representar um nome.</translation>
     </message>
     <message>
-        <source>not an ordinary file</source>
+        <source>not a regular file</source>
         <translation>não é um arquivo comum</translation>
     </message>
     <message>

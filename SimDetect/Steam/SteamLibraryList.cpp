@@ -1,6 +1,6 @@
 #include "SimDetect/Steam/SteamLibraryList.h"
 
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 #include "SimDetect/Steam/TextFormat.h"
 
 #include <algorithm>
@@ -40,7 +40,7 @@ QString readPath(TextFormat &text)
 
 SteamLibraryList::SteamLibraryList(const QString &path, qint64 &allowance)
 {
-    const PlainFile file(path, allowance, TextFormat::maxFileSize);
+    const RegularFile file(path, allowance, TextFormat::maxFileSize);
     m_problem = file.problem();
     if (m_problem.isEmpty())
         parse(file.content());

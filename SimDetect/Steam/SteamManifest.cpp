@@ -1,6 +1,6 @@
 #include "SimDetect/Steam/SteamManifest.h"
 
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 #include "SimDetect/Steam/TextFormat.h"
 
 namespace Quillmont::SimDetect {
@@ -35,7 +35,7 @@ QString objectionToFlags(const QString &written)
 
 SteamManifest::SteamManifest(const QString &path, const QString &appId, qint64 &allowance)
 {
-    const PlainFile file(path, allowance, TextFormat::maxFileSize);
+    const RegularFile file(path, allowance, TextFormat::maxFileSize);
     m_objection = file.problem();
     if (m_objection.isEmpty())
         m_objection = parse(file.content());

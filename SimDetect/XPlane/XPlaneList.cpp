@@ -1,6 +1,6 @@
 #include "SimDetect/XPlane/XPlaneList.h"
 
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 
 #include <QFileInfo>
 #include <QTextStream>
@@ -18,7 +18,7 @@ QVector<Candidate> XPlaneList::read(const QString &path, qint64 &allowance)
 {
     if (!QFileInfo::exists(path))
         return {};
-    const PlainFile file(path, allowance);
+    const RegularFile file(path, allowance);
     if (!file.problem().isEmpty())
         return {{path, file.problem()}};
     QTextStream text(file.content());

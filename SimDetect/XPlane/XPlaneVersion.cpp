@@ -1,7 +1,7 @@
 #include "SimDetect/XPlane/XPlaneVersion.h"
 
 #include "SimDetect/FolderLookup.h"
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -23,7 +23,7 @@ int numberIn(const QString &text, const QString &pattern)
 int readLog(const QString &folder)
 {
     // Only the first line matters, and the rest can be large.
-    const QByteArray beginning = PlainFile::beginning(folder + QStringLiteral("/Log.txt"), 4096);
+    const QByteArray beginning = RegularFile::beginning(folder + QStringLiteral("/Log.txt"), 4096);
     return numberIn(QString::fromUtf8(beginning),
                     QStringLiteral("^[\\x{FEFF} \\t]*Log\\.txt for X-Plane[ \\t]+([0-9]+)"));
 }
@@ -49,7 +49,7 @@ int readBundle(const QString &folder, qint64 &allowance)
     const QString path = folder + QStringLiteral("/X-Plane.app/Contents/Info.plist");
     if (!QFileInfo::exists(path))
         return 0;
-    const QString version = plistText(PlainFile(path, allowance).content(),
+    const QString version = plistText(RegularFile(path, allowance).content(),
                                       QStringLiteral("CFBundleShortVersionString"));
     return numberIn(version, QStringLiteral("^([0-9]+)"));
 }

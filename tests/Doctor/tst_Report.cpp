@@ -221,7 +221,7 @@ void TestReport::reportsEachProblem_data()
         "cannot be read: too big. Move it away, or make it smaller by hand.",
         become(QByteArray(33 * 1024 * 1024, ' '), true));
     row("configuration is a folder",
-        "cannot be read: not an ordinary file. Move it away.\n",
+        "cannot be read: not a regular file. Move it away.\n",
         [](Computer *computer) {
             const QString file = computer->absolute(computer->configuration("Skylark"_s));
             QVERIFY(QFile::remove(file) && QDir().mkdir(file));
@@ -658,7 +658,7 @@ void TestReport::refusesUnknownOptions_data()
                                        << "The catalogue has no simulator \"--json\"."_s;
     QTest::newRow("missing catalogue")
         << "--catalogue /dev/null"_s
-        << "The catalogue \"/dev/null\" cannot be read: not an ordinary file."_s;
+        << "The catalogue \"/dev/null\" cannot be read: not a regular file."_s;
     QTest::newRow("catalogue is empty") << "--catalogue empty"_s
                                         << "The catalogue \"empty\" is empty."_s;
     QTest::newRow("catalogue is big") << "--catalogue big"_s

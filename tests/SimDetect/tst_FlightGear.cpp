@@ -190,12 +190,12 @@ void TestFlightGear::readsItsLaunchersSettings_data()
                "FGFS not taken: @Variant(000t?): not an absolute path");
     passedOver("a pipe",
                "fifo $H/.fgfs/FlightGear/FlightGear.ini",
-               "FGFS not taken: $H/.fgfs/FlightGear/FlightGear.ini: not a plain file");
+               "FGFS not taken: $H/.fgfs/FlightGear/FlightGear.ini: not a regular file");
     addCase("the other file is a folder",
             OnLinux,
             data("$R/chosen") + launcher(chosen) + "dir $H/.fgfs/FlightGear/FlightGear-2020.ini",
             "FGFS: $R/chosen",
-            "FGFS not taken: $H/.fgfs/FlightGear/FlightGear-2020.ini: not a plain file");
+            "FGFS not taken: $H/.fgfs/FlightGear/FlightGear-2020.ini: not a regular file");
     for (const int others : {255, 256}) {
         addCase("after " + QByteArray::number(others) + " deleted ones",
                 OnLinux,

@@ -244,7 +244,7 @@ void TestMsfsPackages::ignoresFilesThatNameNoPackages_data()
             OnLinux,
             "dir " + file,
             "",
-            "MSFS2020 not taken: " + file + ": not a plain file");
+            "MSFS2020 not taken: " + file + ": not a regular file");
     addCase("a prefix that the game has not started in",
             OnLinux,
             "dir " + prefix2020() + "/drive_c",

@@ -310,12 +310,12 @@ void TestSteam::readsManifests_data()
             OnBoth,
             "dir $S/steamapps/appmanifest_2014780.acf",
             "",
-            "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a plain file");
+            "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a regular file");
     addCase("a pipe in place of a manifest",
             OnBoth,
             "fifo $S/steamapps/appmanifest_2014780.acf",
             "",
-            "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a plain file");
+            "XP12 not taken: $S/steamapps/appmanifest_2014780.acf: not a regular file");
     addCase(
         "a manifest whose folder is deleted",
         OnBoth,

@@ -124,7 +124,7 @@ void TestXPlane::readsItsLists_data()
                file $L/x-plane_install_13.txt = $R/good/
                file $L/x-plane_install_9.txt = $R/good/)",
             "",
-            "XP10 not taken: $L/x-plane_install_10.txt: not a plain file");
+            "XP10 not taken: $L/x-plane_install_10.txt: not a regular file");
     addCase("a list that is a link",
             OnBoth,
             R"(xplane $R/good

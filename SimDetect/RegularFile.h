@@ -1,5 +1,5 @@
-#ifndef SIMDETECT_PLAINFILE_H
-#define SIMDETECT_PLAINFILE_H
+#ifndef SIMDETECT_REGULARFILE_H
+#define SIMDETECT_REGULARFILE_H
 
 #include <QByteArray>
 #include <QString>
@@ -8,12 +8,12 @@ namespace Quillmont::SimDetect {
 
 /// The content of a small file. Only regular files are opened, since opening a pipe blocks, and
 /// none that is larger than any real one.
-class PlainFile
+class RegularFile
 {
 public:
     /// Reads the file at @p path if it has at most @p maxSize bytes and at most half of the
     /// remaining budget @p allowance, from which its size is subtracted.
-    PlainFile(const QString &path, qint64 &allowance, qint64 maxSize = 1024LL * 1024);
+    RegularFile(const QString &path, qint64 &allowance, qint64 maxSize = 1024LL * 1024);
 
     /// Why there is no content; empty if the whole file was read.
     const QString &problem() const { return m_problem; }

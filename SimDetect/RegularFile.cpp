@@ -1,4 +1,4 @@
-#include "SimDetect/PlainFile.h"
+#include "SimDetect/RegularFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -7,11 +7,11 @@
 
 namespace Quillmont::SimDetect {
 
-PlainFile::PlainFile(const QString &path, qint64 &allowance, qint64 maxSize)
+RegularFile::RegularFile(const QString &path, qint64 &allowance, qint64 maxSize)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile())
-        m_problem = QStringLiteral("not a plain file");
+        m_problem = QStringLiteral("not a regular file");
     else if (!file.open(QIODevice::ReadOnly))
         m_problem = QStringLiteral("cannot be read");
     else if (file.size() > maxSize)
@@ -23,7 +23,7 @@ PlainFile::PlainFile(const QString &path, qint64 &allowance, qint64 maxSize)
     allowance -= m_content.size();
 }
 
-QByteArray PlainFile::beginning(const QString &path, int size)
+QByteArray RegularFile::beginning(const QString &path, int size)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
