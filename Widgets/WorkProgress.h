@@ -41,7 +41,7 @@ public:
         qint64 interval = 200;
     };
 
-    /// The same for all; tests are in a hurry.
+    /// Used by all work; tests shorten it.
     static Pace pace;
 
     /// Work begins, behind a progress window if @p window is visible. @p plan is asked for all the
