@@ -12,7 +12,6 @@
 #include "ViewControllers/Payload/SimulatorFiles.h"
 #include "ViewControllers/Payload/TextFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -29,11 +28,8 @@ RecordCheck::RecordCheck()
         m_state = QStringLiteral("missing");
         return;
     }
-    QFile file(recordFile());
     QString problem;
-    QByteArray bytes;
-    if (ViewControllers::openText(&file, QIODevice::ReadOnly, &problem))
-        bytes = ViewControllers::wholeContent(&file, &problem);
+    const QByteArray bytes = ViewControllers::contentOf(recordFile(), &problem);
     const bool isDamaged = !ViewControllers::recordDocument(bytes).isArray()
         && !ViewControllers::textOf(bytes).isEmpty();
     m_state = !problem.isEmpty() ? QStringLiteral("unreadable")

@@ -6,7 +6,6 @@
 #include "ViewControllers/Payload/Record.h"
 #include "ViewControllers/Payload/TextFile.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -18,9 +17,7 @@ namespace Quillmont::Utility::Doctor {
 
 RecordText::RecordText()
 {
-    QFile file(recordFile());
-    if (ViewControllers::openText(&file, QIODevice::ReadOnly, &m_problem))
-        m_bytes = ViewControllers::wholeContent(&file, &m_problem);
+    m_bytes = ViewControllers::contentOf(recordFile(), &m_problem);
     if (FileHelper::isMissing(recordFile()))
         m_problem.clear();
     const QJsonArray records = ViewControllers::recordsIn(m_bytes);

@@ -22,10 +22,8 @@ QString ScanController::readFile(const QString &path)
 bool ScanController::readContent(const QString &path, QByteArray *bytes)
 {
     const QString native = QDir::toNativeSeparators(path);
-    QFile file(native);
     QString problem;
-    if (openText(&file, QIODevice::ReadOnly, &problem))
-        *bytes = wholeContent(&file, &problem);
+    *bytes = contentOf(native, &problem);
     if (problem.isEmpty())
         return true;
 

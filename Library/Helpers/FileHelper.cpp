@@ -89,22 +89,17 @@ QByteArray FileHelper::read(const QString &path, qint64 maxSize, QString *proble
     QFile file(path);
     if (!open(&file, QIODevice::ReadOnly, problem))
         return {};
-    return readAll(&file, maxSize, problem);
-}
-
-QByteArray FileHelper::readAll(QFile *file, qint64 maxSize, QString *problem)
-{
-    if (file->size() > maxSize) {
+    if (file.size() > maxSize) {
         *problem = QStringLiteral("too big");
         return {};
     }
     QByteArray bytes;
     // Where the disk fails after the first bytes, Qt reports it only to the next call.
-    for (QByteArray part = file->readAll(); !part.isEmpty(); part = file->readAll())
+    for (QByteArray part = file.readAll(); !part.isEmpty(); part = file.readAll())
         bytes += part;
-    if (file->error() == QFileDevice::NoError)
+    if (file.error() == QFileDevice::NoError)
         return bytes;
-    *problem = file->errorString();
+    *problem = file.errorString();
     return {};
 }
 

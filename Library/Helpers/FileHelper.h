@@ -33,9 +33,6 @@ public:
     /// The bytes of the file at @p path, opened as above. Empty if that fails or there are more
     /// than @p maxSize; then @p problem says why.
     static QByteArray read(const QString &path, qint64 maxSize, QString *problem);
-
-    /// The same for @p file, which is open.
-    static QByteArray readAll(QFile *file, qint64 maxSize, QString *problem);
 };
 
 } // namespace Quillmont::Library::Helpers

@@ -18,19 +18,19 @@ namespace {
 // Larger than hundreds of thousands of records; larger files are refused to save memory.
 constexpr qint64 maxSize = 96LL * 1024 * 1024;
 
-} // namespace
-
-bool openText(QFile *file, QIODevice::OpenMode mode, QString *problem)
+bool hasValidName(const QString &path, QString *problem)
 {
-    if (PathEncoding::survives(file->fileName()))
-        return FileHelper::open(file, mode, problem);
+    if (PathEncoding::survives(path))
+        return true;
     *problem = QStringLiteral("its name is not valid text");
     return false;
 }
 
-QByteArray wholeContent(QFile *file, QString *problem)
+} // namespace
+
+QByteArray contentOf(const QString &path, QString *problem)
 {
-    return FileHelper::readAll(file, maxSize, problem);
+    return hasValidName(path, problem) ? FileHelper::read(path, maxSize, problem) : QByteArray();
 }
 
 QString textOf(const QByteArray &bytes)
@@ -44,7 +44,8 @@ QString textOf(const QByteArray &bytes)
 bool rewriteText(QFile *file, const QByteArray &bytes, QString *problem)
 {
     if (bytes.size() <= maxSize)
-        return openText(file, QIODevice::ReadWrite, problem)
+        return hasValidName(file->fileName(), problem)
+            && FileHelper::open(file, QIODevice::ReadWrite, problem)
             && FileWriter::rewrite(file, bytes, problem);
     *problem = QStringLiteral("too big");
     return false;
