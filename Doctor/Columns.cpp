@@ -4,6 +4,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace Quillmont::Utility::Doctor {
@@ -11,7 +12,7 @@ namespace Quillmont::Utility::Doctor {
 namespace {
 
 // Unicode's "wide" and "fullwidth" characters, in blocks. Neither Qt nor every locale's C library
-// tells.
+// has them.
 bool isWide(uint character)
 {
     struct Block
@@ -20,18 +21,18 @@ bool isWide(uint character)
         uint last;
     };
 
-    constexpr Block blocks[] = {{0x1100, 0x115f},
-                                {0x2e80, 0x303e},
-                                {0x3041, 0xa4cf},
-                                {0xac00, 0xd7a3},
-                                {0xf900, 0xfaff},
-                                {0xfe30, 0xfe6f},
-                                {0xff01, 0xff60},
-                                {0xffe0, 0xffe6},
-                                {0x1f300, 0x1f64f},
-                                {0x1f900, 0x1f9ff},
-                                {0x20000, 0x3fffd}};
-    return std::any_of(std::begin(blocks), std::end(blocks), [character](const Block &block) {
+    constexpr std::array<Block, 11> blocks{{{0x1100, 0x115f},
+                                            {0x2e80, 0x303e},
+                                            {0x3041, 0xa4cf},
+                                            {0xac00, 0xd7a3},
+                                            {0xf900, 0xfaff},
+                                            {0xfe30, 0xfe6f},
+                                            {0xff01, 0xff60},
+                                            {0xffe0, 0xffe6},
+                                            {0x1f300, 0x1f64f},
+                                            {0x1f900, 0x1f9ff},
+                                            {0x20000, 0x3fffd}}};
+    return std::any_of(blocks.cbegin(), blocks.cend(), [character](const Block &block) {
         return character >= block.first && character <= block.last;
     });
 }

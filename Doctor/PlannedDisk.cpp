@@ -139,12 +139,19 @@ bool PlannedDisk::makeFolderOf(const QString &path)
 // and without a link in the place of a folder.
 bool PlannedDisk::makeFolder(const QString &path)
 {
-    const int slash = path.lastIndexOf(u'/');
-    if (isFolder(path) || (slash > 0 && !makeFolder(path.left(slash))))
-        return isFolder(path);
-    if (mayMake(path))
-        m_newFolders.insert(place(path, Kept));
-    return isFolder(path);
+    // The systems' maximum; a record can contain a path of a million folders.
+    constexpr int maxPathLength = 4096;
+    if (path.size() > maxPathLength)
+        return false;
+    for (int end = 0; end >= 0;) {
+        end = path.indexOf(u'/', end + 1);
+        const QString part = path.left(end);
+        if (!isFolder(part) && mayMake(part))
+            m_newFolders.insert(place(part, Kept));
+        if (!isFolder(part))
+            return false;
+    }
+    return true;
 }
 
 bool PlannedDisk::remove(const QString &path)
@@ -208,6 +215,7 @@ bool PlannedDisk::isSurelyEmpty(const QString &folder)
     return m_seen.value(folder).isEmpty();
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): ends at the longest path that the system lists.
 bool PlannedDisk::takeAway(const QString &folder)
 {
     const bool isTaken = takeContentsAway(folder) && isBesideWritable(folder);
@@ -218,6 +226,7 @@ bool PlannedDisk::takeAway(const QString &folder)
     return true;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion)
 bool PlannedDisk::takeContentsAway(const QString &folder)
 {
     constexpr auto everything

@@ -1,6 +1,7 @@
 #include "Doctor/Reasons.h"
 
 #include <QRegularExpression>
+#include <QVector>
 
 namespace Quillmont::Utility::Doctor {
 
@@ -17,7 +18,7 @@ QString Reasons::translated(const QString &reason)
 
 QString Reasons::translatedAlone(const QString &reason)
 {
-    static const char *const all[] = {
+    static const QVector<const char *> all{
         QT_TR_NOOP("X-Plane's own list"),
         QT_TR_NOOP("FlightGear's launcher"),
         QT_TR_NOOP("a well-known folder"),
