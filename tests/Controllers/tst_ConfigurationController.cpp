@@ -6,7 +6,6 @@
 #include "tests/support/Sandbox.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QTest>
 
 using Quillmont::Utility::Controllers::ConfigurationController;

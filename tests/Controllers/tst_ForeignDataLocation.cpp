@@ -3,7 +3,6 @@
 #include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QTest>
 

@@ -2,11 +2,9 @@
 #include "Doctor/XmlDamage.h"
 #include "Library/Text/XmlSource.h"
 #include "Library/Xml/XmlDocument.h"
-#include "tests/support/Literals.h"
 
 #include <QtTest>
 
-using namespace Tests;
 using Quillmont::Library::Text::XmlSource;
 using Quillmont::Library::Xml::RootChild;
 using Quillmont::Library::Xml::XmlDocument;

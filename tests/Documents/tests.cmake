@@ -10,7 +10,6 @@ orbwell_add_test_library(orbwell-documents
   Documents/TranslatedTexts.cpp
   Documents/TranslatedTexts.h)
 target_compile_definitions(orbwell-documents PUBLIC ORBWELL_LUPDATE="${ORBWELL_LUPDATE}")
-target_link_libraries(orbwell-documents PUBLIC Qt5::Test)
 
 foreach(story Architecture Links Messages Texts Translations)
   orbwell_add_test(Documents/${story})

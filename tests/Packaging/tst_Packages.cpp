@@ -1,5 +1,4 @@
 #include "tests/support/Command.h"
-#include "tests/support/Files.h"
 #include "tests/support/Sandbox.h"
 
 #include <QDir>

@@ -1,7 +1,6 @@
 #include "tests/SimDetect/Cases.h"
 #include "tests/SimDetect/DescribedComputer.h"
 
-#include <QDir>
 #include <QTest>
 
 using namespace Quillmont::SimDetect;

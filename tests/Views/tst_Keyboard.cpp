@@ -2,7 +2,6 @@
 
 #include "Models/FlightSimScan.h"
 #include "tests/Widgets/RowParts.h"
-#include "tests/support/Files.h"
 #include "tests/support/Json.h"
 #include "tests/support/Sandbox.h"
 

@@ -6,7 +6,6 @@
 #include "tests/support/Files.h"
 #include "tests/support/FolderPicker.h"
 #include "tests/support/Json.h"
-#include "tests/support/LogCatcher.h"
 #include "tests/support/Sandbox.h"
 #include "tests/support/TextMarker.h"
 

@@ -1,6 +1,5 @@
 #include "tests/Library/Helpers/RoundTrip.h"
 #include "tests/Library/Helpers/XmlEditTest.h"
-#include "tests/support/Files.h"
 
 #include <QSet>
 #include <QTextCodec>

@@ -4,7 +4,6 @@
 #include <QJsonArray>
 
 class QAbstractButton;
-class QLabel;
 class QString;
 class QWidget;
 
