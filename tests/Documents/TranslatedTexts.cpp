@@ -13,7 +13,7 @@ namespace Tests {
 static QString elementText(QXmlStreamReader &reader)
 {
     QString text;
-    while (reader.readNext() != QXmlStreamReader::EndElement) {
+    while (reader.readNext() != QXmlStreamReader::EndElement && !reader.atEnd()) {
         if (reader.isStartElement()) {
             text += QChar(
                 reader.attributes().value(QLatin1String("value")).mid(1).toUInt(nullptr, 16));

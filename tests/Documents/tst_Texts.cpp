@@ -59,7 +59,7 @@ void TestTexts::leaveOutStatusWords()
 {
     const QStringList words{QStringLiteral("Updated"),
                             QStringLiteral("Not updated"),
-                            QStringLiteral("uninstalled"),
+                            QStringLiteral("Uninstalled"),
                             QStringLiteral("Not uninstalled"),
                             QStringLiteral("updated"),
                             QStringLiteral("uninstalled")};

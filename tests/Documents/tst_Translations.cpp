@@ -16,22 +16,12 @@ class TestTranslations : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void initTestCase_data();
 
-    void coverTheTextsOfTheSources_data();
     void coverTheTextsOfTheSources();
-    void keepPlaceholdersAndLineEnds_data();
     void keepPlaceholdersAndLineEnds();
-    void quoteTheButtonByItsName_data();
     void quoteTheButtonByItsName();
 };
-
-static void addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : translatedLanguages())
-        QTest::newRow(qPrintable(language)) << language;
-}
 
 // Placeholders, line ends, and the ampersands that a button needs, sorted.
 static QStringList marks(const QString &text)
@@ -50,20 +40,18 @@ static bool endsInLine(const QString &text)
     return text.endsWith("\r\n"_s);
 }
 
-void TestTranslations::init()
+void TestTranslations::initTestCase_data()
 {
-    if (!Command::exists(QStringLiteral(ORBWELL_LUPDATE)))
-        QSKIP("needs lupdate (Debian: qttools5-dev-tools)");
-}
-
-void TestTranslations::coverTheTextsOfTheSources_data()
-{
-    addLanguages();
+    QTest::addColumn<QString>("language");
+    for (const QString &language : translatedLanguages())
+        QTest::newRow(qPrintable(language)) << language;
 }
 
 void TestTranslations::coverTheTextsOfTheSources()
 {
-    QFETCH(const QString, language);
+    if (!Command::exists(QStringLiteral(ORBWELL_LUPDATE)))
+        QSKIP("needs lupdate (Debian: qttools5-dev-tools)");
+    QFETCH_GLOBAL(const QString, language);
     const Sandbox sandbox;
     const QString copy = sandbox.path("orbwell_%1.ts"_s.arg(language));
     QVERIFY(QFile::copy(translationPath(language), copy));
@@ -77,14 +65,9 @@ void TestTranslations::coverTheTextsOfTheSources()
     }
 }
 
-void TestTranslations::keepPlaceholdersAndLineEnds_data()
-{
-    addLanguages();
-}
-
 void TestTranslations::keepPlaceholdersAndLineEnds()
 {
-    QFETCH(const QString, language);
+    QFETCH_GLOBAL(const QString, language);
     for (const TranslatedText &text : translatedTexts(readFile(translationPath(language)))) {
         for (const QString &translation : text.translations) {
             QVERIFY2(marks(translation) == marks(text.source), qPrintable(translation));
@@ -93,14 +76,9 @@ void TestTranslations::keepPlaceholdersAndLineEnds()
     }
 }
 
-void TestTranslations::quoteTheButtonByItsName_data()
-{
-    addLanguages();
-}
-
 void TestTranslations::quoteTheButtonByItsName()
 {
-    QFETCH(const QString, language);
+    QFETCH_GLOBAL(const QString, language);
     const QList<TranslatedText> texts = translatedTexts(readFile(translationPath(language)));
     QString button;
     for (const TranslatedText &text : texts) {
