@@ -220,8 +220,7 @@ void TestTakingTurns::waitsOnlyOnceForAHangingCopy()
     QElapsedTimer patience;
     patience.start();
     waitFor("not waiting any longer");
-    QVERIFY2(patience.elapsed() >= 9500 && patience.elapsed() < 12000,
-             qPrintable(QString::number(patience.elapsed())));
+    QVERIFY2(patience.elapsed() >= 9500, qPrintable(QString::number(patience.elapsed())));
     QCOMPARE(m_program->exitStatus(), 2);
     QVERIFY2(patience.elapsed() < 19000, qPrintable(QString::number(patience.elapsed())));
     QCOMPARE(m_program->standardError().count(waiting), 1);

@@ -4,10 +4,10 @@
 #include "tests/support/LogCatcher.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QtTest>
 
+#include <ctime>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -34,7 +34,10 @@ private slots:
     void refusesWhatIsNotARegularFile();
 
 private:
-    QElapsedTimer m_timer;
+    // Of the processor, so that a busy machine makes no difference.
+    double seconds() const { return double(std::clock() - m_start) / CLOCKS_PER_SEC; }
+
+    std::clock_t m_start = 0;
 };
 
 // A document with one entity of this size, used this many times.
@@ -55,13 +58,13 @@ static QByteArray nested(int depth)
 
 void TestXmlBounds::init()
 {
-    m_timer.start();
+    m_start = std::clock();
 }
 
 void TestXmlBounds::cleanup()
 {
     // Far more than any of them takes, far less than they would take without a limit.
-    QVERIFY2(m_timer.elapsed() < 60000, "took too long");
+    QVERIFY2(seconds() < 60, "took too long");
     struct rusage usage = {};
     getrusage(RUSAGE_SELF, &usage);
 #ifdef Q_OS_LINUX
@@ -108,7 +111,7 @@ void TestXmlBounds::refusesAnEntityBomb()
     Tests::RoundTrip roundTrip(path());
     QCOMPARE(roundTrip.broken(bytes), QString());
     QVERIFY(!roundTrip.wasAccepted());
-    QVERIFY(m_timer.elapsed() < 10000);
+    QVERIFY(seconds() < 10);
 }
 
 void TestXmlBounds::readsEntitiesOfRealisticSize_data()
@@ -211,7 +214,7 @@ void TestXmlBounds::refusesAHugeFile()
     QVERIFY(!remove());
     QCOMPARE(identity(), before);
     QCOMPARE(log.debugLines().filter(reason).size(), 2);
-    QVERIFY(m_timer.elapsed() < 5000);
+    QVERIFY(seconds() < 5);
     QVERIFY(QFile::remove(path()));
 }
 
