@@ -13,8 +13,8 @@ orbwell_add_test_library(orbwell-xml-test-support
 target_link_libraries(orbwell-xml-test-support PUBLIC quillmont-library)
 set_target_properties(orbwell-xml-test-support PROPERTIES AUTOMOC ON)
 
+orbwell_add_test(Library/Files/FileWriter)
 orbwell_add_test(Library/Helpers/FileHelper)
-orbwell_add_test(Library/Helpers/FileWriter)
 orbwell_add_test(Library/Models/XmlConfigModel)
 foreach(class XmlBounds XmlCorpus XmlEncodings XmlFaults XmlHelper XmlProperties)
   orbwell_add_test(Library/Helpers/${class})

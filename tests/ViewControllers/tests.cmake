@@ -11,7 +11,6 @@ foreach(class
     Installation
     InstallationRecord
     Rescans
-    ResultBox
     ScanController
     ScanSession
     SteamPrefix
