@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QtTest>
 
 using namespace Tests;
@@ -29,7 +28,6 @@ private slots:
     void reportsAFolderInPlaceOfTheRecord();
     void keepsAMalformedConfiguration_data();
     void keepsAMalformedConfiguration();
-    void worksWithAReadOnlyConfiguration();
     void worksWithAFolderInPlaceOfTheConfiguration();
 
 private:
@@ -241,31 +239,6 @@ void TestUnattendedBadInput::keepsAMalformedConfiguration()
     put(&expected, backupOf(configuration, "installation"), content);
     m_computer->finish(&expected, {m_computer->recordFor(entry)});
     QCOMPARE(difference(m_computer->disk(), expected), QString());
-}
-
-// Root can change it and others cannot; other programs' lines must be kept in either case.
-void TestUnattendedBadInput::worksWithAReadOnlyConfiguration()
-{
-    const QJsonObject entry = m_computer->entry(m_det, 0);
-    m_computer->setCatalogue({entry});
-    m_computer->addSimulator(m_det);
-    const QString configuration = m_computer->configuration(m_det);
-    m_computer->write(configuration, othersConfiguration());
-    const QString path = m_computer->absolute(configuration);
-    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
-    const QFile::Permissions before = QFile::permissions(path);
-
-    QCOMPARE(m_computer->run(quietInstallation()), 2);
-    QCOMPARE(m_computer->said(), QStringList());
-    const QByteArray after = readFile(path);
-    QVERIFY(after == othersConfiguration() || after == ourConfiguration());
-    QCOMPARE(QFile::permissions(path), before);
-    QCOMPARE(m_computer->records(), QJsonArray{m_computer->recordFor(entry)});
-    QCOMPARE(QFileInfo(path)
-                 .dir()
-                 .entryList(QDir::Files | QDir::Hidden)
-                 .filter(QStringLiteral(".bak"), Qt::CaseInsensitive),
-             QFileInfo(path).dir().entryList(QDir::Files | QDir::Hidden).mid(1));
 }
 
 void TestUnattendedBadInput::worksWithAFolderInPlaceOfTheConfiguration()

@@ -6,8 +6,6 @@
 #include <QFileInfo>
 #include <QtTest>
 
-#include <unistd.h>
-
 using namespace Tests;
 
 // The messages and exit status of a run when something fails or there is nothing to do.
@@ -29,11 +27,9 @@ private slots:
     void reportsARecordedSimulatorAsNotUpdated();
     void showsAFailedUpdateBeforeTheNextOne();
     void failsIfOneSimulatorOfTwoFails();
-    void reportsAFolderThatCannotBeWritten();
 
 private:
     QString cannotRemove(const QString &simulator, const QString &lines) const;
-    QString unwritableFolder() const;
     QString installWithoutPayload() const;
 
     const QString m_det = QStringLiteral("Det");
@@ -249,37 +245,6 @@ void TestUnattendedFailures::failsIfOneSimulatorOfTwoFails()
     QCOMPARE(m_computer->records(), QJsonArray());
     QVERIFY(!QFileInfo::exists(m_computer->folder(other)
                                + QLatin1String("/Resources/plugins/Orbwell")));
-}
-
-// Nobody can write there, not even root.
-QString TestUnattendedFailures::unwritableFolder() const
-{
-    if (::geteuid() == 0)
-        return QStringLiteral("/proc");
-    QString folder = m_computer->folder(m_det);
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
-    return folder;
-}
-
-void TestUnattendedFailures::reportsAFolderThatCannotBeWritten()
-{
-    const QString folder = unwritableFolder();
-    if (!QFileInfo::exists(folder))
-        QSKIP("no folder here that an administrator cannot write");
-    QJsonObject det = m_computer->entry(m_det, 0);
-    det.insert(QStringLiteral("path"), folder);
-    det.insert(QStringLiteral("type"), 1);
-    m_computer->setCatalogue({det});
-
-    QCOMPARE(m_computer->run(words("--REPAIR")), 2);
-    const QString source
-        = m_computer->program().folder() + QLatin1String("/plugins/FSX/QuillmontOrbwell_64.dll");
-    const QString line = QStringLiteral("Unable to copy '%1' to '%2'. Please check if you have "
-                                        "permission to folder '%3/'.\r\n")
-                             .arg(source, folder + m_module, folder);
-    QCOMPARE(m_computer->said().value(0), cannotRemove(m_det, line));
-    QCOMPARE(m_computer->said().constLast(), updated("Det: Not updated"));
 }
 
 QTEST_GUILESS_MAIN(TestUnattendedFailures)
