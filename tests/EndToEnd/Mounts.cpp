@@ -47,11 +47,6 @@ void Mounts::separate()
         && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-bool Mounts::arePossible()
-{
-    return s_arePossible;
-}
-
 Mounts::~Mounts()
 {
     for (auto place = m_places.crbegin(); place != m_places.crend(); ++place)
@@ -84,11 +79,6 @@ bool Mounts::protect(const QString &folder)
 #else
 
 void Mounts::separate() { }
-
-bool Mounts::arePossible()
-{
-    return false;
-}
 
 Mounts::~Mounts() = default;
 

@@ -12,8 +12,6 @@ class Mounts
 public:
     /// Gives this process its own mount namespace, if permitted; call it before there are threads.
     static void separate();
-    /// Whether that succeeded.
-    static bool arePossible();
 
     Mounts() = default;
     ~Mounts();

@@ -10,7 +10,9 @@ endforeach()
 
 orbwell_add_test(EndToEnd/Languages)
 target_link_libraries(tst_Languages PRIVATE orbwell-simulators orbwell-documents)
-orbwell_add_test(EndToEnd/PilotsComputer EndToEnd/PilotsHome.cpp EndToEnd/PilotsHome.h)
+orbwell_add_test(EndToEnd/PilotsComputer
+  EndToEnd/Mounts.cpp EndToEnd/Mounts.h
+  EndToEnd/PilotsHome.cpp EndToEnd/PilotsHome.h)
 target_link_libraries(tst_PilotsComputer PRIVATE orbwell-simulators orbwell-catalogue-support)
 orbwell_add_test(EndToEnd/ForeignConfigurations)
 target_link_libraries(tst_ForeignConfigurations

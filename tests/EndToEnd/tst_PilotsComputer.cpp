@@ -1,4 +1,5 @@
 #include "tests/Catalogue/Catalogues.h"
+#include "tests/EndToEnd/Mounts.h"
 #include "tests/EndToEnd/PilotsHome.h"
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Files.h"
@@ -11,12 +12,6 @@
 #include <QtTest>
 
 #include <algorithm>
-
-#ifdef Q_OS_LINUX
-#include <sched.h>
-#include <sys/mount.h>
-#include <unistd.h>
-#endif
 
 using namespace Tests;
 
@@ -40,20 +35,6 @@ bool hasFlightGear()
     return std::any_of(places.begin(), places.end(), [](const char *place) {
         return QFile::exists(QLatin1String(place));
     });
-}
-
-// An empty folder for packaged programs, visible only to this process and its children. Only root
-// may mount it, and only if no real FlightGear is installed.
-bool canPackage()
-{
-#ifdef Q_OS_LINUX
-    static const bool made = geteuid() == 0 && !hasFlightGear() && unshare(CLONE_NEWNS) == 0
-        && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
-        && mount("packages", "/usr/local/share", "tmpfs", 0, nullptr) == 0;
-    return made;
-#else
-    return false;
-#endif
 }
 
 } // namespace
@@ -80,7 +61,7 @@ private:
     void scanAndInstall();
     void remove(const QString &simulator);
     QStringList shown();
-    void begin();
+    void use(const PilotsSteam &steam = {});
     void use(const QString &flightGear, const PilotsSteam &steam = {});
     void placeDataRoot(const QString &place, bool isLink);
     Tree disk() const;
@@ -101,21 +82,20 @@ void TestPilotsComputer::initTestCase()
 
 void TestPilotsComputer::init()
 {
-    begin();
-    use(m_sandbox->path(QStringLiteral("usr/share/games/flightgear")));
+    m_sandbox.reset(new Sandbox);
+    m_program.reset(new Program(*m_sandbox));
 }
 
 void TestPilotsComputer::cleanup()
 {
+    m_home.reset();
     m_program.reset();
     m_sandbox.reset();
 }
 
-void TestPilotsComputer::begin()
+void TestPilotsComputer::use(const PilotsSteam &steam)
 {
-    cleanup(); // before the next one saves the environment
-    m_sandbox.reset(new Sandbox);
-    m_program.reset(new Program(*m_sandbox));
+    use(m_sandbox->path(QStringLiteral("usr/share/games/flightgear")), steam);
 }
 
 void TestPilotsComputer::use(const QString &flightGear, const PilotsSteam &steam)
@@ -221,6 +201,7 @@ void TestPilotsComputer::remove(const QString &simulator)
 
 void TestPilotsComputer::listsItsSimulatorsInOrder()
 {
+    use();
     start();
     QCOMPARE(
         shown(),
@@ -241,6 +222,7 @@ void TestPilotsComputer::listsItsSimulatorsInOrder()
 
 void TestPilotsComputer::getsThePluginInOneGo()
 {
+    use();
     start();
     scanAndInstall();
     // The README's picture of this computer is taken here.
@@ -272,6 +254,7 @@ void TestPilotsComputer::getsThePluginInOneGo()
 
 void TestPilotsComputer::isRestoredByUninstallingEach()
 {
+    use();
     const auto before = m_home->trees();
     start();
     scanAndInstall();
@@ -325,9 +308,8 @@ void TestPilotsComputer::changesOnlyInItsSimulatorsFolders()
     QFETCH(PilotsSteam, steam);
     QFETCH(QString, dataRoot);
     QFETCH(bool, isLink);
-    begin();
     placeDataRoot(dataRoot, isLink);
-    use(m_sandbox->path(QStringLiteral("usr/share/games/flightgear")), steam);
+    use(steam);
     m_home->addNewerSimulators();
     QMap<QString, QString> folders{
         {QStringLiteral("X-Plane 12"), m_home->xplane12()},
@@ -368,7 +350,10 @@ void TestPilotsComputer::changesOnlyInItsSimulatorsFolders()
 
 void TestPilotsComputer::findsAPackagedFlightGear()
 {
-    if (!canPackage())
+    // Nobody but this process and its children sees what is mounted here.
+    Mounts::separate();
+    Mounts packages;
+    if (hasFlightGear() || !packages.addDisk(QStringLiteral("/usr/local/share"), 8192))
         QSKIP("needs root, and a computer without FlightGear");
     use(packagedFlightGear());
     m_program->setVariable("FG_ROOT", QString());
@@ -387,6 +372,7 @@ void TestPilotsComputer::findsAPackagedFlightGear()
 
 void TestPilotsComputer::showsAnUpgradedXPlaneOnce()
 {
+    use();
     // X-Plane 11 by its name and by a list, but X-Plane 12 by its content.
     const QString folder = m_sandbox->path(QStringLiteral("games/X-Plane 11"));
     PilotsHome::makeXPlane(folder, 12);
