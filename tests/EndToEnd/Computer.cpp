@@ -113,8 +113,13 @@ int Computer::run(const QStringList &arguments)
     m_showedTheWindow = false;
     m_program.start(arguments);
     int answered = 0;
-    while (m_program.isRunning() && !QTest::currentTestFailed()) {
-        const SeenWindow window = m_program.windows().value(0);
+    SeenWindow window;
+    const auto isNewOrHasEnded = [&] {
+        window = m_program.windows().value(0);
+        return window.number > answered || !m_program.isRunning();
+    };
+    while (m_program.isRunning() && !QTest::currentTestFailed()
+           && m_program.waitFor(isNewOrHasEnded, "another window or the end of the program")) {
         if (window.number <= answered)
             continue;
         answered = window.number;
@@ -143,12 +148,14 @@ void Computer::answer(const SeenWindow &window)
 void Computer::click(const SeenWindow &window)
 {
     QElapsedTimer sinceClicked;
-    do {
-        QVERIFY(m_display->click(window.buttons.value(0).rectangle.center()));
-        sinceClicked.start();
-        while (m_program.windows().value(0).number == window.number
-               && !sinceClicked.hasExpired(1000)) { }
-    } while (m_program.windows().value(0).number == window.number);
+    const auto isGone = [&] {
+        if (!sinceClicked.isValid() || sinceClicked.hasExpired(1000)) {
+            m_display->click(window.buttons.value(0).rectangle.center());
+            sinceClicked.start();
+        }
+        return m_program.windows().value(0).number != window.number;
+    };
+    m_program.waitFor(isGone, "the end of the box");
 }
 
 QStringList Computer::said() const
