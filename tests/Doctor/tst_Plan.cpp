@@ -2,8 +2,7 @@
 #include "Doctor/Page.h"
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/DoctorsPlan.h"
-#include "tests/EndToEnd/Simulators.h"
-#include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Unprivileged.h"
 

@@ -7,6 +7,7 @@
 #include "tests/EndToEnd/Tracer.h"
 #include "tests/support/Command.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Literals.h"
 #include "tests/support/Unprivileged.h"
 

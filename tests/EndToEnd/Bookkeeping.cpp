@@ -1,6 +1,7 @@
 #include "tests/EndToEnd/Bookkeeping.h"
 
 #include "tests/EndToEnd/Computer.h"
+#include "tests/support/LaunchDocuments.h"
 
 #include <QJsonDocument>
 

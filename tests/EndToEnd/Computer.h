@@ -86,15 +86,6 @@ private:
     bool m_showedTheWindow = false;
 };
 
-/// The plugin's entry in a launcher's configuration file.
-QByteArray pluginEntry();
-
-/// othersConfiguration() with the plugin's entry after the others.
-QByteArray ourConfiguration();
-
-/// The configuration file that a simulator without one gets.
-QByteArray launchDocument();
-
 } // namespace Tests
 
 #endif

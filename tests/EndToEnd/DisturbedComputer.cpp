@@ -1,6 +1,6 @@
 #include "tests/EndToEnd/DisturbedComputer.h"
 
-#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/LaunchDocuments.h"
 
 #include <QDir>
 #include <QFile>

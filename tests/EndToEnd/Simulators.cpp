@@ -107,17 +107,4 @@ QStringList quietInstallation()
     return words("--INSTALL 1");
 }
 
-QByteArray othersConfiguration()
-{
-    return "<?xml version=\"1.0\" encoding=\"Windows-1252\"?>\r\n"
-           "<SimBase.Document Type=\"Launch\" version=\"1,0\">\r\n"
-           "    <Descr>Launch</Descr>\r\n"
-           "    <Launch.Addon>\r\n"
-           "        <Name>Somebody's \xE9tude</Name>\r\n"
-           "        <Disabled>False</Disabled>\r\n"
-           "        <Path>Modules\\etude.dll</Path>\r\n"
-           "    </Launch.Addon>\r\n"
-           "</SimBase.Document>\r\n";
-}
-
 } // namespace Tests

@@ -34,9 +34,6 @@ QStringList words(const char *text);
 /// The arguments of a quiet installation.
 QStringList quietInstallation();
 
-/// A launcher's configuration file as other add-ons left it.
-QByteArray othersConfiguration();
-
 } // namespace Tests
 
 #endif

@@ -2,6 +2,7 @@
 #include "tests/Library/Helpers/Corpus.h"
 #include "tests/Library/Helpers/XmlPromises.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Program.h"
 #include "tests/support/Sandbox.h"
 

@@ -1,6 +1,7 @@
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Display.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Program.h"
 #include "tests/support/Sandbox.h"
 
@@ -158,14 +159,7 @@ void TestInstallByClick::copiesTheFiles()
 void TestInstallByClick::addsItsEntryToTheConfiguration()
 {
     install(m_skylark);
-    const QByteArray ours = "    <Launch.Addon>\r\n"
-                            "        <Name>Quillmont Orbwell</Name>\r\n"
-                            "        <Disabled>False</Disabled>\r\n"
-                            "        <Path>GaugesQuillmontOrbwell_64.dll</Path>\r\n"
-                            "    </Launch.Addon>\r\n";
-    QByteArray expected = othersConfiguration();
-    expected.insert(expected.indexOf("</SimBase.Document>"), ours);
-    QCOMPARE(readFile(configuration("Sky lark")), expected);
+    QCOMPARE(readFile(configuration("Sky lark")), ourConfiguration());
 }
 
 void TestInstallByClick::keepsABackupOfTheConfiguration()
@@ -182,20 +176,8 @@ void TestInstallByClick::keepsABackupOfTheConfiguration()
 void TestInstallByClick::createsAMissingLaunchDocument()
 {
     install(m_plover);
-    const QByteArray expected = "<?xml version='1.0' encoding='Windows-1252'?>\r\n"
-                                "<SimBase.Document version=\"1.0\" Type=\"Launch\">\r\n"
-                                "    <Descr>Launch</Descr>\r\n"
-                                "    <Filename>dll.xml</Filename>\r\n"
-                                "    <Disabled>False</Disabled>\r\n"
-                                "    <Launch.ManualLoad>False</Launch.ManualLoad>\r\n"
-                                "    <Launch.Addon>\r\n"
-                                "        <Name>Quillmont Orbwell</Name>\r\n"
-                                "        <Disabled>False</Disabled>\r\n"
-                                "        <Path>GaugesQuillmontOrbwell_64.dll</Path>\r\n"
-                                "    </Launch.Addon>\r\n"
-                                "</SimBase.Document>\r\n";
-    QCOMPARE(expected.size(), 428);
-    QCOMPARE(readFile(configuration("Plover")), expected);
+    QCOMPARE(launchDocument().size(), 428);
+    QCOMPARE(readFile(configuration("Plover")), launchDocument());
     QCOMPARE(QFileInfo(configuration("Plover")).dir().entryList(QDir::Files).size(), 1);
 }
 

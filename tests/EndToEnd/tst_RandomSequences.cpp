@@ -1,8 +1,8 @@
 #include "tests/EndToEnd/Bookkeeping.h"
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/DoctorsPlan.h"
-#include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 
 #include <QDir>
 #include <QFileInfo>

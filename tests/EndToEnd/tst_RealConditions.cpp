@@ -3,6 +3,7 @@
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Display.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Unprivileged.h"
 
 #include <QDir>

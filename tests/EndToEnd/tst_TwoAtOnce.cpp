@@ -1,5 +1,6 @@
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Program.h"
 #include "tests/support/Sandbox.h"
 

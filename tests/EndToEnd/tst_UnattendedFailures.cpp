@@ -1,6 +1,7 @@
 #include "tests/EndToEnd/Computer.h"
 #include "tests/EndToEnd/Simulators.h"
 #include "tests/support/Files.h"
+#include "tests/support/LaunchDocuments.h"
 
 #include <QDir>
 #include <QFileInfo>

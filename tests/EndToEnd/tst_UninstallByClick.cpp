@@ -1,5 +1,5 @@
 #include "tests/EndToEnd/Computer.h"
-#include "tests/EndToEnd/Simulators.h"
+#include "tests/support/LaunchDocuments.h"
 
 #include <QtTest>
 

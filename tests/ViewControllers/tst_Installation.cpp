@@ -1,4 +1,5 @@
 #include "tests/ViewControllers/Workshop.h"
+#include "tests/support/LaunchDocuments.h"
 #include "tests/support/Unprivileged.h"
 
 #include "Controllers/ConfigurationController.h"
@@ -11,6 +12,7 @@
 using Quillmont::Library::Helpers::XmlHelper;
 using Quillmont::Utility::Controllers::ConfigurationController;
 using Tests::box;
+using Tests::launchDocument;
 using Tests::readFile;
 using Tests::SettingsHome;
 using Tests::Unprivileged;
@@ -28,19 +30,6 @@ const char *const plainSimulator = R"({"name": "Sim A", "type": 1, "files": [
 const char *const configuredSimulator = R"({"name": "Sim A", "files": [
     {"source": "A/one.dll", "destination": "a/one.dll"},
     {"source": "A/two.dat", "destination": "b/two.dat"}], "config": {"path": "Vendor\\dll.xml"}})";
-
-const char *const launchDocument = "<?xml version='1.0' encoding='Windows-1252'?>\r\n"
-                                   "<SimBase.Document version=\"1.0\" Type=\"Launch\">\r\n"
-                                   "    <Descr>Launch</Descr>\r\n"
-                                   "    <Filename>dll.xml</Filename>\r\n"
-                                   "    <Disabled>False</Disabled>\r\n"
-                                   "    <Launch.ManualLoad>False</Launch.ManualLoad>\r\n"
-                                   "    <Launch.Addon>\r\n"
-                                   "        <Name>Quillmont Orbwell</Name>\r\n"
-                                   "        <Disabled>False</Disabled>\r\n"
-                                   "        <Path>GaugesQuillmontOrbwell_64.dll</Path>\r\n"
-                                   "    </Launch.Addon>\r\n"
-                                   "</SimBase.Document>\r\n";
 
 QString successBox(const QString &name)
 {
@@ -443,11 +432,11 @@ private slots:
         writePayload(shop);
         auto *mapping = shop.mapping(configuredSimulator, shop.folder("A"));
         QVERIFY(shop.controller().install(mapping, true, false));
-        QCOMPARE(readFile(shop.dataPath("Vendor/dll.xml")), QByteArray(launchDocument));
+        QCOMPARE(readFile(shop.dataPath("Vendor/dll.xml")), launchDocument());
         QCOMPARE(readFile(shop.dataPath("Vendor/dll.xml")).size(), 428);
         // The step for the second file backs up the document created for the first one.
         QCOMPARE(shop.backups().size(), 1);
-        QCOMPARE(readFile(shop.backups().constFirst()), QByteArray(launchDocument));
+        QCOMPARE(readFile(shop.backups().constFirst()), launchDocument());
     }
 
     void addsTheEntryToTheConfiguration()
