@@ -104,7 +104,7 @@ static QString turnedDown(const QJsonObject &report)
                                                  place.value("reason"_s).toString());
 }
 
-// As the window does, with the file in its place that the entry names.
+// With the file in its place that the entry names.
 void TestReport::installEverywhere()
 {
     m_computer->write("sims/Skylark/GaugesQuillmontOrbwell_64.dll"_s, "x");
