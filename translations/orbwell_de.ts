@@ -5,27 +5,27 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
+        <translation>Verschaffen Sie sich Leserechte für die Datei.</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
-        <translation>Verschieben Sie sie, oder verkleinern Sie sie von Hand.</translation>
+        <translation>Verschieben Sie sie an einen anderen Ort, oder kürzen Sie sie von Hand.</translation>
     </message>
     <message>
         <source>Move it away.</source>
-        <translation>Verschieben Sie sie.</translation>
+        <translation>Verschieben Sie sie an einen anderen Ort.</translation>
     </message>
     <message>
         <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Bessern Sie die Datei von Hand aus; bis dahin wird nichts in ihr geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
+        <translation>Reparieren Sie die Datei von Hand; bis dahin wird an ihr nichts geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Spielen Sie die Sicherung vom %1 zurück, oder bessern Sie die Datei von Hand aus; bis dahin wird nichts in ihr geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
+        <translation>Spielen Sie die Sicherung vom %1 zurück, oder reparieren Sie die Datei von Hand; bis dahin wird an ihr nichts geändert, und der Simulator lädt möglicherweise gar kein Add-on.</translation>
     </message>
     <message>
         <source>Move it away; until then the simulator may load no add-on at all.</source>
-        <translation>Verschieben Sie sie; bis dahin lädt der Simulator möglicherweise gar kein Add-on.</translation>
+        <translation>Verschieben Sie sie an einen anderen Ort; bis dahin lädt der Simulator möglicherweise gar kein Add-on.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
@@ -36,11 +36,11 @@
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
-        <translation>Das ist kein JSON: %1. Das Programm sieht keinen Simulator.</translation>
+        <translation>Das ist kein gültiges JSON: %1. Das Programm erkennt keinen Simulator.</translation>
     </message>
     <message>
         <source>It is no array. The program sees no simulator.</source>
-        <translation>Das ist kein Array. Das Programm sieht keinen Simulator.</translation>
+        <translation>Das ist kein JSON-Array. Das Programm erkennt keinen Simulator.</translation>
     </message>
     <message>
         <source>The key is there twice; the last one counts.</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>Sein Typ ist %1, nicht %2; er gilt als nicht vorhanden.</translation>
+        <translation>Der Typ ist %1, nicht %2; der Wert gilt als nicht vorhanden.</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>Zeile %1 hat denselben Namen; beide teilen sich einen Nachweis und einen gewählten Ordner.</translation>
+        <translation>Zeile %1 hat denselben Namen; beide teilen sich einen Eintrag in der Installationsliste und einen gewählten Ordner.</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>Es gibt keine Dateien; nichts wird installiert, und der Eintrag gilt als installiert.</translation>
+        <translation>Es sind keine Dateien angegeben; nichts wird installiert, und das Plugin gilt als installiert.</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,27 +72,27 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>Es gibt kein Ziel; das Ziel ist der Ordner des Simulators selbst.</translation>
+        <translation>Es ist kein Ziel angegeben; Ziel ist dann der Ordner des Simulators selbst.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; führt aus dem Ordner des Simulators hinaus; die Datei wird dorthin geschrieben.</translation>
+        <translation>&quot;..&quot; führt aus dem Ordner des Simulators hinaus; die Datei wird außerhalb geschrieben.</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
-        <translation>Eine andere Datei hat dasselbe Ziel; die spätere wird kopiert.</translation>
+        <translation>Eine andere Datei hat dasselbe Ziel; kopiert wird die spätere.</translation>
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>Wird nur neben einem &quot;config&quot; gelesen, das null oder nicht leer ist, und sonst ignoriert.</translation>
+        <translation>Dieser Schlüssel wird nur neben einem &quot;config&quot; gelesen, das null oder nicht leer ist; hier wird er ignoriert.</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
-        <translation>&quot;type&quot; ist nicht 0, daher wird keine Konfigurationsdatei angefasst.</translation>
+        <translation>&quot;type&quot; ist nicht 0, daher wird keine Konfigurationsdatei geändert.</translation>
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
-        <translation>Es gibt keinen Pfad; keine Datei kann bearbeitet werden.</translation>
+        <translation>Es ist kein Pfad angegeben; es kann keine Datei bearbeitet werden.</translation>
     </message>
     <message>
         <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>Dieser Eintrag wird installiert, kann aber nicht entfernt werden: Kein Paar in &quot;values&quot; ist das, wonach &quot;remove&quot; sucht.</translation>
+        <translation>Dieser Eintrag wird installiert, kann aber nicht entfernt werden: Kein Paar in &quot;values&quot; entspricht dem, wonach &quot;remove&quot; sucht.</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
@@ -112,15 +112,15 @@
     </message>
     <message>
         <source>It is no whole number; it counts as 0.</source>
-        <translation>Das ist keine ganze Zahl; es zählt als 0.</translation>
+        <translation>Das ist keine ganze Zahl; der Wert gilt als 0.</translation>
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
-        <translation>Diese &quot;location&quot; gibt es nicht; der Eintrag selbst findet nie etwas.</translation>
+        <translation>Diese &quot;location&quot; gibt es nicht; der Eintrag findet von sich aus nie etwas.</translation>
     </message>
     <message>
         <source>It shares its chosen folder with the name in line %1.</source>
-        <translation>Er teilt sich den gewählten Ordner mit dem Namen in Zeile %1.</translation>
+        <translation>Dieser Name teilt sich den gewählten Ordner mit dem in Zeile %1.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the payload.</source>
@@ -128,11 +128,11 @@
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
-        <translation>Ohne &quot;config&quot; wird keine Konfigurationsdatei angefasst.</translation>
+        <translation>Ohne &quot;config&quot; wird keine Konfigurationsdatei geändert.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; führt aus dem Ordner solcher Dateien hinaus.</translation>
+        <translation>&quot;..&quot; führt aus dem Ordner der Konfigurationsdateien hinaus.</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Start the simulator once from Steam, then install again.</source>
-        <translation>Starten Sie den Simulator einmal aus Steam, und installieren Sie dann erneut.</translation>
+        <translation>Starten Sie den Simulator einmal über Steam, und installieren Sie das Plugin dann erneut.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
+        <translation>Verschaffen Sie sich dort Schreibrechte.</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>Uninstall and install again; the file is made anew.</source>
-        <translation>Deinstallieren und installieren Sie erneut; die Datei wird dabei neu angelegt.</translation>
+        <translation>Deinstallieren Sie das Plugin, und installieren Sie es dann erneut; die Datei wird dabei neu angelegt.</translation>
     </message>
     <message>
         <source>The configuration file %1 cannot be read: %2.</source>
@@ -171,23 +171,23 @@
     </message>
     <message>
         <source>Uninstall and install again.</source>
-        <translation>Deinstallieren und installieren Sie erneut.</translation>
+        <translation>Deinstallieren Sie das Plugin, und installieren Sie es dann erneut.</translation>
     </message>
     <message>
         <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
-        <translation>Die Dateien des Plugins sind vorhanden, aber %1 hat keinen Eintrag dafür.</translation>
+        <translation>Die Dateien des Plugins sind vorhanden, aber %1 enthält keinen Eintrag dafür.</translation>
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 hat einen Eintrag für das Plugin, dessen Dateien nicht vorhanden sind.</translation>
+        <translation>%1 enthält einen Eintrag für das Plugin, aber dessen Dateien fehlen.</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>Installieren Sie es, oder deinstallieren Sie es, um den Eintrag zu entfernen.</translation>
+        <translation>Installieren Sie das Plugin, oder deinstallieren Sie es, um den Eintrag zu entfernen.</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>Unser Eintrag steht in %1 %2-mal.</translation>
+        <translation>Unser Eintrag steht %2-mal in %1.</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
@@ -195,7 +195,7 @@
     </message>
     <message>
         <source>Our entry in %1 names the file %2, which is missing.</source>
-        <translation>Unser Eintrag in %1 nennt die Datei %2, die fehlt.</translation>
+        <translation>Unser Eintrag in %1 verweist auf die Datei %2, die fehlt.</translation>
     </message>
     <message>
         <source>The configuration file %1 is a web page.</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Delete the link, then install.</source>
-        <translation>Löschen Sie den Link, und installieren Sie dann.</translation>
+        <translation>Löschen Sie den Link, und installieren Sie dann das Plugin.</translation>
     </message>
     <message>
         <source>You may not change the configuration file %1, or not write in its folder.</source>
@@ -218,7 +218,7 @@
     <name>Quillmont::Utility::Doctor::Doctor</name>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
-        <translation>Der Katalog %1 ist kein JSON-Array; --check-catalogue sagt mehr.</translation>
+        <translation>Der Katalog %1 ist kein JSON-Array; Näheres zeigt --check-catalogue.</translation>
     </message>
     <message>
         <source>The catalogue has no simulator %1.</source>
@@ -226,11 +226,11 @@
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
-        <translation>Hilfe gibt &quot;orbwell-doctor --help&quot;.</translation>
+        <translation>Hilfe erhalten Sie mit &quot;orbwell-doctor --help&quot;.</translation>
     </message>
     <message>
         <source>The answer cannot be written: %1.</source>
-        <translation>Die Antwort kann nicht geschrieben werden: %1.</translation>
+        <translation>Die Ausgabe kann nicht geschrieben werden: %1.</translation>
     </message>
     <message>
         <source>The catalogue %1 cannot be read: %2.</source>
@@ -245,7 +245,7 @@
     <name>Quillmont::Utility::Doctor::Examination</name>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Sein Ordner %1 ist nicht mehr da.</translation>
+        <translation>Sein Ordner %1 ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>Choose its folder in the window.</source>
@@ -257,11 +257,11 @@
     </message>
     <message>
         <source>Make room on the disk of %1.</source>
-        <translation>Schaffen Sie Platz auf dem Datenträger von %1.</translation>
+        <translation>Schaffen Sie Platz auf dem Datenträger, auf dem %1 liegt.</translation>
     </message>
     <message>
         <source>The disk has room for %1 bytes; what is written there takes %2.</source>
-        <translation>Auf dem Datenträger sind %1 Bytes frei; was dort geschrieben wird, braucht %2.</translation>
+        <translation>Auf dem Datenträger sind %1 Bytes frei; was dort geschrieben wird, benötigt %2.</translation>
     </message>
 </context>
 <context>
@@ -276,7 +276,7 @@
     </message>
     <message>
         <source>Uninstall and install again.</source>
-        <translation>Deinstallieren und installieren Sie erneut.</translation>
+        <translation>Deinstallieren Sie das Plugin, und installieren Sie es dann erneut.</translation>
     </message>
     <message>
         <source>In the place of %1 is a link that leads nowhere.</source>
@@ -284,31 +284,31 @@
     </message>
     <message>
         <source>Delete the link, then install.</source>
-        <translation>Löschen Sie den Link, und installieren Sie dann.</translation>
+        <translation>Löschen Sie den Link, und installieren Sie dann das Plugin.</translation>
     </message>
     <message>
         <source>%1 is no regular file.</source>
-        <translation>%1 ist keine normale Datei.</translation>
+        <translation>Keine normale Datei: %1.</translation>
     </message>
     <message>
         <source>Move it away, then install.</source>
-        <translation>Verschieben Sie das, was dort ist, und installieren Sie dann.</translation>
+        <translation>Verschieben Sie, was dort liegt, an einen anderen Ort, und installieren Sie dann das Plugin.</translation>
     </message>
     <message>
         <source>Only a part of the plugin is there; %1 is missing.</source>
-        <translation>Nur ein Teil des Plugins ist da; es fehlt: %1.</translation>
+        <translation>Nur ein Teil des Plugins ist vorhanden; es fehlt: %1.</translation>
     </message>
     <message>
         <source>Install it.</source>
-        <translation>Installieren Sie es.</translation>
+        <translation>Installieren Sie das Plugin.</translation>
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 unterscheidet sich von der mitgelieferten Datei: eine andere Version, oder beschädigt.</translation>
+        <translation>Abweichend von der mitgelieferten Datei: %1 (andere Version oder beschädigt).</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>%1 kann nicht gelesen werden.</translation>
+        <translation>Nicht lesbar: %1.</translation>
     </message>
     <message>
         <source>You may not write in the folder of %1.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
+        <translation>Verschaffen Sie sich dort Schreibrechte.</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Geben Sie sich das Recht, sie zu lesen.</translation>
+        <translation>Verschaffen Sie sich Leserechte für die Datei.</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
@@ -339,19 +339,19 @@
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1: Einen Plan gibt es für &quot;install&quot;, &quot;repair&quot; oder &quot;uninstall&quot;.</translation>
+        <translation>%1: Einen Plan gibt es nur für &quot;install&quot;, &quot;repair&quot; oder &quot;uninstall&quot;.</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
-        <translation>--catalogue braucht eine Datei.</translation>
+        <translation>--catalogue erfordert eine Datei.</translation>
     </message>
     <message>
         <source>Unknown option %1.</source>
-        <translation>Unbekannte Option %1.</translation>
+        <translation>Unbekannte Option: %1.</translation>
     </message>
     <message>
         <source>Unknown option %1. Is %2 meant?</source>
-        <translation>Unbekannte Option %1. Ist %2 gemeint?</translation>
+        <translation>Unbekannte Option: %1. Meinten Sie %2?</translation>
     </message>
     <message>
         <source>Usage: orbwell-doctor [OPTION...] [NAME...]
@@ -367,7 +367,7 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>Aufruf: orbwell-doctor [OPTION...] [NAME...]
-Sagt, was mit den Simulatoren und dem Orbwell-Plugin darin nicht stimmt. Ändert nichts.
+Zeigt, was mit den Simulatoren und dem Orbwell-Plugin darin nicht stimmt. Ändert nichts.
 
   --json               Bericht, Plan oder Prüfung als JSON
   --plan[=WAS]         was &quot;install&quot; (Vorgabe), &quot;repair&quot; oder &quot;uninstall&quot; tun würde
@@ -375,13 +375,13 @@ Sagt, was mit den Simulatoren und dem Orbwell-Plugin darin nicht stimmt. Ändert
   --check-catalogue    nur, was am Katalog nicht stimmt
   --help, --version
 
-NAMEN beschränken Bericht oder Plan auf diese Simulatoren.
-Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
+Mit NAME gelten Bericht und Plan nur für diese Simulatoren.
+Rückgabewert: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 Prüfung nicht möglich.
 </translation>
     </message>
     <message>
         <source>--check-catalogue takes no names.</source>
-        <translation>--check-catalogue nimmt keine Namen.</translation>
+        <translation>--check-catalogue akzeptiert keine Namen.</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
@@ -396,15 +396,15 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Folder made: %1</source>
-        <translation>Ordner angelegt: %1</translation>
+        <translation>Ordner anlegen: %1</translation>
     </message>
     <message>
         <source>Folder removed: %1</source>
-        <translation>Ordner entfernt: %1</translation>
+        <translation>Ordner entfernen: %1</translation>
     </message>
     <message>
         <source>Backup made: %1</source>
-        <translation>Sicherung angelegt: %1</translation>
+        <translation>Sicherung anlegen: %1</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -424,11 +424,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>File made: %1</source>
-        <translation>Datei angelegt: %1</translation>
+        <translation>Datei anlegen: %1</translation>
     </message>
     <message>
         <source>File replaced: %1</source>
-        <translation>Datei ersetzt: %1</translation>
+        <translation>Datei ersetzen: %1</translation>
     </message>
     <message>
         <source>File unchanged: %1</source>
@@ -436,15 +436,15 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>File removed: %1</source>
-        <translation>Datei entfernt: %1</translation>
+        <translation>Datei entfernen: %1</translation>
     </message>
     <message>
         <source>Configuration made: %1</source>
-        <translation>Konfiguration angelegt: %1</translation>
+        <translation>Konfiguration anlegen: %1</translation>
     </message>
     <message>
         <source>Configuration changed: %1</source>
-        <translation>Konfiguration geändert: %1</translation>
+        <translation>Konfiguration ändern: %1</translation>
     </message>
     <message>
         <source>Configuration unchanged: %1</source>
@@ -452,31 +452,31 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Record made: %1</source>
-        <translation>Nachweis angelegt: %1</translation>
+        <translation>Installationsliste anlegen: %1</translation>
     </message>
     <message>
         <source>Record changed: %1</source>
-        <translation>Nachweis geändert: %1</translation>
+        <translation>Installationsliste ändern: %1</translation>
     </message>
     <message>
         <source>Record unchanged: %1</source>
-        <translation>Nachweis unverändert: %1</translation>
+        <translation>Installationsliste unverändert: %1</translation>
     </message>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Sein Ordner %1 ist nicht mehr da.</translation>
+        <translation>Sein Ordner %1 ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>Knopf im Fenster: &quot;Orbwell installieren&quot;</translation>
+        <translation>Schaltfläche im Fenster: „Orbwell installieren“</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>Knopf im Fenster: &quot;Orbwell deinstallieren&quot;</translation>
+        <translation>Schaltfläche im Fenster: „Orbwell deinstallieren“</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
-        <translation>Knopf im Fenster: deaktiviert</translation>
+        <translation>Schaltfläche im Fenster: deaktiviert</translation>
     </message>
 </context>
 <context>
@@ -487,11 +487,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>X-Plane&apos;s own list</source>
-        <translation>X-Planes eigene Liste</translation>
+        <translation>die eigene Liste von X-Plane</translation>
     </message>
     <message>
         <source>FlightGear&apos;s launcher</source>
-        <translation>FlightGears Launcher</translation>
+        <translation>der Launcher von FlightGear</translation>
     </message>
     <message>
         <source>a well-known folder</source>
@@ -499,7 +499,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
-        <translation>UserCfg.opt in Steams Proton-Präfix</translation>
+        <translation>UserCfg.opt im Proton-Präfix von Steam</translation>
     </message>
     <message>
         <source>chosen by hand</source>
@@ -507,11 +507,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>the catalogue&apos;s file</source>
-        <translation>die Datei im Katalog</translation>
+        <translation>die im Katalog genannte Datei</translation>
     </message>
     <message>
         <source>the catalogue&apos;s folder</source>
-        <translation>der Ordner im Katalog</translation>
+        <translation>der im Katalog genannte Ordner</translation>
     </message>
     <message>
         <source>no such folder</source>
@@ -527,15 +527,15 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>no permission to look inside</source>
-        <translation>keine Berechtigung, hineinzusehen</translation>
+        <translation>keine Berechtigung, den Inhalt zu lesen</translation>
     </message>
     <message>
         <source>no file &quot;version&quot; that begins with a version number</source>
-        <translation>keine Datei &quot;version&quot;, die mit einer beginnt</translation>
+        <translation>keine Datei &quot;version&quot;, die mit einer Versionsnummer beginnt</translation>
     </message>
     <message>
         <source>no defaults.xml or preferences.xml</source>
-        <translation>kein defaults.xml oder preferences.xml</translation>
+        <translation>weder defaults.xml noch preferences.xml vorhanden</translation>
     </message>
     <message>
         <source>no InstalledPackagesPath in it</source>
@@ -543,15 +543,15 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>sein InstalledPackagesPath liegt auf keinem Laufwerk</translation>
+        <translation>sein InstalledPackagesPath beginnt nicht mit einem Laufwerksbuchstaben</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
-        <translation>kein Community, Official/Steam oder Official/OneStore</translation>
+        <translation>kein Ordner Community, Official/Steam oder Official/OneStore</translation>
     </message>
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
-        <translation>kein Community, Official2024 oder StreamedPackages</translation>
+        <translation>kein Ordner Community, Official2024 oder StreamedPackages</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -563,7 +563,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>too much to read altogether</source>
-        <translation>insgesamt zu viel zu lesen</translation>
+        <translation>insgesamt zu viele Daten</translation>
     </message>
     <message>
         <source>no fsx.exe</source>
@@ -571,23 +571,23 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>no SimObjects</source>
-        <translation>kein SimObjects</translation>
+        <translation>kein Ordner SimObjects</translation>
     </message>
     <message>
         <source>no scenery</source>
-        <translation>kein scenery</translation>
+        <translation>kein Ordner scenery</translation>
     </message>
     <message>
         <source>no aircraft</source>
-        <translation>kein aircraft</translation>
+        <translation>kein Ordner aircraft</translation>
     </message>
     <message>
         <source>no main.mcf or tm.log</source>
-        <translation>kein main.mcf oder tm.log</translation>
+        <translation>weder main.mcf noch tm.log vorhanden</translation>
     </message>
     <message>
         <source>it has no Proton prefix</source>
-        <translation>es hat kein Proton-Präfix</translation>
+        <translation>kein Proton-Präfix vorhanden</translation>
     </message>
     <message>
         <source>no list of libraries</source>
@@ -595,7 +595,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>cut off, or not in Steam&apos;s text format</source>
-        <translation>abgeschnitten oder nicht in Steams Textformat</translation>
+        <translation>abgeschnitten oder nicht im Textformat von Steam</translation>
     </message>
     <message>
         <source>uninstalled (StateFlags %1)</source>
@@ -611,7 +611,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>it is about another game</source>
-        <translation>es geht um ein anderes Spiel</translation>
+        <translation>betrifft ein anderes Spiel</translation>
     </message>
     <message>
         <source>installdir is not a plain name</source>
@@ -619,11 +619,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>no Resources/plugins</source>
-        <translation>kein Resources/plugins</translation>
+        <translation>kein Ordner Resources/plugins</translation>
     </message>
     <message>
         <source>no X-Plane executable</source>
-        <translation>kein X-Plane-Programm</translation>
+        <translation>keine X-Plane-Programmdatei</translation>
     </message>
     <message>
         <source>it is X-Plane %1</source>
@@ -631,7 +631,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>es gilt als %1</translation>
+        <translation>bereits als %1 erkannt</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -639,7 +639,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Invalid entity name.</source>
-        <translation>Ungültiger Name einer Entität.</translation>
+        <translation>Ungültiger Entitätsname.</translation>
     </message>
     <message>
         <source>Invalid processing instruction name.</source>
@@ -667,11 +667,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Entities grow to too much text.</source>
-        <translation>Entitäten wachsen zu zu viel Text an.</translation>
+        <translation>Die Entitäten ergeben zu viel Text.</translation>
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>Dieses Zeichen kommt in keinem XML vor.</translation>
+        <translation>Dieses Zeichen ist in XML nicht erlaubt.</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -679,23 +679,23 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>The entry to change comes out of an entity.</source>
-        <translation>Der zu ändernde Eintrag kommt aus einer Entität.</translation>
+        <translation>Der zu ändernde Eintrag stammt aus einer Entität.</translation>
     </message>
     <message>
         <source>The element to remove comes out of an entity.</source>
-        <translation>Das zu entfernende Element kommt aus einer Entität.</translation>
+        <translation>Das zu entfernende Element stammt aus einer Entität.</translation>
     </message>
     <message>
         <source>Undecodable bytes would be read otherwise.</source>
-        <translation>Nicht dekodierbare Bytes würden anders gelesen.</translation>
+        <translation>Nicht dekodierbare Bytes würden danach anders gelesen.</translation>
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
-        <translation>Ein Wert ist kein Text, den XML enthalten kann.</translation>
+        <translation>Ein Wert enthält Text, der in XML nicht erlaubt ist.</translation>
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
-        <translation>Das zu ändernde Element kommt aus einer Entität.</translation>
+        <translation>Das zu ändernde Element stammt aus einer Entität.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold an end tag.</source>
@@ -703,7 +703,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>A name or a value is none that XML can hold.</source>
-        <translation>Ein Name oder ein Wert ist keiner, den XML enthalten kann.</translation>
+        <translation>Ein Name oder ein Wert ist in XML nicht erlaubt.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold a name.</source>
@@ -719,11 +719,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>its name is not valid text</source>
-        <translation>ihr Name ist kein gültiger Text</translation>
+        <translation>der Name ist kein gültiger Text</translation>
     </message>
     <message>
         <source>the catalogue&apos;s location</source>
-        <translation>die &quot;location&quot; des Katalogs</translation>
+        <translation>die &quot;location&quot; im Katalog</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -731,7 +731,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>no registry on this system</source>
-        <translation>keine Registrierungsdatenbank auf diesem System</translation>
+        <translation>keine Registry auf diesem System</translation>
     </message>
     <message>
         <source>looked for on Windows only</source>
@@ -750,43 +750,43 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
     <message>
         <source>The installation record %1 cannot be read: %2.</source>
-        <translation>Der Installationsnachweis %1 kann nicht gelesen werden: %2.</translation>
+        <translation>Die Installationsliste %1 kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
-        <translation>Der Installationsnachweis %1 ist beschädigt; was darin stand, ist verloren.</translation>
+        <translation>Die Installationsliste %1 ist beschädigt; ihr Inhalt ist verloren.</translation>
     </message>
     <message>
         <source>Install again; a new record is written then.</source>
-        <translation>Installieren Sie erneut; dabei wird ein neuer Nachweis geschrieben.</translation>
+        <translation>Installieren Sie das Plugin erneut; dabei wird eine neue Installationsliste geschrieben.</translation>
     </message>
     <message>
         <source>The plugin is there, but not in the installation record.</source>
-        <translation>Das Plugin ist da, steht aber nicht im Installationsnachweis.</translation>
+        <translation>Das Plugin ist vorhanden, fehlt aber in der Installationsliste.</translation>
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>Klicken Sie im Fenster auf &quot;Suchen &amp; installieren&quot;; dann wird es eingetragen.</translation>
+        <translation>Klicken Sie im Fenster auf „Suchen &amp; installieren“; dann wird es eingetragen.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
-        <translation>Laut Installationsnachweis ist das Plugin in %1, aber dort fehlen Dateien.</translation>
+        <translation>Laut Installationsliste ist das Plugin in %1 installiert, aber dort fehlen Dateien.</translation>
     </message>
     <message>
         <source>Install it again.</source>
-        <translation>Installieren Sie es erneut.</translation>
+        <translation>Installieren Sie das Plugin erneut.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
-        <translation>Laut Installationsnachweis ist das Plugin in %1, nicht in %2. Unbeaufsichtigte Läufe arbeiten am ersten Ordner, das Fenster am zweiten.</translation>
+        <translation>Laut Installationsliste ist das Plugin in %1 installiert, nicht in %2. Unbeaufsichtigte Läufe arbeiten mit dem ersten Ordner, das Fenster mit dem zweiten.</translation>
     </message>
     <message>
         <source>Choose the folder in the window, then install or uninstall there.</source>
-        <translation>Wählen Sie den Ordner im Fenster aus, und installieren oder deinstallieren Sie dann dort.</translation>
+        <translation>Wählen Sie den Ordner im Fenster aus, und installieren oder deinstallieren Sie das Plugin dann dort.</translation>
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>Der Installationsnachweis führt %1 in %2; der Katalog kennt das nicht mehr.</translation>
+        <translation>In der Installationsliste steht %1 in %2; im Katalog gibt es diesen Simulator nicht mehr.</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
@@ -794,7 +794,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
-        <translation>Es kann nichts in den Installationsnachweis eingetragen werden: %1 ist ein Link, der ins Leere führt.</translation>
+        <translation>In die Installationsliste kann nichts eingetragen werden: %1 ist ein Link, der ins Leere führt.</translation>
     </message>
     <message>
         <source>Delete the link.</source>
@@ -802,34 +802,34 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>You may not write the installation record %1.</source>
-        <translation>Sie dürfen den Installationsnachweis %1 nicht schreiben.</translation>
+        <translation>Sie dürfen die Installationsliste %1 nicht schreiben.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Geben Sie sich das Recht, dort zu schreiben.</translation>
+        <translation>Verschaffen Sie sich dort Schreibrechte.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Rehearsal</name>
     <message>
         <source>%1 is a folder, and stays.</source>
-        <translation>%1 ist ein Ordner und bleibt.</translation>
+        <translation>%1 ist ein Ordner und bleibt erhalten.</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
-        <translation>%1 kann nicht nach %2 kopiert werden: An der Stelle ist ein Ordner oder ein Link, der ins Leere führt.</translation>
+        <translation>%1 kann nicht nach %2 kopiert werden: Dort befindet sich ein Ordner oder ein Link, der ins Leere führt.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
-        <translation>%1 kann nicht kopiert werden: Es fehlt bei den mitgelieferten Dateien. Was an der Stelle ist, wird trotzdem entfernt.</translation>
+        <translation>Die Datei %1 kann nicht kopiert werden: Sie fehlt bei den mitgelieferten Dateien. Was sich am Ziel befindet, wird trotzdem entfernt.</translation>
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
-        <translation>%1 bleibt, wie es ist: %2</translation>
+        <translation>%1 bleibt unverändert: %2</translation>
     </message>
     <message>
         <source>The record %1 stays as it is: %2</source>
-        <translation>Der Nachweis %1 bleibt, wie er ist: %2</translation>
+        <translation>Die Installationsliste %1 bleibt unverändert: %2</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
@@ -837,11 +837,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
-        <translation>%1 kann nicht kopiert werden: Sie dürfen es nicht lesen. Was an der Stelle ist, wird trotzdem entfernt.</translation>
+        <translation>Die Datei %1 kann nicht kopiert werden: Sie dürfen sie nicht lesen. Was sich am Ziel befindet, wird trotzdem entfernt.</translation>
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
-        <translation>Von %1 kann keine Sicherung angelegt werden: Sie dürfen in seinem Ordner nicht schreiben.</translation>
+        <translation>Von %1 kann keine Sicherung angelegt werden: Sie dürfen im Ordner der Datei nicht schreiben.</translation>
     </message>
     <message>
         <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
@@ -849,7 +849,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
-        <translation>%1 bleibt, wie es ist: Sie dürfen es nicht ändern oder in seinem Ordner nicht schreiben.</translation>
+        <translation>%1 bleibt unverändert: Sie dürfen die Datei nicht ändern oder in ihrem Ordner nicht schreiben.</translation>
     </message>
 </context>
 <context>
@@ -880,7 +880,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Folder: %1, known by: %2</source>
-        <translation>Ordner: %1, bekannt durch: %2</translation>
+        <translation>Ordner: %1, Quelle: %2</translation>
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
@@ -888,31 +888,31 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Turned down: %1 (%2): %3</source>
-        <translation>Abgelehnt: %1 (%2): %3</translation>
+        <translation>Verworfen: %1 (%2): %3</translation>
     </message>
     <message>
         <source>Files installed: %1</source>
-        <translation>Dateien installiert: %1</translation>
+        <translation>Installierte Dateien: %1</translation>
     </message>
     <message>
         <source>Files missing: %1</source>
-        <translation>Dateien fehlen: %1</translation>
+        <translation>Fehlende Dateien: %1</translation>
     </message>
     <message>
         <source>Files different: %1</source>
-        <translation>Dateien anders: %1</translation>
+        <translation>Abweichende Dateien: %1</translation>
     </message>
     <message>
         <source>Files unreadable: %1</source>
-        <translation>Dateien nicht lesbar: %1</translation>
+        <translation>Nicht lesbare Dateien: %1</translation>
     </message>
     <message>
         <source>Dead links in place of files: %1</source>
-        <translation>Tote Links an der Stelle von Dateien: %1</translation>
+        <translation>Tote Links anstelle von Dateien: %1</translation>
     </message>
     <message>
         <source>Folders or devices in place of files: %1</source>
-        <translation>Ordner oder Geräte an der Stelle von Dateien: %1</translation>
+        <translation>Ordner oder Gerätedateien anstelle von Dateien: %1</translation>
     </message>
     <message>
         <source>Bytes that are not valid in this encoding, from line %1 on</source>
@@ -924,7 +924,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
-        <translation>Der Eintrag %1 eines anderen Programms nennt eine Datei, die nicht da ist: %2</translation>
+        <translation>Der Eintrag %1 eines anderen Programms verweist auf eine Datei, die nicht vorhanden ist: %2</translation>
     </message>
     <message>
         <source>Configuration: %1, missing</source>
@@ -944,7 +944,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>Kein Eintrag von uns</translation>
+        <translation>Unser Eintrag: nicht vorhanden</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
@@ -972,11 +972,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Record: agrees</source>
-        <translation>Nachweis: stimmt</translation>
+        <translation>Installationsliste: stimmt überein</translation>
     </message>
     <message>
         <source>Record: in %1</source>
-        <translation>Nachweis: in %1</translation>
+        <translation>Laut Installationsliste: in %1</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
@@ -984,7 +984,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Record</source>
-        <translation>Nachweis</translation>
+        <translation>Installationsliste</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -1004,7 +1004,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>no named file</source>
-        <translation>keine Datei</translation>
+        <translation>keine bestimmte Datei</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1031,7 +1031,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
-        <translation>Die Datei enthält nichts als Nullbytes: Der Computer ist beim Schreiben stehen geblieben, oder sein Datenträger versagt.</translation>
+        <translation>Die Datei enthält nichts als Nullbytes: Der Computer ist beim Schreiben ausgefallen, oder sein Datenträger ist defekt.</translation>
     </message>
     <message>
         <source>The file is a web page, not XML.</source>
@@ -1091,11 +1091,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
-        <translation>&lt;/%1&gt; in Zeile %2 schließt ein Element, das nie geöffnet wurde: Die Zeile mit &lt;%1 ...&gt; ist verloren.</translation>
+        <translation>&lt;/%1&gt; in Zeile %2 schließt ein Element, das nie geöffnet wurde: Die Zeile mit &lt;%1 ...&gt; ist verloren gegangen.</translation>
     </message>
     <message>
         <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
-        <translation>&quot;&lt;&quot; in Zeile %1 beginnt kein Tag; als Text schreibt man es &quot;&amp;lt;&quot;.</translation>
+        <translation>&quot;&lt;&quot; in Zeile %1 leitet kein Tag ein; als Text schreibt man es &quot;&amp;lt;&quot;.</translation>
     </message>
     <message>
         <source>%1 in line %2 is no tag; what is meant is %3.</source>
@@ -1103,11 +1103,11 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>Hinter dem Ende des Dokuments, in Zeile %1, kommt weiterer Text: der Rest einer älteren, längeren Datei?</translation>
+        <translation>Hinter dem Ende des Dokuments, in Zeile %1, steht weiterer Text: der Rest einer älteren, längeren Datei?</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
-        <translation>&quot;&amp;&quot; in Zeile %1 muss &quot;&amp;amp;&quot; geschrieben werden.</translation>
+        <translation>&quot;&amp;&quot; in Zeile %1 muss als &quot;&amp;amp;&quot; geschrieben werden.</translation>
     </message>
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
@@ -1119,7 +1119,7 @@ Status: 0 alles in Ordnung, 1 etwas stimmt nicht, 2 konnte nicht nachsehen.
     </message>
     <message>
         <source>The value of %1 in line %2 has no quotation marks.</source>
-        <translation>Der Wert von %1 in Zeile %2 hat keine Anführungszeichen.</translation>
+        <translation>Der Wert von %1 in Zeile %2 steht nicht in Anführungszeichen.</translation>
     </message>
 </context>
 <context>

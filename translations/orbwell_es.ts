@@ -5,11 +5,11 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Concédase permiso para leerlo.</translation>
+        <translation>Conceda a su usuario permiso para leerlo.</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
-        <translation>Muévalo a otro sitio o hágalo más pequeño a mano.</translation>
+        <translation>Muévalo a otro sitio o reduzca su tamaño manualmente.</translation>
     </message>
     <message>
         <source>Move it away.</source>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Arregle el archivo a mano; hasta entonces no se cambia nada en él, y es posible que el simulador no cargue ningún complemento.</translation>
+        <translation>Corrija el archivo manualmente; hasta entonces no se modificará nada en él y es posible que el simulador no cargue ningún complemento.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Restaure la copia de seguridad del %1 o arregle el archivo a mano; hasta entonces no se cambia nada en él, y es posible que el simulador no cargue ningún complemento.</translation>
+        <translation>Restaure la copia de seguridad del %1 o corrija el archivo manualmente; hasta entonces no se modificará nada en él y es posible que el simulador no cargue ningún complemento.</translation>
     </message>
     <message>
         <source>Move it away; until then the simulator may load no add-on at all.</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>Su tipo es %1, no %2; cuenta como ausente.</translation>
+        <translation>Su tipo es %1 en lugar de %2; se trata como si faltara.</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>La línea %1 tiene el mismo nombre; ambos comparten un registro y una carpeta elegida.</translation>
+        <translation>En la línea %1 está el mismo nombre; ambas entradas comparten un mismo registro y una misma carpeta elegida.</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>No hay archivos; no se instala nada, y la entrada cuenta como instalada.</translation>
+        <translation>No hay archivos; no se instala nada y la entrada se considera instalada.</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,11 +72,11 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>No hay destino; es la propia carpeta del simulador.</translation>
+        <translation>No hay destino; se usa la propia carpeta del simulador.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; sale de la carpeta del simulador; el archivo se escribe allí.</translation>
+        <translation>&quot;..&quot; sale de la carpeta del simulador; el archivo se escribe fuera de ella.</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
@@ -84,11 +84,11 @@
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>Solo se lee junto a un &quot;config&quot; que sea null o no esté vacío; se ignora.</translation>
+        <translation>Solo se lee junto a un &quot;config&quot; que sea null o no esté vacío; aquí se ignora.</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
-        <translation>&quot;type&quot; no es 0, así que no se toca ningún archivo de configuración.</translation>
+        <translation>&quot;type&quot; no es 0, así que no se modifica ningún archivo de configuración.</translation>
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>Esta entrada se instala, pero no se puede quitar: ningún par de &quot;values&quot; es lo que busca &quot;remove&quot;.</translation>
+        <translation>Esta entrada se instala, pero no se puede quitar: ningún par de &quot;values&quot; coincide con lo que busca &quot;remove&quot;.</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
-        <translation>Solo se quita el elemento hijo, y el resto de la entrada se queda: &quot;delete_parent&quot; no es true.</translation>
+        <translation>Solo se quita el elemento hijo y el resto de la entrada permanece: &quot;delete_parent&quot; no es true.</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>It is no whole number; it counts as 0.</source>
-        <translation>No es un número entero; cuenta como 0.</translation>
+        <translation>No es un número entero; se interpreta como 0.</translation>
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
@@ -128,15 +128,15 @@
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
-        <translation>Sin &quot;config&quot; no se toca ningún archivo de configuración.</translation>
+        <translation>Sin &quot;config&quot; no se modifica ningún archivo de configuración.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; sale de la carpeta de esos archivos.</translation>
+        <translation>&quot;..&quot; sale de la carpeta de los archivos de configuración.</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
-        <translation>XML no puede contener esto; la entrada nunca se añade.</translation>
+        <translation>Esto no se puede representar en XML; la entrada nunca se añade.</translation>
     </message>
 </context>
 <context>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Concédase permiso para escribir en ella.</translation>
+        <translation>Conceda a su usuario permiso para escribir allí.</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
@@ -175,27 +175,27 @@
     </message>
     <message>
         <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
-        <translation>Los archivos del plugin están, pero %1 no tiene ninguna entrada para él.</translation>
+        <translation>Los archivos del plugin están, pero en %1 no hay ninguna entrada para él.</translation>
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 tiene una entrada para el plugin, cuyos archivos no están.</translation>
+        <translation>En %1 hay una entrada para el plugin, pero sus archivos no están.</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>Instálelo, o desinstálelo para quitar la entrada.</translation>
+        <translation>Instale el plugin o desinstálelo para quitar la entrada.</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>Nuestra entrada está en %1 %2 veces.</translation>
+        <translation>La entrada de Orbwell aparece %2 veces en %1.</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
-        <translation>Nuestra entrada en %1 está desactivada.</translation>
+        <translation>La entrada de Orbwell en %1 está desactivada.</translation>
     </message>
     <message>
         <source>Our entry in %1 names the file %2, which is missing.</source>
-        <translation>Nuestra entrada en %1 nombra el archivo %2, que falta.</translation>
+        <translation>La entrada de Orbwell en %1 indica el archivo %2, que no existe.</translation>
     </message>
     <message>
         <source>The configuration file %1 is a web page.</source>
@@ -203,11 +203,11 @@
     </message>
     <message>
         <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
-        <translation>No se puede crear el archivo de configuración: %1 es un enlace que no lleva a ninguna parte.</translation>
+        <translation>No se puede crear el archivo de configuración: %1 es un enlace roto.</translation>
     </message>
     <message>
         <source>Delete the link, then install.</source>
-        <translation>Borre el enlace y después instale.</translation>
+        <translation>Elimine el enlace y después instale.</translation>
     </message>
     <message>
         <source>You may not change the configuration file %1, or not write in its folder.</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>The catalogue has no simulator %1.</source>
-        <translation>El catálogo no tiene ningún simulador %1.</translation>
+        <translation>En el catálogo no hay ningún simulador llamado %1.</translation>
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
@@ -245,11 +245,11 @@
     <name>Quillmont::Utility::Doctor::Examination</name>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Su carpeta %1 ya no existe.</translation>
+        <translation>La carpeta %1 ya no existe.</translation>
     </message>
     <message>
         <source>Choose its folder in the window.</source>
-        <translation>Elija su carpeta en la ventana.</translation>
+        <translation>Elija la carpeta del simulador en la ventana.</translation>
     </message>
     <message>
         <source>%1 is a file, not a folder.</source>
@@ -280,15 +280,15 @@
     </message>
     <message>
         <source>In the place of %1 is a link that leads nowhere.</source>
-        <translation>En el lugar de %1 hay un enlace que no lleva a ninguna parte.</translation>
+        <translation>Hay un enlace roto en el lugar de: %1.</translation>
     </message>
     <message>
         <source>Delete the link, then install.</source>
-        <translation>Borre el enlace y después instale.</translation>
+        <translation>Elimine el enlace y después instale.</translation>
     </message>
     <message>
         <source>%1 is no regular file.</source>
-        <translation>%1 no es un archivo normal.</translation>
+        <translation>No es un archivo normal: %1.</translation>
     </message>
     <message>
         <source>Move it away, then install.</source>
@@ -296,19 +296,19 @@
     </message>
     <message>
         <source>Only a part of the plugin is there; %1 is missing.</source>
-        <translation>Solo está una parte del plugin; falta %1.</translation>
+        <translation>Solo está instalada una parte del plugin; archivos que faltan: %1.</translation>
     </message>
     <message>
         <source>Install it.</source>
-        <translation>Instálelo.</translation>
+        <translation>Instale el plugin.</translation>
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 es distinto del archivo que acompaña a este programa: otra versión, o dañado.</translation>
+        <translation>Archivos distintos de los que acompañan a este programa (otra versión, o dañados): %1.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>%1 no se puede leer.</translation>
+        <translation>No se puede leer: %1.</translation>
     </message>
     <message>
         <source>You may not write in the folder of %1.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Concédase permiso para escribir en ella.</translation>
+        <translation>Conceda a su usuario permiso para escribir allí.</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
@@ -324,22 +324,22 @@
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Concédase permiso para leerlo.</translation>
+        <translation>Conceda a su usuario permiso para leerlo.</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
-        <translation>En el lugar de la carpeta %1 hay un enlace que no lleva a ninguna parte.</translation>
+        <translation>En el lugar de la carpeta %1 hay un enlace roto.</translation>
     </message>
     <message>
         <source>%1 is a file where a folder has to be.</source>
-        <translation>%1 es un archivo; en ese lugar tiene que haber una carpeta.</translation>
+        <translation>%1 es un archivo, pero en su lugar tiene que haber una carpeta.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1: un plan es para &quot;install&quot;, &quot;repair&quot; o &quot;uninstall&quot;.</translation>
+        <translation>%1: un plan solo puede ser para &quot;install&quot;, &quot;repair&quot; o &quot;uninstall&quot;.</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
@@ -347,11 +347,11 @@
     </message>
     <message>
         <source>Unknown option %1.</source>
-        <translation>Opción desconocida %1.</translation>
+        <translation>Opción desconocida: %1.</translation>
     </message>
     <message>
         <source>Unknown option %1. Is %2 meant?</source>
-        <translation>Opción desconocida %1. ¿Quería decir %2?</translation>
+        <translation>Opción desconocida: %1. ¿Quería decir %2?</translation>
     </message>
     <message>
         <source>Usage: orbwell-doctor [OPTION...] [NAME...]
@@ -367,16 +367,16 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>Uso: orbwell-doctor [OPCIÓN...] [NOMBRE...]
-Dice qué está mal en los simuladores y en su plugin Orbwell. No cambia nada.
+Indica qué está mal en los simuladores y en el plugin Orbwell que contienen. No modifica nada.
 
-  --json               el informe, el plan o la comprobación como JSON
+  --json               el informe, el plan o la comprobación en formato JSON
   --plan[=ACCIÓN]      lo que haría &quot;install&quot; (predeterminado), &quot;repair&quot; o &quot;uninstall&quot;
-  --catalogue ARCHIVO  usa otro catálogo, y la carpeta &quot;plugins&quot; que tenga al lado
+  --catalogue ARCHIVO  usa otro catálogo, y la carpeta &quot;plugins&quot; junto a él, si la hay
   --check-catalogue    solo lo que está mal en el catálogo
   --help, --version
 
-Los NOMBREs limitan el informe o el plan a esos simuladores.
-Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
+Con uno o más NOMBRE, el informe o el plan se limita a esos simuladores.
+Estado de salida: 0 todo está bien, 1 algo está mal, 2 no se ha podido comprobar.
 </translation>
     </message>
     <message>
@@ -464,15 +464,15 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Su carpeta %1 ya no existe.</translation>
+        <translation>La carpeta %1 ya no existe.</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>Botón de la ventana: &quot;Instalar Orbwell&quot;</translation>
+        <translation>Botón de la ventana: «Instalar Orbwell»</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>Botón de la ventana: &quot;Desinstalar Orbwell&quot;</translation>
+        <translation>Botón de la ventana: «Desinstalar Orbwell»</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
@@ -503,7 +503,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>chosen by hand</source>
-        <translation>elegida a mano</translation>
+        <translation>elección manual</translation>
     </message>
     <message>
         <source>the catalogue&apos;s file</source>
@@ -527,11 +527,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>no permission to look inside</source>
-        <translation>sin permiso para mirar dentro</translation>
+        <translation>sin permiso para ver su contenido</translation>
     </message>
     <message>
         <source>no file &quot;version&quot; that begins with a version number</source>
-        <translation>no hay un archivo &quot;version&quot; que empiece por una</translation>
+        <translation>no hay un archivo &quot;version&quot; que empiece por un número de versión</translation>
     </message>
     <message>
         <source>no defaults.xml or preferences.xml</source>
@@ -543,7 +543,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>su InstalledPackagesPath no está en ninguna unidad</translation>
+        <translation>su InstalledPackagesPath no empieza por una letra de unidad</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
@@ -563,7 +563,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>too much to read altogether</source>
-        <translation>demasiado para leer en total</translation>
+        <translation>demasiados datos que leer en total</translation>
     </message>
     <message>
         <source>no fsx.exe</source>
@@ -595,7 +595,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>cut off, or not in Steam&apos;s text format</source>
-        <translation>cortado, o no está en el formato de texto de Steam</translation>
+        <translation>truncado, o no está en el formato de texto de Steam</translation>
     </message>
     <message>
         <source>uninstalled (StateFlags %1)</source>
@@ -611,7 +611,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>it is about another game</source>
-        <translation>trata de otro juego</translation>
+        <translation>corresponde a otro juego</translation>
     </message>
     <message>
         <source>installdir is not a plain name</source>
@@ -631,7 +631,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>se toma por %1</translation>
+        <translation>ya está asignada a %1</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -643,7 +643,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>Invalid processing instruction name.</source>
-        <translation>Nombre de instrucción de proceso no válido.</translation>
+        <translation>Nombre de instrucción de procesamiento no válido.</translation>
     </message>
     <message>
         <source>Invalid XML declaration.</source>
@@ -667,11 +667,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>Entities grow to too much text.</source>
-        <translation>Las entidades crecen hasta ser demasiado texto.</translation>
+        <translation>Las entidades generan demasiado texto.</translation>
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>Ningún XML tiene este carácter.</translation>
+        <translation>XML no permite este carácter.</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -679,11 +679,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>The entry to change comes out of an entity.</source>
-        <translation>La entrada que hay que cambiar sale de una entidad.</translation>
+        <translation>La entrada que hay que cambiar procede de una entidad.</translation>
     </message>
     <message>
         <source>The element to remove comes out of an entity.</source>
-        <translation>El elemento que hay que quitar sale de una entidad.</translation>
+        <translation>El elemento que hay que quitar procede de una entidad.</translation>
     </message>
     <message>
         <source>Undecodable bytes would be read otherwise.</source>
@@ -691,11 +691,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
-        <translation>Un valor no es texto que pueda contener XML.</translation>
+        <translation>El texto de un valor no se puede representar en XML.</translation>
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
-        <translation>El elemento que hay que cambiar sale de una entidad.</translation>
+        <translation>El elemento que hay que cambiar procede de una entidad.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold an end tag.</source>
@@ -703,7 +703,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>A name or a value is none that XML can hold.</source>
-        <translation>Un nombre o un valor no es de los que puede contener XML.</translation>
+        <translation>Un nombre o un valor no se puede representar en XML.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold a name.</source>
@@ -743,7 +743,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>another one was chosen by hand</source>
-        <translation>se eligió otra a mano</translation>
+        <translation>se eligió otra manualmente</translation>
     </message>
 </context>
 <context>
@@ -754,19 +754,19 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
-        <translation>El registro de instalación %1 está dañado; lo que decía se ha perdido.</translation>
+        <translation>El registro de instalación %1 está dañado; su contenido se ha perdido.</translation>
     </message>
     <message>
         <source>Install again; a new record is written then.</source>
-        <translation>Vuelva a instalar; entonces se escribe un registro nuevo.</translation>
+        <translation>Vuelva a instalar; se escribirá un registro nuevo.</translation>
     </message>
     <message>
         <source>The plugin is there, but not in the installation record.</source>
-        <translation>El plugin está, pero no en el registro de instalación.</translation>
+        <translation>El plugin está instalado, pero no consta en el registro de instalación.</translation>
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>Pulse &quot;Buscar &amp; instalar&quot; en la ventana; entonces queda registrado.</translation>
+        <translation>Pulse «Buscar &amp; instalar» en la ventana; así quedará registrado.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
@@ -778,7 +778,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
-        <translation>Según el registro de instalación, el plugin está en %1, no en %2. Las ejecuciones desatendidas trabajan en la primera carpeta; la ventana, en la segunda.</translation>
+        <translation>Según el registro de instalación, el plugin está en %1, no en %2. Las ejecuciones desatendidas usan la primera carpeta; la ventana, la segunda.</translation>
     </message>
     <message>
         <source>Choose the folder in the window, then install or uninstall there.</source>
@@ -786,42 +786,42 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>El registro de instalación tiene %1 en %2, que el catálogo ya no conoce.</translation>
+        <translation>El registro de instalación contiene %1 en %2, pero ese simulador ya no figura en el catálogo.</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
-        <translation>Quite el plugin de allí a mano si ya no lo quiere.</translation>
+        <translation>Quite el plugin de allí manualmente si ya no lo quiere.</translation>
     </message>
     <message>
         <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
-        <translation>No se puede anotar nada en el registro de instalación: %1 es un enlace que no lleva a ninguna parte.</translation>
+        <translation>No se puede anotar nada en el registro de instalación: %1 es un enlace roto.</translation>
     </message>
     <message>
         <source>Delete the link.</source>
-        <translation>Borre el enlace.</translation>
+        <translation>Elimine el enlace.</translation>
     </message>
     <message>
         <source>You may not write the installation record %1.</source>
-        <translation>No tiene permiso para escribir el registro de instalación %1.</translation>
+        <translation>No tiene permiso para escribir en el registro de instalación %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Concédase permiso para escribir en ella.</translation>
+        <translation>Conceda a su usuario permiso para escribir allí.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Rehearsal</name>
     <message>
         <source>%1 is a folder, and stays.</source>
-        <translation>%1 es una carpeta y se queda.</translation>
+        <translation>%1 es una carpeta y no se elimina.</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
-        <translation>%1 no se puede copiar en %2: en su lugar hay una carpeta, o un enlace que no lleva a ninguna parte.</translation>
+        <translation>No se puede copiar %1 en %2: ese lugar lo ocupa una carpeta o un enlace roto.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
-        <translation>%1 no se puede copiar: falta entre los archivos incluidos. Lo que hay en su lugar se elimina de todos modos.</translation>
+        <translation>No se puede copiar %1: falta entre los archivos incluidos. Lo que hay en el destino se elimina de todos modos.</translation>
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
@@ -833,11 +833,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
-        <translation>%1 no se puede copiar en %2: no tiene permiso para escribir allí, o falta la carpeta.</translation>
+        <translation>No se puede copiar %1 en %2: no tiene permiso para escribir allí, o falta la carpeta.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
-        <translation>%1 no se puede copiar: no tiene permiso para leerlo. Lo que hay en su lugar se elimina de todos modos.</translation>
+        <translation>No se puede copiar %1: no tiene permiso para leerlo. Lo que hay en el destino se elimina de todos modos.</translation>
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
@@ -845,7 +845,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
-        <translation>%1 no se puede crear: no tiene permiso para escribir allí, o falta la carpeta.</translation>
+        <translation>No se puede crear %1: no tiene permiso para escribir allí, o falta la carpeta.</translation>
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
@@ -856,7 +856,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     <name>Quillmont::Utility::Doctor::TextReport</name>
     <message>
         <source>The catalogue has no simulator.</source>
-        <translation>El catálogo no tiene ningún simulador.</translation>
+        <translation>El catálogo no contiene ningún simulador.</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -880,7 +880,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>Folder: %1, known by: %2</source>
-        <translation>Carpeta: %1, conocida por: %2</translation>
+        <translation>Carpeta: %1, origen: %2</translation>
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
@@ -924,7 +924,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
-        <translation>La entrada %1 de otro programa nombra un archivo que no está: %2</translation>
+        <translation>La entrada %1 de otro programa indica un archivo que no existe: %2</translation>
     </message>
     <message>
         <source>Configuration: %1, missing</source>
@@ -944,23 +944,23 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>Ninguna entrada nuestra</translation>
+        <translation>Ninguna entrada de Orbwell</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
-        <translation>Nuestra entrada: está una vez, desactivada, para %1</translation>
+        <translation>Entrada de Orbwell: aparece una vez, desactivada, archivo: %1</translation>
     </message>
     <message>
         <source>Our entry: there once, enabled, for %1</source>
-        <translation>Nuestra entrada: está una vez, activada, para %1</translation>
+        <translation>Entrada de Orbwell: aparece una vez, activada, archivo: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, disabled, for %1</source>
-        <translation>Nuestra entrada: está %2 veces, desactivada, para %1</translation>
+        <translation>Entrada de Orbwell: aparece %2 veces, desactivada, archivo: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, enabled, for %1</source>
-        <translation>Nuestra entrada: está %2 veces, activada, para %1</translation>
+        <translation>Entrada de Orbwell: aparece %2 veces, activada, archivo: %1</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
@@ -1004,7 +1004,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>no named file</source>
-        <translation>ningún archivo</translation>
+        <translation>no indicado</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1012,7 +1012,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>Configuration: %1, a link that leads nowhere</source>
-        <translation>Configuración: %1, un enlace que no lleva a ninguna parte</translation>
+        <translation>Configuración: %1, un enlace roto</translation>
     </message>
 </context>
 <context>
@@ -1075,7 +1075,7 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
-        <translation>&lt;%1&gt; en la línea %2 termina con &lt;/%3&gt; en la línea %4: las mayúsculas y minúsculas cuentan.</translation>
+        <translation>&lt;%1&gt; en la línea %2 termina con &lt;/%3&gt; en la línea %4: se distinguen mayúsculas y minúsculas.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
@@ -1083,11 +1083,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
-        <translation>&lt;%1&gt; en la línea %2 nunca se cierra; antes llegó &lt;/%3&gt; en la línea %4.</translation>
+        <translation>&lt;%1&gt; en la línea %2 nunca se cierra; antes aparece &lt;/%3&gt; en la línea %4.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
-        <translation>&lt;/%1&gt; aparece por segunda vez en la línea %2: detrás del documento está el resto de un archivo anterior más largo.</translation>
+        <translation>&lt;/%1&gt; aparece por segunda vez en la línea %2: después del documento está el resto de un archivo anterior más largo.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
@@ -1099,11 +1099,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>%1 in line %2 is no tag; what is meant is %3.</source>
-        <translation>%1 en la línea %2 no es una etiqueta; se quiere decir %3.</translation>
+        <translation>%1 en la línea %2 no es una etiqueta; debería ser %3.</translation>
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>Detrás del final del documento, en la línea %1, hay más texto: ¿el resto de un archivo anterior más largo?</translation>
+        <translation>Después del final del documento, en la línea %1, hay más texto: ¿el resto de un archivo anterior más largo?</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
@@ -1115,11 +1115,11 @@ Estado: 0 todo está bien, 1 algo está mal, 2 no se pudo mirar.
     </message>
     <message>
         <source>A quotation mark is missing in a tag in line %1.</source>
-        <translation>Faltan unas comillas en una etiqueta de la línea %1.</translation>
+        <translation>Falta una comilla en una etiqueta de la línea %1.</translation>
     </message>
     <message>
         <source>The value of %1 in line %2 has no quotation marks.</source>
-        <translation>El valor de %1 en la línea %2 no tiene comillas.</translation>
+        <translation>El valor de %1 en la línea %2 no está entre comillas.</translation>
     </message>
 </context>
 <context>

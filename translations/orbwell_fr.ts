@@ -5,42 +5,42 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Donnez-vous le droit de le lire.</translation>
+        <translation>Accordez-vous le droit de lecture sur ce fichier.</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
-        <translation>Déplacez-le, ou réduisez-le à la main.</translation>
+        <translation>Déplacez-le ailleurs, ou réduisez sa taille à la main.</translation>
     </message>
     <message>
         <source>Move it away.</source>
-        <translation>Déplacez-le.</translation>
+        <translation>Déplacez-le ailleurs.</translation>
     </message>
     <message>
         <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur peut ne charger aucun module complémentaire.</translation>
+        <translation>Réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur risque de ne charger aucun add-on.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Restaurez la sauvegarde du %1, ou réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur peut ne charger aucun module complémentaire.</translation>
+        <translation>Restaurez la sauvegarde du %1, ou réparez le fichier à la main&#xa0;; d’ici là, rien n’y est modifié, et le simulateur risque de ne charger aucun add-on.</translation>
     </message>
     <message>
         <source>Move it away; until then the simulator may load no add-on at all.</source>
-        <translation>Déplacez-le&#xa0;; d’ici là, le simulateur peut ne charger aucun module complémentaire.</translation>
+        <translation>Déplacez-le ailleurs&#xa0;; d’ici là, le simulateur risque de ne charger aucun add-on.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
-        <translation>Restaurez la sauvegarde du %1&#xa0;; d’ici là, le simulateur peut ne charger aucun module complémentaire.</translation>
+        <translation>Restaurez la sauvegarde du %1&#xa0;; d’ici là, le simulateur risque de ne charger aucun add-on.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
-        <translation>Ce n’est pas du JSON&#xa0;: %1. Le programme ne voit aucun simulateur.</translation>
+        <translation>Ce n’est pas du JSON valide&#xa0;: %1. Le programme ne reconnaît aucun simulateur.</translation>
     </message>
     <message>
         <source>It is no array. The program sees no simulator.</source>
-        <translation>Ce n’est pas un tableau. Le programme ne voit aucun simulateur.</translation>
+        <translation>Ce n’est pas un tableau JSON. Le programme ne reconnaît aucun simulateur.</translation>
     </message>
     <message>
         <source>The key is there twice; the last one counts.</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>Son type est %1, et non %2&#xa0;; elle compte comme absente.</translation>
+        <translation>Le type est %1, et non %2&#xa0;; la valeur est considérée comme absente.</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>La ligne %1 a le même nom&#xa0;; les deux partagent un même enregistrement et un même dossier choisi.</translation>
+        <translation>La ligne %1 a le même nom&#xa0;; les deux partagent un même enregistrement dans le registre d’installation et un même dossier choisi.</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>Il n’y a pas de fichiers&#xa0;; rien n’est installé, et l’entrée compte comme installée.</translation>
+        <translation>Aucun fichier n’est indiqué&#xa0;; rien n’est installé, et le plugin est considéré comme installé.</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,27 +72,27 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>Il n’y a pas de destination&#xa0;; c’est le dossier du simulateur lui-même.</translation>
+        <translation>Aucune destination n’est indiquée&#xa0;; c’est alors le dossier du simulateur lui-même.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; mène hors du dossier du simulateur&#xa0;; le fichier y est écrit.</translation>
+        <translation>&quot;..&quot; mène hors du dossier du simulateur&#xa0;; le fichier est écrit à l’extérieur.</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
-        <translation>Un autre fichier a la même destination&#xa0;; le dernier est copié.</translation>
+        <translation>Un autre fichier a la même destination&#xa0;; c’est le dernier qui est copié.</translation>
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>N’est lu qu’à côté d’un &quot;config&quot; qui est null ou n’est pas vide&#xa0;; c’est ignoré.</translation>
+        <translation>Cette clé n’est lue qu’à côté d’un &quot;config&quot; qui est null ou non vide&#xa0;; ici, elle est ignorée.</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
-        <translation>&quot;type&quot; n’est pas 0&#xa0;; aucun fichier de configuration n’est donc touché.</translation>
+        <translation>&quot;type&quot; n’est pas 0&#xa0;; aucun fichier de configuration n’est donc modifié.</translation>
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
-        <translation>Il n’y a pas de chemin&#xa0;; aucun fichier ne peut être modifié.</translation>
+        <translation>Aucun chemin n’est indiqué&#xa0;; aucun fichier ne peut être modifié.</translation>
     </message>
     <message>
         <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
@@ -100,27 +100,27 @@
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>Cette entrée s’installe, mais ne peut pas être supprimée&#xa0;: aucune paire de &quot;values&quot; n’est ce que &quot;remove&quot; recherche.</translation>
+        <translation>Cette entrée s’installe, mais ne peut pas être supprimée&#xa0;: aucune paire de &quot;values&quot; ne correspond à ce que &quot;remove&quot; recherche.</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
-        <translation>Seul l’élément enfant est supprimé, et le reste de l’entrée demeure&#xa0;: &quot;delete_parent&quot; n’est pas true.</translation>
+        <translation>Seul l’élément enfant est supprimé, et le reste de l’entrée est conservé&#xa0;: &quot;delete_parent&quot; n’est pas true.</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
-        <translation>Tout est en ordre.</translation>
+        <translation>Tout va bien.</translation>
     </message>
     <message>
         <source>It is no whole number; it counts as 0.</source>
-        <translation>Ce n’est pas un nombre entier&#xa0;; cela compte comme 0.</translation>
+        <translation>Ce n’est pas un nombre entier&#xa0;; la valeur compte pour 0.</translation>
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
-        <translation>Cette &quot;location&quot; n’existe pas&#xa0;; l’entrée elle-même ne trouve jamais rien.</translation>
+        <translation>Cette &quot;location&quot; n’existe pas&#xa0;; à elle seule, l’entrée ne trouve jamais rien.</translation>
     </message>
     <message>
         <source>It shares its chosen folder with the name in line %1.</source>
-        <translation>Il partage son dossier choisi avec le nom de la ligne %1.</translation>
+        <translation>Ce nom partage son dossier choisi avec celui de la ligne %1.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the payload.</source>
@@ -128,11 +128,11 @@
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
-        <translation>Sans &quot;config&quot;, aucun fichier de configuration n’est touché.</translation>
+        <translation>Sans &quot;config&quot;, aucun fichier de configuration n’est modifié.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; mène hors du dossier de ces fichiers.</translation>
+        <translation>&quot;..&quot; mène hors du dossier des fichiers de configuration.</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Start the simulator once from Steam, then install again.</source>
-        <translation>Démarrez une fois le simulateur depuis Steam, puis réinstallez.</translation>
+        <translation>Lancez une fois le simulateur depuis Steam, puis réinstallez le plugin.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Donnez-vous le droit d’y écrire.</translation>
+        <translation>Accordez-vous le droit d’écriture à cet endroit.</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>Uninstall and install again; the file is made anew.</source>
-        <translation>Désinstallez, puis réinstallez&#xa0;; le fichier sera recréé.</translation>
+        <translation>Désinstallez le plugin, puis réinstallez-le&#xa0;; le fichier sera recréé.</translation>
     </message>
     <message>
         <source>The configuration file %1 cannot be read: %2.</source>
@@ -171,23 +171,23 @@
     </message>
     <message>
         <source>Uninstall and install again.</source>
-        <translation>Désinstallez, puis réinstallez.</translation>
+        <translation>Désinstallez le plugin, puis réinstallez-le.</translation>
     </message>
     <message>
         <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
-        <translation>Les fichiers du plugin sont présents, mais %1 n’a pas d’entrée pour lui.</translation>
+        <translation>Les fichiers du plugin sont présents, mais %1 ne contient aucune entrée pour ce plugin.</translation>
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 a une entrée pour le plugin, dont les fichiers sont absents.</translation>
+        <translation>%1 contient une entrée pour le plugin, mais les fichiers de celui-ci sont absents.</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>Installez-le, ou désinstallez-le pour retirer l’entrée.</translation>
+        <translation>Installez le plugin, ou désinstallez-le pour supprimer l’entrée.</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>Notre entrée est dans %1 %2 fois.</translation>
+        <translation>Notre entrée figure %2 fois dans %1.</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Delete the link, then install.</source>
-        <translation>Supprimez le lien, puis installez.</translation>
+        <translation>Supprimez le lien, puis installez le plugin.</translation>
     </message>
     <message>
         <source>You may not change the configuration file %1, or not write in its folder.</source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>The catalogue has no simulator %1.</source>
-        <translation>Le catalogue n’a pas de simulateur %1.</translation>
+        <translation>Le catalogue ne contient pas de simulateur %1.</translation>
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>The answer cannot be written: %1.</source>
-        <translation>La réponse ne peut pas être écrite&#xa0;: %1.</translation>
+        <translation>Le résultat ne peut pas être écrit&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The catalogue %1 cannot be read: %2.</source>
@@ -245,7 +245,7 @@
     <name>Quillmont::Utility::Doctor::Examination</name>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Son dossier %1 a disparu.</translation>
+        <translation>Son dossier %1 n’existe plus.</translation>
     </message>
     <message>
         <source>Choose its folder in the window.</source>
@@ -257,11 +257,11 @@
     </message>
     <message>
         <source>Make room on the disk of %1.</source>
-        <translation>Libérez de l’espace sur le disque de %1.</translation>
+        <translation>Libérez de l’espace sur le disque où se trouve %1.</translation>
     </message>
     <message>
         <source>The disk has room for %1 bytes; what is written there takes %2.</source>
-        <translation>Le disque a %1 octets libres&#xa0;; ce qui y est écrit en demande %2.</translation>
+        <translation>Espace libre sur le disque&#xa0;: %1 octets&#xa0;; il en faut %2 pour ce qui y est écrit.</translation>
     </message>
 </context>
 <context>
@@ -276,7 +276,7 @@
     </message>
     <message>
         <source>Uninstall and install again.</source>
-        <translation>Désinstallez, puis réinstallez.</translation>
+        <translation>Désinstallez le plugin, puis réinstallez-le.</translation>
     </message>
     <message>
         <source>In the place of %1 is a link that leads nowhere.</source>
@@ -284,31 +284,31 @@
     </message>
     <message>
         <source>Delete the link, then install.</source>
-        <translation>Supprimez le lien, puis installez.</translation>
+        <translation>Supprimez le lien, puis installez le plugin.</translation>
     </message>
     <message>
         <source>%1 is no regular file.</source>
-        <translation>%1 n’est pas un fichier ordinaire.</translation>
+        <translation>Ce n’est pas un fichier ordinaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Move it away, then install.</source>
-        <translation>Déplacez ce qui s’y trouve, puis installez.</translation>
+        <translation>Déplacez ailleurs ce qui s’y trouve, puis installez le plugin.</translation>
     </message>
     <message>
         <source>Only a part of the plugin is there; %1 is missing.</source>
-        <translation>Seule une partie du plugin est présente&#xa0;; il manque %1.</translation>
+        <translation>Seule une partie du plugin est présente&#xa0;; il manque&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Install it.</source>
-        <translation>Installez-le.</translation>
+        <translation>Installez le plugin.</translation>
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 diffère du fichier fourni avec ce programme&#xa0;: une autre version, ou un fichier endommagé.</translation>
+        <translation>Différent du fichier fourni avec ce programme&#xa0;: %1 (autre version ou fichier endommagé).</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>%1 ne peut pas être lu.</translation>
+        <translation>Lecture impossible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>You may not write in the folder of %1.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Donnez-vous le droit d’y écrire.</translation>
+        <translation>Accordez-vous le droit d’écriture à cet endroit.</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Donnez-vous le droit de le lire.</translation>
+        <translation>Accordez-vous le droit de lecture sur ce fichier.</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
@@ -332,26 +332,26 @@
     </message>
     <message>
         <source>%1 is a file where a folder has to be.</source>
-        <translation>%1 est un fichier&#xa0;; un dossier doit se trouver à cette place.</translation>
+        <translation>%1 est un fichier&#xa0;; il faut un dossier à cet endroit.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1&#xa0;: un plan est pour &quot;install&quot;, &quot;repair&quot; ou &quot;uninstall&quot;.</translation>
+        <translation>%1&#xa0;: il n’y a de plan que pour &quot;install&quot;, &quot;repair&quot; ou &quot;uninstall&quot;.</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
-        <translation>--catalogue demande un fichier.</translation>
+        <translation>--catalogue nécessite un fichier.</translation>
     </message>
     <message>
         <source>Unknown option %1.</source>
-        <translation>Option inconnue %1.</translation>
+        <translation>Option inconnue&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Unknown option %1. Is %2 meant?</source>
-        <translation>Option inconnue %1. Vouliez-vous dire %2&#xa0;?</translation>
+        <translation>Option inconnue&#xa0;: %1. Vouliez-vous dire %2&#xa0;?</translation>
     </message>
     <message>
         <source>Usage: orbwell-doctor [OPTION...] [NAME...]
@@ -367,7 +367,7 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>Usage&#xa0;: orbwell-doctor [OPTION...] [NOM...]
-Dit ce qui ne va pas dans les simulateurs et le plugin Orbwell. Ne modifie rien.
+Indique ce qui ne va pas dans les simulateurs et leur plugin Orbwell. Ne modifie rien.
 
   --json               le rapport, le plan ou le contrôle en JSON
   --plan[=ACTION]      ce que ferait &quot;install&quot; (par défaut), &quot;repair&quot; ou &quot;uninstall&quot;
@@ -375,8 +375,8 @@ Dit ce qui ne va pas dans les simulateurs et le plugin Orbwell. Ne modifie rien.
   --check-catalogue    seulement ce qui ne va pas dans le catalogue
   --help, --version
 
-Des NOMs limitent le rapport ou le plan à ces simulateurs.
-Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
+Avec NOM, le rapport et le plan se limitent à ces simulateurs.
+Code de retour&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
 </translation>
     </message>
     <message>
@@ -392,19 +392,19 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     <name>Quillmont::Utility::Doctor::Plan</name>
     <message>
         <source>No simulator is found, so nothing would change.</source>
-        <translation>Aucun simulateur n’est trouvé&#xa0;; rien ne changerait donc.</translation>
+        <translation>Aucun simulateur n’a été trouvé&#xa0;; rien ne changerait donc.</translation>
     </message>
     <message>
         <source>Folder made: %1</source>
-        <translation>Dossier créé&#xa0;: %1</translation>
+        <translation>Dossier à créer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Folder removed: %1</source>
-        <translation>Dossier supprimé&#xa0;: %1</translation>
+        <translation>Dossier à supprimer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Backup made: %1</source>
-        <translation>Sauvegarde créée&#xa0;: %1</translation>
+        <translation>Sauvegarde à créer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -424,11 +424,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>File made: %1</source>
-        <translation>Fichier créé&#xa0;: %1</translation>
+        <translation>Fichier à créer&#xa0;: %1</translation>
     </message>
     <message>
         <source>File replaced: %1</source>
-        <translation>Fichier remplacé&#xa0;: %1</translation>
+        <translation>Fichier à remplacer&#xa0;: %1</translation>
     </message>
     <message>
         <source>File unchanged: %1</source>
@@ -436,15 +436,15 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>File removed: %1</source>
-        <translation>Fichier supprimé&#xa0;: %1</translation>
+        <translation>Fichier à supprimer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Configuration made: %1</source>
-        <translation>Configuration créée&#xa0;: %1</translation>
+        <translation>Configuration à créer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Configuration changed: %1</source>
-        <translation>Configuration modifiée&#xa0;: %1</translation>
+        <translation>Configuration à modifier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Configuration unchanged: %1</source>
@@ -452,27 +452,27 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Record made: %1</source>
-        <translation>Registre créé&#xa0;: %1</translation>
+        <translation>Registre d’installation à créer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Record changed: %1</source>
-        <translation>Registre modifié&#xa0;: %1</translation>
+        <translation>Registre d’installation à modifier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Record unchanged: %1</source>
-        <translation>Registre inchangé&#xa0;: %1</translation>
+        <translation>Registre d’installation inchangé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Son dossier %1 a disparu.</translation>
+        <translation>Son dossier %1 n’existe plus.</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>Bouton de la fenêtre&#xa0;: &quot;Installer Orbwell&quot;</translation>
+        <translation>Bouton de la fenêtre&#xa0;: «&#xa0;Installer Orbwell&#xa0;»</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>Bouton de la fenêtre&#xa0;: &quot;Désinstaller Orbwell&quot;</translation>
+        <translation>Bouton de la fenêtre&#xa0;: «&#xa0;Désinstaller Orbwell&#xa0;»</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
@@ -507,11 +507,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>the catalogue&apos;s file</source>
-        <translation>le fichier du catalogue</translation>
+        <translation>le fichier indiqué dans le catalogue</translation>
     </message>
     <message>
         <source>the catalogue&apos;s folder</source>
-        <translation>le dossier du catalogue</translation>
+        <translation>le dossier indiqué dans le catalogue</translation>
     </message>
     <message>
         <source>no such folder</source>
@@ -527,31 +527,31 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>no permission to look inside</source>
-        <translation>pas le droit de regarder à l’intérieur</translation>
+        <translation>pas le droit d’en lire le contenu</translation>
     </message>
     <message>
         <source>no file &quot;version&quot; that begins with a version number</source>
-        <translation>pas de fichier &quot;version&quot; qui commence par un numéro</translation>
+        <translation>pas de fichier &quot;version&quot; qui commence par un numéro de version</translation>
     </message>
     <message>
         <source>no defaults.xml or preferences.xml</source>
-        <translation>pas de defaults.xml ni de preferences.xml</translation>
+        <translation>ni defaults.xml ni preferences.xml</translation>
     </message>
     <message>
         <source>no InstalledPackagesPath in it</source>
-        <translation>pas d’InstalledPackagesPath dedans</translation>
+        <translation>sans InstalledPackagesPath</translation>
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>son InstalledPackagesPath n’est sur aucun lecteur</translation>
+        <translation>son InstalledPackagesPath ne commence pas par une lettre de lecteur</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
-        <translation>pas de Community, d’Official/Steam ni d’Official/OneStore</translation>
+        <translation>pas de dossier Community, Official/Steam ou Official/OneStore</translation>
     </message>
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
-        <translation>pas de Community, d’Official2024 ni de StreamedPackages</translation>
+        <translation>pas de dossier Community, Official2024 ou StreamedPackages</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -559,11 +559,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>too large</source>
-        <translation>trop gros</translation>
+        <translation>trop volumineux</translation>
     </message>
     <message>
         <source>too much to read altogether</source>
-        <translation>trop à lire au total</translation>
+        <translation>trop de données à lire au total</translation>
     </message>
     <message>
         <source>no fsx.exe</source>
@@ -571,23 +571,23 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>no SimObjects</source>
-        <translation>pas de SimObjects</translation>
+        <translation>pas de dossier SimObjects</translation>
     </message>
     <message>
         <source>no scenery</source>
-        <translation>pas de scenery</translation>
+        <translation>pas de dossier scenery</translation>
     </message>
     <message>
         <source>no aircraft</source>
-        <translation>pas d’aircraft</translation>
+        <translation>pas de dossier aircraft</translation>
     </message>
     <message>
         <source>no main.mcf or tm.log</source>
-        <translation>pas de main.mcf ni de tm.log</translation>
+        <translation>ni main.mcf ni tm.log</translation>
     </message>
     <message>
         <source>it has no Proton prefix</source>
-        <translation>il n’a pas de préfixe Proton</translation>
+        <translation>pas de préfixe Proton</translation>
     </message>
     <message>
         <source>no list of libraries</source>
@@ -607,11 +607,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>no AppState in it</source>
-        <translation>pas d’AppState dedans</translation>
+        <translation>sans AppState</translation>
     </message>
     <message>
         <source>it is about another game</source>
-        <translation>il s’agit d’un autre jeu</translation>
+        <translation>concerne un autre jeu</translation>
     </message>
     <message>
         <source>installdir is not a plain name</source>
@@ -619,7 +619,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>no Resources/plugins</source>
-        <translation>pas de Resources/plugins</translation>
+        <translation>pas de dossier Resources/plugins</translation>
     </message>
     <message>
         <source>no X-Plane executable</source>
@@ -631,7 +631,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>il est pris pour %1</translation>
+        <translation>déjà reconnu comme %1</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -671,7 +671,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>Aucun XML n’a ce caractère.</translation>
+        <translation>Ce caractère n’est pas admis en XML.</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -687,11 +687,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Undecodable bytes would be read otherwise.</source>
-        <translation>Des octets indécodables seraient lus autrement.</translation>
+        <translation>Des octets indécodables seraient ensuite lus autrement.</translation>
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
-        <translation>Une valeur n’est pas un texte que XML peut contenir.</translation>
+        <translation>Une valeur contient du texte qui n’est pas admis en XML.</translation>
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
@@ -703,7 +703,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>A name or a value is none that XML can hold.</source>
-        <translation>Un nom ou une valeur n’est pas de ceux que XML peut contenir.</translation>
+        <translation>Un nom ou une valeur n’est pas admis en XML.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold a name.</source>
@@ -715,15 +715,15 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>too big</source>
-        <translation>trop gros</translation>
+        <translation>trop volumineux</translation>
     </message>
     <message>
         <source>its name is not valid text</source>
-        <translation>son nom n’est pas un texte valide</translation>
+        <translation>le nom n’est pas un texte valide</translation>
     </message>
     <message>
         <source>the catalogue&apos;s location</source>
-        <translation>la &quot;location&quot; du catalogue</translation>
+        <translation>la &quot;location&quot; indiquée dans le catalogue</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -731,7 +731,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>no registry on this system</source>
-        <translation>pas de base de registre sur ce système</translation>
+        <translation>pas de base de registre Windows sur ce système</translation>
     </message>
     <message>
         <source>looked for on Windows only</source>
@@ -754,11 +754,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
-        <translation>Le registre d’installation %1 est endommagé&#xa0;; ce qu’il disait est perdu.</translation>
+        <translation>Le registre d’installation %1 est endommagé&#xa0;; son contenu est perdu.</translation>
     </message>
     <message>
         <source>Install again; a new record is written then.</source>
-        <translation>Réinstallez&#xa0;; un nouveau registre sera alors écrit.</translation>
+        <translation>Réinstallez le plugin&#xa0;; un nouveau registre d’installation sera alors écrit.</translation>
     </message>
     <message>
         <source>The plugin is there, but not in the installation record.</source>
@@ -766,27 +766,27 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>Cliquez sur &quot;Rechercher &amp; installer&quot; dans la fenêtre&#xa0;; il y sera alors inscrit.</translation>
+        <translation>Cliquez sur «&#xa0;Rechercher &amp; installer&#xa0;» dans la fenêtre&#xa0;; le plugin sera alors inscrit au registre d’installation.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
-        <translation>Selon le registre d’installation, le plugin est dans %1, mais des fichiers y manquent.</translation>
+        <translation>Selon le registre d’installation, le plugin est installé dans %1, mais il y manque des fichiers.</translation>
     </message>
     <message>
         <source>Install it again.</source>
-        <translation>Réinstallez-le.</translation>
+        <translation>Réinstallez le plugin.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
-        <translation>Selon le registre d’installation, le plugin est dans %1, et non dans %2. Les exécutions sans surveillance agissent sur le premier dossier, la fenêtre sur le second.</translation>
+        <translation>Selon le registre d’installation, le plugin est installé dans %1, et non dans %2. Les exécutions sans assistance agissent sur le premier dossier, la fenêtre sur le second.</translation>
     </message>
     <message>
         <source>Choose the folder in the window, then install or uninstall there.</source>
-        <translation>Choisissez le dossier dans la fenêtre, puis installez ou désinstallez à cet endroit.</translation>
+        <translation>Choisissez le dossier dans la fenêtre, puis installez ou désinstallez le plugin à cet endroit.</translation>
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>Le registre d’installation contient %1 dans %2, que le catalogue ne connaît plus.</translation>
+        <translation>Le registre d’installation mentionne %1 dans %2&#xa0;; ce simulateur ne figure plus dans le catalogue.</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
@@ -802,34 +802,34 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>You may not write the installation record %1.</source>
-        <translation>Vous n’avez pas le droit d’écrire le registre d’installation %1.</translation>
+        <translation>Vous n’avez pas le droit d’écrire dans le registre d’installation %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Donnez-vous le droit d’y écrire.</translation>
+        <translation>Accordez-vous le droit d’écriture à cet endroit.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Rehearsal</name>
     <message>
         <source>%1 is a folder, and stays.</source>
-        <translation>%1 est un dossier, et demeure.</translation>
+        <translation>%1 est un dossier et reste en place.</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
-        <translation>%1 ne peut pas être copié vers %2&#xa0;: un dossier, ou un lien qui ne mène nulle part, se trouve à cette place.</translation>
+        <translation>%1 ne peut pas être copié vers %2&#xa0;: sa place est occupée par un dossier ou par un lien qui ne mène nulle part.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
-        <translation>%1 ne peut pas être copié&#xa0;: il manque parmi les fichiers fournis. Ce qui est à sa place est tout de même supprimé.</translation>
+        <translation>Le fichier %1 ne peut pas être copié&#xa0;: il ne figure pas parmi les fichiers fournis. Ce qui se trouve à la destination est tout de même supprimé.</translation>
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
-        <translation>%1 reste tel quel&#xa0;: %2</translation>
+        <translation>%1 reste inchangé&#xa0;: %2</translation>
     </message>
     <message>
         <source>The record %1 stays as it is: %2</source>
-        <translation>Le registre %1 reste tel quel&#xa0;: %2</translation>
+        <translation>Le registre d’installation %1 reste inchangé&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
@@ -837,7 +837,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
-        <translation>%1 ne peut pas être copié&#xa0;: vous n’avez pas le droit de le lire. Ce qui est à sa place est tout de même supprimé.</translation>
+        <translation>Le fichier %1 ne peut pas être copié&#xa0;: vous n’avez pas le droit de le lire. Ce qui se trouve à la destination est tout de même supprimé.</translation>
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
@@ -849,14 +849,14 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
-        <translation>%1 reste tel quel&#xa0;: vous n’avez pas le droit de le modifier ou d’écrire dans son dossier.</translation>
+        <translation>%1 reste inchangé&#xa0;: vous n’avez pas le droit de le modifier ou d’écrire dans son dossier.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::TextReport</name>
     <message>
         <source>The catalogue has no simulator.</source>
-        <translation>Le catalogue n’a aucun simulateur.</translation>
+        <translation>Le catalogue ne contient aucun simulateur.</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -880,7 +880,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Folder: %1, known by: %2</source>
-        <translation>Dossier&#xa0;: %1, connu par&#xa0;: %2</translation>
+        <translation>Dossier&#xa0;: %1, source&#xa0;: %2</translation>
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
@@ -912,7 +912,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Folders or devices in place of files: %1</source>
-        <translation>Dossiers ou périphériques à la place de fichiers&#xa0;: %1</translation>
+        <translation>Dossiers ou fichiers de périphérique à la place de fichiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>Bytes that are not valid in this encoding, from line %1 on</source>
@@ -944,7 +944,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>Aucune entrée de notre part</translation>
+        <translation>Notre entrée&#xa0;: absente</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
@@ -972,11 +972,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Record: agrees</source>
-        <translation>Registre&#xa0;: concordant</translation>
+        <translation>Registre d’installation&#xa0;: concordant</translation>
     </message>
     <message>
         <source>Record: in %1</source>
-        <translation>Registre&#xa0;: dans %1</translation>
+        <translation>Selon le registre d’installation&#xa0;: dans %1</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
@@ -984,11 +984,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Record</source>
-        <translation>Registre</translation>
+        <translation>Registre d’installation</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
-        <translation>Tout est en ordre.</translation>
+        <translation>Tout va bien.</translation>
     </message>
     <message>
         <source>What to do:</source>
@@ -1004,7 +1004,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>no named file</source>
-        <translation>aucun fichier</translation>
+        <translation>aucun fichier précis</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1047,7 +1047,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>There are two root elements: somebody appended a second document in line %1.</source>
-        <translation>Il y a deux éléments racines&#xa0;: un second document a été ajouté à la ligne %1.</translation>
+        <translation>Il y a deux éléments racines&#xa0;: quelqu’un a ajouté un second document à la ligne %1.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
@@ -1083,11 +1083,11 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
-        <translation>&lt;%1&gt; à la ligne %2 n’est jamais fermé&#xa0;; &lt;/%3&gt; à la ligne %4 est venu avant.</translation>
+        <translation>&lt;%1&gt; à la ligne %2 n’est jamais fermé&#xa0;; &lt;/%3&gt; à la ligne %4 apparaît avant.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
-        <translation>&lt;/%1&gt; apparaît une seconde fois à la ligne %2&#xa0;: après le document se trouve la fin d’un ancien fichier plus long.</translation>
+        <translation>&lt;/%1&gt; apparaît une seconde fois à la ligne %2&#xa0;: après le document se trouve la fin d’un fichier plus ancien et plus long.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
@@ -1095,7 +1095,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
-        <translation>&quot;&lt;&quot; à la ligne %1 ne commence aucune balise&#xa0;; comme texte, on écrit &quot;&amp;lt;&quot;.</translation>
+        <translation>&quot;&lt;&quot; à la ligne %1 ne commence aucune balise&#xa0;; dans du texte, on l’écrit &quot;&amp;lt;&quot;.</translation>
     </message>
     <message>
         <source>%1 in line %2 is no tag; what is meant is %3.</source>
@@ -1103,7 +1103,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>Après la fin du document, à la ligne %1, il y a encore du texte&#xa0;: la fin d’un ancien fichier plus long&#xa0;?</translation>
+        <translation>Après la fin du document, à la ligne %1, il y a encore du texte&#xa0;: la fin d’un fichier plus ancien et plus long&#xa0;?</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
@@ -1119,7 +1119,7 @@ Statut&#xa0;: 0 tout va bien, 1 quelque chose ne va pas, 2 examen impossible.
     </message>
     <message>
         <source>The value of %1 in line %2 has no quotation marks.</source>
-        <translation>La valeur de %1 à la ligne %2 n’a pas de guillemets.</translation>
+        <translation>La valeur de %1 à la ligne %2 n’est pas entre guillemets.</translation>
     </message>
 </context>
 <context>

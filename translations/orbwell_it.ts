@@ -5,11 +5,11 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
+        <translation>Assegnare al proprio utente l’autorizzazione a leggerlo.</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
-        <translation>Spostarlo altrove o ridurlo a mano.</translation>
+        <translation>Spostarlo altrove o ridurne manualmente le dimensioni.</translation>
     </message>
     <message>
         <source>Move it away.</source>
@@ -17,19 +17,19 @@
     </message>
     <message>
         <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Correggere il file a mano; fino ad allora non vi viene modificato nulla, e il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+        <translation>Correggere il file manualmente; fino ad allora non vi verrà modificato nulla e il simulatore potrebbe non caricare alcun add-on.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Ripristinare il backup del %1 o correggere il file a mano; fino ad allora non vi viene modificato nulla, e il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+        <translation>Ripristinare il backup del %1 o correggere il file manualmente; fino ad allora non vi verrà modificato nulla e il simulatore potrebbe non caricare alcun add-on.</translation>
     </message>
     <message>
         <source>Move it away; until then the simulator may load no add-on at all.</source>
-        <translation>Spostarlo altrove; fino ad allora il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+        <translation>Spostarlo altrove; fino ad allora il simulatore potrebbe non caricare alcun add-on.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
-        <translation>Ripristinare il backup del %1; fino ad allora il simulatore potrebbe non caricare alcun componente aggiuntivo.</translation>
+        <translation>Ripristinare il backup del %1; fino ad allora il simulatore potrebbe non caricare alcun add-on.</translation>
     </message>
 </context>
 <context>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>Il suo tipo è %1, non %2; vale come mancante.</translation>
+        <translation>Il suo tipo è %1, non %2; viene considerato mancante.</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>La riga %1 ha lo stesso nome; entrambi condividono un’unica registrazione e un’unica cartella scelta.</translation>
+        <translation>Alla riga %1 c’è lo stesso nome; le due voci condividono un unico registro e un’unica cartella scelta.</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>Non ci sono file; non viene installato nulla, e la voce vale come installata.</translation>
+        <translation>Non ci sono file; non viene installato nulla e la voce è considerata installata.</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,11 +72,11 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>Non c’è una destinazione; è la cartella stessa del simulatore.</translation>
+        <translation>Non c’è una destinazione; viene usata la cartella stessa del simulatore.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; porta fuori dalla cartella del simulatore; il file viene scritto lì.</translation>
+        <translation>&quot;..&quot; porta fuori dalla cartella del simulatore; il file viene scritto al di fuori di essa.</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
@@ -84,11 +84,11 @@
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>Viene letto solo accanto a un &quot;config&quot; che sia null o non vuoto; viene ignorato.</translation>
+        <translation>Viene letto solo accanto a un &quot;config&quot; che sia null o non vuoto; qui viene ignorato.</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
-        <translation>&quot;type&quot; non è 0, quindi nessun file di configurazione viene toccato.</translation>
+        <translation>&quot;type&quot; non è 0, quindi non viene modificato alcun file di configurazione.</translation>
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>Questa voce si installa, ma non può essere rimossa: nessuna coppia di &quot;values&quot; è ciò che cerca &quot;remove&quot;.</translation>
+        <translation>Questa voce viene installata, ma non può essere rimossa: nessuna coppia di &quot;values&quot; corrisponde a ciò che cerca &quot;remove&quot;.</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
-        <translation>Viene rimosso solo l’elemento figlio, e il resto della voce rimane: &quot;delete_parent&quot; non è true.</translation>
+        <translation>Viene rimosso solo l’elemento figlio e il resto della voce rimane: &quot;delete_parent&quot; non è true.</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>It is no whole number; it counts as 0.</source>
-        <translation>Non è un numero intero; vale come 0.</translation>
+        <translation>Non è un numero intero; viene interpretato come 0.</translation>
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
@@ -128,15 +128,15 @@
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
-        <translation>Senza &quot;config&quot; nessun file di configurazione viene toccato.</translation>
+        <translation>Senza &quot;config&quot; non viene modificato alcun file di configurazione.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; porta fuori dalla cartella di questi file.</translation>
+        <translation>&quot;..&quot; porta fuori dalla cartella dei file di configurazione.</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
-        <translation>XML non può contenerlo; la voce non viene mai aggiunta.</translation>
+        <translation>Questo non può essere rappresentato in XML; la voce non viene mai aggiunta.</translation>
     </message>
 </context>
 <context>
@@ -151,11 +151,11 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
+        <translation>Assegnare al proprio utente l’autorizzazione a scrivere in quel percorso.</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
-        <translation>Il file di configurazione %1 manca.</translation>
+        <translation>Manca il file di configurazione %1.</translation>
     </message>
     <message>
         <source>Uninstall and install again; the file is made anew.</source>
@@ -175,27 +175,27 @@
     </message>
     <message>
         <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
-        <translation>I file del plugin ci sono, ma %1 non ha una voce per il plugin.</translation>
+        <translation>I file del plugin ci sono, ma in %1 non c’è una voce per il plugin.</translation>
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 ha una voce per il plugin, i cui file non ci sono.</translation>
+        <translation>In %1 c’è una voce per il plugin, ma i suoi file non ci sono.</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>Installarlo, oppure disinstallarlo per togliere la voce.</translation>
+        <translation>Installare il plugin, oppure disinstallarlo per rimuovere la voce.</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>La nostra voce è in %1 %2 volte.</translation>
+        <translation>La voce di Orbwell compare %2 volte in %1.</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
-        <translation>La nostra voce in %1 è disattivata.</translation>
+        <translation>La voce di Orbwell in %1 è disattivata.</translation>
     </message>
     <message>
         <source>Our entry in %1 names the file %2, which is missing.</source>
-        <translation>La nostra voce in %1 indica il file %2, che manca.</translation>
+        <translation>La voce di Orbwell in %1 indica il file %2, che non esiste.</translation>
     </message>
     <message>
         <source>The configuration file %1 is a web page.</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
-        <translation>Il file di configurazione non può essere creato: %1 è un collegamento che non porta da nessuna parte.</translation>
+        <translation>Impossibile creare il file di configurazione: %1 è un collegamento interrotto.</translation>
     </message>
     <message>
         <source>Delete the link, then install.</source>
@@ -218,11 +218,11 @@
     <name>Quillmont::Utility::Doctor::Doctor</name>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
-        <translation>Il catalogo %1 non è un array JSON; --check-catalogue dice di più.</translation>
+        <translation>Il catalogo %1 non è un array JSON; --check-catalogue fornisce maggiori dettagli.</translation>
     </message>
     <message>
         <source>The catalogue has no simulator %1.</source>
-        <translation>Il catalogo non ha alcun simulatore %1.</translation>
+        <translation>Nel catalogo non c’è alcun simulatore chiamato %1.</translation>
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
@@ -245,11 +245,11 @@
     <name>Quillmont::Utility::Doctor::Examination</name>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>La sua cartella %1 non esiste più.</translation>
+        <translation>La cartella %1 non esiste più.</translation>
     </message>
     <message>
         <source>Choose its folder in the window.</source>
-        <translation>Scegliere la sua cartella nella finestra.</translation>
+        <translation>Scegliere la cartella del simulatore nella finestra.</translation>
     </message>
     <message>
         <source>%1 is a file, not a folder.</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>In the place of %1 is a link that leads nowhere.</source>
-        <translation>Al posto di %1 c’è un collegamento che non porta da nessuna parte.</translation>
+        <translation>C’è un collegamento interrotto al posto di: %1.</translation>
     </message>
     <message>
         <source>Delete the link, then install.</source>
@@ -288,7 +288,7 @@
     </message>
     <message>
         <source>%1 is no regular file.</source>
-        <translation>%1 non è un file normale.</translation>
+        <translation>Non è un file normale: %1.</translation>
     </message>
     <message>
         <source>Move it away, then install.</source>
@@ -296,19 +296,19 @@
     </message>
     <message>
         <source>Only a part of the plugin is there; %1 is missing.</source>
-        <translation>È presente solo una parte del plugin; manca %1.</translation>
+        <translation>È installata solo una parte del plugin; file mancanti: %1.</translation>
     </message>
     <message>
         <source>Install it.</source>
-        <translation>Installarlo.</translation>
+        <translation>Installare il plugin.</translation>
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 è diverso dal file fornito con questo programma: un’altra versione, oppure danneggiato.</translation>
+        <translation>File diversi da quelli forniti con questo programma (un’altra versione, oppure danneggiati): %1.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>%1 non può essere letto.</translation>
+        <translation>Impossibile leggere: %1.</translation>
     </message>
     <message>
         <source>You may not write in the folder of %1.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
+        <translation>Assegnare al proprio utente l’autorizzazione a scrivere in quel percorso.</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
@@ -324,22 +324,22 @@
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Concedersi l’autorizzazione a leggerlo.</translation>
+        <translation>Assegnare al proprio utente l’autorizzazione a leggerlo.</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
-        <translation>Al posto della cartella %1 c’è un collegamento che non porta da nessuna parte.</translation>
+        <translation>Al posto della cartella %1 c’è un collegamento interrotto.</translation>
     </message>
     <message>
         <source>%1 is a file where a folder has to be.</source>
-        <translation>%1 è un file; in quel punto deve esserci una cartella.</translation>
+        <translation>%1 è un file, ma al suo posto deve esserci una cartella.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1: un piano è per &quot;install&quot;, &quot;repair&quot; o &quot;uninstall&quot;.</translation>
+        <translation>%1: un piano può essere solo per &quot;install&quot;, &quot;repair&quot; o &quot;uninstall&quot;.</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
@@ -347,11 +347,11 @@
     </message>
     <message>
         <source>Unknown option %1.</source>
-        <translation>Opzione sconosciuta %1.</translation>
+        <translation>Opzione sconosciuta: %1.</translation>
     </message>
     <message>
         <source>Unknown option %1. Is %2 meant?</source>
-        <translation>Opzione sconosciuta %1. Si intendeva %2?</translation>
+        <translation>Opzione sconosciuta: %1. Si intendeva %2?</translation>
     </message>
     <message>
         <source>Usage: orbwell-doctor [OPTION...] [NAME...]
@@ -367,16 +367,16 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>Uso: orbwell-doctor [OPZIONE...] [NOME...]
-Dice che cosa non va nei simulatori e nel loro plugin Orbwell. Non modifica nulla.
+Indica che cosa non va nei simulatori e nel plugin Orbwell al loro interno. Non modifica nulla.
 
-  --json               il rapporto, il piano o il controllo come JSON
+  --json               il rapporto, il piano o il controllo in formato JSON
   --plan[=AZIONE]      che cosa farebbe &quot;install&quot; (predefinito), &quot;repair&quot; o &quot;uninstall&quot;
   --catalogue FILE     usa un altro catalogo, e la cartella &quot;plugins&quot; accanto, se c’è
-  --check-catalogue    solo che cosa non va nel catalogo
+  --check-catalogue    solo ciò che non va nel catalogo
   --help, --version
 
-I NOMI limitano il rapporto o il piano a quei simulatori.
-Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
+Con uno o più NOME il rapporto o il piano si limita a quei simulatori.
+Stato di uscita: 0 tutto a posto, 1 qualcosa non va, 2 impossibile eseguire il controllo.
 </translation>
     </message>
     <message>
@@ -464,15 +464,15 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>La sua cartella %1 non esiste più.</translation>
+        <translation>La cartella %1 non esiste più.</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>Pulsante nella finestra: &quot;Installa Orbwell&quot;</translation>
+        <translation>Pulsante nella finestra: «Installa Orbwell»</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>Pulsante nella finestra: &quot;Disinstalla Orbwell&quot;</translation>
+        <translation>Pulsante nella finestra: «Disinstalla Orbwell»</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
@@ -503,7 +503,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>chosen by hand</source>
-        <translation>scelta a mano</translation>
+        <translation>scelta manuale</translation>
     </message>
     <message>
         <source>the catalogue&apos;s file</source>
@@ -527,31 +527,31 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>no permission to look inside</source>
-        <translation>nessuna autorizzazione a guardarci dentro</translation>
+        <translation>nessuna autorizzazione a vederne il contenuto</translation>
     </message>
     <message>
         <source>no file &quot;version&quot; that begins with a version number</source>
-        <translation>nessun file &quot;version&quot; che inizi con una</translation>
+        <translation>nessun file &quot;version&quot; che inizi con un numero di versione</translation>
     </message>
     <message>
         <source>no defaults.xml or preferences.xml</source>
-        <translation>né defaults.xml né preferences.xml</translation>
+        <translation>non ci sono né defaults.xml né preferences.xml</translation>
     </message>
     <message>
         <source>no InstalledPackagesPath in it</source>
-        <translation>nessun InstalledPackagesPath all’interno</translation>
+        <translation>non contiene InstalledPackagesPath</translation>
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>il suo InstalledPackagesPath non è su alcuna unità</translation>
+        <translation>il suo InstalledPackagesPath non inizia con una lettera di unità</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
-        <translation>né Community né Official/Steam né Official/OneStore</translation>
+        <translation>non ci sono né Community né Official/Steam né Official/OneStore</translation>
     </message>
     <message>
         <source>no Community, Official2024 or StreamedPackages</source>
-        <translation>né Community né Official2024 né StreamedPackages</translation>
+        <translation>non ci sono né Community né Official2024 né StreamedPackages</translation>
     </message>
     <message>
         <source>cannot be read</source>
@@ -563,7 +563,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>too much to read altogether</source>
-        <translation>troppo da leggere in tutto</translation>
+        <translation>troppi dati da leggere in totale</translation>
     </message>
     <message>
         <source>no fsx.exe</source>
@@ -583,7 +583,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>no main.mcf or tm.log</source>
-        <translation>né main.mcf né tm.log</translation>
+        <translation>non ci sono né main.mcf né tm.log</translation>
     </message>
     <message>
         <source>it has no Proton prefix</source>
@@ -603,11 +603,11 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>not fully installed (StateFlags %1)</source>
-        <translation>non del tutto installato (StateFlags %1)</translation>
+        <translation>non completamente installato (StateFlags %1)</translation>
     </message>
     <message>
         <source>no AppState in it</source>
-        <translation>nessun AppState all’interno</translation>
+        <translation>non contiene AppState</translation>
     </message>
     <message>
         <source>it is about another game</source>
@@ -631,7 +631,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>è considerato %1</translation>
+        <translation>è già assegnata a %1</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -667,11 +667,11 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>Entities grow to too much text.</source>
-        <translation>Le entità crescono fino a troppo testo.</translation>
+        <translation>Le entità generano troppo testo.</translation>
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>Nessun XML ha questo carattere.</translation>
+        <translation>XML non ammette questo carattere.</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -691,7 +691,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
-        <translation>Un valore non è un testo che XML possa contenere.</translation>
+        <translation>Il testo di un valore non può essere rappresentato in XML.</translation>
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
@@ -703,7 +703,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>A name or a value is none that XML can hold.</source>
-        <translation>Un nome o un valore non è tale che XML possa contenerlo.</translation>
+        <translation>Un nome o un valore non può essere rappresentato in XML.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold a name.</source>
@@ -743,7 +743,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>another one was chosen by hand</source>
-        <translation>ne è stata scelta un’altra a mano</translation>
+        <translation>ne è stata scelta un’altra manualmente</translation>
     </message>
 </context>
 <context>
@@ -754,7 +754,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
-        <translation>Il registro di installazione %1 è danneggiato; ciò che diceva è perduto.</translation>
+        <translation>Il registro di installazione %1 è danneggiato; il suo contenuto è andato perso.</translation>
     </message>
     <message>
         <source>Install again; a new record is written then.</source>
@@ -762,11 +762,11 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>The plugin is there, but not in the installation record.</source>
-        <translation>Il plugin c’è, ma non nel registro di installazione.</translation>
+        <translation>Il plugin è installato, ma non risulta nel registro di installazione.</translation>
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>Premere &quot;Cerca &amp; installa&quot; nella finestra; verrà allora registrato.</translation>
+        <translation>Premere «Cerca &amp; installa» nella finestra; così verrà registrato.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
@@ -778,7 +778,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
-        <translation>Secondo il registro di installazione il plugin è in %1, non in %2. Le esecuzioni non presidiate lavorano sulla prima cartella, la finestra sulla seconda.</translation>
+        <translation>Secondo il registro di installazione il plugin è in %1, non in %2. Le esecuzioni automatiche usano la prima cartella, la finestra la seconda.</translation>
     </message>
     <message>
         <source>Choose the folder in the window, then install or uninstall there.</source>
@@ -786,15 +786,15 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>Il registro di installazione ha %1 in %2, che il catalogo non conosce più.</translation>
+        <translation>Il registro di installazione contiene %1 in %2, ma questo simulatore non è più nel catalogo.</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
-        <translation>Rimuovere a mano il plugin da lì, se non è più desiderato.</translation>
+        <translation>Rimuovere manualmente il plugin da lì, se non serve più.</translation>
     </message>
     <message>
         <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
-        <translation>Non si può annotare nulla nel registro di installazione: %1 è un collegamento che non porta da nessuna parte.</translation>
+        <translation>Impossibile annotare qualcosa nel registro di installazione: %1 è un collegamento interrotto.</translation>
     </message>
     <message>
         <source>Delete the link.</source>
@@ -802,26 +802,26 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>You may not write the installation record %1.</source>
-        <translation>Non si dispone dell’autorizzazione a scrivere il registro di installazione %1.</translation>
+        <translation>Non si dispone dell’autorizzazione a scrivere nel registro di installazione %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Concedersi l’autorizzazione a scrivere in quella cartella.</translation>
+        <translation>Assegnare al proprio utente l’autorizzazione a scrivere in quel percorso.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Rehearsal</name>
     <message>
         <source>%1 is a folder, and stays.</source>
-        <translation>%1 è una cartella, e rimane.</translation>
+        <translation>%1 è una cartella e non viene rimossa.</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
-        <translation>%1 non può essere copiato in %2: al suo posto c’è una cartella, o un collegamento che non porta da nessuna parte.</translation>
+        <translation>Impossibile copiare %1 in %2: quel posto è occupato da una cartella o da un collegamento interrotto.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
-        <translation>%1 non può essere copiato: manca tra i file forniti. Ciò che è al suo posto viene rimosso comunque.</translation>
+        <translation>Impossibile copiare %1: manca tra i file forniti. Ciò che si trova nella destinazione viene rimosso comunque.</translation>
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
@@ -833,19 +833,19 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
-        <translation>%1 non può essere copiato in %2: non si dispone dell’autorizzazione a scrivere lì, o la cartella manca.</translation>
+        <translation>Impossibile copiare %1 in %2: non si dispone dell’autorizzazione a scrivere lì, o manca la cartella.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
-        <translation>%1 non può essere copiato: non si dispone dell’autorizzazione a leggerlo. Ciò che è al suo posto viene rimosso comunque.</translation>
+        <translation>Impossibile copiare %1: non si dispone dell’autorizzazione a leggerlo. Ciò che si trova nella destinazione viene rimosso comunque.</translation>
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
-        <translation>Non si può creare un backup di %1: non si dispone dell’autorizzazione a scrivere nella sua cartella.</translation>
+        <translation>Impossibile creare un backup di %1: non si dispone dell’autorizzazione a scrivere nella sua cartella.</translation>
     </message>
     <message>
         <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
-        <translation>%1 non può essere creato: non si dispone dell’autorizzazione a scrivere lì, o la cartella manca.</translation>
+        <translation>Impossibile creare %1: non si dispone dell’autorizzazione a scrivere lì, o manca la cartella.</translation>
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
@@ -856,7 +856,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     <name>Quillmont::Utility::Doctor::TextReport</name>
     <message>
         <source>The catalogue has no simulator.</source>
-        <translation>Il catalogo non ha alcun simulatore.</translation>
+        <translation>Il catalogo non contiene alcun simulatore.</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -880,7 +880,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>Folder: %1, known by: %2</source>
-        <translation>Cartella: %1, nota tramite: %2</translation>
+        <translation>Cartella: %1, origine: %2</translation>
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
@@ -924,7 +924,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
-        <translation>La voce %1 di un altro programma indica un file che non c’è: %2</translation>
+        <translation>La voce %1 di un altro programma indica un file che non esiste: %2</translation>
     </message>
     <message>
         <source>Configuration: %1, missing</source>
@@ -944,23 +944,23 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>Nessuna voce nostra</translation>
+        <translation>Nessuna voce di Orbwell</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
-        <translation>La nostra voce: presente una volta, disattivata, per %1</translation>
+        <translation>Voce di Orbwell: presente una volta, disattivata, file: %1</translation>
     </message>
     <message>
         <source>Our entry: there once, enabled, for %1</source>
-        <translation>La nostra voce: presente una volta, attivata, per %1</translation>
+        <translation>Voce di Orbwell: presente una volta, attivata, file: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, disabled, for %1</source>
-        <translation>La nostra voce: presente %2 volte, disattivata, per %1</translation>
+        <translation>Voce di Orbwell: presente %2 volte, disattivata, file: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, enabled, for %1</source>
-        <translation>La nostra voce: presente %2 volte, attivata, per %1</translation>
+        <translation>Voce di Orbwell: presente %2 volte, attivata, file: %1</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
@@ -1004,7 +1004,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>no named file</source>
-        <translation>nessun file</translation>
+        <translation>non indicato</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1012,7 +1012,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>Configuration: %1, a link that leads nowhere</source>
-        <translation>Configurazione: %1, un collegamento che non porta da nessuna parte</translation>
+        <translation>Configurazione: %1, un collegamento interrotto</translation>
     </message>
 </context>
 <context>
@@ -1027,7 +1027,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>The file holds nothing but white space.</source>
-        <translation>Il file contiene soltanto spazi.</translation>
+        <translation>Il file contiene soltanto spazi vuoti.</translation>
     </message>
     <message>
         <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
@@ -1075,7 +1075,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
-        <translation>&lt;%1&gt; alla riga %2 finisce con &lt;/%3&gt; alla riga %4: maiuscole e minuscole contano.</translation>
+        <translation>&lt;%1&gt; alla riga %2 finisce con &lt;/%3&gt; alla riga %4: si distingue tra maiuscole e minuscole.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
@@ -1083,11 +1083,11 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
-        <translation>&lt;%1&gt; alla riga %2 non viene mai chiuso; prima è arrivato &lt;/%3&gt; alla riga %4.</translation>
+        <translation>&lt;%1&gt; alla riga %2 non viene mai chiuso; prima compare &lt;/%3&gt; alla riga %4.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
-        <translation>&lt;/%1&gt; compare una seconda volta alla riga %2: dietro il documento c’è il resto di un vecchio file più lungo.</translation>
+        <translation>&lt;/%1&gt; compare una seconda volta alla riga %2: dopo il documento c’è il resto di un file precedente più lungo.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
@@ -1099,11 +1099,11 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>%1 in line %2 is no tag; what is meant is %3.</source>
-        <translation>%1 alla riga %2 non è un tag; si intende %3.</translation>
+        <translation>%1 alla riga %2 non è un tag; dovrebbe essere %3.</translation>
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>Dopo la fine del documento, alla riga %1, c’è altro testo: il resto di un vecchio file più lungo?</translation>
+        <translation>Dopo la fine del documento, alla riga %1, c’è altro testo: il resto di un file precedente più lungo?</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
@@ -1119,7 +1119,7 @@ Stato: 0 tutto a posto, 1 qualcosa non va, 2 non è stato possibile guardare.
     </message>
     <message>
         <source>The value of %1 in line %2 has no quotation marks.</source>
-        <translation>Il valore di %1 nella riga %2 non ha virgolette.</translation>
+        <translation>Il valore di %1 alla riga %2 non è tra virgolette.</translation>
     </message>
 </context>
 <context>

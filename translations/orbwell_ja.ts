@@ -5,7 +5,7 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>読み取る権限を付与してください。</translation>
+        <translation>自分に読み取り権限を付与してください。</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
@@ -17,34 +17,34 @@
     </message>
     <message>
         <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+        <translation>ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターがアドオンを 1 つも読み込まない可能性があります。</translation>
     </message>
     <message>
         <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>%1 のバックアップを元に戻すか、ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+        <translation>%1 のバックアップを復元するか、ファイルを手動で修復してください。それまでこのファイルは変更されず、シミュレーターがアドオンを 1 つも読み込まない可能性があります。</translation>
     </message>
     <message>
         <source>Move it away; until then the simulator may load no add-on at all.</source>
-        <translation>別の場所に移してください。それまでシミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+        <translation>別の場所に移してください。それまでシミュレーターがアドオンを 1 つも読み込まない可能性があります。</translation>
     </message>
     <message>
         <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
-        <translation>%1 のバックアップを元に戻してください。それまでシミュレーターはアドオンをまったく読み込まない可能性があります。</translation>
+        <translation>%1 のバックアップを復元してください。それまでシミュレーターがアドオンを 1 つも読み込まない可能性があります。</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::CatalogueCheck</name>
     <message>
         <source>It is no JSON: %1. The program sees no simulator.</source>
-        <translation>JSON ではありません: %1。プログラムにはシミュレーターが 1 つも見えません。</translation>
+        <translation>JSON ではありません: %1。シミュレーターは 1 つも認識されません。</translation>
     </message>
     <message>
         <source>It is no array. The program sees no simulator.</source>
-        <translation>配列ではありません。プログラムにはシミュレーターが 1 つも見えません。</translation>
+        <translation>配列ではありません。シミュレーターは 1 つも認識されません。</translation>
     </message>
     <message>
         <source>The key is there twice; the last one counts.</source>
-        <translation>このキーは 2 回あります。最後のものが有効です。</translation>
+        <translation>このキーは重複しています。最後のものが使われます。</translation>
     </message>
     <message>
         <source>Unknown key; it is ignored.</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>型は %1 で、%2 ではありません。ないものとして扱われます。</translation>
+        <translation>型が %2 ではなく %1 です。値はないものとして扱われます。</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>%1 行目と同じ名前です。両方が 1 つの記録と 1 つの選択フォルダーを共有します。</translation>
+        <translation>%1 行目と同じ名前です。インストール記録と選択したフォルダーが両方で共有されます。</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>ファイルがありません。何もインストールされず、インストール済みとして扱われます。</translation>
+        <translation>ファイルの指定がありません。何もインストールされませんが、インストール済みとして扱われます。</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,11 +72,11 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>コピー先がありません。シミュレーターのフォルダー自体がコピー先になります。</translation>
+        <translation>コピー先の指定がありません。シミュレーターのフォルダー自体がコピー先になります。</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; はシミュレーターのフォルダーの外に出ます。ファイルはそこに書き込まれます。</translation>
+        <translation>&quot;..&quot; がシミュレーターのフォルダーの外を指しています。ファイルはそこに書き込まれます。</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>null または空でない &quot;config&quot; と一緒の場合にのみ読み取られます。無視されます。</translation>
+        <translation>&quot;config&quot; が null の場合か、空でない場合にのみ読み取られます。ここでは無視されます。</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
-        <translation>パスがありません。どのファイルも編集できません。</translation>
+        <translation>パスの指定がないため、ファイルを編集できません。</translation>
     </message>
     <message>
         <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>このエントリはインストールできますが、削除できません。&quot;remove&quot; が探すものが &quot;values&quot; のどの組にもありません。</translation>
+        <translation>このエントリはインストールできますが、削除できません。&quot;remove&quot; が探すものと一致する組が &quot;values&quot; にありません。</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
-        <translation>子要素だけが削除され、エントリの残りはそのままです。&quot;delete_parent&quot; が true ではありません。</translation>
+        <translation>子要素だけが削除され、エントリのほかの部分は残ります。&quot;delete_parent&quot; が true ではありません。</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -116,15 +116,15 @@
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
-        <translation>そのような &quot;location&quot; はありません。エントリ自体は何も見つけません。</translation>
+        <translation>そのような &quot;location&quot; はありません。このエントリ自体では何も検出されません。</translation>
     </message>
     <message>
         <source>It shares its chosen folder with the name in line %1.</source>
-        <translation>%1 行目の名前と選択フォルダーを共有します。</translation>
+        <translation>選択したフォルダーが %1 行目の名前と共有されます。</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the payload.</source>
-        <translation>&quot;..&quot; は同梱ファイルのフォルダーの外に出ます。</translation>
+        <translation>&quot;..&quot; が同梱ファイルのフォルダーの外を指しています。</translation>
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; はこの種のファイルのフォルダーの外に出ます。</translation>
+        <translation>&quot;..&quot; がこの種のファイルのフォルダーの外を指しています。</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>そのフォルダーに書き込む権限を付与してください。</translation>
+        <translation>そこに書き込む権限を自分に付与してください。</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
@@ -179,23 +179,23 @@
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 にプラグインのエントリがありますが、そのファイルがありません。</translation>
+        <translation>%1 にプラグインのエントリがありますが、プラグインのファイルがありません。</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>インストールするか、アンインストールしてエントリを取り除いてください。</translation>
+        <translation>インストールするか、アンインストールしてエントリを削除してください。</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>当プラグインのエントリが %1 に %2 個あります。</translation>
+        <translation>プラグインのエントリが %1 に %2 個あります。</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
-        <translation>%1 の当プラグインのエントリは無効になっています。</translation>
+        <translation>%1 のプラグインのエントリが無効になっています。</translation>
     </message>
     <message>
         <source>Our entry in %1 names the file %2, which is missing.</source>
-        <translation>%1 の当プラグインのエントリが指すファイル %2 がありません。</translation>
+        <translation>%1 のプラグインのエントリが指すファイル %2 がありません。</translation>
     </message>
     <message>
         <source>The configuration file %1 is a web page.</source>
@@ -226,11 +226,11 @@
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
-        <translation>&quot;orbwell-doctor --help&quot; をお試しください。</translation>
+        <translation>詳しくは &quot;orbwell-doctor --help&quot; を実行してください。</translation>
     </message>
     <message>
         <source>The answer cannot be written: %1.</source>
-        <translation>回答を書き込めません: %1。</translation>
+        <translation>結果を出力できません: %1。</translation>
     </message>
     <message>
         <source>The catalogue %1 cannot be read: %2.</source>
@@ -245,7 +245,7 @@
     <name>Quillmont::Utility::Doctor::Examination</name>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>フォルダー %1 がなくなっています。</translation>
+        <translation>シミュレーターのフォルダー %1 がなくなっています。</translation>
     </message>
     <message>
         <source>Choose its folder in the window.</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Make room on the disk of %1.</source>
-        <translation>%1 のディスクの空き容量を増やしてください。</translation>
+        <translation>%1 のあるディスクの空き容量を増やしてください。</translation>
     </message>
     <message>
         <source>The disk has room for %1 bytes; what is written there takes %2.</source>
@@ -304,7 +304,7 @@
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 はこのプログラムに同梱のファイルと異なります。別のバージョンか、破損しています。</translation>
+        <translation>%1 は、このプログラムに同梱されているファイルと異なります。別のバージョンであるか、破損しています。</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>そのフォルダーに書き込む権限を付与してください。</translation>
+        <translation>そのフォルダーに書き込む権限を自分に付与してください。</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>読み取る権限を付与してください。</translation>
+        <translation>自分に読み取り権限を付与してください。</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
@@ -332,18 +332,18 @@
     </message>
     <message>
         <source>%1 is a file where a folder has to be.</source>
-        <translation>%1 はファイルですが、フォルダーでなければなりません。</translation>
+        <translation>%1 はファイルですが、ここにはフォルダーが必要です。</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1: 計画は &quot;install&quot;、&quot;repair&quot;、&quot;uninstall&quot; のいずれかです。</translation>
+        <translation>%1: 計画に指定できるのは &quot;install&quot;、&quot;repair&quot;、&quot;uninstall&quot; のいずれかです。</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
-        <translation>--catalogue にはファイルが必要です。</translation>
+        <translation>--catalogue にはファイルの指定が必要です。</translation>
     </message>
     <message>
         <source>Unknown option %1.</source>
@@ -367,15 +367,15 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>使い方: orbwell-doctor [オプション...] [名前...]
-シミュレーターとその中の Orbwell プラグインの問題を示します。何も変更しません。
+シミュレーターと、そこにある Orbwell プラグインの問題を示します。何も変更しません。
 
   --json               レポート、計画、検査結果を JSON で出力
-  --plan[=操作]        &quot;install&quot; (既定)、&quot;repair&quot;、&quot;uninstall&quot; が行うこと
-  --catalogue ファイル 別のカタログと、隣に &quot;plugins&quot; フォルダーがあればそれを使用
+  --plan[=操作]        &quot;install&quot; (既定)、&quot;repair&quot;、&quot;uninstall&quot; で行われる内容を表示
+  --catalogue ファイル 別のカタログと、その隣に &quot;plugins&quot; フォルダーがあればそれを使用
   --check-catalogue    カタログの問題だけを表示
   --help, --version
 
-名前を指定すると、レポートや計画をそのシミュレーターに限定します。
+名前を指定すると、レポートや計画の対象をそのシミュレーターに限定します。
 終了ステータス: 0 問題なし、1 問題あり、2 確認できなかった
 </translation>
     </message>
@@ -416,7 +416,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>%1: repair in %2</source>
-        <translation>%1: %2 で修復</translation>
+        <translation>%1: %2 を修復</translation>
     </message>
     <message>
         <source>%1: uninstall in %2</source>
@@ -452,27 +452,27 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Record made: %1</source>
-        <translation>作成する記録: %1</translation>
+        <translation>作成するインストール記録: %1</translation>
     </message>
     <message>
         <source>Record changed: %1</source>
-        <translation>変更する記録: %1</translation>
+        <translation>変更するインストール記録: %1</translation>
     </message>
     <message>
         <source>Record unchanged: %1</source>
-        <translation>変わらない記録: %1</translation>
+        <translation>変わらないインストール記録: %1</translation>
     </message>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>フォルダー %1 がなくなっています。</translation>
+        <translation>シミュレーターのフォルダー %1 がなくなっています。</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>ウィンドウのボタン: &quot;Orbwell をインストール&quot;</translation>
+        <translation>ウィンドウのボタン: 「Orbwell をインストール」</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>ウィンドウのボタン: &quot;Orbwell をアンインストール&quot;</translation>
+        <translation>ウィンドウのボタン: 「Orbwell をアンインストール」</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
@@ -483,7 +483,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <name>Quillmont::Utility::Doctor::Reasons</name>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation>%1 行 %2 列: %3</translation>
+        <translation>%1 行目 %2 列目: %3</translation>
     </message>
     <message>
         <source>X-Plane&apos;s own list</source>
@@ -543,7 +543,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>InstalledPackagesPath がどのドライブにもありません</translation>
+        <translation>InstalledPackagesPath がドライブ名で始まっていません</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
@@ -631,7 +631,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>%1 として扱われます</translation>
+        <translation>すでに %1 として使用されています</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -671,7 +671,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>XML にない文字です。</translation>
+        <translation>XML で使用できない文字です。</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -679,15 +679,15 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>The entry to change comes out of an entity.</source>
-        <translation>変更するエントリがエンティティから来ています。</translation>
+        <translation>変更するエントリがエンティティに由来しています。</translation>
     </message>
     <message>
         <source>The element to remove comes out of an entity.</source>
-        <translation>削除する要素がエンティティから来ています。</translation>
+        <translation>削除する要素がエンティティに由来しています。</translation>
     </message>
     <message>
         <source>Undecodable bytes would be read otherwise.</source>
-        <translation>デコードできないバイトが別の意味に読まれてしまいます。</translation>
+        <translation>デコードできないバイトが別のものとして読み取られてしまいます。</translation>
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
@@ -695,7 +695,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
-        <translation>変更する要素がエンティティから来ています。</translation>
+        <translation>変更する要素がエンティティに由来しています。</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold an end tag.</source>
@@ -758,7 +758,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Install again; a new record is written then.</source>
-        <translation>もう一度インストールしてください。新しい記録が書き込まれます。</translation>
+        <translation>もう一度インストールしてください。新しいインストール記録が書き込まれます。</translation>
     </message>
     <message>
         <source>The plugin is there, but not in the installation record.</source>
@@ -766,11 +766,11 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>ウィンドウの &quot;スキャン &amp; インストール&quot; を押してください。記録されます。</translation>
+        <translation>ウィンドウの「スキャン &amp; インストール」ボタンを押してください。インストール記録に追加されます。</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
-        <translation>インストール記録ではプラグインが %1 にありますが、そこにファイルが不足しています。</translation>
+        <translation>インストール記録ではプラグインは %1 にありますが、そこにあるはずのファイルが不足しています。</translation>
     </message>
     <message>
         <source>Install it again.</source>
@@ -786,7 +786,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>インストール記録に %2 の %1 がありますが、カタログにはもうありません。</translation>
+        <translation>インストール記録に %1 (%2) がありますが、カタログにはもうありません。</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
@@ -806,7 +806,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>そのフォルダーに書き込む権限を付与してください。</translation>
+        <translation>そこに書き込む権限を自分に付与してください。</translation>
     </message>
 </context>
 <context>
@@ -825,11 +825,11 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
-        <translation>%1 は変わりません: %2</translation>
+        <translation>%1 は変更されません: %2</translation>
     </message>
     <message>
         <source>The record %1 stays as it is: %2</source>
-        <translation>記録 %1 は変わりません: %2</translation>
+        <translation>インストール記録 %1 は変更されません: %2</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
@@ -841,7 +841,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
-        <translation>%1 のバックアップを作成できません。フォルダーに書き込む権限がありません。</translation>
+        <translation>%1 のバックアップを作成できません。そのフォルダーに書き込む権限がありません。</translation>
     </message>
     <message>
         <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
@@ -849,7 +849,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
-        <translation>%1 は変わりません: 変更する権限、またはフォルダーに書き込む権限がありません。</translation>
+        <translation>%1 は変更されません: 変更する権限、またはそのフォルダーに書き込む権限がありません。</translation>
     </message>
 </context>
 <context>
@@ -864,7 +864,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>%1: not found on this computer</source>
-        <translation>%1: このコンピューターで見つかりません</translation>
+        <translation>%1: このコンピューターでは見つかりませんでした</translation>
     </message>
     <message>
         <source>%1: the plugin is installed</source>
@@ -884,7 +884,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
-        <translation>%1 を、同じフォルダーを見つけた %2 に譲りました</translation>
+        <translation>フォルダー %1 を、同じフォルダーを検出した %2 に譲りました</translation>
     </message>
     <message>
         <source>Turned down: %1 (%2): %3</source>
@@ -908,7 +908,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Dead links in place of files: %1</source>
-        <translation>ファイルの場所にあるリンク切れのリンク: %1</translation>
+        <translation>ファイルの場所にあるリンク先のないリンク: %1</translation>
     </message>
     <message>
         <source>Folders or devices in place of files: %1</source>
@@ -920,7 +920,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Line %1, column %2: %3</source>
-        <translation>%1 行 %2 列: %3</translation>
+        <translation>%1 行目 %2 列目: %3</translation>
     </message>
     <message>
         <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
@@ -944,27 +944,27 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>当プラグインのエントリはありません</translation>
+        <translation>プラグインのエントリはありません</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
-        <translation>当プラグインのエントリ: 1 個、無効、対象は %1</translation>
+        <translation>プラグインのエントリ: 1 個、無効、ファイル: %1</translation>
     </message>
     <message>
         <source>Our entry: there once, enabled, for %1</source>
-        <translation>当プラグインのエントリ: 1 個、有効、対象は %1</translation>
+        <translation>プラグインのエントリ: 1 個、有効、ファイル: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, disabled, for %1</source>
-        <translation>当プラグインのエントリ: %2 個、無効、対象は %1</translation>
+        <translation>プラグインのエントリ: %2 個、無効、ファイル: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, enabled, for %1</source>
-        <translation>当プラグインのエントリ: %2 個、有効、対象は %1</translation>
+        <translation>プラグインのエントリ: %2 個、有効、ファイル: %1</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
-        <translation>%1 のバックアップ、%2 バイト、整形式。元に戻すには:</translation>
+        <translation>%1 のバックアップ、%2 バイト、整形式。復元するには:</translation>
     </message>
     <message>
         <source>Older backups: %1</source>
@@ -972,11 +972,11 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Record: agrees</source>
-        <translation>記録: 一致</translation>
+        <translation>インストール記録: 一致</translation>
     </message>
     <message>
         <source>Record: in %1</source>
-        <translation>記録: %1</translation>
+        <translation>インストール記録: プラグインの場所は %1</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
@@ -984,7 +984,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Record</source>
-        <translation>記録</translation>
+        <translation>インストール記録</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -1004,7 +1004,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>no named file</source>
-        <translation>ファイルなし</translation>
+        <translation>指定なし</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1071,7 +1071,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>A second document begins in line %1: somebody appended it.</source>
-        <translation>%1 行目から 2 つ目の文書が始まっています。誰かが追加しました。</translation>
+        <translation>%1 行目から 2 つ目の文書が始まっています。後から追加されたものです。</translation>
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
@@ -1087,7 +1087,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
-        <translation>&lt;/%1&gt; が %2 行目にもう一度あります。文書の後ろに、古くて長いファイルの残りがあります。</translation>
+        <translation>&lt;/%1&gt; が %2 行目にもう一度あります。文書の後ろに、以前のより長いファイルの残りがあります。</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
@@ -1103,7 +1103,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>文書の終わりの後ろ、%1 行目に、まだテキストがあります。古くて長いファイルの残りでしょうか。</translation>
+        <translation>文書の終わりより後の %1 行目に、まだテキストがあります。以前のより長いファイルの残りでしょうか。</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
@@ -1111,7 +1111,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     </message>
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
-        <translation>%1 行目に、XML で許されない制御文字があります。</translation>
+        <translation>%1 行目に、XML で使用できない制御文字があります。</translation>
     </message>
     <message>
         <source>A quotation mark is missing in a tag in line %1.</source>
@@ -1143,7 +1143,7 @@ Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
     <message>
         <source>Unable to copy &apos;%0&apos; to &apos;%1&apos;. Please check if you have permission to folder &apos;%2&apos;.<byte value="xd"/>
 </source>
-        <translation>「%0」を「%1」にコピーできません。フォルダー「%2」へのアクセス許可があるか確認してください。<byte value="xd"/>
+        <translation>「%0」を「%1」にコピーできません。フォルダー「%2」へのアクセス権限があるか確認してください。<byte value="xd"/>
 </translation>
     </message>
     <message>
@@ -1192,7 +1192,7 @@ Please see the list below for details:<byte value="xd"/>
     </message>
     <message>
         <source>Unable to write configuration to file &apos;%0&apos;. Please check if you have permission to that file.</source>
-        <translation>ファイル「%0」に構成を書き込めません。このファイルへのアクセス許可があるか確認してください。</translation>
+        <translation>ファイル「%0」に構成を書き込めません。このファイルへのアクセス権限があるか確認してください。</translation>
     </message>
     <message>
         <source>Uninstall</source>

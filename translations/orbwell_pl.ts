@@ -5,7 +5,7 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
+        <translation>Nadaj sobie uprawnienia do odczytu tego pliku.</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>Jego typ to %1, a nie %2; jest traktowany jak brakujący.</translation>
+        <translation>Typ to %1, a nie %2; wartość jest traktowana jak brakująca.</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>Wiersz %1 ma tę samą nazwę; oba mają wspólny zapis i wspólny wybrany folder.</translation>
+        <translation>Wiersz %1 ma tę samą nazwę; oba symulatory mają wspólny wpis w rejestrze instalacji i wspólny wybrany folder.</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>Nie ma plików; nic nie jest instalowane, a wpis uchodzi za zainstalowany.</translation>
+        <translation>Nie ma plików; nic nie jest instalowane, a wtyczka jest traktowana jak zainstalowana.</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,11 +72,11 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>Nie ma miejsca docelowego; jest nim sam folder symulatora.</translation>
+        <translation>Nie podano miejsca docelowego; jest nim sam folder symulatora.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; wychodzi poza folder symulatora; plik jest tam zapisywany.</translation>
+        <translation>&quot;..&quot; prowadzi poza folder symulatora i tam zapisywany jest plik.</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
@@ -84,23 +84,23 @@
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>Jest czytany tylko obok &quot;config&quot;, który jest równy null lub nie jest pusty; jest pomijany.</translation>
+        <translation>Ten klucz jest odczytywany tylko obok &quot;config&quot;, które jest równe null albo niepuste; jest pomijany.</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
-        <translation>&quot;type&quot; nie jest równe 0, więc żaden plik konfiguracyjny nie jest ruszany.</translation>
+        <translation>&quot;type&quot; nie jest równe 0, więc żaden plik konfiguracyjny nie jest zmieniany.</translation>
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
-        <translation>Nie ma ścieżki; żadnego pliku nie można edytować.</translation>
+        <translation>Nie podano ścieżki; nie można edytować żadnego pliku.</translation>
     </message>
     <message>
         <source>Without &quot;parent&quot; and &quot;values&quot; no entry is added.</source>
-        <translation>Bez &quot;parent&quot; i &quot;values&quot; żaden wpis nie jest dodawany.</translation>
+        <translation>Bez &quot;parent&quot; i &quot;values&quot; nie jest dodawany żaden wpis.</translation>
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>Ten wpis się instaluje, ale nie można go usunąć: żadna para w &quot;values&quot; nie jest tym, czego szuka &quot;remove&quot;.</translation>
+        <translation>Ten wpis można zainstalować, ale nie można go usunąć: żadna para w &quot;values&quot; nie odpowiada temu, czego szuka &quot;remove&quot;.</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>It is no whole number; it counts as 0.</source>
-        <translation>To nie jest liczba całkowita; jest traktowane jak 0.</translation>
+        <translation>To nie jest liczba całkowita; wartość jest traktowana jak 0.</translation>
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
@@ -124,19 +124,19 @@
     </message>
     <message>
         <source>&quot;..&quot; leads out of the payload.</source>
-        <translation>&quot;..&quot; wychodzi poza folder dołączonych plików.</translation>
+        <translation>&quot;..&quot; prowadzi poza folder dołączonych plików.</translation>
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
-        <translation>Bez &quot;config&quot; żaden plik konfiguracyjny nie jest ruszany.</translation>
+        <translation>Bez &quot;config&quot; żaden plik konfiguracyjny nie jest zmieniany.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; wychodzi poza folder takich plików.</translation>
+        <translation>&quot;..&quot; prowadzi poza folder przeznaczony na takie pliki.</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
-        <translation>XML nie może tego zawierać; wpis nigdy nie zostanie dodany.</translation>
+        <translation>XML nie może tego zawierać; wpis nigdy nie jest dodawany.</translation>
     </message>
 </context>
 <context>
@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Start the simulator once from Steam, then install again.</source>
-        <translation>Uruchom symulator raz ze Steam, a potem zainstaluj ponownie.</translation>
+        <translation>Uruchom symulator raz przez Steam, a potem zainstaluj ponownie.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
+        <translation>Nadaj sobie uprawnienia do zapisu w tym miejscu.</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
@@ -175,27 +175,27 @@
     </message>
     <message>
         <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
-        <translation>Pliki wtyczki są na miejscu, ale %1 nie ma dla niej wpisu.</translation>
+        <translation>Pliki wtyczki są na miejscu, ale w %1 nie ma jej wpisu.</translation>
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 ma wpis dla wtyczki, której plików nie ma.</translation>
+        <translation>W %1 jest wpis wtyczki, ale brakuje jej plików.</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>Zainstaluj ją albo odinstaluj, aby usunąć wpis.</translation>
+        <translation>Zainstaluj wtyczkę albo ją odinstaluj, aby usunąć wpis.</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>Nasz wpis jest w %1 wiele razy: %2.</translation>
+        <translation>Wpis wtyczki występuje w %1 więcej niż raz (liczba wystąpień: %2).</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
-        <translation>Nasz wpis w %1 jest wyłączony.</translation>
+        <translation>Wpis wtyczki w %1 jest wyłączony.</translation>
     </message>
     <message>
         <source>Our entry in %1 names the file %2, which is missing.</source>
-        <translation>Nasz wpis w %1 wskazuje plik %2, którego brakuje.</translation>
+        <translation>Wpis wtyczki w %1 wskazuje plik %2, którego brakuje.</translation>
     </message>
     <message>
         <source>The configuration file %1 is a web page.</source>
@@ -211,14 +211,14 @@
     </message>
     <message>
         <source>You may not change the configuration file %1, or not write in its folder.</source>
-        <translation>Nie masz prawa zmienić pliku konfiguracyjnego %1 albo zapisywać w jego folderze.</translation>
+        <translation>Nie masz uprawnień do zmiany pliku konfiguracyjnego %1 albo do zapisu w jego folderze.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
-        <translation>Wykaz symulatorów %1 nie jest tablicą JSON; więcej powie --check-catalogue.</translation>
+        <translation>Wykaz symulatorów %1 nie jest tablicą JSON; szczegóły pokaże --check-catalogue.</translation>
     </message>
     <message>
         <source>The catalogue has no simulator %1.</source>
@@ -226,11 +226,11 @@
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
-        <translation>Wypróbuj &quot;orbwell-doctor --help&quot;.</translation>
+        <translation>Spróbuj &quot;orbwell-doctor --help&quot;.</translation>
     </message>
     <message>
         <source>The answer cannot be written: %1.</source>
-        <translation>Nie można zapisać odpowiedzi: %1.</translation>
+        <translation>Nie można wypisać wyniku: %1.</translation>
     </message>
     <message>
         <source>The catalogue %1 cannot be read: %2.</source>
@@ -245,7 +245,7 @@
     <name>Quillmont::Utility::Doctor::Examination</name>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Jego folderu %1 już nie ma.</translation>
+        <translation>Folder %1 tego symulatora już nie istnieje.</translation>
     </message>
     <message>
         <source>Choose its folder in the window.</source>
@@ -257,11 +257,11 @@
     </message>
     <message>
         <source>Make room on the disk of %1.</source>
-        <translation>Zwolnij miejsce na dysku z %1.</translation>
+        <translation>Zwolnij miejsce na dysku, na którym jest %1.</translation>
     </message>
     <message>
         <source>The disk has room for %1 bytes; what is written there takes %2.</source>
-        <translation>Na dysku jest %1 wolnych bajtów; to, co zostanie na nim zapisane, zajmuje %2.</translation>
+        <translation>Wolne miejsce na dysku w bajtach: %1; potrzebne: %2.</translation>
     </message>
 </context>
 <context>
@@ -288,7 +288,7 @@
     </message>
     <message>
         <source>%1 is no regular file.</source>
-        <translation>%1 nie jest zwykłym plikiem.</translation>
+        <translation>To nie jest zwykły plik: %1.</translation>
     </message>
     <message>
         <source>Move it away, then install.</source>
@@ -296,7 +296,7 @@
     </message>
     <message>
         <source>Only a part of the plugin is there; %1 is missing.</source>
-        <translation>Jest tylko część wtyczki; brakuje %1.</translation>
+        <translation>Jest tylko część wtyczki; brakuje: %1.</translation>
     </message>
     <message>
         <source>Install it.</source>
@@ -304,27 +304,27 @@
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 różni się od pliku dołączonego do tego programu: inna wersja albo plik uszkodzony.</translation>
+        <translation>Różnice względem plików dołączonych do tego programu (inna wersja albo uszkodzenie): %1.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>%1 nie można odczytać.</translation>
+        <translation>Nie można odczytać: %1.</translation>
     </message>
     <message>
         <source>You may not write in the folder of %1.</source>
-        <translation>Nie masz prawa zapisu w folderze, w którym jest %1.</translation>
+        <translation>Nie masz uprawnień do zapisu w folderze przeznaczonym na: %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
+        <translation>Nadaj sobie uprawnienia do zapisu w tym miejscu.</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
-        <translation>Nie masz prawa odczytu %1; tego pliku nie można zainstalować.</translation>
+        <translation>Nie masz uprawnień do odczytu pliku %1, więc nie można go zainstalować.</translation>
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Nadaj sobie prawo odczytu tego pliku.</translation>
+        <translation>Nadaj sobie uprawnienia do odczytu tego pliku.</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
@@ -339,7 +339,7 @@
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1: plan jest dla &quot;install&quot;, &quot;repair&quot; lub &quot;uninstall&quot;.</translation>
+        <translation>%1: plan może dotyczyć &quot;install&quot;, &quot;repair&quot; lub &quot;uninstall&quot;.</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
@@ -367,16 +367,16 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>Użycie: orbwell-doctor [OPCJA...] [NAZWA...]
-Mówi, co jest nie tak z symulatorami i wtyczką Orbwell w nich. Niczego nie zmienia.
+Pokazuje, co jest nie tak z symulatorami i wtyczką Orbwell w nich. Niczego nie zmienia.
 
   --json               raport, plan lub kontrola jako JSON
   --plan[=CO]          co zrobiłoby &quot;install&quot; (domyślnie), &quot;repair&quot; lub &quot;uninstall&quot;
   --catalogue PLIK     inny wykaz symulatorów i folder &quot;plugins&quot; obok, jeśli tam jest
-  --check-catalogue    tylko to, co jest nie tak z wykazem
+  --check-catalogue    tylko to, co jest nie tak w wykazie symulatorów
   --help, --version
 
-NAZWY ograniczają raport lub plan do tych symulatorów.
-Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzić.
+Podane NAZWY ograniczają raport lub plan do tych symulatorów.
+Kod wyjścia: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzić.
 </translation>
     </message>
     <message>
@@ -396,15 +396,15 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Folder made: %1</source>
-        <translation>Utworzony folder: %1</translation>
+        <translation>Folder do utworzenia: %1</translation>
     </message>
     <message>
         <source>Folder removed: %1</source>
-        <translation>Usunięty folder: %1</translation>
+        <translation>Folder do usunięcia: %1</translation>
     </message>
     <message>
         <source>Backup made: %1</source>
-        <translation>Utworzona kopia zapasowa: %1</translation>
+        <translation>Kopia zapasowa do utworzenia: %1</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -424,11 +424,11 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>File made: %1</source>
-        <translation>Utworzony plik: %1</translation>
+        <translation>Plik do utworzenia: %1</translation>
     </message>
     <message>
         <source>File replaced: %1</source>
-        <translation>Zastąpiony plik: %1</translation>
+        <translation>Plik do zastąpienia: %1</translation>
     </message>
     <message>
         <source>File unchanged: %1</source>
@@ -436,43 +436,43 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>File removed: %1</source>
-        <translation>Usunięty plik: %1</translation>
+        <translation>Plik do usunięcia: %1</translation>
     </message>
     <message>
         <source>Configuration made: %1</source>
-        <translation>Utworzona konfiguracja: %1</translation>
+        <translation>Plik konfiguracyjny do utworzenia: %1</translation>
     </message>
     <message>
         <source>Configuration changed: %1</source>
-        <translation>Zmieniona konfiguracja: %1</translation>
+        <translation>Plik konfiguracyjny do zmiany: %1</translation>
     </message>
     <message>
         <source>Configuration unchanged: %1</source>
-        <translation>Konfiguracja bez zmian: %1</translation>
+        <translation>Plik konfiguracyjny bez zmian: %1</translation>
     </message>
     <message>
         <source>Record made: %1</source>
-        <translation>Utworzony rejestr: %1</translation>
+        <translation>Rejestr instalacji do utworzenia: %1</translation>
     </message>
     <message>
         <source>Record changed: %1</source>
-        <translation>Zmieniony rejestr: %1</translation>
+        <translation>Rejestr instalacji do zmiany: %1</translation>
     </message>
     <message>
         <source>Record unchanged: %1</source>
-        <translation>Rejestr bez zmian: %1</translation>
+        <translation>Rejestr instalacji bez zmian: %1</translation>
     </message>
     <message>
         <source>Its folder %1 is gone.</source>
-        <translation>Jego folderu %1 już nie ma.</translation>
+        <translation>Folder %1 tego symulatora już nie istnieje.</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>Przycisk w oknie: &quot;Zainstaluj Orbwell&quot;</translation>
+        <translation>Przycisk w oknie: „Zainstaluj Orbwell”</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>Przycisk w oknie: &quot;Odinstaluj Orbwell&quot;</translation>
+        <translation>Przycisk w oknie: „Odinstaluj Orbwell”</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
@@ -491,7 +491,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>FlightGear&apos;s launcher</source>
-        <translation>program uruchamiający FlightGear</translation>
+        <translation>launcher FlightGear</translation>
     </message>
     <message>
         <source>a well-known folder</source>
@@ -499,7 +499,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>UserCfg.opt in Steam&apos;s Proton prefix</source>
-        <translation>UserCfg.opt w prefiksie Proton Steam</translation>
+        <translation>UserCfg.opt w prefiksie Proton platformy Steam</translation>
     </message>
     <message>
         <source>chosen by hand</source>
@@ -527,7 +527,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>no permission to look inside</source>
-        <translation>brak uprawnień, by zajrzeć do środka</translation>
+        <translation>brak uprawnień dostępu do zawartości</translation>
     </message>
     <message>
         <source>no file &quot;version&quot; that begins with a version number</source>
@@ -543,7 +543,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>jego InstalledPackagesPath nie leży na żadnym dysku</translation>
+        <translation>jego InstalledPackagesPath nie zaczyna się od litery dysku</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
@@ -599,11 +599,11 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>uninstalled (StateFlags %1)</source>
-        <translation>odinstalowany (StateFlags %1)</translation>
+        <translation>odinstalowano (StateFlags %1)</translation>
     </message>
     <message>
         <source>not fully installed (StateFlags %1)</source>
-        <translation>nie w pełni zainstalowany (StateFlags %1)</translation>
+        <translation>nie zainstalowano w pełni (StateFlags %1)</translation>
     </message>
     <message>
         <source>no AppState in it</source>
@@ -623,7 +623,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>no X-Plane executable</source>
-        <translation>nie ma programu X-Plane</translation>
+        <translation>nie ma pliku wykonywalnego X-Plane</translation>
     </message>
     <message>
         <source>it is X-Plane %1</source>
@@ -631,7 +631,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>jest uznawany za %1</translation>
+        <translation>jest już używany jako %1</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -667,11 +667,11 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Entities grow to too much text.</source>
-        <translation>Encje rozrastają się do zbyt długiego tekstu.</translation>
+        <translation>Po rozwinięciu encji powstaje zbyt długi tekst.</translation>
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>Żaden XML nie ma tego znaku.</translation>
+        <translation>Ten znak jest niedozwolony w XML.</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -691,7 +691,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
-        <translation>Wartość nie jest tekstem, który XML może zawierać.</translation>
+        <translation>Wartości nie można zapisać w XML.</translation>
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
@@ -699,15 +699,15 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold an end tag.</source>
-        <translation>Kodowanie pliku nie może zapisać znacznika końcowego.</translation>
+        <translation>W kodowaniu pliku nie można zapisać znacznika końcowego.</translation>
     </message>
     <message>
         <source>A name or a value is none that XML can hold.</source>
-        <translation>Nazwa lub wartość nie jest taka, jaką XML może zawierać.</translation>
+        <translation>Nazwy lub wartości nie można zapisać w XML.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold a name.</source>
-        <translation>Kodowanie pliku nie może zapisać nazwy.</translation>
+        <translation>W kodowaniu pliku nie można zapisać nazwy.</translation>
     </message>
     <message>
         <source>not a regular file</source>
@@ -743,7 +743,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>another one was chosen by hand</source>
-        <translation>ręcznie wybrano inny</translation>
+        <translation>ręcznie wybrano inny folder</translation>
     </message>
 </context>
 <context>
@@ -766,7 +766,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>Naciśnij przycisk &quot;Skanuj &amp; instaluj&quot; w oknie; wtedy zostanie zapisana.</translation>
+        <translation>Naciśnij przycisk „Skanuj &amp; instaluj” w oknie; wtyczka zostanie wtedy wpisana do rejestru.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
@@ -778,7 +778,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
-        <translation>Według rejestru instalacji wtyczka jest w %1, a nie w %2. Uruchomienia bez nadzoru działają na pierwszym folderze, a okno na drugim.</translation>
+        <translation>Według rejestru instalacji wtyczka jest w %1, a nie w %2. Uruchomienia nienadzorowane używają pierwszego folderu, a okno drugiego.</translation>
     </message>
     <message>
         <source>Choose the folder in the window, then install or uninstall there.</source>
@@ -786,7 +786,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>Rejestr instalacji zawiera %1 w %2, czego wykaz symulatorów już nie zna.</translation>
+        <translation>W rejestrze instalacji jest %1 w folderze %2, ale w wykazie symulatorów już tego nie ma.</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
@@ -802,26 +802,26 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>You may not write the installation record %1.</source>
-        <translation>Nie masz prawa zapisu rejestru instalacji %1.</translation>
+        <translation>Nie masz uprawnień do zapisu rejestru instalacji %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Nadaj sobie prawo zapisu w tym folderze.</translation>
+        <translation>Nadaj sobie uprawnienia do zapisu w tym miejscu.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Rehearsal</name>
     <message>
         <source>%1 is a folder, and stays.</source>
-        <translation>%1 to folder i zostaje.</translation>
+        <translation>%1 to folder, więc zostaje.</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
-        <translation>%1 nie można skopiować do %2: w tym miejscu jest folder albo dowiązanie, które prowadzi donikąd.</translation>
+        <translation>Nie można skopiować %1 do %2: w tym miejscu jest folder albo dowiązanie, które prowadzi donikąd.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
-        <translation>%1 nie można skopiować: brakuje go wśród dołączonych plików. To, co jest w jego miejscu, i tak zostanie usunięte.</translation>
+        <translation>Nie można skopiować pliku %1: brakuje go wśród dołączonych plików. To, co jest w jego miejscu, i tak zostanie usunięte.</translation>
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
@@ -829,34 +829,34 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>The record %1 stays as it is: %2</source>
-        <translation>Rejestr %1 zostaje bez zmian: %2</translation>
+        <translation>Rejestr instalacji %1 zostaje bez zmian: %2</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
-        <translation>%1 nie można skopiować do %2: nie masz tam prawa zapisu albo brakuje folderu.</translation>
+        <translation>Nie można skopiować %1 do %2: nie masz tam uprawnień do zapisu albo brakuje folderu.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
-        <translation>%1 nie można skopiować: nie masz prawa odczytu. To, co jest w jego miejscu, i tak zostanie usunięte.</translation>
+        <translation>Nie można skopiować pliku %1: nie masz uprawnień do odczytu. To, co jest w jego miejscu, i tak zostanie usunięte.</translation>
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
-        <translation>Nie można utworzyć kopii zapasowej %1: nie masz prawa zapisu w folderze tego pliku.</translation>
+        <translation>Nie można utworzyć kopii zapasowej pliku %1: nie masz uprawnień do zapisu w jego folderze.</translation>
     </message>
     <message>
         <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
-        <translation>%1 nie można utworzyć: nie masz tam prawa zapisu albo brakuje folderu.</translation>
+        <translation>Nie można utworzyć pliku %1: nie masz tam uprawnień do zapisu albo brakuje folderu.</translation>
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
-        <translation>%1 zostaje bez zmian: nie masz prawa zmienić tego pliku albo zapisywać w jego folderze.</translation>
+        <translation>%1 zostaje bez zmian: nie masz uprawnień do zmiany tego pliku albo do zapisu w jego folderze.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::TextReport</name>
     <message>
         <source>The catalogue has no simulator.</source>
-        <translation>W wykazie nie ma żadnego symulatora.</translation>
+        <translation>W wykazie symulatorów nie ma żadnego symulatora.</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -880,11 +880,11 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Folder: %1, known by: %2</source>
-        <translation>Folder: %1, wskazany przez: %2</translation>
+        <translation>Folder: %1, źródło: %2</translation>
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
-        <translation>Oddano %1 na rzecz %2, bo oba znalazły ten sam folder</translation>
+        <translation>Folder %1 przypisano symulatorowi %2, który znalazł ten sam folder</translation>
     </message>
     <message>
         <source>Turned down: %1 (%2): %3</source>
@@ -900,7 +900,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Files different: %1</source>
-        <translation>Pliki różniące się: %1</translation>
+        <translation>Pliki inne niż dołączone: %1</translation>
     </message>
     <message>
         <source>Files unreadable: %1</source>
@@ -908,7 +908,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Dead links in place of files: %1</source>
-        <translation>Martwe dowiązania w miejscu plików: %1</translation>
+        <translation>Dowiązania prowadzące donikąd w miejscu plików: %1</translation>
     </message>
     <message>
         <source>Folders or devices in place of files: %1</source>
@@ -928,39 +928,39 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Configuration: %1, missing</source>
-        <translation>Konfiguracja: %1, brak pliku</translation>
+        <translation>Plik konfiguracyjny: %1, brak</translation>
     </message>
     <message>
         <source>Configuration: %1, unreadable</source>
-        <translation>Konfiguracja: %1, plik nieczytelny</translation>
+        <translation>Plik konfiguracyjny: %1, nieczytelny</translation>
     </message>
     <message>
         <source>Configuration: %1, damaged, encoding %2</source>
-        <translation>Konfiguracja: %1, plik uszkodzony, kodowanie %2</translation>
+        <translation>Plik konfiguracyjny: %1, uszkodzony, kodowanie %2</translation>
     </message>
     <message>
         <source>Configuration: %1, well formed, encoding %2</source>
-        <translation>Konfiguracja: %1, plik poprawny, kodowanie %2</translation>
+        <translation>Plik konfiguracyjny: %1, poprawny, kodowanie %2</translation>
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>Brak naszego wpisu</translation>
+        <translation>Brak wpisu wtyczki</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
-        <translation>Nasz wpis: jest jeden, wyłączony, dla %1</translation>
+        <translation>Wpis wtyczki: jeden, wyłączony, plik: %1</translation>
     </message>
     <message>
         <source>Our entry: there once, enabled, for %1</source>
-        <translation>Nasz wpis: jest jeden, włączony, dla %1</translation>
+        <translation>Wpis wtyczki: jeden, włączony, plik: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, disabled, for %1</source>
-        <translation>Nasz wpis: liczba wystąpień %2, wyłączony, dla %1</translation>
+        <translation>Wpisy wtyczki: %2, wyłączone, plik: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, enabled, for %1</source>
-        <translation>Nasz wpis: liczba wystąpień %2, włączony, dla %1</translation>
+        <translation>Wpisy wtyczki: %2, włączone, plik: %1</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
@@ -972,11 +972,11 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Record: agrees</source>
-        <translation>Rejestr: zgodny</translation>
+        <translation>Rejestr instalacji: zgodny</translation>
     </message>
     <message>
         <source>Record: in %1</source>
-        <translation>Rejestr: w %1</translation>
+        <translation>Rejestr instalacji: wtyczka w %1</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
@@ -984,7 +984,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Record</source>
-        <translation>Rejestr</translation>
+        <translation>Rejestr instalacji</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -996,7 +996,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Configuration: no Proton prefix</source>
-        <translation>Konfiguracja: brak prefiksu Proton</translation>
+        <translation>Plik konfiguracyjny: brak prefiksu Proton</translation>
     </message>
     <message>
         <source>In the Proton prefix %1</source>
@@ -1004,7 +1004,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>no named file</source>
-        <translation>żadnego pliku</translation>
+        <translation>nie podano</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1012,7 +1012,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Configuration: %1, a link that leads nowhere</source>
-        <translation>Konfiguracja: %1, dowiązanie, które prowadzi donikąd</translation>
+        <translation>Plik konfiguracyjny: %1, dowiązanie, które prowadzi donikąd</translation>
     </message>
 </context>
 <context>
@@ -1031,7 +1031,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>The file holds nothing but zero bytes: the computer stopped while it was written, or its disk is failing.</source>
-        <translation>Plik zawiera tylko bajty zerowe: komputer zatrzymał się podczas zapisu albo jego dysk się psuje.</translation>
+        <translation>Plik zawiera tylko bajty zerowe: komputer przestał działać podczas zapisu albo jego dysk ulega awarii.</translation>
     </message>
     <message>
         <source>The file is a web page, not XML.</source>
@@ -1047,11 +1047,11 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>There are two root elements: somebody appended a second document in line %1.</source>
-        <translation>Są dwa elementy główne: ktoś dopisał drugi dokument w wierszu %1.</translation>
+        <translation>Są dwa elementy główne: w wierszu %1 dopisano drugi dokument.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed: the file ends in line %3.</source>
-        <translation>&lt;%1&gt; w wierszu %2 nigdy nie jest zamknięty: plik kończy się w wierszu %3.</translation>
+        <translation>Znacznik &lt;%1&gt; w wierszu %2 nie został zamknięty: plik kończy się w wierszu %3.</translation>
     </message>
     <message>
         <source>The file has no element.</source>
@@ -1071,31 +1071,31 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>A second document begins in line %1: somebody appended it.</source>
-        <translation>W wierszu %1 zaczyna się drugi dokument: ktoś go dopisał.</translation>
+        <translation>W wierszu %1 zaczyna się drugi dokument: został dopisany.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
-        <translation>&lt;%1&gt; w wierszu %2 kończy się znacznikiem &lt;/%3&gt; w wierszu %4: wielkość liter ma znaczenie.</translation>
+        <translation>Znacznik &lt;%1&gt; w wierszu %2 zamknięto znacznikiem &lt;/%3&gt; w wierszu %4: wielkość liter ma znaczenie.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
-        <translation>&lt;/%1&gt; w wierszu %2 niczego nie zamyka: żaden &lt;%1&gt; nie jest tam otwarty.</translation>
+        <translation>Znacznik &lt;/%1&gt; w wierszu %2 niczego nie zamyka: żaden &lt;%1&gt; nie jest tam otwarty.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
-        <translation>&lt;%1&gt; w wierszu %2 nigdy nie jest zamknięty; wcześniej pojawił się &lt;/%3&gt; w wierszu %4.</translation>
+        <translation>Znacznik &lt;%1&gt; w wierszu %2 nie został zamknięty; wcześniej pojawił się &lt;/%3&gt; w wierszu %4.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
-        <translation>&lt;/%1&gt; pojawia się drugi raz w wierszu %2: za dokumentem jest reszta starszego, dłuższego pliku.</translation>
+        <translation>Znacznik &lt;/%1&gt; pojawia się drugi raz w wierszu %2: za dokumentem jest reszta starszego, dłuższego pliku.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
-        <translation>&lt;/%1&gt; w wierszu %2 zamyka element, który nigdy nie został otwarty: przepadł wiersz z &lt;%1 ...&gt;.</translation>
+        <translation>Znacznik &lt;/%1&gt; w wierszu %2 zamyka element, który nigdy nie został otwarty: przepadł wiersz z &lt;%1 ...&gt;.</translation>
     </message>
     <message>
         <source>&quot;&lt;&quot; in line %1 begins no tag; as text it is written &quot;&amp;lt;&quot;.</source>
-        <translation>&quot;&lt;&quot; w wierszu %1 nie zaczyna żadnego znacznika; jako tekst pisze się &quot;&amp;lt;&quot;.</translation>
+        <translation>Znak &quot;&lt;&quot; w wierszu %1 nie zaczyna żadnego znacznika; w tekście zapisuje się go jako &quot;&amp;lt;&quot;.</translation>
     </message>
     <message>
         <source>%1 in line %2 is no tag; what is meant is %3.</source>
@@ -1103,15 +1103,15 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>Za końcem dokumentu, w wierszu %1, jest dalszy tekst: reszta starszego, dłuższego pliku?</translation>
+        <translation>Za końcem dokumentu, w wierszu %1, jest dalszy tekst: czy to reszta starszego, dłuższego pliku?</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
-        <translation>&quot;&amp;&quot; w wierszu %1 trzeba zapisać jako &quot;&amp;amp;&quot;.</translation>
+        <translation>Znak &quot;&amp;&quot; w wierszu %1 trzeba zapisać jako &quot;&amp;amp;&quot;.</translation>
     </message>
     <message>
         <source>Line %1 holds a control character, which XML does not allow.</source>
-        <translation>Wiersz %1 zawiera znak sterujący, na który XML nie pozwala.</translation>
+        <translation>Wiersz %1 zawiera znak sterujący, który jest niedozwolony w XML.</translation>
     </message>
     <message>
         <source>A quotation mark is missing in a tag in line %1.</source>
@@ -1119,7 +1119,7 @@ Status: 0 wszystko w porządku, 1 coś jest nie tak, 2 nie udało się sprawdzi�
     </message>
     <message>
         <source>The value of %1 in line %2 has no quotation marks.</source>
-        <translation>Wartość %1 w wierszu %2 nie ma cudzysłowów.</translation>
+        <translation>Wartość atrybutu %1 w wierszu %2 nie jest ujęta w cudzysłów.</translation>
     </message>
 </context>
 <context>

@@ -5,11 +5,11 @@
     <name>Quillmont::Utility::Doctor::Advice</name>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Dê a si mesmo permissão para lê-lo.</translation>
+        <translation>Conceda ao seu usuário permissão para lê-lo.</translation>
     </message>
     <message>
         <source>Move it away, or make it smaller by hand.</source>
-        <translation>Mova-o para outro lugar ou diminua-o à mão.</translation>
+        <translation>Mova-o para outro lugar ou reduza o tamanho dele manualmente.</translation>
     </message>
     <message>
         <source>Move it away.</source>
@@ -17,19 +17,19 @@
     </message>
     <message>
         <source>Mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Conserte o arquivo à mão; até lá nada é alterado nele, e o simulador talvez não carregue nenhum complemento.</translation>
+        <translation>Corrija o arquivo manualmente; até lá, nada será alterado nele e o simulador talvez não carregue nenhum complemento.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back, or mend the file by hand; until then nothing is changed in it, and the simulator may load no add-on at all.</source>
-        <translation>Restaure o backup de %1 ou conserte o arquivo à mão; até lá nada é alterado nele, e o simulador talvez não carregue nenhum complemento.</translation>
+        <translation>Restaure o backup de %1 ou corrija o arquivo manualmente; até lá, nada será alterado nele e o simulador talvez não carregue nenhum complemento.</translation>
     </message>
     <message>
         <source>Move it away; until then the simulator may load no add-on at all.</source>
-        <translation>Mova-o para outro lugar; até lá o simulador talvez não carregue nenhum complemento.</translation>
+        <translation>Mova-o para outro lugar; até lá, o simulador talvez não carregue nenhum complemento.</translation>
     </message>
     <message>
         <source>Put the backup of %1 back; until then the simulator may load no add-on at all.</source>
-        <translation>Restaure o backup de %1; até lá o simulador talvez não carregue nenhum complemento.</translation>
+        <translation>Restaure o backup de %1; até lá, o simulador talvez não carregue nenhum complemento.</translation>
     </message>
 </context>
 <context>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Its type is %1, not %2; it counts as missing.</source>
-        <translation>O tipo dela é %1, não %2; conta como ausente.</translation>
+        <translation>O tipo é %1, não %2; o valor é tratado como ausente.</translation>
     </message>
     <message>
         <source>The simulator has no name.</source>
@@ -60,11 +60,11 @@
     </message>
     <message>
         <source>Line %1 has the same name; both share one record and one chosen folder.</source>
-        <translation>A linha %1 tem o mesmo nome; os dois compartilham um registro e uma pasta escolhida.</translation>
+        <translation>Na linha %1 está o mesmo nome; as duas entradas compartilham um mesmo registro e uma mesma pasta escolhida.</translation>
     </message>
     <message>
         <source>There are no files; nothing is installed, and it counts as installed.</source>
-        <translation>Não há arquivos; nada é instalado, e a entrada conta como instalada.</translation>
+        <translation>Não há arquivos; nada é instalado e a entrada é considerada instalada.</translation>
     </message>
     <message>
         <source>The payload has no file %1; it cannot be copied.</source>
@@ -72,11 +72,11 @@
     </message>
     <message>
         <source>There is no destination; it is the simulator&apos;s folder itself.</source>
-        <translation>Não há destino; é a própria pasta do simulador.</translation>
+        <translation>Não há destino; é usada a própria pasta do simulador.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the simulator&apos;s folder; the file is written there.</source>
-        <translation>&quot;..&quot; sai da pasta do simulador; o arquivo é gravado lá.</translation>
+        <translation>&quot;..&quot; sai da pasta do simulador; o arquivo é gravado fora dela.</translation>
     </message>
     <message>
         <source>Another file has the same destination; the later one is copied.</source>
@@ -84,11 +84,11 @@
     </message>
     <message>
         <source>It is only read beside a &quot;config&quot; that is null or not empty; it is ignored.</source>
-        <translation>Só é lido junto de um &quot;config&quot; que seja null ou não esteja vazio; é ignorado.</translation>
+        <translation>Só é lido junto de um &quot;config&quot; que seja null ou não esteja vazio; aqui é ignorado.</translation>
     </message>
     <message>
         <source>&quot;type&quot; is not 0, so no configuration file is touched.</source>
-        <translation>&quot;type&quot; não é 0, então nenhum arquivo de configuração é tocado.</translation>
+        <translation>&quot;type&quot; não é 0, então nenhum arquivo de configuração é alterado.</translation>
     </message>
     <message>
         <source>There is no path; no file can be edited.</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>This entry installs, but cannot be removed: no pair of &quot;values&quot; is what &quot;remove&quot; looks for.</source>
-        <translation>Esta entrada é instalada, mas não pode ser removida: nenhum par de &quot;values&quot; é o que &quot;remove&quot; procura.</translation>
+        <translation>Esta entrada é instalada, mas não pode ser removida: nenhum par de &quot;values&quot; corresponde ao que &quot;remove&quot; procura.</translation>
     </message>
     <message>
         <source>Only the child element is removed, and the rest of the entry stays: &quot;delete_parent&quot; is not true.</source>
-        <translation>Só o elemento filho é removido, e o resto da entrada fica: &quot;delete_parent&quot; não é true.</translation>
+        <translation>Só o elemento filho é removido e o resto da entrada permanece: &quot;delete_parent&quot; não é true.</translation>
     </message>
     <message>
         <source>Nothing is wrong.</source>
@@ -112,11 +112,11 @@
     </message>
     <message>
         <source>It is no whole number; it counts as 0.</source>
-        <translation>Não é um número inteiro; conta como 0.</translation>
+        <translation>Não é um número inteiro; é interpretado como 0.</translation>
     </message>
     <message>
         <source>There is no such location; the entry itself never finds anything.</source>
-        <translation>Essa &quot;location&quot; não existe; a entrada em si nunca encontra nada.</translation>
+        <translation>Essa &quot;location&quot; não existe; a entrada por si só nunca encontra nada.</translation>
     </message>
     <message>
         <source>It shares its chosen folder with the name in line %1.</source>
@@ -128,15 +128,15 @@
     </message>
     <message>
         <source>Without &quot;config&quot; no configuration file is touched.</source>
-        <translation>Sem &quot;config&quot; nenhum arquivo de configuração é tocado.</translation>
+        <translation>Sem &quot;config&quot; nenhum arquivo de configuração é alterado.</translation>
     </message>
     <message>
         <source>&quot;..&quot; leads out of the folder of such files.</source>
-        <translation>&quot;..&quot; sai da pasta desses arquivos.</translation>
+        <translation>&quot;..&quot; sai da pasta dos arquivos de configuração.</translation>
     </message>
     <message>
         <source>XML cannot hold this; the entry is never added.</source>
-        <translation>XML não pode conter isto; a entrada nunca é adicionada.</translation>
+        <translation>Isto não pode ser representado em XML; a entrada nunca é adicionada.</translation>
     </message>
 </context>
 <context>
@@ -151,11 +151,11 @@
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Dê a si mesmo permissão para gravar nela.</translation>
+        <translation>Conceda ao seu usuário permissão para gravar lá.</translation>
     </message>
     <message>
         <source>The configuration file %1 is missing.</source>
-        <translation>O arquivo de configuração %1 está faltando.</translation>
+        <translation>Falta o arquivo de configuração %1.</translation>
     </message>
     <message>
         <source>Uninstall and install again; the file is made anew.</source>
@@ -163,7 +163,7 @@
     </message>
     <message>
         <source>The configuration file %1 cannot be read: %2.</source>
-        <translation>O arquivo de configuração %1 não pode ser lido: %2.</translation>
+        <translation>Não é possível ler o arquivo de configuração %1: %2.</translation>
     </message>
     <message>
         <source>The configuration file %1 is damaged. %2</source>
@@ -175,27 +175,27 @@
     </message>
     <message>
         <source>The plugin&apos;s files are there, but %1 has no entry for it.</source>
-        <translation>Os arquivos do plugin estão lá, mas %1 não tem entrada para ele.</translation>
+        <translation>Os arquivos do plugin estão lá, mas em %1 não há entrada para ele.</translation>
     </message>
     <message>
         <source>%1 has an entry for the plugin, whose files are not there.</source>
-        <translation>%1 tem uma entrada para o plugin, cujos arquivos não estão lá.</translation>
+        <translation>Em %1 há uma entrada para o plugin, mas os arquivos dele não estão lá.</translation>
     </message>
     <message>
         <source>Install it, or uninstall it to take the entry out.</source>
-        <translation>Instale-o, ou desinstale-o para retirar a entrada.</translation>
+        <translation>Instale o plugin ou desinstale-o para remover a entrada.</translation>
     </message>
     <message>
         <source>Our entry is in %1 %2 times.</source>
-        <translation>A nossa entrada está em %1 %2 vezes.</translation>
+        <translation>A entrada do Orbwell aparece %2 vezes em %1.</translation>
     </message>
     <message>
         <source>Our entry in %1 is disabled.</source>
-        <translation>A nossa entrada em %1 está desativada.</translation>
+        <translation>A entrada do Orbwell em %1 está desativada.</translation>
     </message>
     <message>
         <source>Our entry in %1 names the file %2, which is missing.</source>
-        <translation>A nossa entrada em %1 indica o arquivo %2, que está faltando.</translation>
+        <translation>A entrada do Orbwell em %1 indica o arquivo %2, que não existe.</translation>
     </message>
     <message>
         <source>The configuration file %1 is a web page.</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>The configuration file cannot be made: %1 is a link that leads nowhere.</source>
-        <translation>O arquivo de configuração não pode ser criado: %1 é um link que não leva a lugar nenhum.</translation>
+        <translation>Não é possível criar o arquivo de configuração: %1 é um link quebrado.</translation>
     </message>
     <message>
         <source>Delete the link, then install.</source>
@@ -211,18 +211,18 @@
     </message>
     <message>
         <source>You may not change the configuration file %1, or not write in its folder.</source>
-        <translation>Você não pode alterar o arquivo de configuração %1 ou não pode gravar na pasta dele.</translation>
+        <translation>Você não tem permissão para alterar o arquivo de configuração %1 ou para gravar na pasta dele.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Doctor</name>
     <message>
         <source>The catalogue %1 is no JSON array; --check-catalogue says more.</source>
-        <translation>O catálogo %1 não é um array JSON; --check-catalogue diz mais.</translation>
+        <translation>O catálogo %1 não é um array JSON; --check-catalogue dá mais detalhes.</translation>
     </message>
     <message>
         <source>The catalogue has no simulator %1.</source>
-        <translation>O catálogo não tem nenhum simulador %1.</translation>
+        <translation>Não há no catálogo nenhum simulador chamado %1.</translation>
     </message>
     <message>
         <source>Try &quot;orbwell-doctor --help&quot;.</source>
@@ -230,11 +230,11 @@
     </message>
     <message>
         <source>The answer cannot be written: %1.</source>
-        <translation>A resposta não pode ser gravada: %1.</translation>
+        <translation>Não é possível gravar a resposta: %1.</translation>
     </message>
     <message>
         <source>The catalogue %1 cannot be read: %2.</source>
-        <translation>O catálogo %1 não pode ser lido: %2.</translation>
+        <translation>Não é possível ler o catálogo %1: %2.</translation>
     </message>
     <message>
         <source>The catalogue %1 is empty.</source>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Choose its folder in the window.</source>
-        <translation>Escolha a pasta dele na janela.</translation>
+        <translation>Escolha a pasta do simulador na janela.</translation>
     </message>
     <message>
         <source>%1 is a file, not a folder.</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>In the place of %1 is a link that leads nowhere.</source>
-        <translation>No lugar de %1 há um link que não leva a lugar nenhum.</translation>
+        <translation>Há um link quebrado no lugar de: %1.</translation>
     </message>
     <message>
         <source>Delete the link, then install.</source>
@@ -288,7 +288,7 @@
     </message>
     <message>
         <source>%1 is no regular file.</source>
-        <translation>%1 não é um arquivo comum.</translation>
+        <translation>Não é um arquivo comum: %1.</translation>
     </message>
     <message>
         <source>Move it away, then install.</source>
@@ -296,50 +296,50 @@
     </message>
     <message>
         <source>Only a part of the plugin is there; %1 is missing.</source>
-        <translation>Só há uma parte do plugin; falta %1.</translation>
+        <translation>Só uma parte do plugin está instalada; arquivos faltando: %1.</translation>
     </message>
     <message>
         <source>Install it.</source>
-        <translation>Instale-o.</translation>
+        <translation>Instale o plugin.</translation>
     </message>
     <message>
         <source>%1 differs from the file that comes with this program: another version, or damaged.</source>
-        <translation>%1 é diferente do arquivo que acompanha este programa: outra versão, ou danificado.</translation>
+        <translation>Arquivos diferentes dos fornecidos com este programa (outra versão, ou danificados): %1.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>%1 não pode ser lido.</translation>
+        <translation>Não é possível ler: %1.</translation>
     </message>
     <message>
         <source>You may not write in the folder of %1.</source>
-        <translation>Você não pode gravar na pasta de %1.</translation>
+        <translation>Você não tem permissão para gravar na pasta de %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Dê a si mesmo permissão para gravar nela.</translation>
+        <translation>Conceda ao seu usuário permissão para gravar lá.</translation>
     </message>
     <message>
         <source>You may not read %1, so it cannot be installed.</source>
-        <translation>Você não pode ler %1; esse arquivo não pode ser instalado.</translation>
+        <translation>Você não tem permissão para ler %1; esse arquivo não pode ser instalado.</translation>
     </message>
     <message>
         <source>Give yourself the right to read it.</source>
-        <translation>Dê a si mesmo permissão para lê-lo.</translation>
+        <translation>Conceda ao seu usuário permissão para lê-lo.</translation>
     </message>
     <message>
         <source>In the place of the folder %1 is a link that leads nowhere.</source>
-        <translation>No lugar da pasta %1 há um link que não leva a lugar nenhum.</translation>
+        <translation>No lugar da pasta %1 há um link quebrado.</translation>
     </message>
     <message>
         <source>%1 is a file where a folder has to be.</source>
-        <translation>%1 é um arquivo; nesse lugar tem de haver uma pasta.</translation>
+        <translation>%1 é um arquivo, mas no lugar dele tem de haver uma pasta.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Options</name>
     <message>
         <source>%1: a plan is for &quot;install&quot;, &quot;repair&quot; or &quot;uninstall&quot;.</source>
-        <translation>%1: um plano é para &quot;install&quot;, &quot;repair&quot; ou &quot;uninstall&quot;.</translation>
+        <translation>%1: um plano só pode ser para &quot;install&quot;, &quot;repair&quot; ou &quot;uninstall&quot;.</translation>
     </message>
     <message>
         <source>--catalogue needs a file.</source>
@@ -347,11 +347,11 @@
     </message>
     <message>
         <source>Unknown option %1.</source>
-        <translation>Opção desconhecida %1.</translation>
+        <translation>Opção desconhecida: %1.</translation>
     </message>
     <message>
         <source>Unknown option %1. Is %2 meant?</source>
-        <translation>Opção desconhecida %1. Quis dizer %2?</translation>
+        <translation>Opção desconhecida: %1. Você quis dizer %2?</translation>
     </message>
     <message>
         <source>Usage: orbwell-doctor [OPTION...] [NAME...]
@@ -367,16 +367,16 @@ NAMEs limit the report or the plan to those simulators.
 Status: 0 nothing wrong, 1 something wrong, 2 it could not look.
 </source>
         <translation>Uso: orbwell-doctor [OPÇÃO...] [NOME...]
-Diz o que há de errado com os simuladores e com o plugin Orbwell neles. Não altera nada.
+Indica o que há de errado com os simuladores e com o plugin Orbwell neles. Não altera nada.
 
-  --json               o relatório, o plano ou a verificação em JSON
+  --json               o relatório, o plano ou a verificação em formato JSON
   --plan[=AÇÃO]        o que &quot;install&quot; (padrão), &quot;repair&quot; ou &quot;uninstall&quot; faria
   --catalogue ARQUIVO  usa outro catálogo, e a pasta &quot;plugins&quot; ao lado dele, se houver
   --check-catalogue    só o que há de errado no catálogo
   --help, --version
 
-NOMEs limitam o relatório ou o plano a esses simuladores.
-Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
+Com um ou mais NOME, o relatório ou o plano se limita a esses simuladores.
+Status de saída: 0 tudo certo, 1 algo errado, 2 não foi possível verificar.
 </translation>
     </message>
     <message>
@@ -468,11 +468,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>Button in the window: &quot;Install Orbwell&quot;</source>
-        <translation>Botão na janela: &quot;Instalar Orbwell&quot;</translation>
+        <translation>Botão na janela: “Instalar Orbwell”</translation>
     </message>
     <message>
         <source>Button in the window: &quot;Uninstall Orbwell&quot;</source>
-        <translation>Botão na janela: &quot;Desinstalar Orbwell&quot;</translation>
+        <translation>Botão na janela: “Desinstalar Orbwell”</translation>
     </message>
     <message>
         <source>Button in the window: disabled</source>
@@ -503,7 +503,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>chosen by hand</source>
-        <translation>escolhida à mão</translation>
+        <translation>escolha manual</translation>
     </message>
     <message>
         <source>the catalogue&apos;s file</source>
@@ -527,11 +527,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>no permission to look inside</source>
-        <translation>sem permissão para olhar dentro</translation>
+        <translation>sem permissão para ver o conteúdo</translation>
     </message>
     <message>
         <source>no file &quot;version&quot; that begins with a version number</source>
-        <translation>não há arquivo &quot;version&quot; que comece com uma</translation>
+        <translation>não há arquivo &quot;version&quot; que comece com um número de versão</translation>
     </message>
     <message>
         <source>no defaults.xml or preferences.xml</source>
@@ -539,11 +539,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>no InstalledPackagesPath in it</source>
-        <translation>não há InstalledPackagesPath nele</translation>
+        <translation>não contém InstalledPackagesPath</translation>
     </message>
     <message>
         <source>its InstalledPackagesPath does not begin with a drive</source>
-        <translation>o InstalledPackagesPath dele não está em nenhuma unidade</translation>
+        <translation>o InstalledPackagesPath dele não começa com uma letra de unidade</translation>
     </message>
     <message>
         <source>no Community, Official/Steam or Official/OneStore</source>
@@ -563,7 +563,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>too much to read altogether</source>
-        <translation>coisas demais para ler no total</translation>
+        <translation>dados demais para ler no total</translation>
     </message>
     <message>
         <source>no fsx.exe</source>
@@ -595,7 +595,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>cut off, or not in Steam&apos;s text format</source>
-        <translation>cortado, ou não está no formato de texto do Steam</translation>
+        <translation>truncado, ou não está no formato de texto do Steam</translation>
     </message>
     <message>
         <source>uninstalled (StateFlags %1)</source>
@@ -607,11 +607,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>no AppState in it</source>
-        <translation>não há AppState nele</translation>
+        <translation>não contém AppState</translation>
     </message>
     <message>
         <source>it is about another game</source>
-        <translation>trata de outro jogo</translation>
+        <translation>refere-se a outro jogo</translation>
     </message>
     <message>
         <source>installdir is not a plain name</source>
@@ -631,7 +631,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>it is taken as %1</source>
-        <translation>é tomado como %1</translation>
+        <translation>já está atribuída a %1</translation>
     </message>
     <message>
         <source>Second byte-order mark.</source>
@@ -667,11 +667,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>Entities grow to too much text.</source>
-        <translation>As entidades crescem até virar texto demais.</translation>
+        <translation>As entidades geram texto demais.</translation>
     </message>
     <message>
         <source>No XML has this character.</source>
-        <translation>Nenhum XML tem este caractere.</translation>
+        <translation>O XML não permite este caractere.</translation>
     </message>
     <message>
         <source>The root element is not where it should be.</source>
@@ -691,7 +691,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>A value is no text that XML can hold.</source>
-        <translation>Um valor não é um texto que o XML possa conter.</translation>
+        <translation>O texto de um valor não pode ser representado em XML.</translation>
     </message>
     <message>
         <source>The element to change comes out of an entity.</source>
@@ -703,7 +703,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>A name or a value is none that XML can hold.</source>
-        <translation>Um nome ou um valor não é dos que o XML pode conter.</translation>
+        <translation>Um nome ou um valor não pode ser representado em XML.</translation>
     </message>
     <message>
         <source>The file&apos;s encoding cannot hold a name.</source>
@@ -743,18 +743,18 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>another one was chosen by hand</source>
-        <translation>outra foi escolhida à mão</translation>
+        <translation>outra foi escolhida manualmente</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::RecordCheck</name>
     <message>
         <source>The installation record %1 cannot be read: %2.</source>
-        <translation>O registro de instalação %1 não pode ser lido: %2.</translation>
+        <translation>Não é possível ler o registro de instalação %1: %2.</translation>
     </message>
     <message>
         <source>The installation record %1 is damaged; what it said is lost.</source>
-        <translation>O registro de instalação %1 está danificado; o que ele dizia se perdeu.</translation>
+        <translation>O registro de instalação %1 está danificado; o conteúdo dele se perdeu.</translation>
     </message>
     <message>
         <source>Install again; a new record is written then.</source>
@@ -762,11 +762,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>The plugin is there, but not in the installation record.</source>
-        <translation>O plugin está lá, mas não no registro de instalação.</translation>
+        <translation>O plugin está instalado, mas não consta no registro de instalação.</translation>
     </message>
     <message>
         <source>Press &quot;Scan &amp; Install&quot; in the window; it is recorded then.</source>
-        <translation>Clique em &quot;Buscar &amp; instalar&quot; na janela; então ele será registrado.</translation>
+        <translation>Clique em “Buscar &amp; instalar” na janela; assim ele será registrado.</translation>
     </message>
     <message>
         <source>The installation record has the plugin in %1, but files are missing there.</source>
@@ -778,7 +778,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>The installation record has the plugin in %1, not in %2. Unattended runs work on the first, the window on the second.</source>
-        <translation>Segundo o registro de instalação, o plugin está em %1, não em %2. As execuções não assistidas trabalham na primeira pasta; a janela, na segunda.</translation>
+        <translation>Segundo o registro de instalação, o plugin está em %1, não em %2. As execuções não assistidas usam a primeira pasta; a janela, a segunda.</translation>
     </message>
     <message>
         <source>Choose the folder in the window, then install or uninstall there.</source>
@@ -786,15 +786,15 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>The installation record has %1 in %2, which the catalogue no longer knows.</source>
-        <translation>O registro de instalação tem %1 em %2, que o catálogo não conhece mais.</translation>
+        <translation>O registro de instalação contém %1 em %2, mas esse simulador não está mais no catálogo.</translation>
     </message>
     <message>
         <source>Remove the plugin there by hand, if it is no longer wanted.</source>
-        <translation>Remova o plugin de lá à mão, se não o quiser mais.</translation>
+        <translation>Remova o plugin de lá manualmente, se não o quiser mais.</translation>
     </message>
     <message>
         <source>Nothing can be recorded: %1 is a link that leads nowhere.</source>
-        <translation>Nada pode ser anotado no registro de instalação: %1 é um link que não leva a lugar nenhum.</translation>
+        <translation>Não é possível anotar nada no registro de instalação: %1 é um link quebrado.</translation>
     </message>
     <message>
         <source>Delete the link.</source>
@@ -802,26 +802,26 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>You may not write the installation record %1.</source>
-        <translation>Você não pode gravar o registro de instalação %1.</translation>
+        <translation>Você não tem permissão para gravar o registro de instalação %1.</translation>
     </message>
     <message>
         <source>Give yourself the right to write there.</source>
-        <translation>Dê a si mesmo permissão para gravar nela.</translation>
+        <translation>Conceda ao seu usuário permissão para gravar lá.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::Rehearsal</name>
     <message>
         <source>%1 is a folder, and stays.</source>
-        <translation>%1 é uma pasta, e fica.</translation>
+        <translation>%1 é uma pasta e não é removida.</translation>
     </message>
     <message>
         <source>%1 cannot be copied to %2: a folder, or a link that leads nowhere, is in its place.</source>
-        <translation>%1 não pode ser copiado para %2: no lugar há uma pasta, ou um link que não leva a lugar nenhum.</translation>
+        <translation>Não é possível copiar %1 para %2: esse lugar está ocupado por uma pasta ou por um link quebrado.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: the payload lacks it. What is in its place goes all the same.</source>
-        <translation>%1 não pode ser copiado: falta entre os arquivos fornecidos. O que está no lugar dele é removido mesmo assim.</translation>
+        <translation>Não é possível copiar %1: falta entre os arquivos fornecidos. O que está no destino é removido mesmo assim.</translation>
     </message>
     <message>
         <source>%1 stays as it is: %2</source>
@@ -833,30 +833,30 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>%1 cannot be copied to %2: you may not write there, or the folder is missing.</source>
-        <translation>%1 não pode ser copiado para %2: você não pode gravar lá, ou falta a pasta.</translation>
+        <translation>Não é possível copiar %1 para %2: você não tem permissão para gravar lá, ou falta a pasta.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: you may not read it. What is in its place goes all the same.</source>
-        <translation>%1 não pode ser copiado: você não pode lê-lo. O que está no lugar dele é removido mesmo assim.</translation>
+        <translation>Não é possível copiar %1: você não tem permissão para lê-lo. O que está no destino é removido mesmo assim.</translation>
     </message>
     <message>
         <source>No backup of %1 can be made: you may not write in its folder.</source>
-        <translation>Não é possível criar um backup de %1: você não pode gravar na pasta dele.</translation>
+        <translation>Não é possível criar um backup de %1: você não tem permissão para gravar na pasta dele.</translation>
     </message>
     <message>
         <source>%1 cannot be made: you may not write there, or the folder is missing.</source>
-        <translation>%1 não pode ser criado: você não pode gravar lá, ou falta a pasta.</translation>
+        <translation>Não é possível criar %1: você não tem permissão para gravar lá, ou falta a pasta.</translation>
     </message>
     <message>
         <source>%1 stays as it is: you may not change it, or not write in its folder.</source>
-        <translation>%1 fica como está: você não pode alterá-lo ou não pode gravar na pasta dele.</translation>
+        <translation>%1 fica como está: você não tem permissão para alterá-lo ou para gravar na pasta dele.</translation>
     </message>
 </context>
 <context>
     <name>Quillmont::Utility::Doctor::TextReport</name>
     <message>
         <source>The catalogue has no simulator.</source>
-        <translation>O catálogo não tem nenhum simulador.</translation>
+        <translation>O catálogo não contém nenhum simulador.</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -880,11 +880,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>Folder: %1, known by: %2</source>
-        <translation>Pasta: %1, conhecida por: %2</translation>
+        <translation>Pasta: %1, origem: %2</translation>
     </message>
     <message>
         <source>Gave %1 up to %2, which found the same folder</source>
-        <translation>Cedeu %1 para %2, que encontrou a mesma pasta</translation>
+        <translation>Cedeu %1 a %2, que encontrou a mesma pasta</translation>
     </message>
     <message>
         <source>Turned down: %1 (%2): %3</source>
@@ -924,7 +924,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>Another program&apos;s entry %1 names a file that is not there: %2</source>
-        <translation>A entrada %1 de outro programa indica um arquivo que não está lá: %2</translation>
+        <translation>A entrada %1 de outro programa indica um arquivo que não existe: %2</translation>
     </message>
     <message>
         <source>Configuration: %1, missing</source>
@@ -944,23 +944,23 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>No entry of ours</source>
-        <translation>Nenhuma entrada nossa</translation>
+        <translation>Nenhuma entrada do Orbwell</translation>
     </message>
     <message>
         <source>Our entry: there once, disabled, for %1</source>
-        <translation>A nossa entrada: presente uma vez, desativada, para %1</translation>
+        <translation>Entrada do Orbwell: presente uma vez, desativada, arquivo: %1</translation>
     </message>
     <message>
         <source>Our entry: there once, enabled, for %1</source>
-        <translation>A nossa entrada: presente uma vez, ativada, para %1</translation>
+        <translation>Entrada do Orbwell: presente uma vez, ativada, arquivo: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, disabled, for %1</source>
-        <translation>A nossa entrada: presente %2 vezes, desativada, para %1</translation>
+        <translation>Entrada do Orbwell: presente %2 vezes, desativada, arquivo: %1</translation>
     </message>
     <message>
         <source>Our entry: there %2 times, enabled, for %1</source>
-        <translation>A nossa entrada: presente %2 vezes, ativada, para %1</translation>
+        <translation>Entrada do Orbwell: presente %2 vezes, ativada, arquivo: %1</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, well formed; to put it back:</source>
@@ -1004,7 +1004,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>no named file</source>
-        <translation>nenhum arquivo</translation>
+        <translation>não indicado</translation>
     </message>
     <message>
         <source>Backup of %1, %2 bytes, damaged</source>
@@ -1012,7 +1012,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>Configuration: %1, a link that leads nowhere</source>
-        <translation>Configuração: %1, um link que não leva a lugar nenhum</translation>
+        <translation>Configuração: %1, um link quebrado</translation>
     </message>
 </context>
 <context>
@@ -1075,7 +1075,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 ends with &lt;/%3&gt; in line %4: letter case counts.</source>
-        <translation>&lt;%1&gt; na linha %2 termina com &lt;/%3&gt; na linha %4: maiúsculas e minúsculas contam.</translation>
+        <translation>&lt;%1&gt; na linha %2 termina com &lt;/%3&gt; na linha %4: maiúsculas e minúsculas são diferenciadas.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes nothing: no &lt;%1&gt; is open there.</source>
@@ -1083,11 +1083,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>&lt;%1&gt; in line %2 is never closed; &lt;/%3&gt; in line %4 came first.</source>
-        <translation>&lt;%1&gt; na linha %2 nunca é fechado; &lt;/%3&gt; na linha %4 veio antes.</translation>
+        <translation>&lt;%1&gt; na linha %2 nunca é fechado; &lt;/%3&gt; na linha %4 aparece antes.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; comes a second time in line %2: behind the document is the rest of an older, longer file.</source>
-        <translation>&lt;/%1&gt; aparece uma segunda vez na linha %2: depois do documento está o resto de um arquivo antigo mais longo.</translation>
+        <translation>&lt;/%1&gt; aparece uma segunda vez na linha %2: depois do documento está o resto de um arquivo anterior mais longo.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; in line %2 closes an element that was never opened: the line with &lt;%1 ...&gt; is lost.</source>
@@ -1099,11 +1099,11 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>%1 in line %2 is no tag; what is meant is %3.</source>
-        <translation>%1 na linha %2 não é uma tag; o que se quer dizer é %3.</translation>
+        <translation>%1 na linha %2 não é uma tag; deveria ser %3.</translation>
     </message>
     <message>
         <source>Behind the end of the document, in line %1, there is more text: the rest of an older, longer file?</source>
-        <translation>Depois do fim do documento, na linha %1, há mais texto: o resto de um arquivo antigo mais longo?</translation>
+        <translation>Depois do fim do documento, na linha %1, há mais texto: o resto de um arquivo anterior mais longo?</translation>
     </message>
     <message>
         <source>&quot;&amp;&quot; in line %1 has to be written &quot;&amp;amp;&quot;.</source>
@@ -1119,7 +1119,7 @@ Status: 0 tudo certo, 1 algo errado, 2 não foi possível olhar.
     </message>
     <message>
         <source>The value of %1 in line %2 has no quotation marks.</source>
-        <translation>O valor de %1 na linha %2 não tem aspas.</translation>
+        <translation>O valor de %1 na linha %2 não está entre aspas.</translation>
     </message>
 </context>
 <context>
