@@ -1,7 +1,9 @@
 // Takes pictures of the window and of every box for visual review, with different screens,
-// palettes, fonts and writing directions.
+// palettes, fonts, languages and writing directions.
 
+#include "Controllers/Translations.h"
 #include "Views/ScannerView.h"
+#include "Widgets/ProgressWindow.h"
 #include "Widgets/ResultBox.h"
 #include "tests/ViewControllers/Workshop.h"
 #include "tests/Widgets/RowParts.h"
@@ -9,6 +11,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -17,12 +20,15 @@
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QToolTip>
 
 #include <algorithm>
 
+using Quillmont::Utility::Controllers::installTranslations;
 using Quillmont::Utility::Views::ScannerView;
+using Quillmont::Utility::Widgets::ProgressWindow;
 using Quillmont::Utility::Widgets::showInformation;
 using Tests::FlightSimulatorMapping;
 using Tests::RowParts;
@@ -111,6 +117,8 @@ private:
     void photographInstalling();
     void photographUninstalling();
     void photographScanning();
+    void photographProgress();
+    void photographFolderDialog();
 
     Workshop m_workshop;
     Album m_album;
@@ -261,6 +269,30 @@ void Photographer::photographScanning()
     }
 }
 
+void Photographer::photographProgress()
+{
+    ProgressWindow progress(view(), ProgressWindow::tr("Installing Orbwell"));
+    progress.showState(QStringLiteral("Microsoft Flight Simulator X: Steam Edition"),
+                       QStringLiteral("Modules/Orbwell/a folder whose name is long/Orbwell.dll"),
+                       1234,
+                       5678,
+                       42);
+    progress.show();
+    if (!QTest::qWaitForWindowExposed(&progress))
+        qFatal("no progress window");
+    m_album.add(&progress, QStringLiteral("box-progress"));
+}
+
+void Photographer::photographFolderDialog()
+{
+    QTimer::singleShot(0, view(), [this] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        m_album.add(dialog, QStringLiteral("box-folder"));
+        dialog->reject();
+    });
+    row(0).browse->click();
+}
+
 void Photographer::photographBoxes()
 {
     photographInstalling();
@@ -268,6 +300,8 @@ void Photographer::photographBoxes()
     photographScanning();
 
     show({simulator("Flight Simulator X", QString())});
+    photographProgress();
+    photographFolderDialog();
     const QString chosen = m_workshop.folder("chosen");
     Tests::FolderPicker person(chosen);
     person.afterPicking([chosen] { QDir().rmdir(chosen); });
@@ -301,6 +335,7 @@ int main(int argc, char *argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QApplication application(argc, argv);
+    installTranslations();
     QCommandLineParser parser;
     const QCommandLineOption dark(QStringLiteral("dark"));
     const QCommandLineOption letters(
