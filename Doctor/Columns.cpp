@@ -32,7 +32,7 @@ bool isWide(uint character)
                                             {0x1f300, 0x1f64f},
                                             {0x1f900, 0x1f9ff},
                                             {0x20000, 0x3fffd}}};
-    return std::any_of(blocks.cbegin(), blocks.cend(), [character](const Block &block) {
+    return std::any_of(blocks.cbegin(), blocks.cend(), [character](Block block) {
         return character >= block.first && character <= block.last;
     });
 }

@@ -32,8 +32,10 @@ Page Page::forStandardOutput()
 
 void Page::add(int indent, const QString &line, Style style)
 {
-    if (m_width == 0)
-        return addExactly(indent, line, style);
+    if (m_width == 0) {
+        addExactly(indent, line, style);
+        return;
+    }
     const QString blanks(indent, u' ');
     QString folded;
     int columns = indent;

@@ -183,9 +183,11 @@ void Rehearsal::backUp(Before before)
     QString problem;
     if (!m_disk.file(m_configuration) && !FileHelper::open(&file, QIODevice::ReadOnly, &problem))
         return;
-    if (!m_disk.mayWriteBeside(m_configuration))
-        return fail(tr("No backup of %1 can be made: you may not write in its folder.")
-                        .arg(quoted(m_configuration)));
+    if (!m_disk.mayWriteBeside(m_configuration)) {
+        fail(tr("No backup of %1 can be made: you may not write in its folder.")
+                 .arg(quoted(m_configuration)));
+        return;
+    }
     m_backedUp.append(before);
     m_backups.append(m_disk.placeOf(
         ViewControllers::backupName(m_configuration, before, QDateTime::currentDateTime())));
@@ -194,9 +196,11 @@ void Rehearsal::backUp(Before before)
 void Rehearsal::updateRecord(bool uninstalled)
 {
     const QString path = recordFile();
-    if (!m_recordText.problem().isEmpty())
-        return fail(tr("The record %1 stays as it is: %2")
-                        .arg(quoted(path), Reasons::translated(m_recordText.problem())));
+    if (!m_recordText.problem().isEmpty()) {
+        fail(tr("The record %1 stays as it is: %2")
+                 .arg(quoted(path), Reasons::translated(m_recordText.problem())));
+        return;
+    }
     m_disk.makeFolderOf(path);
     if (m_disk.mayRewrite(path))
         m_record.update(m_mapping, uninstalled);

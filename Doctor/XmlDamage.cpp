@@ -144,7 +144,7 @@ bool XmlDamage::takeOtherEnd(const Tag &tag)
         return say(tag.begin,
                    tr("<%1> in line %2 ends with </%3> in line %4: letter case counts.")
                        .arg(name, lineText(last.begin), tag.name, lineText(tag.begin)));
-    const bool isOpen = std::any_of(m_open.cbegin(), m_open.cend(), [this, &tag](const Open &open) {
+    const bool isOpen = std::any_of(m_open.cbegin(), m_open.cend(), [this, &tag](Open open) {
         return nameOf(open) == tag.name;
     });
     if (!isOpen)
@@ -256,7 +256,7 @@ QString XmlDamage::brokenLine() const
     return line.size() > maxSize ? line.left(maxSize) + QChar(0x2026) : line;
 }
 
-QStringRef XmlDamage::nameOf(const Open &open) const
+QStringRef XmlDamage::nameOf(Open open) const
 {
     return m_text.midRef(open.begin + 1, open.nameSize);
 }

@@ -53,7 +53,7 @@ private:
     bool say(int place, const QString &sentence);
     int lineOf(int place) const;
     QString lineText(int place) const;
-    QStringRef nameOf(const Open &open) const;
+    QStringRef nameOf(Open open) const;
     QString written(const Tag &tag) const;
 
     const QString m_text;

@@ -96,7 +96,7 @@ private:
         return std::max(1, (character - m_here.character - reserve) / most);
     }
 
-    void decodeFrom(const Offset &place)
+    void decodeFrom(Offset place)
     {
         m_here = place;
         m_decoder = m_map.m_encoding.makeDecoder();
@@ -132,10 +132,10 @@ OffsetMap::Offset OffsetMap::startBefore(int character) const
 {
     if (!m_encoding.isStateless())
         return {m_encoding.markSize(), 0};
-    auto next = std::lower_bound(
-        m_pieces.cbegin(), m_pieces.cend(), character, [](const Offset &piece, int wanted) {
-            return piece.character < wanted;
-        });
+    auto next = std::lower_bound(m_pieces.cbegin(),
+                                 m_pieces.cend(),
+                                 character,
+                                 [](Offset piece, int wanted) { return piece.character < wanted; });
     // A piece may begin in the middle of a surrogate pair, which is read otherwise there.
     while (next != m_pieces.cbegin() && m_text.at(std::prev(next)->character).isLowSurrogate())
         --next;
