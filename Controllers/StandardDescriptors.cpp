@@ -7,8 +7,8 @@
 
 namespace Quillmont::Utility::Controllers {
 
-// Whoever opens a file gets the lowest number that is free. Were it that of standard error, each
-// line of the log would go into the installation record, or to the X server.
+// A new file gets the lowest free descriptor. If that were standard error's, each log line would go
+// into the installation record or to the X server. For reading only, so that writing still fails.
 void tieClosedDescriptors()
 {
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -8,11 +8,11 @@ class QString;
 
 namespace Quillmont::Utility::Doctor {
 
-/// The backups of the file at @p path, the newest first: "path", "time", "size", "restore" (what a
-/// shell puts back with), and of the newest twenty "wellFormed".
+/// The backups of the file at @p path, the newest first, with "path", "time", "size", "restore" (a
+/// shell command), and for the newest twenty "wellFormed".
 QJsonArray backupsOf(const QString &path);
 
-/// Which of them is the newest that is well formed; -1 if none is.
+/// The index of the newest of @p backups that is well formed; -1 if none is.
 int newestGood(const QJsonArray &backups);
 
 /// When a @p backup was made, as a user reads it.

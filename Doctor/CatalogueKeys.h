@@ -10,9 +10,9 @@ class QJsonValue;
 
 namespace Quillmont::Utility::Doctor {
 
-/// The keys that the program reads of an object of a catalogue that is of that @p kind, and of what
-/// type it wants them. Behind a colon: the kind of object, or of objects in the array. An "integer"
-/// is a number, and "digits" are a string.
+/// The keys that the program reads in a catalogue's object of that @p kind, with their types. After
+/// a colon: the kind of the object, or of the array's objects. An "integer" is a number, and
+/// "digits" are a string.
 QMap<QString, QString> keysOf(const QString &kind);
 
 /// The type of @p value, as JSON calls it.
@@ -24,7 +24,7 @@ bool isWhole(const QJsonValue &value, const QString &type);
 /// Whether ".." is a part of @p path.
 bool leadsOut(const QString &path);
 
-/// The keys of what no XML can hold in the entry that @p config describes: "parent", "values/0".
+/// The keys of @p config whose values XML cannot represent, such as "parent" or "values/0".
 QStringList noMarkupOf(const QJsonObject &config);
 
 } // namespace Quillmont::Utility::Doctor

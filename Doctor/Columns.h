@@ -5,12 +5,12 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// How many columns of a terminal @p text takes: two for a wide character, as the Japanese ones
-/// are, and none for what combines with the one before it.
+/// The number of terminal columns that @p text takes: two per wide character, such as Japanese
+/// ones, and none per combining character.
 int columnsOf(const QString &text);
 
-/// @p text in pieces between which a line may end: behind blanks, which stay, and between wide
-/// characters where the rules of their scripts allow it. Put together they are the text again.
+/// @p text in pieces between which a line may end: after blanks, which stay, and between wide
+/// characters where their scripts allow it. Joined, they are the text again.
 QStringList breakable(const QString &text);
 
 } // namespace Quillmont::Utility::Doctor

@@ -76,7 +76,7 @@ QJsonObject Examination::report(const QStringList &names) const
     }
     Problems problems;
     QJsonObject whole = record.json(known, &problems);
-    // Who asks for some simulators is told of those.
+    // A report on some simulators leaves out the problems of the others' records.
     const QJsonArray ofTheRecord = names.isEmpty() ? problems.all() : QJsonArray();
     whole.insert(QStringLiteral("problems"), ofTheRecord);
     isFine = isFine && ofTheRecord.isEmpty();

@@ -6,7 +6,7 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// Lines that take the place of those from begin up to end.
+/// Lines that replace those from begin up to end.
 struct LineEdit
 {
     int begin;
@@ -14,14 +14,14 @@ struct LineEdit
     QStringList lines;
 };
 
-/// @p text in lines with their ends; the last may have none.
+/// The lines of @p text with their line ends; the last one may have none.
 QStringList linesOf(const QString &text);
 
-/// What makes @p after of @p before, as a unified diff without lines around the changes, which may
-/// be somebody else's. Empty where nothing is different; a null @p before is a missing file.
+/// The change from @p before to @p after as a unified diff without context lines, which may be
+/// somebody else's. Empty if nothing differs; a null @p before is a missing file.
 QString lineDiff(const QString &path, const QString &before, const QString &after);
 
-/// The same for changes of @p before that are known, in their order.
+/// The same for known @p edits of @p before, in order.
 QString lineDiff(const QString &path, const QStringList &before, const QVector<LineEdit> &edits);
 
 } // namespace Quillmont::Utility::Doctor

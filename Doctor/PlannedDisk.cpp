@@ -1,6 +1,7 @@
 #include "Doctor/PlannedDisk.h"
 
 #include "ViewControllers/Payload/Leftovers.h"
+#include "ViewControllers/Payload/SimulatorFiles.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -139,9 +140,7 @@ bool PlannedDisk::makeFolderOf(const QString &path)
 // and without a link in the place of a folder.
 bool PlannedDisk::makeFolder(const QString &path)
 {
-    // The systems' maximum; a record can contain a path of a million folders.
-    constexpr int maxPathLength = 4096;
-    if (path.size() > maxPathLength)
+    if (path.size() > ViewControllers::maxPathLength)
         return false;
     for (int end = 0; end >= 0;) {
         end = path.indexOf(u'/', end + 1);

@@ -9,9 +9,9 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// The disk as it would be after some changes, none of which is made. Each is planned only if the
-/// system would let this user make it; otherwise the answer is false. Paths are taken as the system
-/// takes them, link by link; a place is a path without links, ".." and doubled slashes.
+/// The disk as it would be after some changes, none of which is made. Each is planned only if this
+/// user has the right to make it; otherwise the result is false. Paths are resolved as the system
+/// does it, link by link; a place is a path without links, ".." and doubled slashes.
 class PlannedDisk
 {
 public:
@@ -28,23 +28,23 @@ public:
         QByteArray bytes; ///< The content that is written.
     };
 
-    /// The place where @p path leads; the file there may be missing. Empty where a folder on the
-    /// way is missing or none.
+    /// The place where @p path leads; the file there may be missing. Empty if a folder on the
+    /// way is missing or is not a folder.
     QString placeOf(const QString &path) const { return place(path, Followed); }
 
-    /// Whether there is anything at @p path, links followed.
+    /// Whether something exists at @p path, following links.
     bool exists(const QString &path) const { return isAt(placeOf(path)); }
 
     /// Whether that is a folder.
     bool isFolder(const QString &path) const { return isFolderAt(placeOf(path)); }
 
-    /// Whether @p path itself is a link, and leads to nothing.
+    /// Whether @p path itself is a dangling link.
     bool isDeadLink(const QString &path) const;
 
-    /// Makes the folder that the file at @p path is to be in, and all above it.
+    /// Creates the folder of the file at @p path, with its parents.
     bool makeFolderOf(const QString &path);
 
-    /// Whether names can be made, and taken away, in the folder of @p path.
+    /// Whether files can be created and removed in the folder of @p path.
     bool mayWriteBeside(const QString &path) const { return isBesideWritable(place(path, Kept)); }
 
     /// Whether a file can be made where there is nothing, not even a dead link.
@@ -61,23 +61,23 @@ public:
     bool copy(const QString &source, const QString &target);
     bool replace(const QString &path, const QByteArray &bytes);
 
-    /// Takes the folder of @p path away, with all that is hidden in it, if the user sees nothing
-    /// there; what cannot be taken away stays.
+    /// Removes the folder of @p path, with hidden files in it, if it has nothing visible; what
+    /// cannot be removed stays.
     void removeFolderIfEmpty(const QString &path);
 
     /// What is planned for a file; null if nothing is.
     const File *file(const QString &path) const;
 
-    /// All of that, by place.
+    /// All planned files, by place.
     const QMap<QString, File> &files() const { return m_files; }
 
-    /// The places of folders that are made, or taken away.
+    /// The folders that are created or removed, by place.
     QStringList newFolders() const;
     QStringList goneFolders() const;
 
 private:
     enum LastName {
-        Kept, ///< A link there is meant itself.
+        Kept, ///< The link itself.
         Followed
     };
 
@@ -95,9 +95,9 @@ private:
     bool takeContentsAway(const QString &folder);
 
     QMap<QString, File> m_files;
-    QSet<QString> m_newFolders; ///< Of the gone ones those that come back, too.
+    QSet<QString> m_newFolders; ///< Including removed ones that are created again.
     QSet<QString> m_goneFolders;
-    QHash<QString, QSet<QString>> m_seen; ///< What the user still sees in a folder.
+    QHash<QString, QSet<QString>> m_seen; ///< What is still visible in a folder.
 };
 
 } // namespace Quillmont::Utility::Doctor

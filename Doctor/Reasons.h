@@ -6,13 +6,13 @@
 
 namespace Quillmont::Utility::Doctor {
 
-/// What detection and the library say in English, in the user's language.
+/// Translates what detection and the library report in English.
 class Reasons
 {
     Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Reasons)
 
 public:
-    /// As it is where there is no other way to say it, as with "Steam".
+    /// Unchanged if it has no translation, such as "Steam".
     static QString translated(const QString &reason);
 
 private:

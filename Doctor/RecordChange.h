@@ -17,15 +17,15 @@ namespace Quillmont::Utility::Doctor {
 
 class RecordText;
 
-/// What an installation or removal makes of the installation record. It takes no longer for a
-/// record of many simulators than for a short one, if the program has written it.
+/// The change of the installation record by an installation or removal. Its cost does not depend on
+/// the size of a record that the program has written.
 class RecordChange
 {
 public:
     /// @p record has to outlive this.
     explicit RecordChange(const RecordText &record);
 
-    /// As saving the record after an installation or removal does.
+    /// Updates the record as it is done after an installation or removal.
     void update(const Models::FlightSimulatorMapping *mapping, bool uninstalled);
 
     /// The record's "path", its "change" and the "diff". The record is at @p place, where its path

@@ -28,10 +28,10 @@ public:
 
     int count() const { return m_begins.size() - 1; }
 
-    /// The first line of a record; for count() that of the bracket behind the last.
+    /// The first line of a record; for count() that of the closing bracket.
     int begin(int record) const { return m_begins.at(record); }
 
-    /// The records with that name, in their order.
+    /// The indexes of the records with that name, ascending.
     QVector<int> named(const QString &name) const { return m_named.value(name); }
 
 private:

@@ -29,8 +29,8 @@ class Rehearsal
     Q_DECLARE_TR_FUNCTIONS(Quillmont::Utility::Doctor::Rehearsal)
 
 public:
-    /// For the simulator of @p mapping, which has a folder, with the files in @p payload. All that
-    /// is handed in has to outlive this.
+    /// For the simulator of @p mapping, which has a folder, with the files in @p payload. All
+    /// arguments must outlive this.
     Rehearsal(const Models::FlightSimulatorMapping *mapping,
               const QString &payload,
               const RecordText &record);
@@ -38,10 +38,10 @@ public:
     void install();
     void uninstall();
 
-    /// Adds what would go wrong, once.
+    /// Notes once what would go wrong.
     void fail(const QString &sentence);
 
-    /// All that would be different afterwards, and what would go wrong.
+    /// Everything that would be changed, and what would go wrong.
     QJsonObject plan() const;
 
 private:

@@ -21,7 +21,7 @@ struct TurnedDown
     QString reason;
 };
 
-/// A catalogue entry as the window shows it, and how it came by its folder.
+/// A catalogue entry as the window shows it, and how its folder was found.
 struct Simulator
 {
     enum Origin {
@@ -33,8 +33,8 @@ struct Simulator
 
     Models::FlightSimulatorMapping *mapping = nullptr; ///< The entry with its folder; not owned.
     Origin origin = NotFound;
-    QString gaveUp; ///< The folder that it found and a conflict took from it.
-    QString gaveWayTo; ///< The name of the entry that kept that one.
+    QString gaveUp; ///< The folder that it found but gave up in a conflict.
+    QString gaveWayTo; ///< The name of the entry that keeps that folder.
     QVector<TurnedDown> turnedDown; ///< In the order in which they were looked at.
 };
 

@@ -22,8 +22,8 @@ struct Tag
     Kind kind = Nothing;
     QString name; ///< The element's name, as far as it can be recognised; without "<\" or "</ ".
     int begin = -1; ///< Of its "<".
-    int end = -1; ///< Behind its ">".
-    bool isInQuotation = false; ///< Whether it is unfinished since a quotation in it has no end.
+    int end = -1; ///< After its ">".
+    bool isInQuotation = false; ///< Whether a quotation in it has no end.
 };
 
 /// Goes from tag to tag through a text that a strict reader has refused.

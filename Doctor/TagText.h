@@ -11,7 +11,7 @@ namespace Quillmont::Utility::Doctor {
 /// @p text with blanks in place of comments, CDATA sections, instructions and the document type.
 QString withoutSpecialMarkup(const QString &text);
 
-/// Where the first "&" is that begins no reference; -1 without any.
+/// The offset of the first "&" that does not begin a reference; -1 if there is none.
 int firstBareAmpersand(const QString &text);
 
 /// The name, in @p text, of the first attribute whose value has no quotation marks; null without

@@ -13,7 +13,7 @@ namespace Quillmont::Utility::Doctor {
 /// a line.
 int lineAt(const QString &text, int place);
 
-/// Its number in that line, from 1.
+/// Its column in that line, from 1.
 int columnAt(const QString &text, int place);
 
 /// That line, without its end.
@@ -22,7 +22,7 @@ QString wholeLineAt(const QString &text, int place);
 /// The place in @p text that the library's @p problem names, "line 3, column 5: why".
 int placeIn(const QString &problem, const QString &text);
 
-/// Where in the text of @p source the first bytes are that are invalid in its encoding; -1 where
+/// The offset in the text of @p source of the first bytes that are invalid in its encoding; -1 if
 /// there are none.
 int firstInvalid(const Library::Text::XmlSource &source);
 

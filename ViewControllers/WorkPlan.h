@@ -11,8 +11,8 @@ class FlightSimulatorMapping;
 
 namespace Quillmont::Utility::ViewControllers {
 
-/// A step for each plugin file of each of @p mappings, in the order of the work. What a file weighs
-/// is asked of the payload, since a removed one says nothing any more.
+/// A step for each plugin file of each of @p mappings, in the order of the work. Sizes are
+/// those of the payload's files, since a file that has been removed has none.
 QVector<Widgets::WorkProgress::Step>
 stepsOf(const QList<Models::FlightSimulatorMapping *> &mappings);
 

@@ -9,8 +9,7 @@ class QProgressBar;
 namespace Quillmont::Utility::Widgets {
 
 /// Shows how far the work has come. It cannot be closed, and has no button that could stop the work
-/// half done. While it lives, no mouse, key or frame does anything to another window of the
-/// process.
+/// half done. While it exists, other windows of the process take no input.
 class ProgressWindow : public QProgressDialog
 {
     Q_OBJECT
@@ -18,11 +17,11 @@ class ProgressWindow : public QProgressDialog
 public:
     ProgressWindow(QWidget *parent, const QString &title);
 
-    /// The file with the number @p number of @p count, and how much of the whole is done.
+    /// Shows @p file as number @p number of @p count, and @p percent of the whole work.
     void
     showState(const QString &simulator, const QString &file, int number, int count, int percent);
 
-    /// Whether the user sees it already.
+    /// Whether the window system shows it already.
     bool isOnScreen() const;
 
     void reject() override;

@@ -7,16 +7,16 @@
 
 namespace Quillmont::Library::Files {
 
-/// Work that keeps the thread busy says here that it goes on, so that somebody can look after a
-/// window meanwhile.
+/// Long work reports here that it goes on, so that a listener on the same thread can keep a window
+/// alive meanwhile.
 class Heartbeat
 {
 public:
-    /// Gets the number of bytes that have been copied since the beat before.
+    /// Receives the number of bytes copied since the previous beat.
     using Listener = std::function<void(qint64 bytes)>;
 
-    /// @p listener hears every beat from now on, those in the middle of a file that QFile copies
-    /// included. An empty one ends that.
+    /// Calls @p listener for every beat from now on, including those within a file that QFile
+    /// copies. An empty one ends that.
     static void setListener(Listener listener);
 
     /// Costs next to nothing without a listener.

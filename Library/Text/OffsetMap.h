@@ -14,17 +14,17 @@ namespace Quillmont::Library::Text {
 class OffsetMap
 {
 public:
-    /// The begin of a character in the bytes and in the text.
+    /// The beginning of a character in the bytes and in the text.
     struct Offset
     {
         int byte;
         int character;
     };
 
-    /// Of @p bytes behind a byte-order mark.
+    /// For @p bytes after a byte-order mark.
     OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding);
 
-    /// Of @p bytes from offset @p begin on.
+    /// For @p bytes from offset @p begin on.
     OffsetMap(const QByteArray &bytes, const XmlEncoding &encoding, int begin);
 
     const QString &text() const { return m_text; }
@@ -33,8 +33,8 @@ public:
     /// one of them is not encoded as itself.
     QVector<int> byteOffsets(const QVector<int> &characters) const;
 
-    /// Where to begin if @p character and those behind it are to be decoded again: near it unless
-    /// the encoding has shift states.
+    /// Where decoding has to begin for @p character and those after it: near it unless the encoding
+    /// has shift states.
     Offset startBefore(int character) const;
 
 private:

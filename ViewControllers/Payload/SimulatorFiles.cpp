@@ -144,8 +144,6 @@ void makeFolderOf(const QString &path)
 
 QStringList deadLinksOn(const QString &path)
 {
-    // A record can name a path of a million folders, which no system takes.
-    constexpr int maxPathLength = 4096;
     QStringList links;
     for (int end = path.size(); end > 0 && path.size() <= maxPathLength;
          end = path.lastIndexOf(u'/', end - 1)) {

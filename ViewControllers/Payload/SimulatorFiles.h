@@ -36,7 +36,11 @@ QString configurationFile(const QString &path);
 /// Creates the folder of the file at @p path, with its parents, if it is missing.
 void makeFolderOf(const QString &path);
 
-/// Those of @p path and its parent folders that are dangling links, from the end.
+/// The systems' maximum; a record can contain a path of a million folders.
+constexpr int maxPathLength = 4096;
+
+/// Those of @p path and its parent folders that are dangling links, from the end; none if it is
+/// longer than any path.
 QStringList deadLinksOn(const QString &path);
 
 /// What a configuration file is backed up before.
